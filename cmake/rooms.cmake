@@ -7,7 +7,7 @@
 add_library(zelvor_options INTERFACE)
 target_compile_options(zelvor_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
 target_compile_definitions(zelvor_options INTERFACE
-  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS ZELVOR_VERSION="${PROJECT_VERSION}")
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER ZELVOR_VERSION="${PROJECT_VERSION}")
 
 # zelvor_room(NAME [FOLDER folder] SOURCES file... [LINKS target...])
 # FOLDER is relative to src/ and defaults to NAME.

@@ -1,0 +1,43 @@
+#include "base/error_trap.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+QString errorMessage(const ErrorPlace& place, int number, const QString& text) {
+    return u"Error %1\r\n"_s.arg(number) + text + u"\r\nLocation: ZELVOR_BASKET."_s + place.procedure + u"\r\nLine "_s +
+           QString::number(place.line);
+}
+
+QString errorLogPath(const QString& executablePath, const QString& appFolder) {
+    const QFileInfo executable(executablePath);
+    const QString name = u'/' + executable.completeBaseName() + u".log"_s;
+    const QString beside = executable.absolutePath() + name;
+    const bool writable =
+        QFileInfo::exists(beside) ? QFileInfo(beside).isWritable() : QFileInfo(executable.absolutePath()).isWritable();
+    return writable ? beside : appFolder + name;
+}
+
+void ErrorTrap::handle(const ErrorPlace& place, Tell tell, int number, const QString& text) noexcept {
+    try {
+        QFile log(logPath_);
+        if (log.open(QIODevice::Append)) {
+            QString oneLine = text;
+            oneLine.replace(u'\r', u' ').replace(u'\n', u' ');
+            log.write(QStringList{QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s), place.procedure,
+                                  place.card, u"line %1"_s.arg(place.line), u"error %1"_s.arg(number), oneLine}
+                          .join(u'\t')
+                          .toUtf8() +
+                      '\n');
+        }
+        if (tell == Tell::Operator && reporter_) reporter_(place, errorMessage(place, number, text));
+    } catch (const std::exception& error) {
+        qCritical("error trap: %s", error.what());
+    }
+}
+
+}  // namespace zelvor

@@ -1,0 +1,169 @@
+#include "base/number.h"
+
+#include <QByteArrayView>
+#include <QVarLengthArray>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "base/run_time_error.h"
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kSignificantDigits = 15;
+
+bool isBlank(QChar c) {
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
+}
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+using Ascii = QVarLengthArray<char, 64>;
+
+// The text without blanks as ASCII, up to the first character that no number holds.
+Ascii numberCharacters(QStringView text) {
+    Ascii ascii;
+    for (const QChar c : text) {
+        if (isBlank(c)) continue;
+        if (c.unicode() > 0x7E) break;
+        ascii.append(static_cast<char>(c.unicode()));
+    }
+    return ascii;
+}
+
+double radixNumber(const char* first, const char* last) {
+    if (first == last) return 0;
+    const char kind = *first++;
+    const int base = kind == 'H' || kind == 'h' ? 16 : 8;
+    // "&17" is octal as "&O17" is.
+    if (isDigit(kind)) --first;
+    quint64 number = 0;
+    std::from_chars(first, last, number, base);
+    if (number <= 0xFFFF) return static_cast<qint16>(number);
+    if (number <= 0xFFFFFFFF) return static_cast<qint32>(number);
+    return static_cast<double>(number);
+}
+
+// Parses the leading decimal number; `end` is set behind it. D is an exponent letter too.
+double decimalNumber(Ascii& ascii, const char*& end) {
+    char* const first = ascii.data();
+    char* const last = first + ascii.size();
+    char* at = first;
+    if (at != last && (*at == '+' || *at == '-')) ++at;
+    char* const digits = at;
+    while (at != last && isDigit(*at)) ++at;
+    auto count = at - digits;
+    if (at != last && *at == '.') {
+        char* const fraction = ++at;
+        while (at != last && isDigit(*at)) ++at;
+        count += at - fraction;
+    }
+    if (count == 0) {
+        end = first;
+        return 0;
+    }
+    char* mantissaEnd = at;
+    if (at != last && (*at == 'E' || *at == 'e' || *at == 'D' || *at == 'd')) {
+        char* exponent = at + 1;
+        if (exponent != last && (*exponent == '+' || *exponent == '-')) ++exponent;
+        if (exponent != last && isDigit(*exponent)) {
+            *at = 'e';
+            while (exponent != last && isDigit(*exponent)) ++exponent;
+            mantissaEnd = exponent;
+        }
+    }
+    double number = 0;
+    const char* start = *first == '+' ? first + 1 : first;
+    const auto [parsed, error] = std::from_chars(start, mantissaEnd, number);
+    end = mantissaEnd;
+    if (error == std::errc::result_out_of_range) {
+        const double limit = QByteArrayView(start, mantissaEnd - start).toDouble();
+        if (limit == 0) return 0;
+        throw RunTimeError(ErrorNumber::Overflow);
+    }
+    return number;
+}
+
+template <class Whole>
+Whole wholeNumber(double number) {
+    const double rounded = roundHalfEven(number);
+    if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max())) {
+        throw RunTimeError(ErrorNumber::Overflow);
+    }
+    return static_cast<Whole>(rounded);
+}
+
+template <class Whole>
+Whole wholeNumber(QStringView text) {
+    double number = 0;
+    if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, text.left(80).toString());
+    return wholeNumber<Whole>(number);
+}
+
+}  // namespace
+
+QString numberText(double number) {
+    if (number == 0) return QStringLiteral("0");
+    std::array<char, 32> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                            std::chars_format::general, kSignificantDigits);
+    for (char* c = buffer.data(); c != end; ++c) {
+        if (*c == 'e') *c = 'E';
+    }
+    return QString::fromLatin1(buffer.data(), end - buffer.data());
+}
+
+double Val(QStringView text) {
+    Ascii ascii = numberCharacters(text);
+    if (!ascii.isEmpty() && ascii[0] == '&') return radixNumber(ascii.begin() + 1, ascii.end());
+    const char* end = nullptr;
+    return decimalNumber(ascii, end);
+}
+
+bool readNumber(QStringView text, double& number) {
+    const QStringView trimmed = text.trimmed();
+    if (trimmed.isEmpty()) return false;
+    for (const QChar c : trimmed) {
+        if (isBlank(c) || c.unicode() > 0x7E) return false;
+    }
+    Ascii ascii = numberCharacters(trimmed);
+    if (ascii[0] == '&') {
+        if (ascii.size() < 2) return false;
+        const bool hexadecimal = ascii[1] == 'H' || ascii[1] == 'h';
+        const int first = hexadecimal || ascii[1] == 'O' || ascii[1] == 'o' ? 2 : 1;
+        quint64 parsed = 0;
+        const auto [end, error] = std::from_chars(ascii.begin() + first, ascii.end(), parsed, hexadecimal ? 16 : 8);
+        number = radixNumber(ascii.begin() + 1, ascii.end());
+        return error == std::errc() && end == ascii.end();
+    }
+    const char* end = nullptr;
+    number = decimalNumber(ascii, end);
+    return end == ascii.end();
+}
+
+qint16 wholeNumber16(QStringView text) {
+    return wholeNumber<qint16>(text);
+}
+qint32 wholeNumber32(QStringView text) {
+    return wholeNumber<qint32>(text);
+}
+qint16 wholeNumber16(double number) {
+    return wholeNumber<qint16>(number);
+}
+qint32 wholeNumber32(double number) {
+    return wholeNumber<qint32>(number);
+}
+
+double roundHalfEven(double number) {
+    const double below = std::floor(number);
+    const double part = number - below;
+    if (part < 0.5) return below;
+    if (part > 0.5) return below + 1;
+    return std::fmod(below, 2) == 0 ? below : below + 1;
+}
+
+}  // namespace zelvor

@@ -1,0 +1,85 @@
+#include "base/text_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringDecoder>
+#include <QStringEncoder>
+
+#include "base/run_time_error.h"
+
+namespace zelvor {
+
+namespace {
+
+[[noreturn]] void throwOpenError(const QString& path, QFileDevice::FileError error) {
+    const QFileInfo info(path);
+    if (info.isDir()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
+    if (!info.dir().exists()) throw RunTimeError(ErrorNumber::PathNotFound, path);
+    if (error == QFileDevice::ResourceError) throw RunTimeError(ErrorNumber::DiskFull, path);
+    if (info.exists()) throw RunTimeError(ErrorNumber::PermissionDenied, path);
+    throw RunTimeError(ErrorNumber::FileNotFound, path);
+}
+
+}  // namespace
+
+std::optional<TextFiles> TextFiles::withCodePage(const QString& name) {
+    const QByteArray codePage = name.toLatin1();
+    if (!QStringDecoder(codePage.constData()).isValid()) return std::nullopt;
+    TextFiles files;
+    files.readingCodePage_ = codePage;
+    files.writingCodePage_ = codePage;
+    return files;
+}
+
+QString TextFiles::read(const QString& path) const {
+    QFile file(path);
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
+    const QByteArray bytes = file.read(kLargestFile + 1);
+    if (bytes.size() > kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
+    if (file.error() != QFileDevice::NoError) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
+    return decode(bytes);
+}
+
+QStringList TextFiles::readLines(const QString& path) const {
+    return splitLines(read(path));
+}
+
+QString TextFiles::decode(const QByteArray& bytes) const {
+    QStringDecoder utf8(QStringConverter::Utf8);
+    QString text = utf8.decode(bytes);
+    if (!utf8.hasError()) return text;
+    QStringDecoder codePage(readingCodePage_.constData());
+    return codePage.decode(bytes);
+}
+
+QByteArray TextFiles::encode(const QString& text) const {
+    QStringEncoder encoder(writingCodePage_.constData());
+    return encoder.encode(text);
+}
+
+QStringList splitLines(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    while (start < text.size()) {
+        const qsizetype lineFeed = text.indexOf(u'\n', start);
+        const qsizetype end = lineFeed < 0 ? text.size() : lineFeed;
+        const bool carriageReturn = end > start && text[end - 1] == u'\r';
+        lines += text.mid(start, end - start - (carriageReturn ? 1 : 0));
+        start = end + 1;
+    }
+    return lines;
+}
+
+void replaceFile(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) throwOpenError(path, file.error());
+    file.write(bytes);
+    if (!file.commit()) {
+        const bool full = file.error() == QFileDevice::WriteError || file.error() == QFileDevice::ResourceError;
+        throw RunTimeError(full ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccessError, path);
+    }
+}
+
+}  // namespace zelvor

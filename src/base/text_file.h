@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace zelvor {
+
+// How the system's text files are read and written. A byte-order mark or valid UTF-8 is read as UTF-8, anything else
+// in the single-byte code page; written is UTF-8 unless a code page was named.
+class TextFiles {
+ public:
+    // A file larger than this (bytes) is refused with 7 Out of memory.
+    static constexpr qint64 kLargestFile = 64 * 1024 * 1024;
+
+    TextFiles() = default;
+    // nullopt when no such code page is known, e.g. "windows-1253", "ISO-8859-7", "UTF-8".
+    static std::optional<TextFiles> withCodePage(const QString& name);
+
+    // The whole file. Throws 53, 70, 75 or 76 with the path when it cannot be read.
+    [[nodiscard]] QString read(const QString& path) const;
+    // The file's lines without their ends (CR LF, LF). A last line without an end counts, an empty rest does not.
+    [[nodiscard]] QStringList readLines(const QString& path) const;
+
+    [[nodiscard]] QString decode(const QByteArray& bytes) const;
+    [[nodiscard]] QByteArray encode(const QString& text) const;
+
+ private:
+    QByteArray readingCodePage_ = "windows-1253";
+    QByteArray writingCodePage_ = "UTF-8";
+};
+
+// Splits at LF, a CR before it dropped; an empty rest behind the last line end is no line.
+QStringList splitLines(const QString& text);
+
+// Writes the file whole or not at all (a temporary file beside it, then renamed). Throws 61, 70, 75 or 76 with the
+// path.
+void replaceFile(const QString& path, const QByteArray& bytes);
+
+}  // namespace zelvor

@@ -1,0 +1,119 @@
+#include "base/value.h"
+
+#include <cmath>
+
+#include "base/number.h"
+#include "base/run_time_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr qint64 kSecondsADay = 86400;
+
+QDate epoch() {
+    return {1899, 12, 30};
+}
+
+// Day and second of the day; the fraction is always positive time, before the epoch as after it.
+std::pair<qint64, qint64> dayAndSecond(Value::Date date) {
+    const double whole = std::trunc(date.days);
+    auto day = static_cast<qint64>(whole);
+    auto second = static_cast<qint64>(std::llround(std::abs(date.days - whole) * kSecondsADay));
+    if (second == kSecondsADay) {
+        second = 0;
+        ++day;
+    }
+    return {day, second};
+}
+
+QTime timeOfSecond(qint64 second) {
+    return QTime::fromMSecsSinceStartOfDay(static_cast<int>(second * 1000));
+}
+
+}  // namespace
+
+Value Value::fromDateTime(const QDateTime& when) {
+    const auto days = static_cast<double>(epoch().daysTo(when.date()));
+    const double part = when.time().msecsSinceStartOfDay() / (kSecondsADay * 1000.0);
+    return Date{days < 0 ? days - part : days + part};
+}
+
+QDateTime toDateTime(Value::Date date) {
+    const auto [day, second] = dayAndSecond(date);
+    return {epoch().addDays(day), timeOfSecond(second)};
+}
+
+QString dateText(Value::Date date) {
+    const auto [day, second] = dayAndSecond(date);
+    const QString time = timeOfSecond(second).toString(u"HH:mm:ss"_s);
+    if (day == 0) return time;
+    const QString isoDate = epoch().addDays(day).toString(Qt::ISODate);
+    return second == 0 ? isoDate : isoDate + u' ' + time;
+}
+
+QString Value::text() const {
+    switch (kind()) {
+        case Kind::Empty:
+        case Kind::Null:
+            return {};
+        case Kind::Boolean:
+            return *as<bool>() ? u"True"_s : u"False"_s;
+        case Kind::Integer:
+            return QString::number(*as<qint64>());
+        case Kind::Double:
+            return numberText(*as<double>());
+        case Kind::Date:
+            return dateText(*as<Date>());
+        case Kind::Text:
+            return *as<QString>();
+        case Kind::Array: {
+            QStringList elements;
+            for (const Value& element : **as<Array>()) elements += element.text();
+            return elements.join(u", "_s);
+        }
+    }
+    Q_UNREACHABLE();
+}
+
+void Value::appendTo(QString& out) const {
+    if (const QString* own = as<QString>()) {
+        out += *own;
+    } else {
+        out += text();
+    }
+}
+
+double Value::leadingNumber() const {
+    if (const QString* own = as<QString>()) return Val(*own);
+    return isNull() ? 0 : number();
+}
+
+double Value::number() const {
+    switch (kind()) {
+        case Kind::Empty:
+            return 0;
+        case Kind::Null:
+            throw RunTimeError(ErrorNumber::InvalidUseOfNull);
+        case Kind::Boolean:
+            return *as<bool>() ? -1 : 0;
+        case Kind::Integer:
+            return static_cast<double>(*as<qint64>());
+        case Kind::Double:
+            return *as<double>();
+        case Kind::Date:
+            return as<Date>()->days;
+        case Kind::Text: {
+            double parsed = 0;
+            if (!readNumber(*as<QString>(), parsed)) throw RunTimeError(ErrorNumber::TypeMismatch);
+            return parsed;
+        }
+        case Kind::Array:
+            throw RunTimeError(ErrorNumber::TypeMismatch);
+    }
+    Q_UNREACHABLE();
+}
+
+}  // namespace zelvor
