@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "base/value.h"
+
+namespace zelvor {
+
+// What the card engine needs of the world around it, each a few functions in the words of the trade. The console, the
+// terminal tool and the tests give it theirs.
+
+// The person at the desk.
+class Operator {
+ public:
+    enum class Severity { Information, Warning, Critical };
+
+    virtual ~Operator() = default;
+    // A message box with one OK button. An empty title stands for the program's name.
+    virtual void message(const QString& title, const QString& text, Severity severity = Severity::Information) = 0;
+    // A box with Yes and No; true for Yes. Closing the program answers No.
+    virtual bool yesNo(const QString& title, const QString& text) = 0;
+    // An input box; nullopt when it was cancelled.
+    virtual std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) = 0;
+};
+
+// The pick list of the ask field in the ask state; reads and writes that state alone.
+class AskDialog {
+ public:
+    virtual ~AskDialog() = default;
+    // Shows the list for ASK_FIELD until it is answered: ASK_RESULT is the key chosen, or ASK_CANCELLED is -1.
+    virtual void show() = 0;
+};
+
+enum class LinkId { Main, Remote };
+
+// The two connections to the graphics servers, their history list and log file.
+class Graphics {
+ public:
+    // Socket states in which a line is sent.
+    static constexpr int kOpen = 1;
+    static constexpr int kConnected = 7;
+
+    virtual ~Graphics() = default;
+    // Sends one command line, or logs that it could not. Before a line that holds "PLAY" the event loop turns.
+    virtual void sendLine(LinkId link, const QString& command) = 0;
+    [[nodiscard]] virtual int state(LinkId link) const = 0;
+    [[nodiscard]] virtual bool logging() const = 0;
+    // Writes a line to the log file; nothing when logging is off.
+    virtual void writeLog(const QString& line) = 0;
+    // Adds "hh:mm:ss" + text to the history list.
+    virtual void appendHistory(const QString& text) = 0;
+    virtual void clearHistory() = 0;
+    // The view of the last template data.
+    virtual void showLastTemplate(const QString& xml) = 0;
+};
+
+// A query's rows with the names of their columns, for callers that look columns up by name.
+struct NamedRows {
+    QStringList columns;
+    std::vector<std::vector<Value>> rows;
+};
+
+// The two database connections. CONN_GREEK differs from CONN_UTF8 in the character set it asks for.
+class Database {
+ public:
+    virtual ~Database() = default;
+    // Runs a query on CONN_UTF8 (CONN_GREEK for RUN_QUERY2) into QUERY_RESULT and @RECORDCOUNT. The record count, 0
+    // when there was none or the query failed, which is shown to the operator here.
+    virtual int RUN_QUERY(const QString& sql) = 0;
+    virtual int RUN_QUERY2(const QString& sql) = 0;
+    // Runs a statement on CONN_UTF8 and ignores its result. Throws RunTimeError with the driver's text.
+    virtual void execute(const QString& sql) = 0;
+    // Reads a query's rows on CONN_GREEK. Throws RunTimeError with the driver's text.
+    virtual NamedRows readGreek(const QString& sql) = 0;
+};
+
+// What lies outside of the program's windows, and the program's other forms.
+class Desktop {
+ public:
+    virtual ~Desktop() = default;
+    // Asks the operating system to open a file, folder or address. Throws 53 when it cannot.
+    virtual void open(const QString& target) = 0;
+    // Shows a form of the system by its name, not modally. An unknown name throws 9.
+    virtual void loadForm(const QString& name) = 0;
+};
+
+// Time, and turns of the event loop.
+class Clock {
+ public:
+    virtual ~Clock() = default;
+    [[nodiscard]] virtual QDateTime now() const = 0;
+    // Handles pending events that many times. False as soon as the program is closing: the caller ends at once.
+    virtual bool turnEvents(int turns) = 0;
+    // Handles events until one comes or a few milliseconds have passed; false as turnEvents().
+    virtual bool waitBriefly() = 0;
+};
+
+struct Ports {
+    Operator& operatorDesk;
+    AskDialog& askDialog;
+    Graphics& graphics;
+    Database& database;
+    Desktop& desktop;
+    Clock& clock;
+};
+
+}  // namespace zelvor
