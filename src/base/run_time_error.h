@@ -25,6 +25,7 @@ enum class ErrorNumber {
     InvalidUseOfNull = 94,
     InvalidPropertyValue = 380,
     ActionNotSupported = 445,
+    WrongNumberOfArguments = 450,
     SyntaxError = 1002,
     ExpectedClosingBracket = 1006,
     InvalidNumber = 1031,

@@ -17,8 +17,13 @@ QDate epoch() {
     return {1899, 12, 30};
 }
 
-// Day and second of the day; the fraction is always positive time, before the epoch as after it.
-std::pair<qint64, qint64> dayAndSecond(Value::Date date) {
+QTime timeOfSecond(qint64 second) {
+    return QTime::fromMSecsSinceStartOfDay(static_cast<int>(second * 1000));
+}
+
+}  // namespace
+
+DaySecond daySecond(Value::Date date) {
     const double whole = std::trunc(date.days);
     auto day = static_cast<qint64>(whole);
     auto second = static_cast<qint64>(std::llround(std::abs(date.days - whole) * kSecondsADay));
@@ -29,11 +34,15 @@ std::pair<qint64, qint64> dayAndSecond(Value::Date date) {
     return {day, second};
 }
 
-QTime timeOfSecond(qint64 second) {
-    return QTime::fromMSecsSinceStartOfDay(static_cast<int>(second * 1000));
+Value::Date serialDate(DaySecond when) {
+    const auto days = static_cast<double>(when.day);
+    const double part = static_cast<double>(when.second) / kSecondsADay;
+    return {days < 0 ? days - part : days + part};
 }
 
-}  // namespace
+QDate DaySecond::date() const {
+    return epoch().addDays(day);
+}
 
 Value Value::fromDateTime(const QDateTime& when) {
     const auto days = static_cast<double>(epoch().daysTo(when.date()));
@@ -42,12 +51,12 @@ Value Value::fromDateTime(const QDateTime& when) {
 }
 
 QDateTime toDateTime(Value::Date date) {
-    const auto [day, second] = dayAndSecond(date);
+    const auto [day, second] = daySecond(date);
     return {epoch().addDays(day), timeOfSecond(second)};
 }
 
 QString dateText(Value::Date date) {
-    const auto [day, second] = dayAndSecond(date);
+    const auto [day, second] = daySecond(date);
     const QString time = timeOfSecond(second).toString(u"HH:mm:ss"_s);
     if (day == 0) return time;
     const QString isoDate = epoch().addDays(day).toString(Qt::ISODate);

@@ -69,4 +69,15 @@ class Value {
 QString dateText(Value::Date date);
 QDateTime toDateTime(Value::Date date);
 
+// A serial date as whole day (0 is 30 December 1899) and second of that day, rounded to the second. The fraction is
+// always positive time, before the epoch as after it.
+struct DaySecond {
+    qint64 day = 0;
+    qint64 second = 0;
+
+    [[nodiscard]] QDate date() const;
+};
+DaySecond daySecond(Value::Date date);
+Value::Date serialDate(DaySecond when);
+
 }  // namespace zelvor
