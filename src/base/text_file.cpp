@@ -11,9 +11,7 @@
 
 namespace zelvor {
 
-namespace {
-
-[[noreturn]] void throwOpenError(const QString& path, QFileDevice::FileError error) {
+void throwOpenError(const QString& path, QFileDevice::FileError error) {
     const QFileInfo info(path);
     if (info.isDir()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     if (!info.dir().exists()) throw RunTimeError(ErrorNumber::PathNotFound, path);
@@ -21,8 +19,6 @@ namespace {
     if (info.exists()) throw RunTimeError(ErrorNumber::PermissionDenied, path);
     throw RunTimeError(ErrorNumber::FileNotFound, path);
 }
-
-}  // namespace
 
 std::optional<TextFiles> TextFiles::withCodePage(const QString& name) {
     const QByteArray codePage = name.toLatin1();

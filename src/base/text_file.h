@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -37,5 +38,8 @@ QStringList splitLines(const QString& text);
 // Writes the file whole or not at all (a temporary file beside it, then renamed). Throws 61, 70, 75 or 76 with the
 // path.
 void replaceFile(const QString& path, const QByteArray& bytes);
+
+// Throws the error that a file which could not be opened stands for: 53, 61, 70, 75 or 76 with the path.
+[[noreturn]] void throwOpenError(const QString& path, QFileDevice::FileError error);
 
 }  // namespace zelvor
