@@ -57,7 +57,10 @@ void FormModel::addLinks() {
         add(Kind::TextBox, u"txtGASPARIP"_s + remote, -1, remote.isEmpty() ? u"127.0.0.1"_s : QString());
         add(Kind::TextBox, u"txtGASPARPORT"_s + remote, -1, u"5250"_s);
         add(Kind::Button, u"cmdGASPARCONNECT"_s + remote, -1, u"Connect"_s).setTag(u"connect"_s);
+        add(Kind::CheckBox, u"chkRECONNECT"_s + remote, -1, u"Reconnect"_s);
     }
+    add(Kind::Label, u"lblLINKMAIN"_s);
+    add(Kind::Label, u"lblLINKREMOTE"_s);
     add(Kind::List, u"cmbCASPARREMOTELIST"_s);
     add(Kind::Button, u"cmdVIEWGASPHISTORY"_s, -1, u"History"_s);
     add(Kind::Button, u"cmdGASPHISTCLOSE"_s, -1, u"Close"_s);
