@@ -1,0 +1,89 @@
+#include "link/caspar_link.h"
+
+#include <QNetworkProxy>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+CasparLink::CasparLink(QObject* parent) : QObject(parent) {
+    socket_.setProxy(QNetworkProxy::NoProxy);
+    connect(&socket_, &QTcpSocket::stateChanged, this, &CasparLink::followSocket);
+    connect(&socket_, &QTcpSocket::errorOccurred, this, &CasparLink::followSocket);
+    connect(&socket_, &QTcpSocket::readyRead, this, &CasparLink::readReplies);
+}
+
+CasparLink::~CasparLink() {
+    dropConnection();
+}
+
+void CasparLink::connectTo(const QString& host, const QString& port) {
+    dropConnection();
+    decoder_.reset();
+    bool isNumber = false;
+    const quint16 number = port.trimmed().toUShort(&isNumber);
+    if (!isNumber || number == 0) {
+        enter(LinkState::Error, u"port \"%1\" is not a number from 1 to 65535"_s.arg(port));
+    } else if (host.trimmed().isEmpty()) {
+        enter(LinkState::Error, u"no address"_s);
+    } else {
+        socket_.connectToHost(host.trimmed(), number);
+    }
+}
+
+void CasparLink::close() {
+    dropConnection();
+    enter(LinkState::Closed);
+}
+
+void CasparLink::send(const QString& line) {
+    if (state_ != LinkState::Connected) return;
+    socket_.write(line.toUtf8() + "\r\n");
+    socket_.flush();
+    if (unsentBytes() <= kLargestUnsent) return;
+    dropConnection();
+    enter(LinkState::Error, u"the server does not read"_s);
+}
+
+void CasparLink::dropConnection() {
+    const QSignalBlocker quiet(socket_);
+    socket_.abort();
+}
+
+void CasparLink::followSocket() {
+    switch (socket_.state()) {
+        case QAbstractSocket::HostLookupState:
+            return enter(LinkState::Resolving);
+        case QAbstractSocket::ConnectingState:
+            return enter(LinkState::Connecting);
+        case QAbstractSocket::BoundState:
+        case QAbstractSocket::ListeningState:
+            return enter(LinkState::Open);
+        case QAbstractSocket::ConnectedState:
+            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) return enter(LinkState::PeerClosing);
+            socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+            socket_.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+            return enter(LinkState::Connected);
+        case QAbstractSocket::ClosingState:
+            return enter(LinkState::PeerClosing);
+        case QAbstractSocket::UnconnectedState:
+            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) return enter(LinkState::PeerClosing);
+            return enter(LinkState::Error, socket_.errorString());
+    }
+}
+
+void CasparLink::enter(LinkState state, const QString& errorText) {
+    errorText_ = errorText;
+    if (state_ == state) return;
+    state_ = state;
+    Q_EMIT stateChanged(state);
+}
+
+void CasparLink::readReplies() {
+    while (socket_.bytesAvailable() > 0) {
+        if (const auto text = decoder_.feed(socket_.read(kLargestPiece))) Q_EMIT received(*text);
+    }
+}
+
+}  // namespace zelvor

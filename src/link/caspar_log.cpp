@@ -1,0 +1,49 @@
+#include "link/caspar_log.h"
+
+#include <QRegularExpression>
+
+#include "base/run_time_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kRuleLength = 36;
+
+}  // namespace
+
+QString generalDateText(const QDateTime& when, const QLocale& locale) {
+    QString timeFormat = locale.timeFormat(QLocale::LongFormat);
+    timeFormat.remove(u't');
+    return locale.toString(when, locale.dateFormat(QLocale::ShortFormat) + u' ' + timeFormat.trimmed());
+}
+
+QString oneLine(QString text) {
+    static const QRegularExpression kLineBreaks(u"[\r\n]+"_s);
+    if (text.contains(u'\r') || text.contains(u'\n')) text.replace(kLineBreaks, u" "_s);
+    return text;
+}
+
+void CasparLog::start(const QDateTime& now) {
+    file_.close();
+    file_.setFileName(folder_.resolve(folder_.modulesFile(u"CASPAROUT.TXT")));
+    if (!file_.open(QIODevice::Append)) throwOpenError(file_.fileName(), file_.error());
+    write(QString(kRuleLength, u'-'));
+    write(u"LOG start at "_s + generalDateText(now, QLocale::system()));
+}
+
+void CasparLog::stop(const QDateTime& now) {
+    write(u"LOG stop at "_s + generalDateText(now, QLocale::system()));
+    write(QString(kRuleLength, u'='));
+    file_.close();
+}
+
+void CasparLog::write(const QString& line) {
+    if (!file_.isOpen()) return;
+    file_.write(files_.encode(oneLine(line) + u"\r\n"_s));
+    if (!file_.flush()) throw RunTimeError(ErrorNumber::DiskFull, file_.fileName());
+}
+
+}  // namespace zelvor

@@ -1,0 +1,91 @@
+#include "link/graphics_links.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+// AMCP replies of the 400 and 500 ranges tell of an error.
+bool tellsOfError(const QString& reply) {
+    return reply.startsWith(u'4') || reply.startsWith(u'5');
+}
+
+}  // namespace
+
+GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, ErrorTrap& trap, const AppFolder& folder,
+                             const TextFiles& files)
+    : clock_(clock),
+      trap_(trap),
+      logSwitch_(form.at(u"chkLOGFILE"_s)),
+      lastTemplate_(form.at(u"lblLASTXML"_s)),
+      log_(folder, files) {
+    // Only the main server's replies are shown; the remote one's are meant to be ignored.
+    connect(&main_, &CasparLink::received, this, &GraphicsLinks::addResponse);
+}
+
+void GraphicsLinks::sendLine(LinkId link, const QString& command) {
+    trap_.run({u"frmMAIN.sendLine"_s, {}, 0}, ErrorTrap::Tell::LogOnly, [&] { sendNow(link, oneLine(command)); });
+}
+
+void GraphicsLinks::sendNow(LinkId id, const QString& line) {
+    CasparLink& target = link(id);
+    const bool pauses = isSendable(target.state()) && line.contains(u"PLAY"_s);
+    if (pauses && !clock_.turnEvents(kTurnsBeforePlay)) return;
+
+    // The pause may have seen the link go, and so may the sending itself.
+    if (isSendable(target.state())) target.send(line);
+    const QString mark = id == LinkId::Main ? QString() : u"REMOTE "_s;
+    if (!isSendable(target.state())) {
+        writeLog(mark + u"Connection Error. STATE:"_s + QString::number(state(id)));
+        return;
+    }
+    if (id == LinkId::Main) appendHistory(u" > "_s + line);
+    writeLog(mark.isEmpty() ? line : QString(mark + u"> "_s + line));
+    Q_EMIT lineSent(id, line);
+}
+
+int GraphicsLinks::state(LinkId link) const {
+    return static_cast<int>((link == LinkId::Main ? main_ : remote_).state());
+}
+
+bool GraphicsLinks::logging() const {
+    return logSwitch_.checked();
+}
+
+void GraphicsLinks::writeLog(const QString& line) {
+    if (!logging()) return;
+    trap_.run({u"frmMAIN.writeLog"_s, {}, 0}, ErrorTrap::Tell::LogOnly, [&] { log_.write(line); });
+}
+
+void GraphicsLinks::appendHistory(const QString& text) {
+    history_.add(timeOfDay() + text);
+}
+
+void GraphicsLinks::clearHistory() {
+    history_.clear();
+}
+
+void GraphicsLinks::showLastTemplate(const QString& xml) {
+    lastTemplate_.setText(xml);
+}
+
+void GraphicsLinks::startLog() {
+    log_.start(clock_.now());
+}
+
+void GraphicsLinks::stopLog() {
+    log_.stop(clock_.now());
+}
+
+void GraphicsLinks::addResponse(const QString& text) {
+    const bool alarm = tellsOfError(text);
+    responses_.add(timeOfDay() + u' ' + text, alarm);
+    history_.add(timeOfDay() + u" < "_s + text, alarm);
+}
+
+QString GraphicsLinks::timeOfDay() const {
+    return clock_.now().toString(u"hh:mm:ss"_s);
+}
+
+}  // namespace zelvor

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include "base/error_trap.h"
+#include "engine/ports.h"
+#include "form/form_model.h"
+#include "link/caspar_link.h"
+#include "link/caspar_log.h"
+#include "link/line_list.h"
+
+namespace zelvor {
+
+// The main and the remote link with what is kept of their traffic: the socket history, the responses of the main
+// server, the log file. The one way to put a line on air. Connecting is the operator's (LinkConsole) or the
+// program's, through link().
+class GraphicsLinks : public QObject, public Graphics {
+    Q_OBJECT
+
+ public:
+    // Turns of the event loop before a line that holds "PLAY".
+    static constexpr int kTurnsBeforePlay = 50000;
+
+    // Logging is on while the form's chkLOGFILE is checked; startLog() and stopLog() open and close the file.
+    GraphicsLinks(FormModel& form, Clock& clock, ErrorTrap& trap, const AppFolder& folder, const TextFiles& files);
+
+    // Line breaks in the command become blanks. Neither this nor the following raise errors.
+    void sendLine(LinkId link, const QString& command) override;
+    [[nodiscard]] int state(LinkId link) const override;
+    [[nodiscard]] bool logging() const override;
+    void writeLog(const QString& line) override;
+    void appendHistory(const QString& text) override;
+    void clearHistory() override;
+    void showLastTemplate(const QString& xml) override;
+
+    // Throws 61, 70, 75 or 76 when the log file cannot be opened.
+    void startLog();
+    void stopLog();
+
+    [[nodiscard]] CasparLink& link(LinkId link) { return link == LinkId::Main ? main_ : remote_; }
+    // lstGASPARHISTORY: oldest line on top.
+    [[nodiscard]] LineList& history() { return history_; }
+    // lstGASPARRESPONSE: newest line on top.
+    [[nodiscard]] LineList& responses() { return responses_; }
+
+ Q_SIGNALS:
+    // A line was put on a link, as it went out, without its line end.
+    void lineSent(zelvor::LinkId link, const QString& line);
+
+ private:
+    void sendNow(LinkId link, const QString& line);
+    void addResponse(const QString& text);
+    [[nodiscard]] QString timeOfDay() const;
+
+    Clock& clock_;
+    ErrorTrap& trap_;
+    Control& logSwitch_;
+    Control& lastTemplate_;
+    CasparLog log_;
+    LineList history_{LineList::Newest::Last};
+    LineList responses_{LineList::Newest::First};
+    CasparLink main_;
+    CasparLink remote_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,139 @@
+#include "link/link_watch.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+const QString kConnectTag = u"connect"_s;
+
+// Control names of the remote link end in this.
+QString suffix(LinkId id) {
+    return id == LinkId::Main ? QString() : u"REMOTE"_s;
+}
+
+bool isDown(LinkState state) {
+    return state == LinkState::Closed || state == LinkState::PeerClosing || state == LinkState::Error;
+}
+
+}  // namespace
+
+LinkWatch::LinkWatch(LinkId id, CasparLink& link, FormModel& form, Clock& clock, ErrorTrap& trap)
+    : link_(link),
+      clock_(clock),
+      name_(id == LinkId::Main ? u"main"_s : u"remote"_s),
+      address_(form.at(u"txtGASPARIP"_s + suffix(id))),
+      port_(form.at(u"txtGASPARPORT"_s + suffix(id))),
+      button_(form.at(u"cmdGASPARCONNECT"_s + suffix(id))),
+      tab_(form.at(u"cmdTAB"_s, id == LinkId::Main ? 4 : 3)),
+      reconnect_(form.at(u"chkRECONNECT"_s + suffix(id))),
+      status_(form.at(id == LinkId::Main ? u"lblLINKMAIN"_s : u"lblLINKREMOTE"_s)) {
+    const auto onTimer = [&](QTimer& timer, const QString& timerName, int interval, void (LinkWatch::*tick)()) {
+        timer.setParent(this);
+        timer.setObjectName(timerName);
+        timer.setInterval(interval);
+        const ErrorPlace place{u"frmMAIN."_s + timerName, {}, 0};
+        connect(&timer, &QTimer::timeout, this,
+                [this, &trap, place, tick] { trap.run(place, ErrorTrap::Tell::LogOnly, [&] { (this->*tick)(); }); });
+    };
+    onTimer(watchTimer_, u"tmrWS"_s + suffix(id), kWatchInterval, &LinkWatch::watch);
+    onTimer(retryTimer_, u"tmrRETRY"_s + suffix(id), kRetryInterval, &LinkWatch::retry);
+    connect(&link_, &CasparLink::stateChanged, this, &LinkWatch::followLink);
+    connect(&reconnect_, &Control::changed, this, &LinkWatch::updateRetrying);
+    showStatus();
+}
+
+bool LinkWatch::wanted() const {
+    return button_.tag() != kConnectTag;
+}
+
+bool LinkWatch::pressConnect() {
+    const bool connects = !wanted();
+    if (connects) {
+        connectLink();
+    } else {
+        disconnectLink();
+    }
+    return connects;
+}
+
+void LinkWatch::connectLink() {
+    host_ = address_.text();
+    hostPort_ = port_.text();
+    wasConnected_ = false;
+    lostAt_.clear();
+    button_.setBackColour(colours::kGreen);
+    button_.setText(u"Disconnect"_s);
+    button_.setTag(u"disconnect"_s);
+    watchTimer_.start();
+    link_.connectTo(host_, hostPort_);
+    showStatus();
+}
+
+void LinkWatch::disconnectLink() {
+    // The button keeps its green colour: meant.
+    button_.setText(u"Connect"_s);
+    button_.setTag(kConnectTag);
+    lostAt_.clear();
+    link_.close();
+    watchTimer_.stop();
+    tab_.setBackColour(std::nullopt);
+    updateRetrying();
+    showStatus();
+}
+
+void LinkWatch::watch() {
+    if (link_.state() == LinkState::Connected) {
+        tab_.setBackColour(std::nullopt);
+    } else if (blink_ != 0) {
+        tab_.setBackColour(std::nullopt);
+        blink_ = 0;
+    } else {
+        tab_.setBackColour(colours::kRed);
+        ++blink_;
+    }
+}
+
+void LinkWatch::retry() {
+    if (isDown(link_.state())) link_.connectTo(host_, hostPort_);
+}
+
+void LinkWatch::followLink(LinkState state) {
+    if (state == LinkState::Connected) {
+        lostAt_.clear();
+    } else if (wasConnected_ && wanted()) {
+        lostAt_ = clock_.now().toString(u"hh:mm:ss"_s);
+    }
+    wasConnected_ = state == LinkState::Connected;
+    updateRetrying();
+    showStatus();
+}
+
+void LinkWatch::updateRetrying() {
+    const bool retries = reconnect_.checked() && wanted() && link_.state() != LinkState::Connected;
+    if (retries == retryTimer_.isActive()) return;
+    if (retries) {
+        retryTimer_.start();
+    } else {
+        retryTimer_.stop();
+    }
+    showStatus();
+}
+
+void LinkWatch::showStatus() {
+    status_.setText(name_ + u' ' + statusText());
+}
+
+QString LinkWatch::statusText() const {
+    const QString target = host_ + u':' + hostPort_ + u' ';
+    if (link_.state() == LinkState::Connected) return target + u"connected"_s;
+    if (!wanted()) return u"not connected"_s;
+    const QString again = retryTimer_.isActive() ? u", trying again"_s : QString();
+    if (!lostAt_.isEmpty()) return target + u"lost at "_s + lostAt_ + again;
+    if (!isDown(link_.state())) return target + u"connecting"_s;
+    const QString reason = link_.errorText().isEmpty() ? QString() : QString(u" ("_s + link_.errorText() + u')');
+    return target + u"not connected"_s + reason + again;
+}
+
+}  // namespace zelvor
