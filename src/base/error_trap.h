@@ -10,7 +10,7 @@ namespace zelvor {
 // Where an error was trapped.
 struct ErrorPlace {
     QString procedure;  // "mGLOBAL.SHOW_TVCARD"
-    QString card;       // the card's script; empty outside of a card run
+    QString card = {};  // the card's script; empty outside of a card run
     int line = 0;       // the line of the script reached; 0 before the first
 };
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QVarLengthArray>
+
+#include "base/run_time_error.h"
+
+namespace zelvor {
+
+// Pieces of a text split at one character, as views. An empty text has no pieces.
+class Pieces {
+ public:
+    Pieces(QStringView text, QChar separator);
+
+    [[nodiscard]] int count() const { return static_cast<int>(pieces_.size()); }
+    // Throws 9 Subscript out of range when there is no such piece.
+    QStringView operator[](int index) const {
+        if (index < 0 || index >= count()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        return pieces_[index];
+    }
+
+ private:
+    QVarLengthArray<QStringView, 8> pieces_;
+};
+
+// The argument of one command line: the text behind the command word's "~", and its ";"-separated pieces.
+class Arguments {
+ public:
+    // raw: the argument as written; text: as the command takes it (with or without its placeholders replaced).
+    // Both must outlive this object. null: the line has no argument.
+    Arguments(const QString* raw, const QString* text) : raw_(raw), text_(text) {}
+
+    // False when the line is the command word alone.
+    [[nodiscard]] bool given() const { return raw_ != nullptr; }
+    // Each throws 9 Subscript out of range when the line has no argument.
+    [[nodiscard]] const QString& text() const { return *present(text_); }
+    [[nodiscard]] const QString& raw() const { return *present(raw_); }
+    [[nodiscard]] Pieces pieces() const { return {text(), u';'}; }
+    [[nodiscard]] Pieces rawPieces() const { return {raw(), u';'}; }
+
+ private:
+    static const QString* present(const QString* text) {
+        if (text == nullptr) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        return text;
+    }
+
+    const QString* raw_;
+    const QString* text_;
+};
+
+}  // namespace zelvor

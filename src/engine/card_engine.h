@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+
+#include "base/app_folder.h"
+#include "base/error_trap.h"
+#include "base/text_file.h"
+#include "engine/card_script.h"
+#include "engine/ports.h"
+#include "engine/show_state.h"
+#include "form/form_model.h"
+
+namespace zelvor {
+
+// Runs card scripts. Everything that fires a card calls SHOW_TVCARD.
+class CardEngine {
+ public:
+    // Runs inside runs (a card that fires proposals, a timer in a card's pause) beyond this end with 28.
+    static constexpr int kDeepestRun = 50;
+
+    CardEngine(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
+               const Ports& ports);
+
+    // How a run ended. A cancelled ask, no data and a failed query count as Ran.
+    enum class Outcome { Ran, NoScript, Failed, Closed };
+
+    // Runs the card's script to its end. cardFile: as the card table gives it, relative to the pack's folder.
+    // autoRun: ask fields take their automatic answers. keepStates: ON, OFF and OFFALL are skipped. A missing script
+    // is one message; a run-time error ends the run with one message.
+    Outcome SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates);
+
+    ShowState& state() { return state_; }
+    FormModel& form() { return form_; }
+    const AppFolder& folder() const { return folder_; }
+    const TextFiles& files() const { return files_; }
+    const Ports& ports() const { return ports_; }
+
+    // Names the pack's script of a card: ".qrd" and ".QRD" are run as ".csp", any other spelling stays.
+    static QString scriptName(const QString& cardFile);
+
+ private:
+    ShowState& state_;
+    FormModel& form_;
+    const AppFolder& folder_;
+    const TextFiles& files_;
+    ErrorTrap& trap_;
+    Ports ports_;
+    CardScriptCache scripts_;
+    int depth_ = 0;
+};
+
+}  // namespace zelvor

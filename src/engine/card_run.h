@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "base/error_trap.h"
+#include "engine/card_engine.h"
+#include "engine/card_script.h"
+
+namespace zelvor {
+
+// The state of one run of a card and nothing else. Nested runs are simply two of them.
+class CardRun {
+ public:
+    // place: kept up to date with the line reached, for the error message.
+    CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, const QString& cardFile, bool autoRun,
+            bool keepStates, ErrorPlace& place);
+
+    // Runs every line and finishes. Throws RunTimeError for an error of the script.
+    void execute();
+
+    // For commands.
+    CardEngine& engine() { return engine_; }
+    ShowState& state() { return engine_.state(); }
+    VariableStore& variables() { return engine_.state().variables; }
+    FormModel& form() { return engine_.form(); }
+    const Ports& ports() { return engine_.ports(); }
+    const CardScript& script() const { return *script_; }
+    const QString& cardFile() const { return cardFile_; }
+    bool autoRun() const { return autoRun_; }
+    bool keepStates() const { return keepStates_; }
+    int lineNo() const { return lineNo_; }
+    // The text with its placeholders replaced.
+    QString expand(const QString& text) { return EXPAND_VARS(text, variables(), state().QUERY_RESULT); }
+
+    // Goes on with that line. A number past the last ends the script.
+    void jumpTo(int line) { lineNo_ = line - 1; }
+    // Ends the script; the run still finishes.
+    void endCard() { lineNo_ = script_->lineCount(); }
+    // Ends the script as for a query without data: the run finishes with "NO DATA".
+    void endWithoutData();
+    // Ends the script and leaves the on-air display and the last card untouched.
+    void abandon();
+    // Ends the run at once when the program is closing; called after everything that waits.
+    void goOnUnlessClosing();
+    // Shows the card as on air, or that it had no data, and remembers it as the last one.
+    void finish();
+    bool hasData() const { return hasData_; }
+
+    struct RecordLoop {
+        int start = 0;
+        QString variable;
+        double counter = 0;
+    };
+    RecordLoop loop;      // the one active record loop
+    qint16 autoFeed = 0;  // set by AUTOFEED
+
+ private:
+    void executeLine(const ScriptLine& line);
+    const ScriptLine& chooseBranch(const LineCondition& condition);
+
+    CardEngine& engine_;
+    std::shared_ptr<const CardScript> script_;
+    QString cardFile_;
+    bool autoRun_;
+    bool keepStates_;
+    ErrorPlace& place_;
+    int lineNo_ = 0;
+    bool hasData_ = true;
+    bool abandoned_ = false;
+    QString expanded_;  // the current line's argument
+};
+
+// Thrown by CardRun::goOnUnlessClosing() and caught by CardEngine: the run ends because the program does.
+struct ProgramClosing {};
+
+}  // namespace zelvor

@@ -1,0 +1,90 @@
+#include "engine/card_script.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr QStringView kBlockEnd = u"FI~";
+
+QString cleaned(QString line) {
+    return line.remove(u'\t').trimmed();
+}
+
+std::shared_ptr<const LineCondition> parseCondition(const QString& line, const ExpandableText& comparison) {
+    auto condition = std::make_shared<LineCondition>();
+    condition->comparison = comparison;
+    const Pieces quoted(line, u'"');
+    if (quoted.count() < 2) return condition;
+    condition->thenLine = std::make_unique<ScriptLine>(quoted[1].toString());
+    condition->elseLine = std::make_unique<ScriptLine>(quoted.count() >= 5 ? quoted[3].toString() : u"#"_s);
+    return condition;
+}
+
+}  // namespace
+
+ScriptLine::ScriptLine(const QString& line) : text(line) {
+    const Pieces items(text, u'~');
+    if (items.count() == 0) return;
+    const QString word = items[0].trimmed().toString().toUpper();
+    hasArgument = items.count() > 1;
+    if (hasArgument) argument = ExpandableText(items[1].toString());
+    if (word == u"IFL") {
+        condition = parseCondition(text, argument);
+    } else {
+        command = findCommand(word);
+    }
+}
+
+CardScript::CardScript(const QString& path, const QString& language, const AppFolder& folder, const TextFiles& files) {
+    for (const QString& rawLine : readSource(path, files)) {
+        const QString line = cleaned(rawLine);
+        if (line.isEmpty()) continue;
+        const Pieces items(line, u'~');
+        if (items[0] == u"INCLUDE") {
+            const QString include = folder.resolve(folder.packFile(language, items[1]));
+            for (const QString& included : readSource(include, files)) append(cleaned(included));
+        }
+        append(line);
+    }
+}
+
+QStringList CardScript::readSource(const QString& path, const TextFiles& files) {
+    const QFileInfo info(path);
+    sources_.push_back({path, info.lastModified(), info.size()});
+    return files.readLines(path);
+}
+
+void CardScript::append(const QString& line) {
+    lines_.emplace_back(line);
+    if (line.startsWith(kBlockEnd)) blockEnds_[line.mid(kBlockEnd.size())].push_back(lineCount());
+    const QStringView word = QStringView(line).left(line.indexOf(u'~')).trimmed();
+    if (word.compare(u"FUNCTIONCARD", Qt::CaseInsensitive) == 0) functionCard_ = true;
+}
+
+int CardScript::findBlockEnd(QStringView label, int from) const {
+    const auto found = blockEnds_.constFind(label.toString());
+    if (found == blockEnds_.constEnd()) return 0;
+    const auto end = std::ranges::lower_bound(*found, from);
+    return end == found->end() ? 0 : *end;
+}
+
+bool CardScript::isCurrent() const {
+    return std::ranges::all_of(sources_, [](const Source& source) {
+        const QFileInfo info(source.path);
+        return info.exists() && info.lastModified() == source.modified && info.size() == source.size;
+    });
+}
+
+std::shared_ptr<const CardScript> CardScriptCache::load(const QString& path, const QString& language,
+                                                        const AppFolder& folder, const TextFiles& files) {
+    std::shared_ptr<const CardScript>& script = scripts_[path];
+    if (!script || !script->isCurrent()) script = std::make_shared<CardScript>(path, language, folder, files);
+    return script;
+}
+
+}  // namespace zelvor

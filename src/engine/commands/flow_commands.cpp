@@ -1,0 +1,84 @@
+#include "base/number.h"
+#include "engine/card_run.h"
+#include "engine/condition.h"
+#include "engine/on_air.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+// Handled while the script is read; nothing is left to do when the line is reached.
+void readEarlier(CardRun&, const Arguments&) {}
+
+void ENDCARD(CardRun& run, const Arguments&) {
+    run.endCard();
+}
+
+void FOREACHREC(CardRun& run, const Arguments& args) {
+    run.loop = {run.lineNo() + 1, u'@' + args.text(), 1};
+    run.variables().SetVar(run.loop.variable, 1);
+}
+
+void ROF(CardRun& run, const Arguments&) {
+    run.loop.counter += 1;
+    run.variables().SetVar(run.loop.variable, static_cast<qint64>(run.loop.counter));
+    if (run.loop.counter <= run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) run.jumpTo(run.loop.start);
+}
+
+void IF(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    if (conditionHolds(pieces[0], pieces[1], pieces[2])) return;
+    const QStringView label = pieces.count() > 3 ? pieces[3] : QStringView();
+    const int blockEnd = run.script().findBlockEnd(label, run.lineNo());
+    if (blockEnd == 0) {
+        // The search has run off the end of the script.
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"FI~"_s + label);
+    }
+    run.jumpTo(blockEnd + 1);
+}
+
+void DELAY(CardRun& run, const Arguments& args) {
+    const qint64 milliseconds = static_cast<qint64>(wholeNumber32(args.text())) * 1000;
+    Clock& clock = run.ports().clock;
+    const QDateTime start = clock.now();
+    do {
+        clock.waitBriefly();
+        run.goOnUnlessClosing();
+    } while (start.msecsTo(clock.now()) <= milliseconds);
+}
+
+void BREAK(CardRun& run, const Arguments& args) {
+    const bool goOn = run.ports().operatorDesk.yesNo(u"Break"_s, args.text());
+    run.goOnUnlessClosing();
+    if (!goOn) {
+        run.abandon();
+        return;
+    }
+    SHOW_RTX(run.engine().folder());
+    if (!onAirLocked(run.form())) SHOW_ONAIR(run.state(), run.form(), run.cardFile());
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"INCLUDE", readEarlier, Argument::None, u"file", u"puts the lines of another script file here"},
+    Command{u"NORTXOUT", readEarlier, Argument::None, u"", u"no RTX output files at the end"},
+    Command{u"FUNCTIONCARD", readEarlier, Argument::None, u"", u"leaves the on-air line and the last card untouched"},
+    Command{u"ENDCARD", ENDCARD, Argument::None, u"", u"ends the script"},
+    Command{u"FOREACHREC", FOREACHREC, Argument::Expanded, u"name", u"begins the record loop; @name counts from 1"},
+    Command{u"ROF", ROF, Argument::None, u"", u"ends the record loop"},
+    Command{u"IF", IF, Argument::Expanded, u"left;operator;right;label", u"skips to FI~label when false"},
+    Command{u"FI", readEarlier, Argument::None, u"label", u"ends the block of that label"},
+    Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile"},
+    Command{u"BREAK", BREAK, Argument::Expanded, u"message", u"asks whether to go on"},
+};
+
+}  // namespace
+
+std::span<const Command> flow() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands

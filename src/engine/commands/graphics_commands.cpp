@@ -1,0 +1,47 @@
+#include "engine/card_run.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+// Packs write single quotes where the command line needs double ones.
+QString commandLine(const Arguments& args) {
+    QString line = args.text();
+    line.replace(u'\'', u'"');
+    return line;
+}
+
+void CSPSEND(CardRun& run, const Arguments& args) {
+    QString line = commandLine(args);
+    line.replace(u"!!POC!!"_s, run.state().preview ? u"2"_s : u"1"_s);
+    run.ports().graphics.sendLine(LinkId::Main, line);
+    run.goOnUnlessClosing();
+}
+
+void CSPSENDREMOTE(CardRun& run, const Arguments& args) {
+    run.ports().graphics.sendLine(LinkId::Remote, commandLine(args));
+    run.goOnUnlessClosing();
+}
+
+void WRITELOG(CardRun& run, const Arguments& args) {
+    if (run.ports().graphics.logging()) run.ports().graphics.writeLog(u"-CARDLOG-:"_s + args.text());
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"CSPSEND", CSPSEND, Argument::Expanded, u"command line", u"sends a line to the main graphics server"},
+    Command{u"CSPSENDREMOTE", CSPSENDREMOTE, Argument::Expanded, u"command line",
+            u"sends a line to the remote graphics server"},
+    Command{u"WRITELOG", WRITELOG, Argument::Expanded, u"text", u"writes a line to the log file"},
+};
+
+}  // namespace
+
+std::span<const Command> graphics() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands

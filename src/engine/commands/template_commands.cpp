@@ -1,0 +1,93 @@
+#include "engine/card_run.h"
+#include "engine/template_xml.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+struct Field {
+    QString key;
+    QString value;
+};
+
+// field;value or field;ani;value
+Field parseField(QChar type, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    if (pieces.count() == 3) return {type + u'-' + pieces[1] + u'*' + pieces[0], pieces[2].toString()};
+    return {type + u"-0*"_s + pieces[0], pieces[1].toString()};
+}
+
+void setField(CardRun& run, QStringView command, const Field& field) {
+    run.ports().graphics.appendHistory(u" > "_s + command + u'~' + field.key + u" = "_s + field.value);
+    run.state().templateData.SetVar(field.key, field.value);
+}
+
+void setRemoteField(CardRun& run, const Field& field) {
+    run.state().remoteTemplateData.SetVar(field.key, field.value);
+}
+
+void SDATA(CardRun& run, const Arguments& args) {
+    setField(run, u"SDATA", parseField(u't', args));
+}
+void SIMAGE(CardRun& run, const Arguments& args) {
+    setField(run, u"SIMAGE", parseField(u'i', args));
+}
+void SDATAREMOTE(CardRun& run, const Arguments& args) {
+    setRemoteField(run, parseField(u't', args));
+}
+void SIMAGEREMOTE(CardRun& run, const Arguments& args) {
+    setRemoteField(run, parseField(u'i', args));
+}
+
+void CLEARDATA(CardRun& run, const Arguments&) {
+    run.state().templateData.clear();
+    run.ports().graphics.clearHistory();
+    run.ports().graphics.appendHistory(u" > CLEAR-DATA"_s);
+}
+
+void CLEARDATAREMOTE(CardRun& run, const Arguments&) {
+    run.state().remoteTemplateData.clear();
+}
+
+QString targetVariable(const Arguments& args, const QString& usual) {
+    return args.given() && !args.text().isEmpty() ? u'@' + args.text() : usual;
+}
+
+void MAKEXML(CardRun& run, const Arguments& args) {
+    const QString variable = targetVariable(args, u"@CASPARXML"_s);
+    const QString xml = makeXml(run.state().templateData);
+    run.variables().SetVar(variable, xml);
+    run.ports().graphics.appendHistory(u" > MAKEXML~"_s + variable);
+    run.ports().graphics.showLastTemplate(xml);
+}
+
+void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {
+    run.variables().SetVar(targetVariable(args, u"@CASPARXMLREMOTE"_s), makeRemoteXml(run.state().remoteTemplateData));
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"CLEARDATA", CLEARDATA, Argument::None, u"", u"empties the template data and the history list"},
+    Command{u"CLEARDATAREMOTE", CLEARDATAREMOTE, Argument::None, u"", u"empties the remote template data"},
+    Command{u"SDATA", SDATA, Argument::Expanded, u"field;[animation;]value", u"sets a text field of the template"},
+    Command{u"SDATAREMOTE", SDATAREMOTE, Argument::Expanded, u"field;[animation;]value",
+            u"sets a text field of the remote template"},
+    Command{u"SIMAGE", SIMAGE, Argument::Expanded, u"field;[animation;]value", u"sets an image field of the template"},
+    Command{u"SIMAGEREMOTE", SIMAGEREMOTE, Argument::Expanded, u"field;[animation;]value",
+            u"sets an image field of the remote template"},
+    Command{u"MAKEXML", MAKEXML, Argument::Expanded, u"[name]",
+            u"@CASPARXML or @name becomes the template data as XML"},
+    Command{u"MAKEXMLREMOTE", MAKEXMLREMOTE, Argument::Expanded, u"[name]",
+            u"@CASPARXMLREMOTE or @name becomes the remote template data as XML"},
+};
+
+}  // namespace
+
+std::span<const Command> templateData() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands

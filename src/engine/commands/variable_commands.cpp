@@ -1,0 +1,68 @@
+#include <algorithm>
+
+#include "base/number.h"
+#include "engine/card_run.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+void SETVAR(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    run.variables().SetVar(pieces[0], pieces[1].toString());
+}
+
+void EVAL(CardRun&, const Arguments&) {
+    throw RunTimeError(ErrorNumber::ActionNotSupported, u"EVAL"_s);
+}
+
+void CHARCOUNT(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const QStringView text = pieces[1];
+    const QStringView wanted = pieces[2];
+    const qint64 count = wanted.size() == 1 ? std::ranges::count(text, wanted.front()) : 0;
+    run.variables().SetVar(QString(u'@' + pieces[0]), count);
+}
+
+void SPLIT(CardRun& run, const Arguments& args) {
+    const QString prefix = u'@' + args.rawPieces()[2] + u'_';
+    const Pieces pieces = args.pieces();
+    const QString separator = pieces[1].toString();
+    run.variables().RemoveVarsWithPrefix(prefix);
+    const QStringView text = pieces[0];
+    int number = 0;
+    const auto store = [&](QStringView piece) {
+        run.variables().SetVar(QString(prefix + QString::number(number++)), piece.toString());
+    };
+    if (text.isEmpty()) return;
+    if (separator.isEmpty()) {
+        store(text);
+        return;
+    }
+    qsizetype start = 0;
+    for (qsizetype at = text.indexOf(separator); at >= 0; at = text.indexOf(separator, start)) {
+        store(text.mid(start, at - start));
+        start = at + separator.size();
+    }
+    store(text.mid(start));
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"SETVAR", SETVAR, Argument::Expanded, u"variable;value", u"sets a variable"},
+    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value"},
+    Command{u"CHARCOUNT", CHARCOUNT, Argument::Expanded, u"name;text;character",
+            u"@name becomes how often the character stands in the text"},
+    Command{u"SPLIT", SPLIT, Argument::Expanded, u"text;separator;name", u"stores the pieces as @name_0, @name_1, ..."},
+};
+
+}  // namespace
+
+std::span<const Command> variables() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands

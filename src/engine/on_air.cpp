@@ -1,0 +1,72 @@
+#include "engine/on_air.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr Colour kOnAir = colours::kRed;
+constexpr Colour kNoData = rgb(255, 200, 0);
+
+void showOnAirLine(FormModel& form, const QString& text, Colour colour, const QString& card) {
+    form.at(u"lblONAIR"_s).setText(text);
+    form.at(u"lblONAIR"_s).setForeColour(colour);
+    form.at(u"lblONAIRLAMP"_s).setBackColour(colour);
+    form.at(u"lblONAIRCARD"_s).setText(card);
+}
+
+// The caption of the first card that runs this script, in the current set before the others; else the script's name.
+QString captionOf(const ShowState& state, const QString& cardFile) {
+    const QString name = cardFile.left(cardFile.lastIndexOf(u'.'));
+    const auto runsIt = [&](const CardEntry& entry) {
+        return !entry.script.isEmpty() && entry.script.left(entry.script.lastIndexOf(u'.')) == name;
+    };
+    const auto captionIn = [&](const CardTable::Set& set) {
+        const auto entry = std::find_if(set.begin() + 1, set.end(), runsIt);
+        return entry == set.end() ? QString() : entry->shownCaption();
+    };
+    QString caption = captionIn(state.cards.sets[state.currentSet]);
+    for (int set = 0; caption.isEmpty() && set < CardTable::kSets; ++set) caption = captionIn(state.cards.sets[set]);
+    return caption.isEmpty() ? name : caption;
+}
+
+}  // namespace
+
+void SHOW_ONAIR(const ShowState& state, FormModel& form, const QString& cardFile) {
+    showOnAirLine(form, u"ON AIR"_s, kOnAir, captionOf(state, cardFile));
+}
+
+void showNoData(FormModel& form) {
+    showOnAirLine(form, u"NO DATA"_s, kNoData, {});
+}
+
+void showClear(FormModel& form) {
+    showOnAirLine(form, {}, colours::kGreen, {});
+}
+
+bool onAirLocked(const FormModel& form) {
+    return form.at(u"chkONAIRLOCK"_s).checked();
+}
+
+bool SHOW_RTX(const AppFolder& folder) {
+    return !folder.modulesFile(u"RTXOUT.TXT").isEmpty();
+}
+
+void showCurrentSet(const ShowState& state, FormModel& form) {
+    const CardTable::Set& set = state.cards.sets[state.currentSet];
+    for (int i = 0; i < CardTable::kCards; ++i) {
+        const CardEntry& entry = set[i + 1];
+        Control& button = form.at(u"cmbCARD"_s, i);
+        button.setText(entry.shownCaption());
+        button.setState(entry.on ? u"ON"_s : u"OFF"_s);
+        button.setBackColour(std::nullopt);
+    }
+    for (int i = 0; i < CardTable::kSets - 1; ++i) {
+        form.at(u"GradientButtonS"_s, i).setText(state.cards.sets[i + 1][0].caption);
+    }
+}
+
+}  // namespace zelvor

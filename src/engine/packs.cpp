@@ -1,0 +1,93 @@
+#include "engine/packs.h"
+
+#include "engine/card_table_reader.h"
+#include "engine/on_air.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+Packs::Packs(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
+             Operator& operatorDesk)
+    : state_(state), form_(form), folder_(folder), files_(files), trap_(trap), operator_(operatorDesk) {}
+
+Packs::PackList Packs::readPacks() const {
+    PackList packs;
+    for (const QString& line : files_.readLines(folder_.resolve(folder_.modulesFile(u"PACKS.TXT")))) {
+        if (line.trimmed().isEmpty()) continue;
+        const QStringList fields = line.split(u';');
+        if (folder_.exists(folder_.packFolder(fields[0]))) {
+            packs.offered.push_back(fields);
+        } else {
+            packs.missing += fields[0];
+        }
+    }
+    return packs;
+}
+
+QString Packs::firstPack() const {
+    const PackList packs = readPacks();
+    return packs.offered.empty() ? QString() : packs.offered.front()[0];
+}
+
+bool Packs::LOAD_PACKS() {
+    bool chosen = false;
+    trap_.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator, [&] {
+        const PackList packs = readPacks();
+        chosen = !packs.offered.empty() && choosePack(packs);
+        if (packs.missing.isEmpty() || state_.closing) return;
+        QString warning = u"Warning!!! Missing folders for the following Pack(s):\r\n\r\n"_s;
+        for (const QString& code : packs.missing) warning += u"\\MODULES\\QRD_"_s + code + u"\r\n"_s;
+        operator_.message(u"Missing folder(s)"_s, warning, Operator::Severity::Warning);
+    });
+    return chosen;
+}
+
+bool Packs::choosePack(const PackList& packs) {
+    QString prompt;
+    QList<Control::Item> languages;
+    for (size_t i = 0; i < packs.offered.size(); ++i) {
+        prompt += QString::number(i + 1) + u". "_s + packs.offered[i].join(u'-') + u"\r\n"_s;
+        languages += {packs.offered[i][0], static_cast<int>(i) + 1};
+    }
+    while (!state_.closing) {
+        const QString answer = operator_.input(u"Project Pack Selection"_s, prompt, u"1"_s).value_or(QString());
+        bool isNumber = false;
+        const int number = answer.trimmed().toInt(&isNumber);
+        if (!isNumber || number < 1 || number > languages.size()) continue;
+        state_.variables.SetVar(u"@LANGUAGE", languages[number - 1].text);
+        form_.at(u"cmbLANG"_s).setItems(languages);
+        form_.at(u"cmbLANG"_s).setPosition(number - 1);
+        return true;
+    }
+    return false;
+}
+
+bool Packs::LOAD_CARDS() {
+    if (state_.variables.find(u"@LANGUAGE") == nullptr) {
+        operator_.message({}, u"No default Pack found. Please select a pack in order to load Cards"_s,
+                          Operator::Severity::Warning);
+        return false;
+    }
+    ErrorPlace place{u"mGLOBAL.LOAD_CARDS"_s};
+    const bool read = trap_.run(place, ErrorTrap::Tell::Operator, [&] {
+        const QString path = folder_.resolve(folder_.packFile(state_.language(), u"CARDS.TXT"));
+        const QStringList lines = files_.readLines(path);
+        state_.cards = {};
+        readCardTable(lines, state_.cards, place.line);
+    });
+    showCurrentSet(state_, form_);
+    return read;
+}
+
+void LoadFkeys(const ShowState& state, FormModel& form) {
+    constexpr int kLabels = 5;
+    for (int key = 1; key <= kLabels; ++key) {
+        const QString& title = state.cards.functionKeys[key].title;
+        Control& label = form.at(u"lblFKEYTITLE"_s, key - 1);
+        label.setText(title);
+        label.setVisible(!title.isEmpty());
+    }
+}
+
+}  // namespace zelvor

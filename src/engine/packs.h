@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/app_folder.h"
+#include "base/error_trap.h"
+#include "base/text_file.h"
+#include "engine/ports.h"
+#include "engine/show_state.h"
+#include "form/form_model.h"
+
+namespace zelvor {
+
+// The packs of the application folder and the card table of the chosen one.
+class Packs {
+ public:
+    Packs(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
+          Operator& operatorDesk);
+
+    // Asks the operator for one of the packs of PACKS.TXT until the answer names one, sets @LANGUAGE and fills the
+    // language list; warns of packs without a folder. False when there is none to choose.
+    bool LOAD_PACKS();
+    // Reads CARDS.TXT of the chosen pack into the card table and shows the current set. True when the file was read;
+    // a file that is missing leaves the cards as they are, one that is broken is read up to the fault.
+    bool LOAD_CARDS();
+
+    // The language code of the first pack whose folder exists, empty when there is none. Throws when PACKS.TXT cannot
+    // be read.
+    [[nodiscard]] QString firstPack() const;
+
+ private:
+    struct PackList {
+        std::vector<QStringList> offered;  // the fields of each pack's line
+        QStringList missing;               // codes of packs without a folder
+    };
+    [[nodiscard]] PackList readPacks() const;
+    bool choosePack(const PackList& packs);
+
+    ShowState& state_;
+    FormModel& form_;
+    const AppFolder& folder_;
+    const TextFiles& files_;
+    ErrorTrap& trap_;
+    Operator& operator_;
+};
+
+// Shows the titles of the function keys that have one on the labels of F1 to F5.
+void LoadFkeys(const ShowState& state, FormModel& form);
+
+}  // namespace zelvor

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include "engine/variable_store.h"
+
+namespace zelvor {
+
+// Template data as XML for a double-quoted AMCP parameter: every quote of the XML, and every apostrophe in a value,
+// is written as backslash and double quote. Nothing else in a value is escaped.
+
+// Keys "t-ani*id" and "i-ani*id" are split at "-" and "*". Throws 9 for a malformed key.
+QString makeXml(const VariableStore& fields);
+
+// Meant to differ: the key's third character is the animation, the rest from the fifth on the id, and a value with "|"
+// needs three pieces. Throws 9 for fewer.
+QString makeRemoteXml(const VariableStore& fields);
+
+}  // namespace zelvor
