@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QHostAddress>
+#include <QTcpServer>
+#include <memory>
+#include <unordered_map>
+
+#include "rehearsal/amcp_interpreter.h"
+#include "rehearsal/journal.h"
+#include "rehearsal/line_buffer.h"
+
+namespace zelvor::rehearsal {
+
+// Takes AMCP connections, answers their lines in the order they come and writes both into the journal.
+class AmcpServer : public QObject {
+    Q_OBJECT
+
+ public:
+    static constexpr std::size_t kMaxClients = 500;
+    static constexpr qint64 kMaxUnread = qint64{8} << 20;  // bytes of replies a client may leave unread
+
+    // Both must outlive the server.
+    AmcpServer(AmcpInterpreter& interpreter, Journal& journal);
+    ~AmcpServer() override;
+    Q_DISABLE_COPY_MOVE(AmcpServer)
+
+    // Port 0 takes a free one. False when it cannot listen; errorString() says why.
+    bool listen(const QHostAddress& address, quint16 port);
+    quint16 port() const { return listener_.serverPort(); }
+    QString errorString() const { return listener_.errorString(); }
+
+    int clientCount() const { return static_cast<int>(clients_.size()); }
+
+ Q_SIGNALS:
+    // A client came or went.
+    void clientsChanged();
+
+ private:
+    struct Client {
+        QString name;
+        LineBuffer lines;
+    };
+
+    void accept();
+    void read(QTcpSocket* socket);
+    void answer(QTcpSocket* socket, const QString& name, const LineBuffer::Line& line);
+    void leave(QTcpSocket* socket);
+
+    AmcpInterpreter& interpreter_;
+    Journal& journal_;
+    std::unordered_map<QTcpSocket*, Client> clients_;
+    QTcpServer listener_;  // goes first, and its sockets with it
+};
+
+}  // namespace zelvor::rehearsal

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+#include <optional>
+#include <span>
+
+#include "rehearsal/stage.h"
+#include "rehearsal/template_folder.h"
+
+namespace zelvor::rehearsal {
+
+// One line, taken apart. The command table has already checked its channel and the number of its parameters.
+struct Command {
+    QString name;  // as in the table, e.g. "CG ADD"
+    int channel = 0;
+    std::optional<int> layer = {};  // empty when the line names only a channel
+    LayerAddress at = {};           // the channel, and the layer or the command's usual one
+    QStringList parameters = {};
+
+    // The first word, which replies of success and of form errors name.
+    QString word() const { return name.section(u' ', 0, 0); }
+};
+
+// What commands work on.
+struct Host {
+    Stage& stage;
+    const TemplateFolder& folder;
+};
+
+// One command. A row is all there is to adding one: its words, how many parameters it needs, and what it does.
+struct CommandRow {
+    enum class Target { Server, ServerOrChannel, Layer };
+
+    QStringView name;
+    Target target;
+    int usualLayer;  // for a line without a layer
+    int minimumParameters;
+    QString (*run)(const Command& command, Host& host);  // gives the whole reply
+};
+
+// All commands. Two words ("CG ADD") are written "CG 1-20 ADD" in a line.
+std::span<const CommandRow> commandTable();
+
+}  // namespace zelvor::rehearsal

@@ -1,0 +1,87 @@
+#include "rehearsal/template_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::rehearsal {
+namespace {
+
+class TemplateFolderTest : public testing::Test {
+ protected:
+    void SetUp() override {
+        write(u"secret.html"_s);
+        write(u"templates/bug.html"_s);
+        write(u"templates/Sub Folder/Line.HTML"_s);
+        write(u"templates/pictures/logo.png"_s);
+        QDir().mkpath(path(u"templates/folder.html"_s));
+        ASSERT_TRUE(QFile::link(path(u"secret.html"_s), path(u"templates/link.html"_s)));
+        ASSERT_TRUE(QFile::link(dir_.path(), path(u"templates/up"_s)));
+        ASSERT_TRUE(QFile::link(path(u"templates"_s), path(u"root"_s)));
+    }
+
+    QString path(const QString& name) const { return dir_.filePath(name); }
+
+    void write(const QString& name) const {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(name.toUtf8());
+    }
+
+ private:
+    QTemporaryDir dir_;
+};
+
+TEST_F(TemplateFolderTest, FindsByNameAndNeverLeavesTheFolder) {
+    struct Row {
+        QString name;
+        QString found;  // empty: not found
+    };
+    const std::vector<Row> rows = {
+        {u"bug"_s, u"bug.html"_s},
+        {u"BUG"_s, u"bug.html"_s},
+        {u"bug.html"_s, u"bug.html"_s},
+        {u"sub folder/line"_s, u"Sub Folder/Line.HTML"_s},
+        {u"Sub Folder\\line"_s, u"Sub Folder/Line.HTML"_s},
+        {u"folder"_s, {}},
+        {u"missing"_s, {}},
+        {QString(), {}},
+        {u"../secret"_s, {}},
+        {u"..\\secret"_s, {}},
+        {u"pictures/../bug"_s, {}},
+        {u"./bug"_s, {}},
+        {u"/bug"_s, {}},
+        {u"pictures//bug"_s, {}},
+        {path(u"templates/bug.html"_s), {}},
+        {u"link"_s, {}},
+        {u"up/secret"_s, {}},
+        {u"bug\0"_s, {}},
+    };
+    for (const QString& root : {u"templates"_s, u"root"_s}) {
+        const TemplateFolder folder(path(root));
+        for (const Row& row : rows) {
+            EXPECT_EQ(folder.findTemplate(row.name).value_or(QString()), row.found) << qPrintable(row.name);
+        }
+    }
+}
+
+TEST_F(TemplateFolderTest, FindsPicturesAndReadsOnlyPlainFiles) {
+    const TemplateFolder folder(path(u"templates"_s));
+    EXPECT_EQ(folder.findPicture(u"pictures/logo"_s), u"pictures/logo.png"_s);
+    EXPECT_EQ(folder.findPicture(u"pictures/logo.png"_s), u"pictures/logo.png"_s);
+    EXPECT_FALSE(folder.findPicture(u"bug"_s));
+
+    EXPECT_EQ(folder.read(u"bug.html"_s), "templates/bug.html");
+    for (const QString& name :
+         {u"folder.html"_s, u"link.html"_s, u"../secret.html"_s, u"up/secret.html"_s, QString()}) {
+        EXPECT_FALSE(folder.read(name)) << qPrintable(name);
+    }
+}
+
+}  // namespace
+}  // namespace zelvor::rehearsal
