@@ -1,0 +1,133 @@
+#include "app_run/run_command.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include "app_run/run_graphics.h"
+#include "app_run/run_options.h"
+#include "app_run/terminal_ports.h"
+#include "engine/card_engine.h"
+#include "engine/defaults.h"
+#include "engine/packs.h"
+#include "engine/system_clock.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+// Until a database is opened there is none: each query says so.
+class NoDatabase : public Database {
+ public:
+    explicit NoDatabase(Operator& operatorDesk) : operator_(operatorDesk) {}
+
+    int RUN_QUERY(const QString& sql) override { return refuse(u"Error in Query"_s, sql); }
+    int RUN_QUERY2(const QString& sql) override { return refuse(u"Error in Query2"_s, sql); }
+    void execute(const QString&) override { throw RunTimeError(ErrorNumber::DatabaseError); }
+    NamedRows readGreek(const QString&) override { throw RunTimeError(ErrorNumber::DatabaseError); }
+
+ private:
+    int refuse(const QString& title, const QString& sql) {
+        operator_.message(title, u"No database is connected\r\n"_s + sql, Operator::Severity::Warning);
+        return 0;
+    }
+    Operator& operator_;
+};
+
+class NoAskDialog : public AskDialog {
+ public:
+    void show() override { throw RunTimeError(ErrorNumber::ActionNotSupported, u"ASKFIELD"_s); }
+};
+
+// The objects of one run, made for it and gone with it.
+class TerminalRun {
+ public:
+    TerminalRun(const RunOptions& options, QTextStream& out, QTextStream& err)
+        : options_(options), out_(out), err_(err), operator_(err, options.yes), desktop_(out) {
+        trap_.setReporter([this](const ErrorPlace&, const QString& message) {
+            operator_.message({}, message, Operator::Severity::Critical);
+        });
+        state_.preview = options.preview;
+    }
+
+    RunStatus run() {
+        writeAllDefaults(state_, form_, folder_);
+        if (!choosePack()) return RunStatus::NoScript;
+        if (folder_.exists(folder_.packFile(state_.language(), u"CARDS.TXT"))) packs_.LOAD_CARDS();
+        for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
+        if (!graphics_.connectNamed(clock_, err_)) return RunStatus::NotReached;
+
+        QObject::connect(&form_, &FormModel::changed, &form_, [this](Control* control, Control::Property property) {
+            printFormChange(out_, *control, property);
+        });
+        const CardEngine::Outcome outcome = engine_.SHOW_TVCARD(options_.card, options_.autoRun, options_.keepStates);
+        graphics_.finishSending(clock_);
+        if (options_.printVariables) printVariables();
+        switch (outcome) {
+            case CardEngine::Outcome::Ran:
+            case CardEngine::Outcome::Closed:
+                return RunStatus::Ran;
+            case CardEngine::Outcome::NoScript:
+                return RunStatus::NoScript;
+            case CardEngine::Outcome::Failed:
+                return RunStatus::Failed;
+        }
+        Q_UNREACHABLE();
+    }
+
+ private:
+    bool choosePack() {
+        QString language = options_.language;
+        if (language.isEmpty()) {
+            trap_.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator, [&] { language = packs_.firstPack(); });
+        }
+        if (language.isEmpty()) {
+            err_ << "zelvor run: no pack to run the card from; name one with --language\n";
+            err_.flush();
+            return false;
+        }
+        state_.variables.SetVar(u"@LANGUAGE", language);
+        return true;
+    }
+
+    void printVariables() {
+        state_.variables.forEach([this](const QString& name, const Value& value) {
+            out_ << "var > " << name << " = " << inOneLine(value.text()) << '\n';
+        });
+        out_.flush();
+    }
+
+    const RunOptions& options_;
+    QTextStream& out_;
+    QTextStream& err_;
+    AppFolder folder_{options_.appFolder};
+    ErrorTrap trap_{errorLogPath(QCoreApplication::applicationFilePath(), folder_.path())};
+    ShowState state_;
+    FormModel form_;
+    SystemClock clock_{state_};
+    TerminalOperator operator_;
+    TerminalDesktop desktop_;
+    NoDatabase database_{operator_};
+    NoAskDialog askDialog_;
+    GraphicsLinks links_{form_, clock_, trap_, folder_, options_.files};
+    RunGraphics graphics_{links_, options_, out_};
+    Packs packs_{state_, form_, folder_, options_.files, trap_, operator_};
+    CardEngine engine_{state_,         form_, folder_,
+                       options_.files, trap_, Ports{operator_, askDialog_, graphics_, database_, desktop_, clock_}};
+};
+
+}  // namespace
+
+RunStatus runCard(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+    const std::optional<RunOptions> options = parseRunOptions(arguments, err);
+    if (!options) return RunStatus::WrongUsage;
+    if (options->help) {
+        out << runHelp();
+        return RunStatus::Ran;
+    }
+    QDir::setCurrent(options->appFolder);
+    return TerminalRun(*options, out, err).run();
+}
+
+}  // namespace zelvor

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QTextStream>
+
+#include "app_run/run_options.h"
+#include "link/graphics_links.h"
+
+namespace zelvor {
+
+// The links of a terminal run: a link whose server is named is real, any other counts as connected and its lines are
+// only printed.
+class RunGraphics : public Graphics {
+ public:
+    RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextStream& out);
+
+    // Connects the named links; false after saying on `err` which could not be reached.
+    bool connectNamed(Clock& clock, QTextStream& err);
+    // Waits until everything was sent or a link has gone.
+    void finishSending(Clock& clock);
+
+    void sendLine(LinkId link, const QString& command) override;
+    [[nodiscard]] int state(LinkId link) const override;
+    [[nodiscard]] bool logging() const override { return links_.logging(); }
+    void writeLog(const QString& line) override { links_.writeLog(line); }
+    void appendHistory(const QString& text) override { links_.appendHistory(text); }
+    void clearHistory() override { links_.clearHistory(); }
+    // The console's own view of what the lines hold anyway.
+    void showLastTemplate(const QString&) override {}
+
+ private:
+    [[nodiscard]] const std::optional<ServerAddress>& address(LinkId link) const;
+
+    GraphicsLinks& links_;
+    const RunOptions& options_;
+    QTextStream& out_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,137 @@
+#include "app_run/run_options.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <array>
+
+#include "base/command_line.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+const std::array kOptions{
+    CommandLine::Option{u"--app-folder"_s, true},
+    CommandLine::Option{u"--language"_s, true},
+    CommandLine::Option{u"--codepage"_s, true},
+    CommandLine::Option{u"--set"_s, true},
+    CommandLine::Option{u"--answer"_s, true},
+    CommandLine::Option{u"--connection"_s, true},
+    CommandLine::Option{u"--main"_s, true},
+    CommandLine::Option{u"--remote"_s, true},
+    CommandLine::Option{u"--preview"_s},
+    CommandLine::Option{u"--yes"_s},
+    CommandLine::Option{u"--no"_s},
+    CommandLine::Option{u"--auto"_s},
+    CommandLine::Option{u"--keep-states"_s},
+    CommandLine::Option{u"--vars"_s},
+    CommandLine::Option{u"--help"_s},
+};
+
+// Thrown and caught here alone: what is wrong, in words.
+struct UsageError {
+    QString text;
+};
+
+std::optional<ServerAddress> parseAddress(const CommandLine& line, const QString& option) {
+    const std::optional<QString> text = line.value(option);
+    if (!text) return std::nullopt;
+    const qsizetype colon = text->lastIndexOf(u':');
+    bool isNumber = false;
+    const int port = text->mid(colon + 1).toInt(&isNumber);
+    if (colon < 1 || !isNumber || port < 1 || port > 65535) throw UsageError{option + u" takes HOST:PORT"_s};
+    return ServerAddress{text->left(colon), text->mid(colon + 1)};
+}
+
+std::pair<QString, QString> parseVariable(const QString& text) {
+    const qsizetype equals = text.indexOf(u'=');
+    if (equals < 1) throw UsageError{u"--set takes NAME=VALUE"_s};
+    return {text.left(equals), text.mid(equals + 1)};
+}
+
+TextFiles parseCodePage(const std::optional<QString>& name) {
+    if (!name) return {};
+    const std::optional<TextFiles> files = TextFiles::withCodePage(*name);
+    if (!files) throw UsageError{u"no such code page: "_s + *name};
+    return *files;
+}
+
+int parseConnection(const std::optional<QString>& text) {
+    bool isNumber = false;
+    const short number = text.value_or(u"1"_s).toShort(&isNumber);
+    if (!isNumber) throw UsageError{u"--connection takes a number"_s};
+    return number;
+}
+
+RunOptions parse(const QStringList& arguments) {
+    const CommandLine line(arguments, kOptions);
+    RunOptions options;
+    options.help = line.has(u"--help");
+    if (options.help) return options;
+    if (!line.unknownOption().isEmpty()) throw UsageError{u"unknown option "_s + line.unknownOption()};
+    if (!line.optionWithoutValue().isEmpty()) throw UsageError{line.optionWithoutValue() + u" takes a value"_s};
+    if (line.rest().size() != 1) throw UsageError{u"one CARD is to be named"_s};
+
+    options.card = line.rest().constFirst();
+    options.appFolder = line.value(u"--app-folder").value_or(QCoreApplication::applicationDirPath());
+    if (!QFileInfo(options.appFolder).isDir()) throw UsageError{u"no such folder: "_s + options.appFolder};
+    options.appFolder = QFileInfo(options.appFolder).absoluteFilePath();
+    options.language = line.value(u"--language").value_or(QString());
+    options.files = parseCodePage(line.value(u"--codepage"));
+    for (const QString& text : line.values(u"--set")) options.variables.push_back(parseVariable(text));
+    options.answers = line.values(u"--answer");
+    options.preview = line.has(u"--preview");
+    options.yes = line.lastOf(std::array<QStringView, 2>{u"--yes", u"--no"}) != u"--no";
+    options.autoRun = line.has(u"--auto");
+    options.keepStates = line.has(u"--keep-states");
+    options.printVariables = line.has(u"--vars");
+    options.connection = parseConnection(line.value(u"--connection"));
+    options.main = parseAddress(line, u"--main"_s);
+    options.remote = parseAddress(line, u"--remote"_s);
+    return options;
+}
+
+}  // namespace
+
+std::optional<RunOptions> parseRunOptions(const QStringList& arguments, QTextStream& err) {
+    try {
+        return parse(arguments);
+    } catch (const UsageError& error) {
+        err << "zelvor run: " << error.text << "\nTry: zelvor run --help\n";
+        err.flush();
+        return std::nullopt;
+    }
+}
+
+QString runHelp() {
+    return uR"(usage: zelvor run [options] [--] CARD
+
+Runs a card of a pack without a display and prints every line that it puts on air.
+
+  --app-folder DIR     the application folder (default: the program's own)
+  --language CODE      the pack (default: the first pack of PACKS.TXT whose folder exists)
+  --preview            run as the preview instance does
+  --codepage NAME      the single-byte code page of text files (default: windows-1253)
+  --set NAME=VALUE     set a variable before the run; repeatable, in order
+  --answer KEY|cancel  the answers of pick lists; repeatable, in order
+  --yes | --no         the answer of every yes/no question (default: yes)
+  --auto               run as a card that fires by itself: ask fields take their automatic answers
+  --keep-states        leave the ON and OFF of the card buttons as they are
+  --connection N       the database connection (default: 1)
+  --main HOST:PORT     connect the main link; without it its lines are only printed
+  --remote HOST:PORT   the same for the remote link
+  --vars               print every variable at the end
+
+Prints, in order of happening:
+  main > LINE, remote > LINE   a line put on that link
+  console > ...                a change of the form
+  var > NAME = VALUE           with --vars, at the end
+
+Exit status: 0 the card ran, 1 a run-time error, 2 wrong usage, 3 no such script, 4 a link or the database could not
+be reached.
+)"_s;
+}
+
+}  // namespace zelvor

@@ -1,0 +1,59 @@
+// The card engine in a terminal, for pack authors and for scripts. It needs no display.
+
+#include <QCoreApplication>
+#include <QTextStream>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include "app_run/run_command.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Subcommand {
+    QString name;
+    QString summary;
+    int (*run)(const QStringList& arguments, QTextStream& out, QTextStream& err);
+};
+
+int run(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+    return static_cast<int>(zelvor::runCard(arguments, out, err));
+}
+
+const std::array kSubcommands{
+    Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},
+};
+
+QString help() {
+    QString text = u"usage: zelvor COMMAND [options]\n\n"_s;
+    for (const Subcommand& command : kSubcommands) {
+        text += u"  "_s + command.name.leftJustified(8) + command.summary + u'\n';
+    }
+    return text + u"\nzelvor COMMAND --help tells more; zelvor --version names the version.\n"_s;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    const QString word = arguments.value(0);
+    if (word == u"--help" || word == u"-h") {
+        out << help();
+        return 0;
+    }
+    if (word == u"--version") {
+        out << "zelvor " ZELVOR_VERSION "\n";
+        return 0;
+    }
+    const auto* command = std::ranges::find(kSubcommands, word, &Subcommand::name);
+    if (command == kSubcommands.end()) {
+        err << help();
+        return 2;
+    }
+    return command->run(arguments.mid(1), out, err);
+}

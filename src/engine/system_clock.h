@@ -1,0 +1,22 @@
+#pragma once
+
+#include "engine/ports.h"
+#include "engine/show_state.h"
+
+namespace zelvor {
+
+// The wall clock and the thread's own event loop.
+class SystemClock : public Clock {
+ public:
+    // state: its `closing` ends every wait.
+    explicit SystemClock(const ShowState& state) : state_(state) {}
+
+    [[nodiscard]] QDateTime now() const override;
+    bool turnEvents(int turns) override;
+    bool waitBriefly() override;
+
+ private:
+    const ShowState& state_;
+};
+
+}  // namespace zelvor
