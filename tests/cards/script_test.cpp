@@ -1,0 +1,139 @@
+// Runs every card script of this folder through `zelvor run` and holds it to what its comment lines promise:
+//
+//   # args > --preview --set @X=1      more arguments of the run, split at blanks
+//   # main > LINE                      what goes on air, all of it and in this order; "remote > " likewise
+//   # console > lblONAIR.Caption = X   a change of the form: those promised come in this order among the others
+//   # var > @X = 1                     a variable's value afterwards ("# novar > @X": it does not exist)
+//   # says > TEXT                      what messages and questions hold, in this order, all on one line
+//   # error > 9 @ 3                    the run ends with this error, at this line where one is given
+//   # status > 3                       the exit status, where it is neither 0 nor 1 for an error
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "app_run/run_command.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+namespace {
+
+const QString kFolder = QStringLiteral(TEST_DATA_DIR);
+
+QStringList promised(const QStringList& script, const QString& kind) {
+    QStringList promises;
+    for (const QString& line : script) {
+        if (line.startsWith(u"# "_s + kind + u" > "_s)) promises += line.mid(kind.size() + 5);
+    }
+    return promises;
+}
+
+QStringList beginningWith(const QStringList& lines, const QStringList& beginnings) {
+    QStringList found;
+    for (const QString& line : lines) {
+        for (const QString& beginning : beginnings) {
+            if (line.startsWith(beginning)) found += line;
+        }
+    }
+    return found;
+}
+
+void expectInOrder(const QStringList& promises, const QStringList& seen, const char* what) {
+    qsizetype at = 0;
+    for (const QString& promise : promises) {
+        const qsizetype found = seen.indexOf(promise, at);
+        EXPECT_GE(found, 0) << what << ": " << promise.toStdString() << "\nseen:\n" << seen.join(u'\n').toStdString();
+        if (found >= 0) at = found + 1;
+    }
+}
+
+class CardScripts : public testing::TestWithParam<std::string> {
+ protected:
+    // An application folder whose pack TT holds this folder's files.
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        ASSERT_TRUE(QDir(folder_.path()).mkpath(u"MODULES/QRD_TT"_s));
+        QDirIterator files(kFolder, QDir::Files);
+        while (files.hasNext()) {
+            const QString file = files.next();
+            QFile::copy(file, folder_.filePath(u"MODULES/QRD_TT/"_s + files.fileName()));
+        }
+        QFile packs(folder_.filePath(u"MODULES/PACKS.TXT"_s));
+        ASSERT_TRUE(packs.open(QIODevice::WriteOnly));
+        packs.write("NONE;no folder\r\nTT;Tests\r\n");
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_P(CardScripts, KeepTheirPromises) {
+    const QString name = QString::fromStdString(GetParam());
+    QFile file(kFolder + u'/' + name);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QStringList script = QString::fromUtf8(file.readAll()).split(u'\n');
+    script.replaceInStrings(u"$FOLDER"_s, folder_.path());
+
+    QStringList arguments{u"--app-folder"_s, folder_.path(), u"--vars"_s};
+    for (const QString& more : promised(script, u"args"_s)) arguments += more.split(u' ');
+    QString output;
+    QString errors;
+    QTextStream out(&output);
+    QTextStream err(&errors);
+    const int status = static_cast<int>(runCard(arguments << name, out, err));
+
+    const QStringList seen = output.split(u'\n', Qt::SkipEmptyParts);
+    QStringList air;
+    for (const QString& line : script) {
+        if (line.startsWith(u"# main > ") || line.startsWith(u"# remote > ")) air += line.mid(2);
+    }
+    EXPECT_EQ(air.join(u'\n'), beginningWith(seen, {u"main > "_s, u"remote > "_s}).join(u'\n'));
+    QStringList changes = promised(script, u"console"_s);
+    changes.replaceInStrings(QRegularExpression(u"^"_s), u"console > "_s);
+    expectInOrder(changes, beginningWith(seen, {u"console > "_s}), "console");
+    for (const QString& variable : promised(script, u"var"_s)) {
+        EXPECT_TRUE(seen.contains(u"var > "_s + variable))
+            << variable.toStdString() << "\nseen:\n"
+            << beginningWith(seen, {u"var > "_s + variable.section(u' ', 0, 0)}).join(u'\n').toStdString();
+    }
+    for (const QString& variable : promised(script, u"novar"_s)) {
+        EXPECT_TRUE(beginningWith(seen, {u"var > "_s + variable + u" = "_s}).isEmpty()) << variable.toStdString();
+    }
+    const QString said = errors.simplified();
+    qsizetype at = 0;
+    for (const QString& text : promised(script, u"says"_s)) {
+        at = said.indexOf(text, at);
+        ASSERT_GE(at, 0) << text.toStdString() << "\nsaid: " << said.toStdString();
+    }
+
+    const QStringList error = promised(script, u"error"_s).join(QString()).split(u" @ "_s);
+    if (error[0].isEmpty()) {
+        EXPECT_EQ(promised(script, u"status"_s).value(0, u"0"_s).toInt(), status) << errors.toStdString();
+    } else {
+        EXPECT_EQ(1, status);
+        EXPECT_TRUE(errors.contains(u"Error "_s + error[0] + u"\r\n"_s)) << errors.toStdString();
+        const QString line = u"Line "_s + error.value(1);
+        EXPECT_TRUE(errors.contains(line)) << errors.toStdString();
+    }
+}
+
+std::vector<std::string> scriptNames() {
+    std::vector<std::string> names;
+    for (const QString& name : QDir(kFolder).entryList({u"*.csp"_s}, QDir::Files)) names.push_back(name.toStdString());
+    return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Cards, CardScripts, testing::ValuesIn(scriptNames()), [](const auto& test) {
+    std::string name = test.param;
+    std::ranges::replace_if(
+        name, [](char c) { return std::isalnum(static_cast<unsigned char>(c)) == 0; }, '_');
+    return name;
+});
+
+}  // namespace
+}  // namespace zelvor

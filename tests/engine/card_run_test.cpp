@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include "engine/card_engine.h"
+#include "engine/command_table.h"
+#include "support/fake_ports.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+namespace {
+
+using Outcome = CardEngine::Outcome;
+
+class CardRuns : public testing::Test, public test::EngineBench {};
+
+TEST_F(CardRuns, NameTheirScriptAndReportAMissingOne) {
+    EXPECT_EQ(u"a.csp b.csp c.Qrd d.csp"_s, CardEngine::scriptName(u"a.qrd b.QRD c.Qrd d.csp"_s));
+    EXPECT_EQ(Outcome::NoScript, engine.SHOW_TVCARD(u"none.qrd"_s, false, false));
+    EXPECT_EQ(Outcome::NoScript, engine.SHOW_TVCARD(QString(), false, false));
+    EXPECT_EQ(u"|Card Script file:\r\n"_s + folder.packFile(u"TT", u"none.csp") + u"\r\n not exist."_s,
+              operatorDesk.shown[0]);
+    EXPECT_TRUE(state.lastCard.isEmpty());
+}
+
+TEST_F(CardRuns, ScriptsAndIncludesAreReadAgainWhenTheyChange) {
+    write(u"QRD_TT/part.inc"_s, "CSPSEND~a\r\n");
+    run("INCLUDE~part.inc\r\n");
+    write(u"QRD_TT/part.inc"_s, "CSPSEND~bb\r\n");
+    run("INCLUDE~part.inc\r\n");
+    run("INCLUDE~part.inc\r\nCSPSEND~c\r\n");
+    EXPECT_EQ((QStringList{u"ma"_s, u"mbb"_s, u"mbb"_s, u"mc"_s}), graphics.sent);
+}
+
+TEST_F(CardRuns, HistoryAndLogTellWhatACardDid) {
+    run("CLEARDATA\nSDATA~A;1\nSIMAGE~B;2;x\nSDATAREMOTE~C;3\nMAKEXML\nMAKEXMLREMOTE\nMAKEXML~N\nWRITELOG~hi {@N}\n");
+    EXPECT_EQ((QStringList{u" > CLEAR-DATA"_s, u" > SDATA~t-0*A = 1"_s, u" > SIMAGE~i-2*B = x"_s,
+                           u" > MAKEXML~@CASPARXML"_s, u" > MAKEXML~@N"_s}),
+              graphics.history);
+    EXPECT_EQ(state.variables.text(u"@N"), graphics.lastTemplate);
+    EXPECT_TRUE(graphics.log.value(0).startsWith(u"-CARDLOG-:hi <templateData>"));
+}
+
+TEST_F(CardRuns, FinishUnlessLockedOrFunctionCards) {
+    run("AUTOTIMECARD~t\nISTIME~Yes\nDISABLEPREVIEW~yes\n");
+    EXPECT_EQ(u"ON AIR"_s, form.at(u"lblONAIR"_s).text());
+    EXPECT_EQ(u"card.csp"_s, state.lastCard);
+    EXPECT_TRUE(state.switches.IsTimeCard && state.switches.PreviewDisabled);
+    form.at(u"lblONAIR"_s).setText({});
+    form.at(u"chkONAIRLOCK"_s).setChecked(true);
+    state.lastCard.clear();
+    run("ISTIME~no\n");
+    EXPECT_TRUE(form.at(u"lblONAIR"_s).text().isEmpty());
+    EXPECT_EQ(u"card.csp"_s, state.lastCard);
+    EXPECT_FALSE(state.switches.IsTimeCard || state.switches.PreviewDisabled);
+    state.lastCard.clear();
+    run("functioncard\n");
+    EXPECT_TRUE(state.lastCard.isEmpty());
+}
+
+TEST_F(CardRuns, DelayWaitsPastMidnight) {
+    const QDateTime start = clock.time;
+    EXPECT_EQ(Outcome::Ran, run("DELAY~3\nCSPSEND~x\n"));
+    EXPECT_GT(start.msecsTo(clock.time), 3000);
+    EXPECT_LT(start.msecsTo(clock.time), 3300);
+    EXPECT_EQ(1, graphics.sent.size());
+}
+
+TEST_F(CardRuns, EndAtOnceWhenTheProgramCloses) {
+    const auto close = [this] { state.closing = true; };
+    clock.whileWaiting = graphics.whileSending = operatorDesk.whileAsked = close;
+    for (const char* waiting : {"DELAY~1000", "CSPSEND~PLAY", "BREAK~?"}) {
+        state.closing = false;
+        EXPECT_EQ(Outcome::Closed, run(QByteArray(waiting) + "\nSETVAR~@AFTER;1\n")) << waiting;
+    }
+    EXPECT_EQ(nullptr, state.variables.find(u"@AFTER"));
+    EXPECT_TRUE(form.at(u"lblONAIR"_s).text().isEmpty());
+    EXPECT_EQ(Outcome::Closed, run("SETVAR~@AFTER;1\n"));
+}
+
+TEST_F(CardRuns, InsideOneAnotherEndWhenTooDeep) {
+    graphics.whileSending = [this] { engine.SHOW_TVCARD(u"card.qrd"_s, false, false); };
+    run("CSPSEND~x\n");
+    EXPECT_EQ(CardEngine::kDeepestRun, graphics.sent.size());
+    ASSERT_EQ(1, operatorDesk.shown.size());
+    EXPECT_TRUE(operatorDesk.shown[0].startsWith(u"Error 28"));
+}
+
+TEST_F(CardRuns, RubbishIsNoTrouble) {
+    QByteArray rubbish;
+    for (int i = 0; i < 200'000; ++i) rubbish += static_cast<char>((i * 7919) % 251 - 120);
+    EXPECT_NE(Outcome::NoScript, run(rubbish));
+    EXPECT_EQ(Outcome::Ran, run("CSPSEND~" + QByteArray(5'000'000, 'x')));
+    EXPECT_EQ(5'000'001, graphics.sent.last().size());
+    EXPECT_EQ(Outcome::Ran, run(""));
+}
+
+TEST(CommandTable, HoldsEachWordOnceInUpperCase) {
+    QStringList words;
+    for (const Command* command : allCommands()) {
+        words += command->word.toString();
+        EXPECT_EQ(command, findCommand(words.last()));
+        EXPECT_EQ(words.last().toUpper(), words.last());
+    }
+    EXPECT_EQ(0, words.removeDuplicates());
+    EXPECT_EQ(nullptr, findCommand(u"#"_s));
+}
+
+}  // namespace
+}  // namespace zelvor

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <functional>
+
+#include "base/error_trap.h"
+#include "engine/card_engine.h"
+#include "engine/packs.h"
+
+namespace zelvor::test {
+
+// An operator who answers from lists and remembers what was shown.
+class FakeOperator : public Operator {
+ public:
+    void message(const QString& title, const QString& text, Severity) override { shown += title + u'|' + text; }
+    bool yesNo(const QString& title, const QString& text) override {
+        shown += title + u'|' + text;
+        if (whileAsked) whileAsked();
+        return answerYes;
+    }
+    std::optional<QString> input(const QString& title, const QString& prompt, const QString&) override {
+        shown += title + u'|' + prompt;
+        if (answers.isEmpty()) throw RunTimeError(ErrorNumber::InputPastEndOfFile);
+        return answers.takeFirst();
+    }
+
+    QStringList shown;
+    QStringList answers;
+    bool answerYes = true;
+    std::function<void()> whileAsked;
+};
+
+class FakeGraphics : public Graphics {
+ public:
+    void sendLine(LinkId link, const QString& command) override {
+        sent += (link == LinkId::Main ? u'm' : u'r') + command;
+        if (whileSending) whileSending();
+    }
+    int state(LinkId) const override { return kConnected; }
+    bool logging() const override { return true; }
+    void writeLog(const QString& line) override { log += line; }
+    void appendHistory(const QString& text) override { history += text; }
+    void clearHistory() override { history.clear(); }
+    void showLastTemplate(const QString& xml) override { lastTemplate = xml; }
+
+    QStringList sent;
+    QStringList log;
+    QStringList history;
+    QString lastTemplate;
+    std::function<void()> whileSending;
+};
+
+// A clock that stands still until it is waited on; every wait takes 100 ms of its time and none of ours.
+class FakeClock : public Clock {
+ public:
+    QDateTime now() const override { return time; }
+    bool turnEvents(int count) override {
+        turns += count;
+        return true;
+    }
+    bool waitBriefly() override {
+        time = time.addMSecs(100);
+        if (whileWaiting) whileWaiting();
+        return true;
+    }
+
+    QDateTime time{QDate(2026, 11, 21), QTime(23, 59, 58)};
+    int turns = 0;
+    std::function<void()> whileWaiting;
+};
+
+class FakeDatabase : public Database {
+ public:
+    int RUN_QUERY(const QString& sql) override { return answer(sql); }
+    int RUN_QUERY2(const QString& sql) override { return answer(sql); }
+    void execute(const QString& sql) override { statements += sql; }
+    NamedRows readGreek(const QString& sql) override {
+        statements += sql;
+        return {};
+    }
+
+    QStringList statements;
+    int count = 0;
+
+ private:
+    int answer(const QString& sql) {
+        statements += sql;
+        return count;
+    }
+};
+
+class FakeDesktop : public Desktop {
+ public:
+    void open(const QString& target) override { opened += target; }
+    void loadForm(const QString& name) override { opened += name; }
+
+    QStringList opened;
+};
+
+class FakeAskDialog : public AskDialog {
+ public:
+    void show() override {}
+};
+
+// An engine over a temporary application folder with one pack, "TT", and everything around it faked.
+class EngineBench {
+ public:
+    EngineBench() {
+        trap.setReporter([this](const ErrorPlace&, const QString& message) { operatorDesk.shown += message; });
+        QDir(folderOnDisk.path()).mkpath(QStringLiteral("MODULES/QRD_TT"));
+        state.variables.SetVar(u"@LANGUAGE", QStringLiteral("TT"));
+    }
+
+    // name: relative to MODULES.
+    void write(const QString& name, const QByteArray& bytes) {
+        QFile file(folderOnDisk.filePath(QStringLiteral("MODULES/") + name));
+        if (file.open(QIODevice::WriteOnly)) file.write(bytes);
+    }
+    CardEngine::Outcome run(const QByteArray& script) {
+        write(QStringLiteral("QRD_TT/card.csp"), script);
+        return engine.SHOW_TVCARD(QStringLiteral("card.qrd"), false, false);
+    }
+
+    QTemporaryDir folderOnDisk;
+    AppFolder folder{folderOnDisk.path()};
+    TextFiles files;
+    ErrorTrap trap{folderOnDisk.filePath(QStringLiteral("errors.log"))};
+    ShowState state;
+    FormModel form;
+    FakeOperator operatorDesk;
+    FakeGraphics graphics;
+    FakeClock clock;
+    FakeDatabase database;
+    FakeDesktop desktop;
+    FakeAskDialog askDialog;
+    Packs packs{state, form, folder, files, trap, operatorDesk};
+    CardEngine engine{state, form, folder,
+                      files, trap, Ports{operatorDesk, askDialog, graphics, database, desktop, clock}};
+};
+
+}  // namespace zelvor::test
