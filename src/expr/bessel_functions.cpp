@@ -1,0 +1,50 @@
+#include "expr/bessel_functions.h"
+
+#include <boost/math/special_functions/airy.hpp>
+#include <boost/math/special_functions/bessel.hpp>
+
+#include "expr/guarded.h"
+
+namespace zelvor::expr {
+
+double besselI(double x, double order) {
+    return guarded([=] { return boost::math::cyl_bessel_i(order, x); });
+}
+
+double besselJ(double x, double order) {
+    return guarded([=] { return boost::math::cyl_bessel_j(order, x); });
+}
+
+double besselK(double x, double order) {
+    return guarded([=] { return boost::math::cyl_bessel_k(order, x); });
+}
+
+double besselY(double x, double order) {
+    return guarded([=] { return boost::math::cyl_neumann(order, x); });
+}
+
+double besselI0(double x) {
+    return besselI(x, 0);
+}
+
+double besselJ0(double x) {
+    return besselJ(x, 0);
+}
+
+double besselK0(double x) {
+    return besselK(x, 0);
+}
+
+double besselY0(double x) {
+    return besselY(x, 0);
+}
+
+double airyA(double x) {
+    return guarded([=] { return boost::math::airy_ai(x); });
+}
+
+double airyB(double x) {
+    return guarded([=] { return boost::math::airy_bi(x); });
+}
+
+}  // namespace zelvor::expr

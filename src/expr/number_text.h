@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace zelvor::expr {
+
+inline constexpr int kSignificantDigits = 15;
+
+// A number as text: at most `digits` significant digits (1 to 17), "." as decimal sign, exponents as "1E+15", "1E-07".
+std::string numberText(double number, int digits = kSignificantDigits);
+
+}  // namespace zelvor::expr
