@@ -1,7 +1,7 @@
 #include "base/number.h"
 
-#include <QByteArrayView>
 #include <QVarLengthArray>
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -81,8 +81,10 @@ double decimalNumber(Ascii& ascii, const char*& end) {
     const auto [parsed, error] = std::from_chars(start, mantissaEnd, number);
     end = mantissaEnd;
     if (error == std::errc::result_out_of_range) {
-        const double limit = QByteArrayView(start, mantissaEnd - start).toDouble();
-        if (limit == 0) return 0;
+        const char* exponent = std::find(first, mantissaEnd, 'e');
+        const bool tooSmall =
+            exponent != mantissaEnd ? exponent[1] == '-' : std::find(first, mantissaEnd, '.') != mantissaEnd;
+        if (tooSmall) return 0;
         throw RunTimeError(ErrorNumber::Overflow);
     }
     return number;

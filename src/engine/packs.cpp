@@ -74,7 +74,11 @@ bool Packs::LOAD_CARDS() {
         const QString path = folder_.resolve(folder_.packFile(state_.language(), u"CARDS.TXT"));
         const QStringList lines = files_.readLines(path);
         state_.cards = {};
-        readCardTable(lines, state_.cards, place.line);
+        try {
+            readCardTable(lines, state_.cards, place.line);
+        } catch (const RunTimeError& error) {
+            throw RunTimeError::withText(error.code(), error.text() + u": CARDS.TXT"_s);
+        }
     });
     showCurrentSet(state_, form_);
     return read;
