@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "base/value.h"
@@ -12,6 +13,9 @@ class QueryResult {
  public:
     QueryResult() = default;
     QueryResult(int rows, int fields) : rows_(rows), fields_(fields), cells_(static_cast<size_t>(rows) * fields) {}
+    // cells: rows times fields of them, row after row.
+    QueryResult(int rows, int fields, std::vector<Value> cells)
+        : rows_(rows), fields_(fields), cells_(std::move(cells)) {}
 
     [[nodiscard]] int rowCount() const { return rows_; }
     [[nodiscard]] int fieldCount() const { return fields_; }

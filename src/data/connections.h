@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "base/app_folder.h"
+#include "base/error_trap.h"
+#include "base/text_file.h"
+#include "data/session.h"
+#include "engine/ports.h"
+#include "engine/show_state.h"
+
+namespace zelvor {
+
+// The two database connections of the current pack's CONNECTIONS.TXT, and the queries on them. Nothing here throws
+// but execute() and readGreek().
+class Connections : public Database {
+ public:
+    using State = odbc::Connection::State;
+
+    struct Choice {
+        // What is left of the program's command line: a number that it begins with is proposed to the operator.
+        QString commandLine;
+        // A number chosen beforehand: nobody is asked, and the connection is opened by the first query.
+        std::optional<qint16> number;
+    };
+
+    // endProgram: called when no connection has the chosen number, after the operator was told.
+    Connections(ShowState& state, Operator& operatorDesk, const AppFolder& folder, const TextFiles& files,
+                ErrorTrap& trap, Choice choice, std::function<void()> endProgram);
+
+    // The connection string to use, empty when there is none. Throws RunTimeError when CONNECTIONS.TXT cannot be read.
+    QString GET_CONNECTION_STRING();
+    // Asks the operator, ConnID being proposed, and leaves the number chosen in ConnID. Throws as above.
+    QString FIND_CONNECTION(qint16& ConnID);
+    // Chooses and opens both connections. One that did not open is tried again before its next statement.
+    void CONNECTDATABASE();
+
+    int RUN_QUERY(const QString& sql) override;
+    int RUN_QUERY2(const QString& sql) override;
+    void execute(const QString& sql) override;
+    NamedRows readGreek(const QString& sql) override;
+
+    // Failed when either connection could not be opened at the last try.
+    [[nodiscard]] State connectionState() const;
+    // The number chosen last, 0 before.
+    [[nodiscard]] qint16 connectionNumber() const { return number_; }
+
+ private:
+    // Asks until the answer is a number; nullopt when the program is closing.
+    std::optional<qint16> askNumber(const QString& menu, qint16 proposed);
+    void setConnectionStrings(const QString& connectionString);
+    // Runs a statement, the connection being chosen first where that was left to the first query.
+    odbc::Rows run(Session& session, const QString& sql);
+    int runIntoResult(Session& session, const QString& sql, const QString& procedure, const QString& errorTitle);
+
+    ShowState& state_;
+    Operator& operator_;
+    const AppFolder& folder_;
+    const TextFiles& files_;
+    ErrorTrap& trap_;
+    Choice choice_;
+    std::function<void()> endProgram_;
+    Session utf8_;
+    Session greek_;
+    qint16 number_ = 0;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,113 @@
+#include "data/odbc_connection.h"
+
+#include <sched.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <array>
+
+#include "base/run_time_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::odbc {
+
+namespace {
+
+// The calling thread's own working folder, the other threads keep theirs: a driver takes relative paths from it.
+void enterFolder(const QString& folder) {
+    if (unshare(CLONE_FS) != 0 || chdir(QFile::encodeName(folder).constData()) != 0) {
+        throw RunTimeError(ErrorNumber::PathNotFound, folder);
+    }
+}
+
+}  // namespace
+
+QString odbcPart(const QString& connectionString) {
+    const qsizetype end = connectionString.indexOf(u';');
+    const QString first = connectionString.left(end < 0 ? connectionString.size() : end);
+    if (first.section(u'=', 0, 0).trimmed().compare(u"Provider", Qt::CaseInsensitive) != 0) return connectionString;
+    const QString provider = first.section(u'=', 1).trimmed();
+    if (provider.section(u'.', 0, 0).compare(u"MSDASQL", Qt::CaseInsensitive) != 0) {
+        throw RunTimeError::withText(
+            ErrorNumber::DatabaseError,
+            u"The connection string names the OLE DB provider \"%1\". Use an ODBC driver: Driver=...;"_s.arg(provider));
+    }
+    return end < 0 ? QString() : connectionString.mid(end + 1);
+}
+
+Connection::Connection(QString connectionString, QString folder)
+    : connectionString_(std::move(connectionString)), folder_(std::move(folder)) {}
+
+void Connection::open() {
+    if (state_ == State::Open && !isDead()) return;
+    state_ = State::Failed;
+    lost_ = false;
+    characterSet_ = CharacterSet();
+    const QByteArray text = odbcPart(connectionString_).toUtf8();
+    enterFolder(folder_);
+
+    handle_ = Handle();
+    environment_ = Handle(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
+    SQLSetEnvAttr(environment_.raw(), SQL_ATTR_ODBC_VERSION, attributeValue(SQL_OV_ODBC3), 0);
+    handle_ = Handle(SQL_HANDLE_DBC, environment_.raw());
+    SQLSetConnectAttr(handle_.raw(), SQL_ATTR_LOGIN_TIMEOUT, attributeValue(kSecondsAllowed), 0);
+    auto* bytes = reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.constData()));
+    if (!SQL_SUCCEEDED(SQLDriverConnect(handle_.raw(), nullptr, bytes, static_cast<SQLSMALLINT>(text.size()), nullptr,
+                                        0, nullptr, SQL_DRIVER_NOPROMPT))) {
+        fail(handle_);
+    }
+    askCharacterSet();
+    state_ = State::Open;
+}
+
+Rows Connection::run(const QString& sql) {
+    if (sql.trimmed().isEmpty()) {
+        throw RunTimeError::withText(ErrorNumber::DatabaseError, u"The statement is empty."_s);
+    }
+    open();
+    Statement statement(handle_.raw(), kSecondsAllowed);
+    Rows rows;
+    if (!statement.execute(characterSet_.encode(sql))) fail(statement.handle());
+    if (statement.columnCount() > 0 && !statement.readRows(characterSet_, rows)) fail(statement.handle());
+    return rows;
+}
+
+bool Connection::isDead() {
+    SQLUINTEGER dead = SQL_CD_FALSE;
+    const SQLRETURN result = SQLGetConnectAttr(handle_.raw(), SQL_ATTR_CONNECTION_DEAD, &dead, sizeof dead, nullptr);
+    return lost_ || (SQL_SUCCEEDED(result) && dead == SQL_CD_TRUE);
+}
+
+void Connection::askCharacterSet() {
+    std::array<char, 128> product{};
+    SQLGetInfo(handle_.raw(), SQL_DBMS_NAME, product.data(), product.size(), nullptr);
+    const QByteArray name = QByteArray(product.data()).toLower();
+    QByteArray question;
+    if (name.contains("maria") || name.contains("mysql")) {
+        question = "select @@character_set_results, @@character_set_client";
+    } else if (name.contains("postgres")) {
+        question = "show client_encoding";
+    } else if (name.contains("sqlite")) {
+        // It speaks UTF-8; what it is told is not to wait longer than this for another program's lock.
+        question = "pragma busy_timeout=" + QByteArray::number(kSecondsAllowed * 1000);
+    } else {
+        return;
+    }
+    Statement statement(handle_.raw(), kSecondsAllowed);
+    Rows rows;
+    if (!statement.execute(question) || !statement.readRows(characterSet_, rows)) fail(statement.handle());
+    if (rows.cells.empty()) return;
+    characterSet_ =
+        CharacterSet(rows.cells.front().text().toLatin1(), rows.cells[rows.columns.size() - 1].text().toLatin1());
+}
+
+void Connection::fail(const Handle& handle) {
+    const Diagnostics said = diagnostics(handle);
+    lost_ = said.connectionLost;
+    const QString text = characterSet_.decodeMessage(said.text);
+    throw RunTimeError::withText(ErrorNumber::DatabaseError,
+                                 text.isEmpty() ? u"The database driver failed without a word."_s : text);
+}
+
+}  // namespace zelvor::odbc

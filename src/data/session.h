@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "data/odbc_connection.h"
+
+namespace zelvor {
+
+// A connection that never keeps its caller waiting for more than a few seconds: each call runs on a thread of its
+// own, and when the time is up that thread is left to itself, together with the connection it hangs on.
+class Session {
+ public:
+    // folder: what a relative path in the connection string starts from.
+    explicit Session(QString folder) : folder_(std::move(folder)) {}
+
+    // Takes effect with the next call; an open connection is dropped.
+    void setConnectionString(const QString& connectionString);
+    [[nodiscard]] bool hasConnectionString() const { return connection_ != nullptr; }
+
+    // Opens the connection unless it is open. Both throw RunTimeError, also when the time is up or no connection
+    // string was set.
+    void open();
+    // Runs a statement on the connection, opened anew first when it was lost.
+    odbc::Rows run(const QString& sql);
+
+    [[nodiscard]] odbc::Connection::State state() const;
+
+ private:
+    // Runs work(connection) within the time allowed.
+    template <class Work>
+    auto inTime(Work work);
+
+    QString folder_;
+    QString connectionString_;
+    std::shared_ptr<odbc::Connection> connection_;
+    bool timedOut_ = false;
+};
+
+}  // namespace zelvor

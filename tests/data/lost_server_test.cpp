@@ -1,0 +1,62 @@
+#include <QElapsedTimer>
+
+#include "mariadb_server.h"
+#include "show_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+namespace {
+
+class LostServer : public testing::Test {
+ protected:
+    void SetUp() override {
+        show.writeConnections("1==test==" + server.connectionString());
+        show.make();
+        show.connections->execute(u"create table t (a integer)"_s);
+        ASSERT_EQ(queries(), 2);
+    }
+    // How many of the two connections answer.
+    int queries() { return show.connections->RUN_QUERY(u"select 1"_s) + show.connections->RUN_QUERY2(u"select 1"_s); }
+
+    MariaDbServer server;
+    Show show;
+};
+
+TEST_F(LostServer, isFoundAgainAsSoonAsItIsBack) {
+    server.kill();
+    EXPECT_EQ(show.connections->RUN_QUERY(u"insert into t values (1)"_s), 0);
+    EXPECT_EQ(show.operatorDesk.shown.size(), 1);
+    EXPECT_EQ(show.connections->connectionState(), Connections::State::Failed);
+    EXPECT_EQ(queries(), 0);
+    EXPECT_EQ(show.operatorDesk.shown.size(), 3);
+
+    server.start();
+    EXPECT_EQ(queries(), 2);
+    EXPECT_EQ(show.connections->connectionState(), Connections::State::Open);
+    show.connections->RUN_QUERY(u"insert into t values (2)"_s);
+    show.connections->RUN_QUERY(u"select a from t"_s);
+    EXPECT_EQ(show.recordCount(), u"1"_s);  // the insert that failed was not repeated
+    EXPECT_EQ(show.cell(1, 0), u"2"_s);
+
+    // Gone and back between two statements: nobody notices.
+    server.kill();
+    server.start();
+    EXPECT_EQ(queries(), 2);
+    EXPECT_EQ(show.operatorDesk.shown.size(), 3);
+}
+
+TEST_F(LostServer, keepsNobodyWaitingWhenItSaysNothing) {
+    server.freeze(true);
+    QElapsedTimer waited;
+    waited.start();
+    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 0);
+    EXPECT_LT(waited.elapsed(), 8000);
+    server.freeze(false);
+    ASSERT_EQ(show.operatorDesk.shown.size(), 1);
+    EXPECT_TRUE(show.operatorDesk.shown[0].contains(u"within 5 seconds"_s)) << show.operatorDesk.shown[0].toStdString();
+    EXPECT_EQ(queries(), 2);
+}
+
+}  // namespace
+}  // namespace zelvor::test

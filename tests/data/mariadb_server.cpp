@@ -1,0 +1,99 @@
+#include "mariadb_server.h"
+
+#include <pwd.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTcpServer>
+#include <QThread>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+
+namespace {
+
+constexpr int kPatience = 60'000;  // milliseconds; on a busy machine too
+
+QString program(const QString& name) {
+    const QString found = QStandardPaths::findExecutable(name);
+    return found.isEmpty() ? u"/usr/sbin/"_s + name : found;
+}
+
+QString userName() {
+    const passwd* entry = getpwuid(getuid());
+    return entry == nullptr ? QString::number(getuid()) : QString::fromLocal8Bit(entry->pw_name);
+}
+
+bool run(const QString& name, const QStringList& arguments) {
+    QProcess process;
+    process.start(program(name), arguments);
+    return process.waitForFinished(kPatience) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
+}
+
+quint16 freePort() {
+    QTcpServer probe;
+    probe.listen(QHostAddress::LocalHost, 0);
+    return probe.serverPort();
+}
+
+}  // namespace
+
+MariaDbServer::MariaDbServer() : port_(freePort()) {
+    if (!run(u"mariadb-install-db"_s,
+             {u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
+              u"--auth-root-authentication-method=normal"_s, u"--skip-test-db"_s})) {
+        throw std::runtime_error("mariadb-install-db failed: is mariadb-server installed?");
+    }
+    start();
+    if (!client(u"create database `show` character set utf8mb4; create user 'show'@'127.0.0.1' identified by 'time';"
+                " grant all on `show`.* to 'show'@'127.0.0.1'"_s)) {
+        throw std::runtime_error("the database could not be made");
+    }
+}
+
+MariaDbServer::~MariaDbServer() {
+    kill();
+}
+
+void MariaDbServer::start() {
+    process_.setProcessChannelMode(QProcess::MergedChannels);
+    process_.setStandardOutputFile(inFolder(u"server.log"_s));
+    process_.start(program(u"mariadbd"_s),
+                   {u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
+                    u"--socket="_s + inFolder(u"s"_s), u"--pid-file="_s + inFolder(u"pid"_s),
+                    u"--bind-address=127.0.0.1"_s, u"--port=%1"_s.arg(port_), u"--skip-name-resolve"_s});
+    QDeadlineTimer patience(kPatience);
+    while (!client(u"select 1"_s)) {
+        if (process_.state() == QProcess::NotRunning || patience.hasExpired()) {
+            throw std::runtime_error("the MariaDB server did not start");
+        }
+        QThread::msleep(50);
+    }
+}
+
+void MariaDbServer::kill() {
+    if (process_.state() == QProcess::NotRunning) return;
+    process_.kill();
+    process_.waitForFinished(kPatience);
+}
+
+void MariaDbServer::freeze(bool frozen) {
+    ::kill(static_cast<pid_t>(process_.processId()), frozen ? SIGSTOP : SIGCONT);
+}
+
+QByteArray MariaDbServer::connectionString() const {
+    return "Driver={MariaDB Unicode};Server=127.0.0.1;Port=" + QByteArray::number(port_) +
+           ";Database=show;User=show;Password=time;INITSTMT=set names 'utf8'";
+}
+
+bool MariaDbServer::client(const QString& statement) const {
+    return run(u"mariadb"_s, {u"--no-defaults"_s, u"-uroot"_s, u"-S"_s, inFolder(u"s"_s), u"-e"_s, statement});
+}
+
+}  // namespace zelvor::test

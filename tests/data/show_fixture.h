@@ -1,0 +1,54 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "data/connections.h"
+#include "scripted_operator.h"
+
+namespace zelvor::test {
+
+// A show with one pack of its own in a temporary application folder, and the Connections under test.
+struct Show {
+    QTemporaryDir directory;
+    AppFolder folder{directory.path()};
+    TextFiles files;
+    ErrorTrap trap{directory.filePath(QStringLiteral("error.log"))};
+    ShowState state;
+    ScriptedOperator operatorDesk{state.closing};
+    int ended = 0;
+    std::unique_ptr<Connections> connections;
+
+    Show() {
+        state.variables.SetVar(u"@LANGUAGE", QStringLiteral("EN"));
+        QDir(directory.path()).mkpath(QStringLiteral("MODULES/QRD_EN"));
+        trap.setReporter([this](const ErrorPlace&, const QString& text) { operatorDesk.shown += text; });
+    }
+
+    void writeConnections(const QByteArray& text) {
+        QFile file(directory.filePath(QStringLiteral("MODULES/QRD_EN/CONNECTIONS.TXT")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    // Connection 1 is chosen beforehand when no command line is given.
+    void make(std::optional<QString> commandLine = std::nullopt) {
+        Connections::Choice choice;
+        if (commandLine) {
+            choice.commandLine = *commandLine;
+        } else {
+            choice.number = 1;
+        }
+        connections =
+            std::make_unique<Connections>(state, operatorDesk, folder, files, trap, choice, [this] { ++ended; });
+    }
+    QString cell(int row, int field) const {
+        const Value* found = state.QUERY_RESULT.find(row, field);
+        return found == nullptr ? QStringLiteral("(outside)") : found->text();
+    }
+    QString recordCount() { return state.variables.text(u"@RECORDCOUNT"); }
+};
+
+}  // namespace zelvor::test
