@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include "studio.h"
+
+using namespace Qt::StringLiterals;
+using namespace zelvor;
+using namespace zelvor::test;
+
+TEST(GraphicsLinks, PutsEachLineOnTheWireAsOneAndRecordsIt) {
+    struct Case {
+        QString command;
+        QByteArray bytes;
+        int turns;
+    };
+    const Case cases[] = {
+        {u"CG 1-1 play"_s, "CG 1-1 play\r\n", 0},
+        {u"CG 1-1 ADD 1 \"DISPLAY\""_s, "CG 1-1 ADD 1 \"DISPLAY\"\r\n", 50000},
+        {u"a\r\nb\n\n\rc\r"_s, "a b c \r\n", 0},
+        {u"Άρης 😀"_s, "\xCE\x86\xCF\x81\xCE\xB7\xCF\x82 \xF0\x9F\x98\x80\r\n", 0},
+        {QString(), "\r\n", 0},
+    };
+    for (const LinkId id : {LinkId::Main, LinkId::Remote}) {
+        Studio studio;
+        Server server;
+        studio.connectTo(id, server);
+        QStringList sent;
+        QObject::connect(&studio.links, &GraphicsLinks::lineSent, &studio.links,
+                         [&](LinkId, const QString& line) { sent += line; });
+        for (const Case& c : cases) {
+            server.bytes.clear();
+            studio.clock.turns = 0;
+            studio.links.sendLine(id, c.command);
+            EXPECT_TRUE(waitUntil([&] { return server.bytes.size() >= c.bytes.size(); }));
+            EXPECT_EQ(server.bytes, c.bytes);
+            EXPECT_EQ(studio.clock.turns, c.turns) << c.command.toStdString();
+        }
+        EXPECT_EQ(sent.value(2), u"a b c "_s);
+        EXPECT_EQ(studio.links.history().rowCount(), id == LinkId::Main ? 5 : 0);
+        EXPECT_EQ(studio.links.history().text(0), id == LinkId::Main ? u"20:31:07 > CG 1-1 play"_s : QString());
+    }
+}
+
+TEST(GraphicsLinks, LooksAgainAfterThePauseBeforePlay) {
+    Studio studio;
+    Server server;
+    studio.at("chkLOGFILE").setChecked(true);
+    studio.connectTo(LinkId::Main, server);
+    studio.clock.duringTurns = [] { return false; };
+    studio.links.sendLine(LinkId::Main, u"PLAY 1 while closing"_s);
+    EXPECT_FALSE(studio.logFile().contains("PLAY"));
+    studio.clock.duringTurns = [&] {
+        studio.links.link(LinkId::Main).close();
+        return true;
+    };
+    studio.links.sendLine(LinkId::Main, u"PLAY 1 without a link"_s);
+    EXPECT_TRUE(studio.logFile().endsWith("\r\nConnection Error. STATE:0\r\n"));
+    EXPECT_TRUE(waitUntil([&] { return server.peer->state() == QTcpSocket::UnconnectedState; }));
+    EXPECT_EQ(server.bytes, "");
+    EXPECT_EQ(studio.links.history().rowCount(), 0);
+}
+
+TEST(GraphicsLinks, SendsInStateOpen) {
+    Studio studio;
+    auto* socket = studio.links.link(LinkId::Main).findChild<QTcpSocket*>();
+    ASSERT_TRUE(socket->bind(QHostAddress::LocalHost, 0));
+    EXPECT_EQ(studio.links.state(LinkId::Main), Graphics::kOpen);
+    studio.links.sendLine(LinkId::Main, u"CLEAR 1"_s);
+    EXPECT_EQ(studio.links.history().text(0), u"20:31:07 > CLEAR 1"_s);
+}
+
+TEST(GraphicsLinks, LogsEverythingInItsOwnWords) {
+    Studio studio;
+    Server server;
+    studio.links.writeLog(u"before"_s);
+    studio.at("chkLOGFILE").setChecked(true);
+    studio.links.sendLine(LinkId::Main, u"A"_s);
+    studio.links.sendLine(LinkId::Remote, u"PLAY"_s);
+    for (const LinkId id : {LinkId::Main, LinkId::Remote}) studio.connectTo(id, server);
+    studio.links.sendLine(LinkId::Main, u"B"_s);
+    studio.links.sendLine(LinkId::Remote, u"Γ"_s);
+    studio.links.writeLog(u"-CARDLOG-:two\r\nlines"_s);
+    const QByteArray now = generalDateText(studio.clock.now(), QLocale::system()).toUtf8();
+    const QByteArray opened = QByteArray(36, '-') + "\r\nLOG start at " + now + "\r\n";
+    const QByteArray lines =
+        "Connection Error. STATE:0\r\nREMOTE Connection Error. STATE:0\r\nB\r\nREMOTE > Γ\r\n-CARDLOG-:two lines\r\n";
+    EXPECT_EQ(studio.logFile(), opened + lines) << "each line is on the disk at once";
+    EXPECT_EQ(studio.clock.turns, 0) << "no pause without a link";
+
+    studio.at("chkLOGFILE").setChecked(false);
+    studio.links.writeLog(u"after"_s);
+    studio.at("chkLOGFILE").setChecked(true);
+    const QByteArray closed = "LOG stop at " + now + "\r\n" + QByteArray(36, '=') + "\r\n";
+    EXPECT_EQ(studio.logFile(), opened + lines + closed + opened) << "the log grows";
+
+    EXPECT_EQ(generalDateText(studio.clock.now(), QLocale(u"en_US"_s)), u"11/21/26 8:31:07 PM"_s);
+    EXPECT_EQ(generalDateText(studio.clock.now(), QLocale(u"es_ES"_s)), u"21/11/26 20:31:07"_s);
+}
+
+TEST(GraphicsLinks, TellsOfALogThatCannotBeOpened) {
+    Studio studio(false);
+    studio.at("chkLOGFILE").setChecked(true);
+    ASSERT_EQ(studio.told.size(), 1);
+    EXPECT_TRUE(studio.told.first().startsWith(u"Error 76\r\nPath not found"_s)) << studio.told.first().toStdString();
+    studio.links.sendLine(LinkId::Main, u"A"_s);
+    studio.at("chkLOGFILE").setChecked(false);
+    EXPECT_EQ(studio.told.size(), 1);
+}
+
+TEST(GraphicsLinks, ShowsResponsesOfTheMainServerAlone) {
+    Studio studio;
+    Server main;
+    Server remote;
+    studio.connectTo(LinkId::Main, main);
+    studio.connectTo(LinkId::Remote, remote);
+    LineList& responses = studio.links.responses();
+    int arrived = 0;
+    QObject::connect(&responses, &LineList::rowsInserted, &responses, [&] { ++arrived; });
+    for (int i = 1; i <= 10000; ++i) {
+        remote.peer->write("202 REMOTE OK\r\n");
+        main.peer->write(i == 9999 ? "404 CG FAILED\r\n" : "201 CG OK\r\n");
+        ASSERT_TRUE(waitUntil([&] { return arrived == i; }));
+    }
+    EXPECT_EQ(responses.rowCount(), 500);
+    EXPECT_EQ(responses.text(0), u"20:31:07 201 CG OK"_s);
+    EXPECT_EQ(responses.text(1), u"20:31:07 404 CG FAILED"_s);
+    EXPECT_EQ(studio.links.history().text(499), u"20:31:07 < 201 CG OK"_s);
+    EXPECT_TRUE(responses.data(responses.index(1), LineList::kAlarmRole).toBool());
+    EXPECT_FALSE(responses.data(responses.index(0), LineList::kAlarmRole).toBool());
+}
+
+TEST(CasparLink, TakesAFloodWithoutLineEnds) {
+    Studio studio;
+    Server server;
+    studio.connectTo(LinkId::Main, server);
+    qsizetype total = 0;
+    QObject::connect(&studio.links.link(LinkId::Main), &CasparLink::received, &studio.links, [&](const QString& text) {
+        total += text.size();
+        EXPECT_LE(text.size(), CasparLink::kLargestPiece);
+    });
+    constexpr qsizetype kFlood = 10 * 1024 * 1024;
+    server.peer->write(QByteArray(kFlood, 'x'));
+    EXPECT_TRUE(waitUntil([&] { return total == kFlood; }));
+}
+
+TEST(CasparLink, GivesUpAServerThatNeverReads) {
+    Studio studio;
+    Server server(false);
+    studio.at("chkLOGFILE").setChecked(true);
+    studio.connectTo(LinkId::Main, server);
+    const QString line(1024 * 1024, u'x');
+    int lines = 0;
+    for (; studio.links.state(LinkId::Main) == Graphics::kConnected && lines < 100; ++lines) {
+        studio.links.sendLine(LinkId::Main, line);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GE(lines, 17);
+    EXPECT_LT(lines, 60) << "16 MiB, and what the system's own buffers take";
+    EXPECT_EQ(studio.links.link(LinkId::Main).unsentBytes(), 0);
+    EXPECT_TRUE(studio.logFile().endsWith("\r\nConnection Error. STATE:9\r\n"));
+}
+
+TEST(CasparLink, HasANumberForWhatGoesWrong) {
+    Server server;
+    QTcpServer gone;
+    gone.listen(QHostAddress::LocalHost, 0);
+    const QString deadPort = QString::number(gone.serverPort());
+    gone.close();
+    const QString local = u"127.0.0.1"_s;
+    const std::pair<QString, QString> targets[] = {
+        {local, deadPort}, {u""_s, u"5250"_s}, {u"no such host"_s, u"5250"_s}, {local, u""_s}, {local, u"65536"_s},
+        {local, u"0"_s},   {local, u"abc"_s}};
+    for (const auto& [host, port] : targets) {
+        CasparLink link;
+        link.connectTo(host, port);
+        EXPECT_TRUE(waitUntil([&] { return link.state() == LinkState::Error; }))
+            << host.toStdString() << ':' << port.toStdString();
+        EXPECT_FALSE(link.errorText().isEmpty());
+        link.close();
+        EXPECT_EQ(link.state(), LinkState::Closed);
+    }
+
+    CasparLink link;
+    auto* socket = link.findChild<QTcpSocket*>();
+    QList<int> states;
+    QObject::connect(&link, &CasparLink::stateChanged, &link, [&](LinkState s) { states += static_cast<int>(s); });
+    link.connectTo(local, server.port());
+    EXPECT_TRUE(waitUntil([&] { return link.state() == LinkState::Connected && server.peer != nullptr; }));
+    EXPECT_EQ(socket->socketOption(QAbstractSocket::LowDelayOption), 1);
+    EXPECT_EQ(socket->socketOption(QAbstractSocket::KeepAliveOption), 1);
+    server.stop();
+    EXPECT_TRUE(waitUntil([&] { return socket->state() == QAbstractSocket::UnconnectedState; }));
+    EXPECT_EQ(states, (QList<int>{4, 6, 7, 8})) << "the close by the server keeps its number";
+}

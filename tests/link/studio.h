@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include "link/link_console.h"
+#include "support/fake_ports.h"
+
+namespace zelvor::test {
+
+// Handles events until the condition holds; false when it does not within 30 s.
+template <class Condition>
+bool waitUntil(Condition&& holds) {
+    const QDeadlineTimer deadline(30000);
+    QTimer alarm;
+    alarm.start(30000);
+    while (!holds() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return holds();
+}
+
+// Half past eight in the evening; the pause before "PLAY" is what the test makes of it.
+class StudioClock : public FakeClock {
+ public:
+    StudioClock() { time.setTime(QTime(20, 31, 7)); }
+    bool turnEvents(int count) override { return FakeClock::turnEvents(count) && duringTurns(); }
+
+    std::function<bool()> duringTurns = [] { return true; };
+};
+
+// A graphics server of the test's own: keeps what it is sent, unless told never to read.
+class Server : public QTcpServer {
+ public:
+    explicit Server(bool reads = true) {
+        connect(this, &QTcpServer::newConnection, this, [this, reads] {
+            peer = nextPendingConnection();
+            if (!reads) return peer->setReadBufferSize(1);
+            connect(peer, &QTcpSocket::readyRead, this, [this, from = peer] { bytes += from->readAll(); });
+        });
+        listen(QHostAddress::LocalHost, 0);
+    }
+    QString port() const { return QString::number(serverPort()); }
+    void stop() {
+        close();
+        peer->disconnectFromHost();
+    }
+
+    QByteArray bytes;
+    QTcpSocket* peer = nullptr;
+};
+
+// The links with all they work on, in an application folder of their own.
+struct Studio {
+    explicit Studio(bool withModules = true) {
+        if (withModules) QDir(folder.path()).mkdir(QStringLiteral("MODULES"));
+        trap.setReporter([this](const ErrorPlace&, const QString& message) { told += message; });
+    }
+    bool isIn(LinkId id, int state) const {
+        return waitUntil([&] { return links.state(id) == state; });
+    }
+    void connectTo(LinkId id, const Server& server) {
+        links.link(id).connectTo(QStringLiteral("127.0.0.1"), server.port());
+        waitUntil([&] { return links.state(id) == Graphics::kConnected && server.peer != nullptr; });
+    }
+    Control& at(const char* control, int index = -1) const { return form.at(QString::fromLatin1(control), index); }
+    QByteArray logFile() const {
+        QFile file(folder.filePath(QStringLiteral("MODULES/CASPAROUT.TXT")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+    }
+
+    QTemporaryDir folder;
+    FormModel form;
+    StudioClock clock;
+    QStringList told;
+    ErrorTrap trap{folder.filePath(QStringLiteral("errors.log"))};
+    GraphicsLinks links{form, clock, trap, AppFolder(folder.path()), TextFiles()};
+    LinkConsole console{form, links, clock, trap,
+                        [](QString text) { return text.replace(QStringLiteral("{@N}"), QStringLiteral("5")); }};
+};
+
+}  // namespace zelvor::test
