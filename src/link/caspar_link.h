@@ -30,9 +30,9 @@ class CasparLink : public QObject {
 
  public:
     // With more unsent bytes than this the link goes to state 9: the server has stopped reading.
-    static constexpr qint64 kLargestUnsent = 16 * 1024 * 1024;
+    static constexpr qint64 kLargestUnsent = qint64{16} * 1024 * 1024;
     // The most bytes taken as one received text.
-    static constexpr qint64 kLargestPiece = 64 * 1024;
+    static constexpr qint64 kLargestPiece = qint64{64} * 1024;
 
     explicit CasparLink(QObject* parent = nullptr);
     CasparLink(const CasparLink&) = delete;

@@ -15,8 +15,8 @@ constexpr int kRuleLength = 36;
 }  // namespace
 
 QString generalDateText(const QDateTime& when, const QLocale& locale) {
-    QString timeFormat = locale.timeFormat(QLocale::LongFormat);
-    timeFormat.remove(u't');
+    static const QRegularExpression kTimeZone(u"[(\\[]?\\bt+\\b[)\\]]?"_s);
+    const QString timeFormat = locale.timeFormat(QLocale::LongFormat).remove(kTimeZone);
     return locale.toString(when, locale.dateFormat(QLocale::ShortFormat) + u' ' + timeFormat.trimmed());
 }
 
@@ -29,7 +29,7 @@ QString oneLine(QString text) {
 void CasparLog::start(const QDateTime& now) {
     file_.close();
     file_.setFileName(folder_.resolve(folder_.modulesFile(u"CASPAROUT.TXT")));
-    if (!file_.open(QIODevice::Append)) throwOpenError(file_.fileName(), file_.error());
+    if (!file_.open(QIODevice::Append | QIODevice::Unbuffered)) throwOpenError(file_.fileName(), file_.error());
     write(QString(kRuleLength, u'-'));
     write(u"LOG start at "_s + generalDateText(now, QLocale::system()));
 }
@@ -42,8 +42,8 @@ void CasparLog::stop(const QDateTime& now) {
 
 void CasparLog::write(const QString& line) {
     if (!file_.isOpen()) return;
-    file_.write(files_.encode(oneLine(line) + u"\r\n"_s));
-    if (!file_.flush()) throw RunTimeError(ErrorNumber::DiskFull, file_.fileName());
+    const QByteArray bytes = files_.encode(oneLine(line) + u"\r\n"_s);
+    if (file_.write(bytes) != bytes.size()) throw RunTimeError(ErrorNumber::DiskFull, file_.fileName());
 }
 
 }  // namespace zelvor

@@ -80,8 +80,9 @@ void GraphicsLinks::stopLog() {
 
 void GraphicsLinks::addResponse(const QString& text) {
     const bool alarm = tellsOfError(text);
-    responses_.add(timeOfDay() + u' ' + text, alarm);
-    history_.add(timeOfDay() + u" < "_s + text, alarm);
+    const QString now = timeOfDay();
+    responses_.add(now + u' ' + text, alarm);
+    history_.add(now + u" < "_s + text, alarm);
 }
 
 QString GraphicsLinks::timeOfDay() const {
