@@ -36,6 +36,10 @@ bool AmcpServer::listen(const QHostAddress& address, quint16 port) {
     return listener_.listen(address, port);
 }
 
+QString AmcpServer::address() const {
+    return u"%1:%2"_s.arg(listener_.serverAddress().toString()).arg(listener_.serverPort());
+}
+
 void AmcpServer::accept() {
     while (QTcpSocket* socket = listener_.nextPendingConnection()) {
         if (clients_.size() >= kMaxClients) {
@@ -86,6 +90,7 @@ void AmcpServer::leave(QTcpSocket* socket) {
     }
     journal_.add(Journal::Kind::Note, found->second.name, u"disconnected"_s);
     clients_.erase(found);
+    lastLeft_ = QTime::currentTime();
     socket->deleteLater();
     Q_EMIT clientsChanged();
 }

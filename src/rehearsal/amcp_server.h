@@ -2,6 +2,7 @@
 
 #include <QHostAddress>
 #include <QTcpServer>
+#include <QTime>
 #include <memory>
 #include <unordered_map>
 
@@ -29,7 +30,12 @@ class AmcpServer : public QObject {
     quint16 port() const { return listener_.serverPort(); }
     QString errorString() const { return listener_.errorString(); }
 
+    // "address:port", as a console is told to connect.
+    QString address() const;
+
     int clientCount() const { return static_cast<int>(clients_.size()); }
+    // When a client last went; invalid while none has.
+    QTime lastLeft() const { return lastLeft_; }
 
  Q_SIGNALS:
     // A client came or went.
@@ -49,6 +55,7 @@ class AmcpServer : public QObject {
     AmcpInterpreter& interpreter_;
     Journal& journal_;
     std::unordered_map<QTcpSocket*, Client> clients_;
+    QTime lastLeft_;
     QTcpServer listener_;  // goes first, and its sockets with it
 };
 

@@ -20,6 +20,9 @@ void Stage::show(LayerAddress at, Source source, bool paused) {
     layer.foreground = std::move(source);
     layer.paused = paused;
     changed(at);
+    for (const TemplateCall& call : layer.foreground.history.calls()) {
+        Q_EMIT called(layer.foreground.id, call);
+    }
 }
 
 void Stage::prepare(LayerAddress at, Source source) {

@@ -52,6 +52,7 @@ class Stage : public QObject {
     void resetMixers(int channel);
 
  Q_SIGNALS:
+    // Something about the layer is another one now. The calls made to its template follow as signals of their own.
     void layerChanged(zelvor::rehearsal::LayerAddress at);
     void called(quint64 sourceId, const zelvor::rehearsal::TemplateCall& call);
 

@@ -1,0 +1,102 @@
+// What all templates here have in common: they read the fields they are sent, put them where the page names them, and
+// come on and go off by one class on the body. Everything that moves is a CSS transition between "off" and "on", so
+// that a STOP in the middle of coming on simply turns round.
+//
+// In the page: data-field="NAME" shows the field NAME, and is marked data-empty while there is nothing to show; with
+// the class "fit" the text is made narrower, then smaller, until it fits; with "flash" a change lights up. A page may
+// have a function fieldsChanged(fields) of its own.
+
+"use strict";
+
+const fields = {};
+
+// The calls of the graphics server.
+
+function update(data) {
+    Object.assign(fields, readFields(data));
+    for (const element of document.querySelectorAll("[data-field]")) {
+        setText(element, fields[element.dataset.field] ?? "");
+    }
+    if (typeof fieldsChanged === "function") {
+        fieldsChanged(fields);
+    }
+}
+
+function play() {
+    void document.body.offsetWidth; // the state before must have been drawn, or there is nothing to move from
+    document.body.classList.add("on");
+}
+
+function stop() {
+    document.body.classList.remove("on");
+}
+
+function next() {
+    // These graphics have one step.
+}
+
+// The fields of template data: XML with one componentData a field, or a JSON object.
+function readFields(data) {
+    if (data.startsWith("{")) {
+        return JSON.parse(data);
+    }
+    const xml = new DOMParser().parseFromString(data, "text/xml");
+    if (xml.querySelector("parsererror")) {
+        return readLooseFields(data);
+    }
+    const found = {};
+    for (const component of xml.querySelectorAll("componentData")) {
+        found[component.id || component.getAttribute("id")] = component.querySelector("data")?.getAttribute("value") ?? "";
+    }
+    return found;
+}
+
+// Values come as they were typed: "A & B" is no XML, and an apostrophe arrives as a double quote.
+function readLooseFields(data) {
+    const found = {};
+    const component = /<componentData id="([^"]*)">\s*<data [^>]*?value="(.*?)"\s*(?:\/>|><\/data>)\s*<\/componentData>/gs;
+    for (const [, id, value] of data.matchAll(component)) {
+        found[id] = value.replaceAll('"', "’");
+    }
+    return found;
+}
+
+function setText(element, text) {
+    element.toggleAttribute("data-empty", text === "");
+    if (element.textContent === text) {
+        return;
+    }
+    const isChange = element.textContent !== "";
+    const inner = document.createElement("span");
+    inner.textContent = text;
+    element.replaceChildren(inner);
+    fit(element);
+    if (isChange && element.classList.contains("flash")) {
+        inner.animate([{ color: "#ffd54a", transform: "translateY(18%)" }, { color: "#ffd54a", transform: "none", offset: 0.25 }, {}],
+            { duration: 1200, easing: "ease-out" });
+    }
+}
+
+const kNarrowest = 0.78; // narrower than this, letters look squeezed: from there on they get smaller instead
+
+function fit(element) {
+    const inner = element.firstElementChild;
+    if (!inner || !element.classList.contains("fit")) {
+        return;
+    }
+    inner.style.fontSize = inner.style.transform = "";
+    const { paddingLeft, paddingRight } = getComputedStyle(element);
+    const room = element.clientWidth - parseFloat(paddingLeft) - parseFloat(paddingRight);
+    const ratio = room / inner.offsetWidth;
+    if (room > 0 && ratio < 1) {
+        inner.style.fontSize = `${Math.min(1, ratio / kNarrowest)}em`;
+        inner.style.transform = `scaleX(${Math.max(ratio, kNarrowest)})`;
+    }
+}
+
+function fitAll() {
+    document.querySelectorAll(".fit").forEach(fit);
+}
+
+addEventListener("resize", fitAll);
+document.fonts.ready.then(fitAll);

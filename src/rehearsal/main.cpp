@@ -1,0 +1,61 @@
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "rehearsal/options.h"
+#include "rehearsal/page_server.h"
+#include "rehearsal/termination.h"
+
+using namespace Qt::StringLiterals;
+using namespace zelvor::rehearsal;
+
+namespace {
+
+constexpr int kExitFailure = 1;
+constexpr int kExitUsage = 2;
+
+void print(std::FILE* stream, const QString& text) {
+    std::fputs(qPrintable(text), stream);
+    std::fflush(stream);
+}
+
+int reportPort(const QHostAddress& address, quint16 port, const QString& reason, const QString& option) {
+    print(stderr,
+          u"zelvor-rehearsal: port %1 on %2 cannot be used: %3.\n"
+          "Another rehearsal or graphics server may be running there: end it, or choose another port with %4.\n"_s
+              .arg(port)
+              .arg(address.toString(), reason, option));
+    return kExitFailure;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const Options options = parseOptions(QCoreApplication::arguments());
+    if (!options.wantedText.isEmpty()) {
+        print(stdout, options.wantedText);
+        return 0;
+    }
+    if (!options.fault.isEmpty()) {
+        print(stderr, u"zelvor-rehearsal: %1 --help shows all options.\n"_s.arg(options.fault));
+        return kExitUsage;
+    }
+
+    const Termination termination;
+    const TemplateFolder folder(options.templates);
+    Stage stage(options.channels);
+    Journal journal;
+    AmcpInterpreter interpreter(stage, folder);
+    AmcpServer amcp(interpreter, journal);
+    ViewerFeed feed(stage, journal, amcp);
+    PageServer page(folder, feed);
+
+    if (!amcp.listen(options.bind, options.amcpPort)) {
+        return reportPort(options.bind, options.amcpPort, amcp.errorString(), u"--amcp PORT"_s);
+    }
+    if (const QString reason = page.start(options.bind, options.httpPort); !reason.isEmpty()) {
+        return reportPort(options.bind, options.httpPort, reason, u"--http PORT"_s);
+    }
+    print(stdout, u"AMCP %1\nPage http://%2:%3/\n"_s.arg(amcp.address(), options.bind.toString()).arg(page.port()));
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QHostAddress>
+#include <QStringList>
+
+namespace zelvor::rehearsal {
+
+// What the command line of zelvor-rehearsal asks for.
+struct Options {
+    static constexpr quint16 kAmcpPort = 5250;
+    static constexpr quint16 kHttpPort = 8250;
+    static constexpr int kMaxChannels = 16;
+
+    QHostAddress bind = QHostAddress(QHostAddress::LocalHost);
+    quint16 amcpPort = kAmcpPort;  // 0: a free one
+    quint16 httpPort = kHttpPort;
+    int channels = 2;  // 1..kMaxChannels
+    QString templates = QStringLiteral("demo/templates");
+
+    // What is wrong with the command line, for the user; empty when all is well.
+    QString fault;
+    // The text asked for by --help or --version, empty otherwise.
+    QString wantedText;
+};
+
+// ARGUMENTS: with the program's name in front.
+Options parseOptions(const QStringList& arguments);
+
+}  // namespace zelvor::rehearsal

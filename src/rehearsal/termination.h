@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QSocketNotifier>
+
+namespace zelvor::rehearsal {
+
+// Ends the event loop on SIGINT and SIGTERM, so that the program leaves by the end of its main(). Must exist before any
+// other thread is started.
+class Termination : public QObject {
+    Q_OBJECT
+
+ public:
+    Termination();
+    ~Termination() override;
+    Q_DISABLE_COPY_MOVE(Termination)
+
+ private:
+    int descriptor_;
+    QSocketNotifier notifier_;
+};
+
+}  // namespace zelvor::rehearsal
