@@ -7,10 +7,11 @@
 
 namespace zelvor {
 
-// Pieces of a text split at one character, as views. An empty text has no pieces.
+// Pieces of a text split at a separator, as views. An empty text has no pieces; without a separator it is one piece.
 class Pieces {
  public:
     Pieces(QStringView text, QChar separator);
+    Pieces(QStringView text, QStringView separator);
 
     [[nodiscard]] int count() const { return static_cast<int>(pieces_.size()); }
     // Throws 9 Subscript out of range when there is no such piece.
@@ -20,6 +21,9 @@ class Pieces {
     }
 
  private:
+    template <class Separator>
+    void split(QStringView text, Separator separator, qsizetype width);
+
     QVarLengthArray<QStringView, 8> pieces_;
 };
 

@@ -12,7 +12,8 @@ CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, c
       cardFile_(cardFile),
       autoRun_(autoRun),
       keepStates_(keepStates),
-      place_(place) {}
+      place_(place),
+      files_(engine.files()) {}
 
 void CardRun::execute() {
     for (lineNo_ = 1; lineNo_ <= script_->lineCount(); ++lineNo_) {

@@ -6,6 +6,7 @@
 #include "base/error_trap.h"
 #include "engine/card_engine.h"
 #include "engine/card_script.h"
+#include "engine/output_files.h"
 
 namespace zelvor {
 
@@ -25,6 +26,7 @@ class CardRun {
     VariableStore& variables() { return engine_.state().variables; }
     FormModel& form() { return engine_.form(); }
     const Ports& ports() { return engine_.ports(); }
+    OutputFiles& files() { return files_; }
     const CardScript& script() const { return *script_; }
     const QString& cardFile() const { return cardFile_; }
     bool autoRun() const { return autoRun_; }
@@ -69,6 +71,7 @@ class CardRun {
     bool hasData_ = true;
     bool abandoned_ = false;
     QString expanded_;  // the current line's argument
+    OutputFiles files_;
 };
 
 // Thrown by CardRun::goOnUnlessClosing() and caught by CardEngine: the run ends because the program does.

@@ -35,6 +35,8 @@ std::span<const Command> variables();
 std::span<const Command> cards();
 std::span<const Command> templateData();
 std::span<const Command> graphics();
+std::span<const Command> textFiles();
+std::span<const Command> feedback();
 }  // namespace commands
 
 }  // namespace zelvor

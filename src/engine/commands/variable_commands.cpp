@@ -29,24 +29,11 @@ void CHARCOUNT(CardRun& run, const Arguments& args) {
 void SPLIT(CardRun& run, const Arguments& args) {
     const QString prefix = u'@' + args.rawPieces()[2] + u'_';
     const Pieces pieces = args.pieces();
-    const QString separator = pieces[1].toString();
     run.variables().RemoveVarsWithPrefix(prefix);
-    const QStringView text = pieces[0];
-    int number = 0;
-    const auto store = [&](QStringView piece) {
-        run.variables().SetVar(QString(prefix + QString::number(number++)), piece.toString());
-    };
-    if (text.isEmpty()) return;
-    if (separator.isEmpty()) {
-        store(text);
-        return;
+    const Pieces parts(pieces[0], pieces[1]);
+    for (int i = 0; i < parts.count(); ++i) {
+        run.variables().SetVar(QString(prefix + QString::number(i)), parts[i].toString());
     }
-    qsizetype start = 0;
-    for (qsizetype at = text.indexOf(separator); at >= 0; at = text.indexOf(separator, start)) {
-        store(text.mid(start, at - start));
-        start = at + separator.size();
-    }
-    store(text.mid(start));
 }
 
 using Argument = Command::Argument;

@@ -1,0 +1,140 @@
+// What a card leaves behind for the operator and for other cards: labels, tags, the on-air table, proposals.
+
+#include "base/number.h"
+#include "engine/card_run.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+void LASTCARDTAG(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const QStringView value = pieces[1];
+    run.variables().SetVar(QString(u"LASTCARDTAG"_s + pieces[0]), value.toString());
+    const Pieces items(value, u"##");
+    for (int i = 0; i < items.count(); ++i) {
+        const Pieces keyAndAnswer(items[i], u':');
+        run.variables().SetVar(QString(u"AUTOTAG_"_s + keyAndAnswer[0]), keyAndAnswer[1].toString());
+    }
+}
+
+void LASTCARDONAIR(CardRun& run, const Arguments& args) {
+    const Pieces slot(args.raw(), u'-');
+    run.state().ONAIR_TABLE.at(wholeNumber32(slot[0]), wholeNumber32(slot[1])) = run.cardFile();
+}
+
+template <class Action>
+void forEachOf(FormModel& form, QStringView name, Control::Kind kind, Action&& action) {
+    for (Control* control : form.named(name.toString())) {
+        if (control->kind() == kind) action(*control);
+    }
+}
+
+void SHOW2TEXT(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const bool indexed = pieces.count() > 2;
+    const QString text = pieces[indexed ? 2 : 1].toString();
+    const int index = indexed ? wholeNumber32(pieces[1]) : 0;
+    forEachOf(run.form(), pieces[0], Control::Kind::TextBox, [&](Control& box) {
+        if (!indexed || box.index() == index) box.setText(text);
+    });
+}
+
+void SHOW2LABEL(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const QString caption = pieces[1].toString();
+    std::optional<Colour> back;
+    std::optional<Colour> fore;
+    if (pieces.count() > 2) back = parseColour(pieces[2]);
+    if (pieces.count() > 3) fore = parseColour(pieces[3]);
+    forEachOf(run.form(), pieces[0], Control::Kind::Label, [&](Control& label) {
+        label.setText(caption);
+        if (back) label.setBackColour(back);
+        if (fore) label.setForeColour(fore);
+    });
+}
+
+void TAG2LABEL(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const QString tag = pieces[1].toString();
+    forEachOf(run.form(), pieces[0], Control::Kind::Label, [&](Control& label) { label.setTag(tag); });
+}
+
+void ADD2LABELARRAY(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const int index = wholeNumber32(pieces[1]);
+    const QString caption = pieces[2].toString();
+    const QString tag = pieces[3].toString();
+    forEachOf(run.form(), pieces[0], Control::Kind::Label, [&](Control& label) {
+        if (label.index() != index) return;
+        label.setTag(tag);
+        label.setText(caption);
+    });
+}
+
+void PROPOSE(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    Control& label = run.form().at(u"lblPROPOSED"_s, wholeNumber32(pieces[0]));
+    label.setTag(pieces[1].toString());
+    label.setText(pieces[2].toString().replace(u"[VBCRLF]"_s, u"\r\n"_s));
+    label.setBackColour(pieces[3] == u"Y" ? colours::kAcceptedProposal : colours::kOpenProposal);
+}
+
+// The proposal's card is on air in a slot with the proposal's tag.
+bool isDue(const Pieces& proposal, const QString& onAir, const QString& tag) {
+    return proposal[1] == u"N" && proposal[2].compare(onAir, Qt::CaseInsensitive) == 0 &&
+           proposal[3].compare(tag, Qt::CaseInsensitive) == 0;
+}
+
+void fireProposal(CardRun& run, Control& label, QStringView id, const QString& card) {
+    run.engine().SHOW_TVCARD(card, true, true);
+    run.goOnUnlessClosing();
+    run.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id);
+    label.setBackColour(colours::kUsedProposal);
+}
+
+void scanProposal(CardRun& run, Control& label) {
+    constexpr int kSlots = 5;  // in both directions
+    const QString record = label.tag();
+    const Pieces proposal(record, u'|');
+    if (proposal.count() < 2) return;
+    for (int row = 1; row <= kSlots; ++row) {
+        for (int column = 1; column <= kSlots; ++column) {
+            const QString onAir = run.state().ONAIR_TABLE.at(row, column);
+            const QString tag = run.variables().text(u"LASTCARDTAG%1-%2"_s.arg(row).arg(column));
+            if (onAir.isEmpty() || !isDue(proposal, onAir, tag)) continue;
+            if (run.state().ask.ASK_OPEN == 0) fireProposal(run, label, proposal[0], onAir);
+        }
+    }
+}
+
+void SCANPROPOSED(CardRun& run, const Arguments&) {
+    for (Control* label : run.form().named(u"lblPROPOSED"_s)) scanProposal(run, *label);
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"LASTCARDTAG", LASTCARDTAG, Argument::Expanded, u"slot;key:answer##...",
+            u"the tag of the card in a slot, and the automatic answers in it"},
+    Command{u"LASTCARDONAIR", LASTCARDONAIR, Argument::Raw, u"row-column", u"this card is on air in that slot"},
+    Command{u"SHOW2TEXT", SHOW2TEXT, Argument::Expanded, u"name;[index;]text", u"fills a text box of the form"},
+    Command{u"SHOW2LABEL", SHOW2LABEL, Argument::Expanded, u"name;caption;[back colour];[text colour]",
+            u"captions and colours a label of the form"},
+    Command{u"TAG2LABEL", TAG2LABEL, Argument::Expanded, u"name;tag", u"tags a label of the form"},
+    Command{u"ADD2LABELARRAY", ADD2LABELARRAY, Argument::Expanded, u"name;index;caption;tag",
+            u"captions and tags one label of an array"},
+    Command{u"PROPOSE", PROPOSE, Argument::Expanded, u"index;tag;caption;used",
+            u"offers the operator a card; the tag is id|N|card|tag"},
+    Command{u"SCANPROPOSED", SCANPROPOSED, Argument::None, u"", u"fires the open proposals whose card is on air"},
+};
+
+}  // namespace
+
+std::span<const Command> feedback() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands
