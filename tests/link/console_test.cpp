@@ -14,7 +14,7 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         const auto press = isMain ? &LinkConsole::cmdGASPARCONNECT : &LinkConsole::cmdGASPARCONNECTREMOTE;
         Studio studio;
         Server server;
-        Control& button = studio.form.at(u"cmdGASPARCONNECT"_s + suffix);
+        const Control& button = studio.form.at(u"cmdGASPARCONNECT"_s + suffix);
         Control& tab = studio.at("cmdTAB", isMain ? 4 : 3);
         Control& status = studio.at(isMain ? "lblLINKMAIN" : "lblLINKREMOTE");
         auto* timer = studio.console.findChild<QTimer*>(u"tmrWS"_s + suffix);

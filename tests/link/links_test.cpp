@@ -137,7 +137,7 @@ TEST(CasparLink, TakesAFloodWithoutLineEnds) {
         total += text.size();
         EXPECT_LE(text.size(), CasparLink::kLargestPiece);
     });
-    constexpr qsizetype kFlood = 10 * 1024 * 1024;
+    constexpr qsizetype kFlood = qsizetype{10} * 1024 * 1024;
     server.peer->write(QByteArray(kFlood, 'x'));
     EXPECT_TRUE(waitUntil([&] { return total == kFlood; }));
 }
@@ -147,7 +147,7 @@ TEST(CasparLink, GivesUpAServerThatNeverReads) {
     Server server(false);
     studio.at("chkLOGFILE").setChecked(true);
     studio.connectTo(LinkId::Main, server);
-    const QString line(1024 * 1024, u'x');
+    const QString line(qsizetype{1024} * 1024, u'x');
     int lines = 0;
     for (; studio.links.state(LinkId::Main) == Graphics::kConnected && lines < 100; ++lines) {
         studio.links.sendLine(LinkId::Main, line);
