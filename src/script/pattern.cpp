@@ -85,8 +85,9 @@ class NumberSection {
         return !piece.literal && piece.text.front().toUpper() == QChar(letter);
     }
     [[nodiscard]] size_t findExponent(char16_t signCharacter) const {
-        const auto found = std::ranges::search(pieces_, std::array{u'E', signCharacter}, sameLetter);
-        return static_cast<size_t>(found.begin() - pieces_.begin());
+        const std::array<char16_t, 2> mark{u'E', signCharacter};
+        const auto found = std::search(pieces_.begin(), pieces_.end(), mark.begin(), mark.end(), sameLetter);
+        return static_cast<size_t>(found - pieces_.begin());
     }
     [[nodiscard]] bool hasExponent() const { return exponent_ < pieces_.size(); }
     [[nodiscard]] const Piece* at(size_t index) const { return pieces_.data() + index; }
