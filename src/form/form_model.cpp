@@ -59,8 +59,8 @@ void FormModel::addLinks() {
         add(Kind::Button, u"cmdGASPARCONNECT"_s + remote, -1, u"Connect"_s).setTag(u"connect"_s);
         add(Kind::CheckBox, u"chkRECONNECT"_s + remote, -1, u"Reconnect"_s);
     }
-    add(Kind::Label, u"lblLINKMAIN"_s);
-    add(Kind::Label, u"lblLINKREMOTE"_s);
+    for (const QString& status : {u"lblLINKMAIN"_s, u"lblLINKREMOTE"_s, u"lblFEED"_s, u"lblDATABASE"_s})
+        add(Kind::Label, status);
     add(Kind::List, u"cmbCASPARREMOTELIST"_s);
     add(Kind::Button, u"cmdVIEWGASPHISTORY"_s, -1, u"History"_s);
     add(Kind::Button, u"cmdGASPHISTCLOSE"_s, -1, u"Close"_s);

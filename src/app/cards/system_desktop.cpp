@@ -1,0 +1,20 @@
+#include "app_cards/system_desktop.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "base/run_time_error.h"
+
+namespace zelvor {
+
+void SystemDesktop::open(const QString& target) {
+    if (!QDesktopServices::openUrl(QUrl::fromUserInput(target))) throw RunTimeError(ErrorNumber::FileNotFound, target);
+}
+
+void SystemDesktop::loadForm(const QString& name) {
+    const auto form = forms_.find(name);
+    if (form == forms_.end()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, name);
+    form->second();
+}
+
+}  // namespace zelvor

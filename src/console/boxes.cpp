@@ -1,0 +1,134 @@
+#include "console/boxes.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "console/theme.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kLongText = 12;  // lines; beyond them the text scrolls
+
+using Severity = Operator::Severity;
+
+QString severityWord(Severity severity) {
+    switch (severity) {
+        case Severity::Information:
+            return {};
+        case Severity::Warning:
+            return u"Warning"_s;
+        case Severity::Critical:
+            return u"Error"_s;
+    }
+    return {};
+}
+
+// The text of a box: a label, or a scrolling view when it is long.
+QWidget* textPart(const QString& text) {
+    if (text.count(u'\n') < kLongText) {
+        auto* label = new QLabel(text);
+        label->setObjectName(u"text"_s);
+        label->setTextFormat(Qt::PlainText);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setWordWrap(true);
+        label->setMinimumWidth(360);
+        return label;
+    }
+    auto* view = new QPlainTextEdit(text);
+    view->setObjectName(u"text"_s);
+    view->setReadOnly(true);
+    view->setMinimumSize(560, 360);
+    return view;
+}
+
+// A dialog with the text on top; the caller adds what is answered with.
+struct Box {
+    QDialog dialog;
+    QVBoxLayout* column;
+    QDialogButtonBox* buttons;
+
+    Box(QWidget* window, const QString& title, const QString& text, QDialogButtonBox::StandardButtons wanted)
+        : dialog(window), column(new QVBoxLayout(&dialog)), buttons(new QDialogButtonBox(wanted)) {
+        dialog.setWindowTitle(title.isEmpty() ? u"Zelvor Cards"_s : title);
+        dialog.setWindowModality(Qt::ApplicationModal);
+        column->setContentsMargins(20, 16, 20, 16);
+        column->setSpacing(14);
+        if (!title.isEmpty()) {
+            auto* heading = new QLabel(title);
+            heading->setFont(theme::font(15, true));
+            column->addWidget(heading);
+        }
+        column->addWidget(textPart(text));
+        QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+        QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    }
+};
+
+void addSeverity(Box& box, Severity severity) {
+    const QString word = severityWord(severity);
+    if (word.isEmpty()) return;
+    auto* label = new QLabel(word);
+    label->setFont(theme::font(15, true));
+    QPalette look = label->palette();
+    look.setColor(QPalette::WindowText,
+                  theme::colour(severity == Severity::Critical ? theme::Role::Bad : theme::Role::Wait));
+    label->setPalette(look);
+    box.column->insertWidget(0, label);
+}
+
+}  // namespace
+
+bool Boxes::run(QDialog& box) {
+    if (state_.closing) return false;
+    open_.emplace_back(&box);
+    Q_EMIT opened(&box);
+    const bool accepted = box.exec() == QDialog::Accepted;
+    std::erase_if(open_, [&](const QPointer<QDialog>& each) { return each == &box; });
+    return accepted && !state_.closing;
+}
+
+void Boxes::message(const QString& title, const QString& text, Severity severity) {
+    Box box(window_, title, text, QDialogButtonBox::Ok);
+    addSeverity(box, severity);
+    box.column->addWidget(box.buttons);
+    run(box.dialog);
+}
+
+bool Boxes::yesNo(const QString& title, const QString& text) {
+    Box box(window_, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
+    box.column->addWidget(box.buttons);
+    return run(box.dialog);
+}
+
+std::optional<QString> Boxes::input(const QString& title, const QString& prompt, const QString& proposed) {
+    Box box(window_, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* field = new QLineEdit(proposed);
+    field->setObjectName(u"answer"_s);
+    field->setAccessibleName(title);
+    box.column->addWidget(field);
+    box.column->addWidget(box.buttons);
+    field->selectAll();
+    field->setFocus();
+    return run(box.dialog) ? std::optional(field->text()) : std::nullopt;
+}
+
+void Boxes::closeAll() {
+    // From the newest to the oldest: each ends inside the one below it.
+    const auto boxes = open_;
+    for (auto box = boxes.rbegin(); box != boxes.rend(); ++box) {
+        if (*box) (*box)->reject();
+    }
+}
+
+}  // namespace zelvor

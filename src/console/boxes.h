@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <deque>
+
+#include "engine/ports.h"
+#include "engine/show_state.h"
+
+class QDialog;
+
+namespace zelvor {
+
+// The operator's message, yes/no and input boxes: top-level windows in the console's look. While one is open, timers
+// and sockets go on; all end at once when the program closes.
+class Boxes : public QObject, public Operator {
+    Q_OBJECT
+
+ public:
+    explicit Boxes(const ShowState& state) : state_(state) {}
+
+    // The window that the boxes stand over.
+    void setWindow(QWidget& window) { window_ = &window; }
+
+    void message(const QString& title, const QString& text, Severity severity = Severity::Information) override;
+    bool yesNo(const QString& title, const QString& text) override;
+    std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) override;
+
+    // Ends every open box as if it had been cancelled.
+    void closeAll();
+
+ Q_SIGNALS:
+    // A box is about to wait for its answer: a test may give it.
+    void opened(QDialog* box);
+
+ private:
+    bool run(QDialog& box);
+
+    const ShowState& state_;
+    QPointer<QWidget> window_;
+    std::deque<QPointer<QDialog>> open_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,101 @@
+#include "console/card_button.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+using theme::Role;
+
+namespace {
+constexpr int kCaptionPixels = 15;
+constexpr int kStatePixels = 11;
+constexpr int kSmallWidth = 26;
+constexpr int kFrame = 3;  // pixels kept free around the button for the frame of the card fired last
+}  // namespace
+
+CardButton::CardButton(ConsoleButton* small, QWidget* parent)
+    : ConsoleButton({kCaptionPixels, true}, parent), small_(small) {
+    small_->setParent(this);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void CardButton::setFace(const Face& face) {
+    if (face == face_) return;
+    face_ = face;
+    small_->setVisible(!face.quiet);
+    update();
+}
+
+QString CardButton::stateLine() const {
+    QStringList parts;
+    if (face_.on) parts += u"ON"_s;
+    if (!face_.key.isEmpty()) parts += face_.key;
+    return parts.join(u" · "_s);
+}
+
+void CardButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRectF body = QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame);
+    if (face_.lastFired) theme::drawSurface(painter, rect(), {std::nullopt, theme::colour(Role::Accent), 7, 2});
+
+    QColor ground = theme::colour(face_.on ? Role::CardOn : face_.quiet ? Role::Cell : Role::Card);
+    if (groundColour()) ground = *groundColour();
+    if (isDown()) {
+        ground = ground.darker(135);
+    } else if (underMouse() && !face_.quiet) {
+        ground = ground.lighter(115);
+    }
+    const Role line = face_.on ? Role::OnLine : Role::Line;
+    theme::drawSurface(painter, body, {ground, theme::colour(line), 5, face_.on ? 2 : 1, face_.quiet && !face_.on});
+
+    if (face_.flagged) {
+        QPainterPath corner(body.topLeft() + QPointF(2, 2));
+        corner.lineTo(body.topLeft() + QPointF(14, 2));
+        corner.lineTo(body.topLeft() + QPointF(2, 14));
+        corner.closeSubpath();
+        painter.fillPath(corner, theme::colour(Role::Wait));
+    }
+
+    const QColor ink = ownText().value_or(groundColour() ? theme::readableOn(*groundColour())
+                                                         : theme::colour(face_.quiet ? Role::Muted : Role::Text));
+    const QString state = stateLine();
+    const QRect inner(padding(), kFrame + 2, textRoom(), height() - 2 * kFrame - 4);
+    const QFontMetrics captionMetrics(font());
+    const QFont stateFont = theme::font(kStatePixels, face_.on);
+    const int stateHeight = QFontMetrics(stateFont).height();
+    const bool twoLines = inner.height() >= captionMetrics.height() + stateHeight;
+    QRect captionArea = inner;
+    if (!state.isEmpty() && twoLines) {
+        const int top = inner.top() + (inner.height() - captionMetrics.height() - stateHeight) / 2;
+        captionArea = QRect(inner.left(), top, inner.width(), captionMetrics.height());
+    } else if (!state.isEmpty()) {
+        captionArea.setRight(inner.right() - QFontMetrics(stateFont).horizontalAdvance(state) - 6);
+    }
+    painter.setPen(ink);
+    painter.drawText(captionArea, Qt::AlignLeft | Qt::AlignVCenter,
+                     captionMetrics.elidedText(text(), Qt::ElideRight, captionArea.width()));
+    if (state.isEmpty()) return;
+
+    painter.setFont(stateFont);
+    if (!groundColour()) painter.setPen(theme::colour(face_.on ? Role::OnText : Role::Muted));
+    if (twoLines) {
+        painter.drawText(QRect(inner.left(), captionArea.bottom() + 1, inner.width(), stateHeight),
+                         Qt::AlignLeft | Qt::AlignVCenter, state);
+    } else {
+        painter.drawText(inner, Qt::AlignRight | Qt::AlignVCenter, state);
+    }
+}
+
+int CardButton::textRoom() const {
+    return width() - padding() - kFrame - kSmallWidth - 4;
+}
+
+void CardButton::resizeEvent(QResizeEvent* event) {
+    ConsoleButton::resizeEvent(event);
+    small_->setGeometry(width() - kFrame - kSmallWidth - 2, kFrame + 2, kSmallWidth, height() - 2 * kFrame - 4);
+}
+
+}  // namespace zelvor

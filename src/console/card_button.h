@@ -1,0 +1,42 @@
+#pragma once
+
+#include "console/console_button.h"
+
+namespace zelvor {
+
+// A card's button: its caption, and below it what state it is in and which key fires it.
+class CardButton : public ConsoleButton {
+    Q_OBJECT
+
+ public:
+    // small: the button inside this one at its right edge; taken over.
+    explicit CardButton(ConsoleButton* small, QWidget* parent = nullptr);
+
+    struct Face {
+        bool on = false;
+        bool quiet = false;      // no card behind it
+        bool flagged = false;    // the card table's mark
+        bool lastFired = false;  // has a frame of its own
+        QString key;             // "F1", empty when no key fires it
+        bool operator==(const Face&) const = default;
+    };
+    void setFace(const Face& face);
+    [[nodiscard]] const Face& face() const { return face_; }
+    // The line below the caption: "ON · F1".
+    [[nodiscard]] QString stateLine() const;
+
+    [[nodiscard]] QSize sizeHint() const override { return {200, 56}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {90, 34}; }
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    [[nodiscard]] int padding() const override { return 13; }
+    [[nodiscard]] int textRoom() const override;
+
+ private:
+    ConsoleButton* small_;
+    Face face_;
+};
+
+}  // namespace zelvor

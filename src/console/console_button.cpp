@@ -1,0 +1,95 @@
+#include "console/console_button.h"
+
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+ConsoleButton::ConsoleButton(const Look& look, QWidget* parent) : QAbstractButton(parent), look_(look) {
+    setFont(theme::font(look.pixels, look.bold));
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+}
+
+void ConsoleButton::setColours(std::optional<QColor> ground, std::optional<QColor> text) {
+    ownGround_ = ground;
+    ownText_ = text;
+    update();
+}
+
+void ConsoleButton::setSelected(bool selected) {
+    selected_ = selected;
+    update();
+}
+
+void ConsoleButton::setHint(const QString& hint) {
+    hint_ = hint;
+    updateToolTip();
+}
+
+void ConsoleButton::setCaption(const QString& caption) {
+    if (caption == text()) return;
+    setText(caption);
+    updateToolTip();
+    updateGeometry();
+}
+
+void ConsoleButton::updateToolTip() {
+    const bool cut = fontMetrics().horizontalAdvance(text()) > textRoom();
+    setToolTip(cut ? text() + u'\n' + hint_ : hint_);
+}
+
+QSize ConsoleButton::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(text()) + 2 * padding() + 8, fontMetrics().height() + 10};
+}
+
+QSize ConsoleButton::minimumSizeHint() const {
+    return {2 * padding() + fontMetrics().horizontalAdvance(u"0…"_s), fontMetrics().height() + 4};
+}
+
+void ConsoleButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QColor ground = ownGround_.value_or(theme::colour(look_.ground));
+    if (isDown()) {
+        ground = ground.darker(130);
+    } else if (underMouse() && isEnabled()) {
+        ground = ground.lighter(118);
+    }
+    if (look_.flat) {
+        if (isDown() || underMouse()) painter.fillRect(rect(), ground);
+        painter.fillRect(0, 0, 1, height(), theme::colour(look_.line));
+        painter.setPen(theme::colour(look_.text));
+        painter.drawText(rect(), Qt::AlignCenter, text());
+        return;
+    }
+    const bool framed = selected_ && !look_.underlined;
+    theme::drawSurface(painter, rect(),
+                       {ground, theme::colour(framed ? theme::Role::Accent : look_.line), 4, framed ? 2 : 1});
+    if (look_.underlined) {
+        painter.fillRect(QRect(1, height() - 3, width() - 2, 3),
+                         theme::colour(selected_ ? theme::Role::Accent : theme::Role::Line));
+    }
+
+    QColor ink = theme::colour(isEnabled() ? look_.text : theme::Role::Disabled);
+    if (look_.underlined && !selected_) ink = theme::colour(theme::Role::Muted);
+    if (ownGround_) ink = theme::readableOn(*ownGround_);
+    painter.setPen(ownText_.value_or(ink));
+    if (selected_ && look_.underlined) painter.setFont(theme::font(look_.pixels, true));
+    const QRect area = rect().adjusted(padding(), 0, -padding(), 0);
+    painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+}
+
+void ConsoleButton::resizeEvent(QResizeEvent*) {
+    updateToolTip();
+}
+
+void ConsoleButton::enterEvent(QEnterEvent*) {
+    update();
+}
+
+void ConsoleButton::leaveEvent(QEvent*) {
+    update();
+}
+
+}  // namespace zelvor

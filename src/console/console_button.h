@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <optional>
+
+#include "console/theme.h"
+
+namespace zelvor {
+
+// A push button of the console: elides its text (the whole joins the tool tip), takes exact colours, can be marked as
+// the selected one of a row. It never takes the keyboard: keys belong to the form.
+class ConsoleButton : public QAbstractButton {
+    Q_OBJECT
+
+ public:
+    struct Look {
+        int pixels = 14;
+        bool bold = false;
+        theme::Role ground = theme::Role::Button;
+        theme::Role line = theme::Role::Line;
+        theme::Role text = theme::Role::Text;
+        bool underlined = false;  // selected is shown by a line under the text, as page tabs do
+        bool flat = false;        // no surface of its own but a line at its left
+    };
+
+    explicit ConsoleButton(const Look& look, QWidget* parent = nullptr);
+
+    // nullopt: the look's own.
+    void setColours(std::optional<QColor> ground, std::optional<QColor> text);
+    [[nodiscard]] std::optional<QColor> groundColour() const { return ownGround_; }
+    void setSelected(bool selected);
+    [[nodiscard]] bool isSelected() const { return selected_; }
+    // What the tool tip says besides a text that did not fit.
+    void setHint(const QString& hint);
+    void setCaption(const QString& caption);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+    [[nodiscard]] std::optional<QColor> ownText() const { return ownText_; }
+    // Pixels between the side and the text, and those it may take; the tool tip holds a text that does not fit.
+    [[nodiscard]] virtual int padding() const { return 8; }
+    [[nodiscard]] virtual int textRoom() const { return width() - 2 * padding(); }
+    void updateToolTip();
+
+ private:
+    Look look_;
+    QString hint_;
+    std::optional<QColor> ownGround_;
+    std::optional<QColor> ownText_;
+    bool selected_ = false;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,56 @@
+#include "console/line_view.h"
+
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "console/theme.h"
+#include "link/line_list.h"
+
+namespace zelvor {
+
+namespace {
+
+class LineDelegate : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!index.data(LineList::kAlarmRole).toBool()) return;
+        option->palette.setColor(QPalette::Text, theme::colour(theme::Role::Bad));
+        option->font.setBold(true);
+    }
+};
+
+}  // namespace
+
+LineView::LineView(QAbstractItemModel& lines, Newest newest, QWidget* parent) : QListView(parent), newest_(newest) {
+    setModel(&lines);
+    setItemDelegate(new LineDelegate(this));
+    setFont(theme::font(12));
+    // Every line is of the same height: a full list costs no more than an empty one.
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMinimumHeight(48);
+    connect(this, &QListView::clicked, this,
+            [this](const QModelIndex& index) { Q_EMIT lineClicked(index.data().toString()); });
+    if (newest_ == Newest::OnTop) return;
+
+    connect(&lines, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
+        const QScrollBar* bar = verticalScrollBar();
+        following_ = bar->value() >= bar->maximum() - 1;
+    });
+    connect(&lines, &QAbstractItemModel::rowsInserted, this, [this] {
+        if (following_) scrollToBottom();
+    });
+}
+
+void LineView::showEvent(QShowEvent* event) {
+    QListView::showEvent(event);
+    if (newest_ == Newest::AtBottom && following_) scrollToBottom();
+}
+
+}  // namespace zelvor

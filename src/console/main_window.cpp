@@ -1,0 +1,130 @@
+#include "console/main_window.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "console/key_filter.h"
+#include "console/panels/card_grid.h"
+#include "console/panels/history_panel.h"
+#include "console/panels/key_bar.h"
+#include "console/panels/lineup_panels.h"
+#include "console/panels/link_panels.h"
+#include "console/panels/on_air_bar.h"
+#include "console/panels/players_panel.h"
+#include "console/panels/scores_panel.h"
+#include "console/panels/settings_panels.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr QSize kFirstSize{1280, 800};
+constexpr int kRightWidth = 480;   // pixels at the first size
+constexpr int kPanelHeight = 250;  // the tallest panel's
+
+}  // namespace
+
+MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
+                       QAbstractItemModel& responses)
+    : mirrors_(form, events) {
+    setObjectName(u"frmMAIN"_s);
+    resize(kFirstSize);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(new OnAirBar(mirrors_));
+    auto* sides = new QHBoxLayout;
+    sides->setSpacing(0);
+    sides->addWidget(leftSide(console, history), 1);
+    auto* rule = new QWidget;
+    rule->setFixedWidth(1);
+    rule->setAutoFillBackground(true);
+    QPalette line = rule->palette();
+    line.setColor(QPalette::Window, theme::colour(theme::Role::Line));
+    rule->setPalette(line);
+    sides->addWidget(rule);
+    sides->addWidget(rightSide(responses));
+    rows->addLayout(sides, 1);
+    rows->addWidget(new KeyBar(mirrors_));
+
+    auto* keys = new KeyFilter(*this);
+    connect(keys, &KeyFilter::functionKey, this, &MainWindow::functionKey);
+}
+
+QWidget* MainWindow::leftSide(const CardConsole& console, QAbstractItemModel& history) {
+    auto* side = new QWidget;
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(12, 10, 10, 8);
+    column->setSpacing(8);
+    auto* selectors = new QHBoxLayout;
+    selectors->setSpacing(6);
+    for (int i = 0; i < CardConsole::kSelectors; ++i) {
+        ConsoleButton* selector = mirrors_.button(
+            u"GradientButtonS"_s, i, {14, false, theme::Role::Bar, theme::Role::Line, theme::Role::Text, true});
+        selector->setFixedHeight(32);
+        selectors->addWidget(selector, 1);
+    }
+    column->addLayout(selectors);
+    column->addWidget(new CardGrid(mirrors_, console), 3);
+    // Stands below the cards, which stay at hand while it is open.
+    column->addWidget(new HistoryPanel(mirrors_, history), 2);
+    column->addWidget(new ProposalsPanel(mirrors_));
+    return side;
+}
+
+QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
+    auto* side = new QWidget;
+    side->setFixedWidth(kRightWidth);
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(10, 10, 10, 8);
+    column->setSpacing(9);
+
+    // Tabs and panels are one block: the cover lies over both.
+    auto* controls = new QWidget;
+    auto* block = new QVBoxLayout(controls);
+    block->setContentsMargins(0, 0, 0, 0);
+    block->setSpacing(9);
+    auto* tabs = new QHBoxLayout;
+    tabs->setSpacing(4);
+    for (int i = 0; i < CardConsole::kTabs; ++i) {
+        ConsoleButton* tab = mirrors_.button(u"cmdTAB"_s, i, {13});
+        tab->setFixedHeight(30);
+        tab->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        tabs->addWidget(tab, 1);
+    }
+    block->addLayout(tabs);
+    auto* place = new QWidget;
+    place->setFixedHeight(kPanelHeight);
+    auto* panels = new QGridLayout(place);
+    panels->setContentsMargins(0, 0, 0, 0);
+    auto* caspar = new CasparPanel(mirrors_, responses);
+    connect(caspar, &CasparPanel::olderWanted, this, &MainWindow::olderLineWanted);
+    connect(caspar, &CasparPanel::newerWanted, this, &MainWindow::newerLineWanted);
+    // All panels lie in one place; the controls say which one shows.
+    for (QWidget* panel : std::initializer_list<QWidget*>{new ScoresPanel(mirrors_), new StartFivePanel(mirrors_),
+                                                          new EffectPanel(mirrors_), new NetworkPanel(mirrors_), caspar,
+                                                          new StartElevenPanel(mirrors_), new ClocksPanel(mirrors_)})
+        panels->addWidget(panel, 0, 0);
+    block->addWidget(place);
+
+    auto* stack = new QGridLayout;
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->addWidget(controls, 0, 0);
+    auto* cover = new QWidget;
+    cover->setAutoFillBackground(true);
+    mirrors_.panel(cover, u"picHideControls"_s);
+    stack->addWidget(cover, 0, 0);
+    column->addLayout(stack);
+    column->addWidget(new PlayersPanel(mirrors_), 1);
+    return side;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    Q_EMIT closed();
+    event->accept();
+}
+
+}  // namespace zelvor

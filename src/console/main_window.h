@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+#include "console/mirror.h"
+#include "console_rules/card_console.h"
+
+class QAbstractItemModel;
+
+namespace zelvor {
+
+class CasparPanel;
+
+// The operator's window (frmMAIN): lays the panels out around the form model and hands keys and clicks on.
+class MainWindow : public QWidget {
+    Q_OBJECT
+
+ public:
+    // All must outlive the window. history: oldest line on top; responses: newest on top.
+    MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
+               QAbstractItemModel& responses);
+
+ Q_SIGNALS:
+    void closed();
+    // F1 to F10 by their numbers.
+    void functionKey(int number);
+    // Up and Down in the manual line.
+    void olderLineWanted();
+    void newerLineWanted();
+
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+
+ private:
+    QWidget* leftSide(const CardConsole& console, QAbstractItemModel& history);
+    QWidget* rightSide(QAbstractItemModel& responses);
+
+    Mirrors mirrors_;
+};
+
+}  // namespace zelvor

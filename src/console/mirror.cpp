@@ -1,0 +1,203 @@
+#include "console/mirror.h"
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "console/hints.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+using Property = Control::Property;
+
+namespace {
+
+std::optional<QColor> shown(std::optional<Colour> colour) {
+    return colour ? std::optional(theme::colour(*colour)) : std::nullopt;
+}
+
+// Calls apply(property) for every change of the control while the widget lives, and once for each property now.
+template <class Apply>
+void follow(Control& control, QWidget* widget, Apply apply) {
+    for (const Property property : {Property::Items, Property::Text, Property::BackColour, Property::Visible,
+                                    Property::Enabled, Property::Checked, Property::State})
+        apply(property);
+    QObject::connect(&control, &Control::changed, widget, [apply](Control*, Property property) { apply(property); });
+}
+
+// What is the same for widgets of every kind.
+void applyCommon(const Control& control, QWidget* widget, Property property) {
+    if (property == Property::Visible) widget->setVisible(control.visible());
+    if (property == Property::Enabled) widget->setEnabled(control.enabled());
+    if (property == Property::Text) {
+        const QString hint = hintFor(control);
+        widget->setAccessibleName(control.text().isEmpty() ? hint : hint + u": "_s + control.text());
+    }
+}
+
+bool isColour(Property property) {
+    return property == Property::BackColour || property == Property::ForeColour;
+}
+
+}  // namespace
+
+Control& Mirrors::begin(QWidget* widget, const QString& name, int index) const {
+    Control& control = form_.at(name, index);
+    widget->setObjectName(name);
+    widget->setProperty("index", index);
+    widget->setToolTip(hintFor(control));
+    return control;
+}
+
+TextLabel* Mirrors::label(const QString& name, int index, const TextLabel::Look& look) const {
+    auto* widget = new TextLabel(look);
+    Control& control = begin(widget, name, index);
+    widget->setHint(hintFor(control));
+    follow(control, widget, [&control, widget](Property property) {
+        applyCommon(control, widget, property);
+        if (property == Property::Text) widget->setText(control.text());
+        if (isColour(property)) widget->setColours(shown(control.backColour()), shown(control.foreColour()));
+    });
+    QObject::connect(widget, &TextLabel::mousePressed, widget, [&events = events_, &control](Qt::MouseButton button) {
+        events.mouseDown(control, button);
+        if (button == Qt::LeftButton) events.click(control);
+    });
+    return widget;
+}
+
+TextLabel* Mirrors::copy(const QString& name, const QString& objectName, const TextLabel::Look& look) const {
+    auto* widget = new TextLabel(look);
+    Control& control = form_.at(name);
+    widget->setObjectName(objectName);
+    widget->setHint(hintFor(control));
+    follow(control, widget, [&control, widget](Property property) {
+        applyCommon(control, widget, property);
+        if (property == Property::Text) widget->setText(control.text());
+    });
+    return widget;
+}
+
+void Mirrors::bindButton(ConsoleButton* button, Control& control) const {
+    button->setHint(hintFor(control));
+    follow(control, button, [&control, button](Property property) {
+        applyCommon(control, button, property);
+        if (property == Property::Text) button->setCaption(control.text());
+        if (property == Property::Checked) button->setSelected(control.checked());
+        if (isColour(property)) button->setColours(shown(control.backColour()), shown(control.foreColour()));
+    });
+    QObject::connect(button, &QAbstractButton::clicked, button,
+                     [&events = events_, &control] { events.click(control); });
+}
+
+ConsoleButton* Mirrors::button(const QString& name, int index, const ConsoleButton::Look& look) const {
+    auto* widget = new ConsoleButton(look);
+    bindButton(widget, begin(widget, name, index));
+    return widget;
+}
+
+CardButton* Mirrors::cardButton(int index) const {
+    const ConsoleButton::Look flat{12,    false, theme::Role::ButtonHover, theme::Role::Line, theme::Role::Muted,
+                                   false, true};
+    auto* widget = new CardButton(button(u"cmdCARDBOX"_s, index, flat));
+    bindButton(widget, begin(widget, u"cmbCARD"_s, index));
+    return widget;
+}
+
+QLineEdit* Mirrors::textBox(const QString& name, int index) const {
+    auto* widget = new QLineEdit;
+    Control& control = begin(widget, name, index);
+    follow(control, widget, [&control, widget](Property property) {
+        applyCommon(control, widget, property);
+        if (property == Property::Enabled) {
+            // A text that may not be changed can still be read and copied.
+            widget->setEnabled(true);
+            widget->setReadOnly(!control.enabled());
+        }
+        if (property == Property::Text && widget->text() != control.text()) {
+            const QSignalBlocker quiet(widget);
+            widget->setText(control.text());
+        }
+        if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
+    });
+    QObject::connect(widget, &QLineEdit::textChanged, &control, &Control::setText);
+    QObject::connect(widget, &QLineEdit::returnPressed, widget,
+                     [&events = events_, &control] { events.enter(control); });
+    return widget;
+}
+
+namespace {
+
+template <class Button>
+Button* bindCheckable(Button* widget, Control& control) {
+    follow(control, widget, [&control, widget](Property property) {
+        applyCommon(control, widget, property);
+        const QSignalBlocker quiet(widget);
+        if (property == Property::Text) widget->setText(control.text());
+        if (property == Property::Checked) widget->setChecked(control.checked());
+        if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
+    });
+    QObject::connect(widget, &QAbstractButton::toggled, &control, &Control::setChecked);
+    return widget;
+}
+
+}  // namespace
+
+QCheckBox* Mirrors::checkBox(const QString& name) const {
+    auto* widget = new QCheckBox;
+    return bindCheckable(widget, begin(widget, name, -1));
+}
+
+QRadioButton* Mirrors::optionButton(const QString& name, int index) const {
+    auto* widget = new QRadioButton;
+    return bindCheckable(widget, begin(widget, name, index));
+}
+
+namespace {
+
+// A closed list that the wheel does not change unless the operator has chosen it.
+class ListBox : public QComboBox {
+ protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
+
+}  // namespace
+
+QComboBox* Mirrors::list(const QString& name, int index, bool editable) const {
+    auto* widget = new ListBox;
+    widget->setFocusPolicy(Qt::StrongFocus);
+    widget->setEditable(editable);
+    widget->setInsertPolicy(QComboBox::NoInsert);
+    widget->setMaxVisibleItems(12);
+    Control& control = begin(widget, name, index);
+    follow(control, widget, [&control, widget, editable](Property property) {
+        applyCommon(control, widget, property);
+        const QSignalBlocker quiet(widget);
+        if (property == Property::Items) {
+            widget->clear();
+            for (const Control::Item& item : control.items()) widget->addItem(item.text, item.data);
+        }
+        if (property == Property::Text || property == Property::Items) {
+            widget->setCurrentIndex(control.position());
+            if (editable && widget->currentText() != control.text()) widget->setEditText(control.text());
+        }
+    });
+    QObject::connect(widget, &QComboBox::currentIndexChanged, &control, [&control](int position) {
+        if (position >= 0) control.setPosition(position);
+    });
+    if (editable) QObject::connect(widget, &QComboBox::editTextChanged, &control, &Control::setText);
+    return widget;
+}
+
+void Mirrors::panel(QWidget* widget, const QString& name) const {
+    Control& control = begin(widget, name, -1);
+    follow(control, widget, [&control, widget](Property property) { applyCommon(control, widget, property); });
+}
+
+}  // namespace zelvor

@@ -1,0 +1,48 @@
+#include "console/panels/card_grid.h"
+
+#include <QGridLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+constexpr int kRows = 7;
+}
+
+CardGrid::CardGrid(const Mirrors& mirrors, const CardConsole& console) : console_(console), form_(mirrors.form()) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(4);
+    grid->setVerticalSpacing(2);
+    for (int i = 0; i < CardConsole::kCardButtons; ++i) {
+        buttons_.at(i) = mirrors.cardButton(i);
+        // Cards count down the columns, as the F-keys do in the packs.
+        grid->addWidget(buttons_.at(i), i % kRows, i / kRows);
+        grid->setColumnStretch(i / kRows, 1);
+        grid->setRowStretch(i % kRows, 1);
+    }
+    connect(&console, &CardConsole::cardsChanged, this, &CardGrid::showFaces);
+    connect(&form_, &FormModel::changed, this, [this](const Control* control) {
+        if (control->name() == u"cmbCARD") showFaces();
+    });
+    showFaces();
+}
+
+void CardGrid::showFaces() {
+    for (int i = 0; i < CardConsole::kCardButtons; ++i) {
+        const CardEntry& card = console_.card(i);
+        CardButton::Face face;
+        face.on = form_.at(u"cmbCARD"_s, i).state() == u"ON";
+        face.quiet = card.script.isEmpty() && card.shownCaption().isEmpty();
+        face.flagged = card.flag;
+        face.lastFired = console_.isLastFired(i);
+        face.key = console_.keyOf(i);
+        buttons_.at(i)->setFace(face);
+        QString name = u"Card %1: "_s.arg(i + 1) + (face.quiet ? u"empty"_s : card.shownCaption());
+        if (const QString state = buttons_.at(i)->stateLine(); !state.isEmpty()) name += u", "_s + state;
+        buttons_.at(i)->setAccessibleName(name);
+    }
+}
+
+}  // namespace zelvor

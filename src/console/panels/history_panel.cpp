@@ -1,0 +1,83 @@
+#include "console/panels/history_panel.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPlainTextEdit>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include "console/hints.h"
+#include "console/line_view.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
+    : PanelFrame(mirrors, u"fraGASPHISTORY"_s),
+      template_(mirrors.form().at(u"lblLASTXML"_s)),
+      view_(new QPlainTextEdit),
+      raw_(new ConsoleButton({})) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(10, 6, 10, 8);
+    column->setSpacing(4);
+    auto* head = new QHBoxLayout;
+    head->addWidget(word(u"Socket history"_s));
+    head->addStretch(1);
+    raw_->setCheckable(true);
+    raw_->setCaption(u"As sent"_s);
+    raw_->setHint(u"Shows the template data as it was sent"_s);
+    raw_->setAccessibleName(u"Template data as it was sent"_s);
+    head->addWidget(raw_);
+    head->addWidget(mirrors.button(u"cmdLASTXML"_s));
+    head->addWidget(mirrors.button(u"cmdGASPHISTCLOSE"_s));
+    column->addLayout(head);
+
+    auto* lines = new LineView(history, LineView::Newest::AtBottom);
+    mirrors.panel(lines, u"lstGASPARHISTORY"_s);
+    column->addWidget(lines, 1);
+    view_->setObjectName(template_.name());
+    view_->setProperty("index", -1);
+    view_->setReadOnly(true);
+    view_->setFont(theme::font(12));
+    view_->setToolTip(hintFor(template_));
+    view_->setAccessibleName(hintFor(template_));
+    column->addWidget(view_, 1);
+
+    connect(lines, &LineView::lineClicked, this,
+            [](const QString& line) { QGuiApplication::clipboard()->setText(line); });
+    connect(raw_, &QAbstractButton::toggled, this, [this](bool asSent) {
+        raw_->setSelected(asSent);
+        showTemplate();
+    });
+    connect(&template_, &Control::changed, this, &HistoryPanel::showTemplate);
+    // The view lies beneath the list: it shows where the list is hidden.
+    const Control& list = mirrors.form().at(u"lstGASPARHISTORY"_s);
+    const auto follow = [this, &list] {
+        view_->setVisible(!list.visible());
+        raw_->setVisible(!list.visible());
+    };
+    connect(&list, &Control::changed, this, follow);
+    follow();
+    showTemplate();
+}
+
+void HistoryPanel::showTemplate() {
+    view_->setPlainText(raw_->isChecked() ? template_.text() : readableXml(template_.text()));
+}
+
+QString readableXml(const QString& xml) {
+    QXmlStreamReader reader(xml);
+    QString readable;
+    QXmlStreamWriter writer(&readable);
+    writer.setAutoFormatting(true);
+    writer.setAutoFormattingIndent(2);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.hasError()) return xml;
+        if (!reader.isStartDocument() && !reader.isEndDocument()) writer.writeCurrentToken(reader);
+    }
+    return readable.trimmed();
+}
+
+}  // namespace zelvor

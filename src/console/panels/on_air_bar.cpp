@@ -1,0 +1,123 @@
+#include "console/panels/on_air_bar.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+using theme::Role;
+
+namespace {
+
+// The framed line that holds lamp, words and card: red and filled on air, quiet when the screen is clear.
+class AirLine : public QWidget {
+ public:
+    explicit AirLine(const Control& words) : words_(words) {}
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const bool onAir = !words_.text().isEmpty();
+        const QColor line =
+            onAir ? theme::colour(words_.foreColour().value_or(colours::kRed)) : theme::colour(Role::Line);
+        theme::drawSurface(painter, rect(),
+                           {theme::colour(onAir ? Role::AirFill : Role::Field), line, 5, onAir ? 2 : 1});
+    }
+
+ private:
+    const Control& words_;
+};
+
+// The round lamp beside the words.
+class Lamp : public QWidget {
+ public:
+    explicit Lamp(const Control& lamp) : lamp_(lamp) { setFixedSize(16, 16); }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        const QColor colour = theme::colour(lamp_.backColour().value_or(colours::kGreen));
+        QColor glow = colour;
+        glow.setAlpha(70);
+        painter.setBrush(glow);
+        painter.drawEllipse(rect());
+        painter.setBrush(colour);
+        painter.drawEllipse(rect().adjusted(3, 3, -3, -3));
+    }
+
+ private:
+    const Control& lamp_;
+};
+
+}  // namespace
+
+OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
+    setFixedHeight(46);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 8, 12, 8);
+    row->setSpacing(10);
+
+    ConsoleButton* menu = mirrors.button(u"cmdMenu"_s);
+    menu->setMinimumWidth(76);
+    row->addWidget(menu);
+    QComboBox* language = mirrors.list(u"cmbLANG"_s);
+    language->setMinimumWidth(64);
+    language->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    row->addWidget(language);
+    auto* modes = new QHBoxLayout;
+    modes->setSpacing(0);
+    for (int mode = 0; mode < 2; ++mode) {
+        ConsoleButton* button = mirrors.button(u"cmdSCREENMODE"_s, mode, {13, true});
+        button->setFixedWidth(50);
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+        modes->addWidget(button);
+    }
+    row->addLayout(modes);
+    TextLabel::Look mark{13, true, Qt::AlignCenter, Role::Wait, Role::Panel};
+    row->addWidget(mirrors.label(u"lblPREVIEW"_s, -1, mark));
+
+    line_ = new AirLine(form_.at(u"lblONAIR"_s));
+    auto* words = new QHBoxLayout(line_);
+    words->setContentsMargins(10, 0, 8, 0);
+    words->setSpacing(4);
+    auto* lamp = new Lamp(form_.at(u"lblONAIRLAMP"_s));
+    mirrors.panel(lamp, u"lblONAIRLAMP"_s);
+    words->addWidget(lamp);
+    TextLabel* state = mirrors.label(u"lblONAIR"_s, -1, {15, true, Qt::AlignLeft | Qt::AlignVCenter});
+    words->addWidget(state);
+    TextLabel* card = mirrors.label(u"lblONAIRCARD"_s, -1, {15, false, Qt::AlignLeft | Qt::AlignVCenter});
+    card->setPlaceholder(u"Nothing on air"_s);
+    card->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    words->addWidget(card, 1);
+    words->addWidget(mirrors.checkBox(u"chkONAIRLOCK"_s));
+    row->addWidget(line_, 1);
+
+    ConsoleButton* clear =
+        mirrors.button(u"GradientButtonAIR"_s, -1, {15, true, Role::AirFill, Role::AirLine, Role::Text});
+    clear->setFixedWidth(150);
+    clear->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    row->addWidget(clear);
+
+    for (const QString& name : {u"lblONAIR"_s, u"lblONAIRLAMP"_s})
+        connect(&form_.at(name), &Control::changed, this, &OnAirBar::showFrame);
+    showFrame();
+}
+
+void OnAirBar::showFrame() {
+    const bool empty = form_.at(u"lblONAIR"_s).text().isEmpty();
+    line_->findChild<TextLabel*>(u"lblONAIR"_s)->setMaximumWidth(empty ? 0 : QWIDGETSIZE_MAX);
+    line_->update();
+    for (QWidget* part : line_->findChildren<QWidget*>()) part->update();
+}
+
+void OnAirBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::colour(Role::Bar));
+    painter.fillRect(0, height() - 1, width(), 1, theme::colour(Role::Line));
+}
+
+}  // namespace zelvor

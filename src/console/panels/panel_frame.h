@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QWidget>
+
+#include "console/mirror.h"
+
+namespace zelvor {
+
+// The ground that every panel on the right stands on; its visibility follows its control.
+class PanelFrame : public QWidget {
+    Q_OBJECT
+
+ public:
+    PanelFrame(const Mirrors& mirrors, const QString& name) { mirrors.panel(this, name); }
+
+    // A fixed word of the panel, muted.
+    static QLabel* word(const QString& text) {
+        auto* label = new QLabel(text);
+        label->setFont(theme::font(12));
+        QPalette muted = label->palette();
+        muted.setColor(QPalette::WindowText, theme::colour(theme::Role::Muted));
+        label->setPalette(muted);
+        return label;
+    }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        theme::drawSurface(painter, rect(), {theme::colour(theme::Role::Panel), theme::colour(theme::Role::Line), 5});
+    }
+};
+
+}  // namespace zelvor

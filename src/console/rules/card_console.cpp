@@ -1,0 +1,145 @@
+#include "console_rules/card_console.h"
+
+#include <array>
+
+#include "engine/on_air.h"
+#include "engine/packs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+// Frame6 ("Start 11") is meant to be missing: no tab shows or hides it.
+constexpr std::array kTabPanels{1, 2, 3, 4, 5, 7};
+static_assert(kTabPanels.size() == CardConsole::kTabs);
+
+QString panelName(int number) {
+    return u"Frame%1"_s.arg(number);
+}
+
+}  // namespace
+
+CardConsole::CardConsole(CardEngine& engine) : engine_(engine), state_(engine.state()), form_(engine.form()) {}
+
+void CardConsole::answer(FormEvents& events) {
+    events.onClick(u"cmbCARD"_s, [this](int index) { pressCard(index); });
+    events.onClick(u"cmdCARDBOX"_s, [this](int index) { pressCardBox(index); });
+    events.onClick(u"GradientButtonS"_s, [this](int index) { selectBox(index); });
+    events.onClick(u"GradientButtonAIR"_s, [this](int) { CLEAR_TV(); });
+    events.onClick(u"cmdTAB"_s, [this](int index) { showTab(index); });
+    events.onClick(u"cmdINVOKE"_s, [this](int) { run(u"invoke.csp"_s); });
+    events.onClick(u"cmdAUTO5ADA"_s, [this](int) { run(u"auto5ada.csp"_s); });
+    events.onClick(u"cmdCLEARTAG"_s, [this](int) { clearTag(); });
+    events.onMouseDown(u"lblFKEYTITLE"_s, [this](int index, Qt::MouseButton) { functionKey(index + 1); });
+}
+
+void CardConsole::pressCard(int index) {
+    fire(index, state_.playerSelected);
+}
+
+void CardConsole::pressCardBox(int index) {
+    // The small button never takes the tagged player's answers: it is the way to be asked.
+    fire(index, false);
+}
+
+void CardConsole::fire(int index, bool tagged) {
+    if (!engine_.ports().clock.turnEvents(1)) return;
+    state_.variables.SetVar(u"@CARD_BUTTON_INDEX", index);
+    // The set and the script are taken now: a card that waits must not make this one fire from another set.
+    const QString script = state_.cards.entry(state_.currentSet, index + 1).script;
+    lastFiredSet_ = state_.currentSet;
+    state_.lastFiredButton = index;
+    Q_EMIT cardsChanged();
+    run(script, tagged);
+    engine_.ports().clock.turnEvents(1);
+}
+
+void CardConsole::run(const QString& script, bool tagged) {
+    engine_.SHOW_TVCARD(script, tagged, false);
+    if (state_.closing) return;
+    showSwitches();
+    Q_EMIT cardsChanged();
+}
+
+void CardConsole::selectBox(int selector) {
+    state_.currentSet = selector + 1;
+    for (int i = 0; i < kSelectors; ++i) form_.at(u"GradientButtonS"_s, i).setChecked(i == selector);
+    showCurrentSet(state_, form_);
+    Q_EMIT cardsChanged();
+}
+
+void CardConsole::CLEAR_TV() {
+    run(state_.cards.clearCard);
+    if (state_.closing) return;
+    showClear(form_);
+    form_.at(u"GradientButtonAIR"_s).setText(u"CLEAR"_s);
+    if (state_.lastFiredButton >= 0) {
+        state_.cards.entry(lastFiredSet_, state_.lastFiredButton + 1).on = false;
+        state_.lastFiredButton = -1;
+        showCurrentSet(state_, form_);
+    }
+    Q_EMIT cardsChanged();
+}
+
+void CardConsole::functionKey(int number) {
+    if (number < 1 || number > kFiringFunctionKeys) return;
+    const QString script = state_.cards.functionKey(number).script;
+    if (!script.isEmpty()) run(script);
+}
+
+void CardConsole::showTab(int tab) {
+    for (int i = 0; i < kTabs; ++i) {
+        form_.at(panelName(kTabPanels[i])).setVisible(i == tab);
+        form_.at(u"cmdTAB"_s, i).setChecked(i == tab);
+    }
+}
+
+void CardConsole::clearTag() {
+    for (const QString& name : {u"lblHPLAYERS"_s, u"lblAPLAYERS"_s, u"lblHTEAM"_s, u"lblATEAM"_s}) {
+        for (Control* label : form_.named(name)) {
+            label->setForeColour(std::nullopt);
+            label->setBackColour(std::nullopt);
+        }
+    }
+    state_.playerSelected = false;
+}
+
+void CardConsole::SHOW_AUTO_CARD(const QString& script) {
+    state_.variables.SetVar(u"@RETURNKEY", state_.ask.lastItemData);
+    run(script);
+}
+
+void CardConsole::showLoaded() {
+    LoadFkeys(state_, form_);
+    showSwitches();
+    Q_EMIT cardsChanged();
+}
+
+void CardConsole::showSwitches() {
+    form_.at(u"picHideControls"_s).setVisible(!state_.cards.showControls);
+    Control& preview = form_.at(u"lblPREVIEW"_s);
+    preview.setVisible(state_.preview && state_.cards.showPreview);
+    preview.setEnabled(!state_.switches.PreviewDisabled);
+}
+
+bool CardConsole::isLastFired(int index) const {
+    return state_.lastFiredButton == index && lastFiredSet_ == state_.currentSet;
+}
+
+const CardEntry& CardConsole::card(int index) const {
+    return state_.cards.entry(state_.currentSet, index + 1);
+}
+
+QString CardConsole::keyOf(int index) const {
+    const QString& script = card(index).script;
+    if (script.isEmpty()) return {};
+    for (int key = 1; key <= kFiringFunctionKeys; ++key) {
+        if (state_.cards.functionKey(key).script.compare(script, Qt::CaseInsensitive) == 0)
+            return u'F' + QString::number(key);
+    }
+    return {};
+}
+
+}  // namespace zelvor

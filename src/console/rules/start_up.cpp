@@ -1,0 +1,107 @@
+#include "console_rules/start_up.h"
+
+#include "engine/defaults.h"
+#include "engine/on_air.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kCasparTab = 4;
+constexpr int kPeriods = 9;
+constexpr int kEffectSpeeds = 100;
+constexpr int kFirstEffectSpeed = 9;  // its position in the list: "10"
+
+QList<Control::Item> numbers(int last) {
+    QList<Control::Item> items;
+    for (int number = 1; number <= last; ++number) items += {QString::number(number), number};
+    return items;
+}
+
+}  // namespace
+
+StartUp::StartUp(CardEngine& engine, CardConsole& console, ErrorTrap& trap, Steps steps)
+    : engine_(engine),
+      console_(console),
+      trap_(trap),
+      steps_(std::move(steps)),
+      state_(engine.state()),
+      form_(engine.form()) {}
+
+QString StartUp::caption() const {
+    const QString name = u"Zelvor Cards (" ZELVOR_VERSION ")"_s;
+    return state_.preview ? u"Preview "_s + name : name;
+}
+
+// False as soon as the program is closing: the sequence ends there.
+bool StartUp::step(const QString& name, const std::function<void()>& body) {
+    if (state_.closing) return false;
+    if (body) trap_.run({u"frmMAIN."_s + name}, ErrorTrap::Tell::Operator, body);
+    return !state_.closing;
+}
+
+void StartUp::layOut() {
+    console_.showTab(kCasparTab);
+    form_.at(u"Frame6"_s).setVisible(false);
+    form_.at(u"fraGASPHISTORY"_s).setVisible(false);
+    Control& period = form_.at(u"cbQt"_s);
+    period.setItems(numbers(kPeriods));
+    period.setPosition(0);
+    for (Control* proposal : form_.named(u"lblPROPOSED"_s)) {
+        proposal->setBackColour(colours::kOpenProposal);
+        proposal->setText({});
+        proposal->setTag({});
+    }
+    form_.at(u"lblPREVIEW"_s).setVisible(state_.preview);
+}
+
+void StartUp::fillEffects() {
+    for (Control* box : form_.named(u"cmbFADE"_s)) {
+        box->setItems(numbers(kEffectSpeeds));
+        box->setPosition(kFirstEffectSpeed);
+    }
+    writeEffectDefaults(state_);
+}
+
+void StartUp::showTeams() {
+    form_.at(u"lblHTEAM"_s).setText(state_.variables.GetVar(u"@HTLNAMEEN").text());
+    form_.at(u"lblATEAM"_s).setText(state_.variables.GetVar(u"@ATLNAMEEN").text());
+}
+
+void StartUp::run() {
+    Clock& clock = engine_.ports().clock;
+    step(u"Form_Load"_s, [&] {
+        writeAppPath(state_, engine_.folder());
+        layOut();
+    });
+    if (!state_.preview) step(u"wsT"_s, steps_.bindFeed);
+    step(u"Form_Load"_s, [&] {
+        writeGameDefaults(state_, form_);
+        writeScreenModeDefault(state_, form_);
+    });
+    step(u"LOAD_PACKS"_s, steps_.LOAD_PACKS);
+    step(u"CONNECTDATABASE"_s, steps_.CONNECTDATABASE);
+    step(u"LOAD_CARDS"_s, steps_.LOAD_CARDS);
+    step(u"LOAD_ASK"_s, steps_.LOAD_ASK);
+    step(u"Form_Load"_s, [&] {
+        console_.selectBox(0);
+        writeCrawlDefault(state_);
+        fillEffects();
+        console_.showLoaded();
+    });
+    step(u"Form_Load"_s, [&] { engine_.SHOW_TVCARD(u"GetGame.csp"_s, false, false); });
+    step(u"Form_Load"_s, [&] {
+        showTeams();
+        clock.turnEvents(1);
+        showClear(form_);
+        clock.turnEvents(1);
+    });
+    step(u"LoadSelections"_s, steps_.LoadSelections);
+    step(u"Form_Load"_s, steps_.showGeneral);
+    if (!step(u"Form_Load"_s, [&] { clock.turnEvents(1); })) return;
+    step(u"tmrCARD"_s, steps_.startTimedCards);
+}
+
+}  // namespace zelvor
