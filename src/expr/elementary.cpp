@@ -16,6 +16,9 @@ namespace {
 
 using Real = long double;
 
+// Figures of a whole number of 64 bits, more than the shortest form of any double.
+constexpr std::size_t kMaxFigures = 20;
+
 bool isOddWhole(double n) {
     return std::fabs(std::fmod(n, 2)) == 1;
 }
@@ -75,7 +78,7 @@ double roundToDigits(double x, double digits) {
     int exponent = 0;
     std::from_chars(exponentMark[1] == '+' ? exponentMark + 2 : exponentMark + 1, end, exponent);
 
-    std::array<char, 20> figures{};
+    std::array<char, kMaxFigures> figures{};
     char* figuresEnd = std::copy_if(first, exponentMark, figures.data(), [](char c) { return c != '.'; });
     const auto count = static_cast<double>(figuresEnd - figures.data());
     const double kept = digits + exponent + 1;
@@ -92,7 +95,7 @@ double roundToDigits(double x, double digits) {
     if (up) ++whole;
 
     // whole * 10^-digits, read back so that the result is the double nearest to the rounded decimal.
-    char* at = std::to_chars(first, first + text.size(), whole).ptr;
+    char* at = std::to_chars(first, first + kMaxFigures, whole).ptr;
     *at++ = 'e';
     at = std::to_chars(at, first + text.size(), -static_cast<int>(digits)).ptr;
     double rounded = 0;

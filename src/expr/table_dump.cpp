@@ -21,9 +21,9 @@ void describeArgument(const EvaluationTable& table, std::uint32_t slot, std::str
         cells[1] = table.variables[slot].name;
     } else if (slot < EvaluationTable::kFirstNumber) {
         cells[0] = std::to_string(slot - EvaluationTable::kFirstResult + 1);
-        cells[1] = "(row)";
+        cells[1] = std::string("(row)");
     } else {
-        cells[1] = "(number)";
+        cells[1] = std::string("(number)");
     }
     if (!std::isnan(table.slots[slot])) cells[2] = numberText(table.slots[slot]);
 }
@@ -39,7 +39,7 @@ Line describeRow(const EvaluationTable& table, std::size_t index, std::string_vi
     line[11] = std::to_string(row.priority);
     line[12] = std::to_string(characterPosition(formula, row.position));
     line[13] = std::to_string(index + 1);
-    line[14] = isComparison(row.operation) ? "1" : "0";
+    line[14] = std::to_string(static_cast<int>(isComparison(row.operation)));
     return line;
 }
 
