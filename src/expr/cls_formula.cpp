@@ -30,7 +30,14 @@ double truth(bool condition) {
 }  // namespace
 
 std::string_view operationName(const Row& row) {
-    return row.operation == Operation::Call ? row.function->name : kSymbols[static_cast<std::size_t>(row.operation)];
+    return row.function != nullptr ? row.function->name : kSymbols[static_cast<std::size_t>(row.operation)];
+}
+
+Operation callOf(const Function& function) {
+    if (std::holds_alternative<Unary>(function.body)) return Operation::CallUnary;
+    if (std::holds_alternative<Angular>(function.body)) return Operation::CallAngular;
+    if (std::holds_alternative<Binary>(function.body)) return Operation::CallBinary;
+    return Operation::CallOther;
 }
 
 bool isComparison(Operation operation) {
@@ -142,7 +149,7 @@ double clsFormula::Eval() {
     }
     double* const slots = table_.slots.data();
     for (const Row& row : table_.rows) {
-        const double value = compute(row);
+        const double value = compute(row, slots[row.first], slots[row.second]);
         if (!std::isfinite(value)) {
             evaluationError(row);
             return 0;
@@ -152,9 +159,7 @@ double clsFormula::Eval() {
     return slots[table_.value];
 }
 
-double clsFormula::compute(const Row& row) {
-    const double a = table_.slots[row.first];
-    const double b = table_.slots[row.second];
+inline double clsFormula::compute(const Row& row, double a, double b) {
     switch (row.operation) {
         case Operation::Add:
             return a + b;
@@ -167,7 +172,7 @@ double clsFormula::compute(const Row& row) {
         case Operation::IntegerDivide:
             return integerQuotient(a, b);
         case Operation::Power:
-            return power(a, b);
+            return b == 2 ? a * a : std::pow(a, b);
         case Operation::Percent:
             return a / 100;
         case Operation::Negate:
@@ -184,12 +189,15 @@ double clsFormula::compute(const Row& row) {
             return truth(a >= b);
         case Operation::NotEqual:
             return truth(a != b);
-        case Operation::Call:
+        case Operation::CallUnary:
+            return (*std::get_if<Unary>(&row.function->body))(a);
+        case Operation::CallAngular:
+            return (*std::get_if<Angular>(&row.function->body))(a, context_.angle);
+        case Operation::CallBinary:
+            return (*std::get_if<Binary>(&row.function->body))(a, b);
+        case Operation::CallOther:
             break;
     }
-    if (const auto* const unary = std::get_if<Unary>(&row.function->body)) return (*unary)(a);
-    if (const auto* const angular = std::get_if<Angular>(&row.function->body)) return (*angular)(a, context_.angle);
-    if (const auto* const binary = std::get_if<Binary>(&row.function->body)) return (*binary)(a, b);
     return call(row);
 }
 
@@ -269,7 +277,7 @@ void clsFormula::evaluationError(const Row& row) {
     if (row.argumentCount == 2) {
         const std::string first = numberText(values[0]);
         const std::string second = numberText(values[1]);
-        if (row.operation == Operation::Call) {
+        if (row.function != nullptr) {
             return setError(ErrorCode::EvaluationTwoArguments, row.position, {name, first, second, position});
         }
         return setError(ErrorCode::EvaluationOperator, row.position, {first, name, second, position});

@@ -84,7 +84,7 @@ class clsFormula {
 
     void keepValues();
     void restoreValues();
-    double compute(const Row& row);
+    double compute(const Row& row, double a, double b);
     double call(const Row& row);
     bool isVariable(int index);
     int indexOf(std::string_view name) const;

@@ -42,10 +42,6 @@ double naturalLogarithm(double x) {
     return x > 0 ? std::log(x) : kFailed;
 }
 
-double power(double x, double y) {
-    return y == 2 ? x * x : std::pow(x, y);
-}
-
 double root(double x, double n) {
     if (n == 0) return kFailed;
     if (x >= 0) return static_cast<double>(std::pow(Real{x}, 1 / Real{n}));

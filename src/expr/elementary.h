@@ -7,7 +7,6 @@ double cubeRoot(double x);
 double logarithm10(double x);
 double logarithmToBase(double x, double base);
 double naturalLogarithm(double x);
-double power(double x, double y);
 double root(double x, double n);
 double sign(double x);
 double squareRoot(double x);

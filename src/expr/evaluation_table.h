@@ -27,12 +27,15 @@ enum class Operation : std::uint8_t {
     LessOrEqual,
     GreaterOrEqual,
     NotEqual,
-    Call,
+    CallUnary,
+    CallAngular,
+    CallBinary,
+    CallOther,
 };
 
 // One operation of a compiled formula. Arguments and result are indexes into the table's slots.
 struct Row {
-    Operation operation = Operation::Call;
+    Operation operation = Operation::Add;
     // Set for calls only.
     const Function* function = nullptr;
     std::uint32_t first = 0;
@@ -71,6 +74,9 @@ struct EvaluationTable {
 
 // How an operation reads in messages and in the dump: its symbol, or its function's name.
 std::string_view operationName(const Row& row);
+
+// How a function is called, by the shape of its body.
+Operation callOf(const Function& function);
 
 bool isComparison(Operation operation);
 
