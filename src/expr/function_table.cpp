@@ -212,6 +212,14 @@ constexpr std::array kFunctions{
     Function{"TimeSerial", 3, "hour, minute, second", "the time, as a part of a day", timeSerial},
 };
 
+constexpr std::array kGroups{
+    FunctionGroup{"Elementary", "Abs"},     FunctionGroup{"Angles", "Sin"},
+    FunctionGroup{"Hyperbolic", "Sinh"},    FunctionGroup{"Logic", "Not"},
+    FunctionGroup{"Whole numbers", "Fact"}, FunctionGroup{"Statistics", "max"},
+    FunctionGroup{"Probability", "DNorm"},  FunctionGroup{"Special functions", "Erf"},
+    FunctionGroup{"Signals", "step"},       FunctionGroup{"Dates", "Year"},
+};
+
 constexpr std::array kMoments{
     Function{"DATE", 0, "", "current date",
              Contextual{[](const Arguments&, Context& context) { return std::floor(context.clock()); }}},
@@ -261,6 +269,10 @@ constexpr const Function& functionNamed(std::string_view name) {
 
 std::span<const Function> functions() {
     return kFunctions;
+}
+
+std::span<const FunctionGroup> functionGroups() {
+    return kGroups;
 }
 
 const Function* findFunction(std::string_view name) {

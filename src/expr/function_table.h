@@ -33,6 +33,14 @@ inline constexpr int kAnyNumber = -1;
 // In the order of the reference page.
 std::span<const Function> functions();
 
+// A heading of the reference page, and the function that it stands before.
+struct FunctionGroup {
+    std::string_view title;
+    std::string_view first;
+};
+
+std::span<const FunctionGroup> functionGroups();
+
 // Without regard to case; null when there is no function of that name.
 const Function* findFunction(std::string_view name);
 

@@ -5,7 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <iostream>
+#include <string>
+#include <vector>
 
+#include "app_calc/calc_command.h"
 #include "app_run/run_command.h"
 
 using namespace Qt::StringLiterals;
@@ -22,7 +26,14 @@ int run(const QStringList& arguments, QTextStream& out, QTextStream& err) {
     return static_cast<int>(zelvor::runCard(arguments, out, err));
 }
 
+int calc(const QStringList& arguments, QTextStream&, QTextStream&) {
+    std::vector<std::string> words;
+    for (const QString& argument : arguments) words.push_back(argument.toStdString());
+    return zelvor::runCalc(words, std::cout, std::cerr);
+}
+
 const std::array kSubcommands{
+    Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
     Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},
 };
 
