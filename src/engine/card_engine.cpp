@@ -10,7 +10,13 @@ namespace zelvor {
 
 CardEngine::CardEngine(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files,
                        ErrorTrap& trap, const Ports& ports)
-    : state_(state), form_(form), folder_(folder), files_(files), trap_(trap), ports_(ports) {}
+    : state_(state),
+      form_(form),
+      folder_(folder),
+      files_(files),
+      trap_(trap),
+      ports_(ports),
+      calculator_(ports.clock) {}
 
 QString CardEngine::scriptName(const QString& cardFile) {
     QString name = cardFile;

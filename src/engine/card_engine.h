@@ -5,6 +5,7 @@
 #include "base/app_folder.h"
 #include "base/error_trap.h"
 #include "base/text_file.h"
+#include "engine/calculator.h"
 #include "engine/card_script.h"
 #include "engine/ports.h"
 #include "engine/show_state.h"
@@ -34,6 +35,7 @@ class CardEngine {
     const AppFolder& folder() const { return folder_; }
     const TextFiles& files() const { return files_; }
     const Ports& ports() const { return ports_; }
+    Calculator& calculator() { return calculator_; }
 
     // Names the pack's script of a card: ".qrd" and ".QRD" are run as ".csp", any other spelling stays.
     static QString scriptName(const QString& cardFile);
@@ -45,6 +47,7 @@ class CardEngine {
     const TextFiles& files_;
     ErrorTrap& trap_;
     Ports ports_;
+    Calculator calculator_;
     CardScriptCache scripts_;
     int depth_ = 0;
 };

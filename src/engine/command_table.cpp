@@ -7,8 +7,9 @@ namespace zelvor {
 
 namespace {
 
-constexpr std::array kGroups{&commands::flow,     &commands::variables, &commands::cards,   &commands::templateData,
-                             &commands::graphics, &commands::textFiles, &commands::feedback};
+constexpr std::array kGroups{&commands::flow,      &commands::variables,    &commands::calculations,
+                             &commands::cards,     &commands::templateData, &commands::graphics,
+                             &commands::textFiles, &commands::feedback};
 
 QHash<QString, const Command*> commandsByWord() {
     QHash<QString, const Command*> byWord;

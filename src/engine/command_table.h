@@ -32,6 +32,7 @@ std::vector<const Command*> allCommands();
 namespace commands {
 std::span<const Command> flow();
 std::span<const Command> variables();
+std::span<const Command> calculations();
 std::span<const Command> cards();
 std::span<const Command> templateData();
 std::span<const Command> graphics();

@@ -6,6 +6,7 @@
 #include "app_run/run_graphics.h"
 #include "app_run/run_options.h"
 #include "app_run/terminal_ports.h"
+#include "data/connections.h"
 #include "engine/card_engine.h"
 #include "engine/defaults.h"
 #include "engine/packs.h"
@@ -16,24 +17,6 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 namespace {
-
-// Until a database is opened there is none: each query says so.
-class NoDatabase : public Database {
- public:
-    explicit NoDatabase(Operator& operatorDesk) : operator_(operatorDesk) {}
-
-    int RUN_QUERY(const QString& sql) override { return refuse(u"Error in Query"_s, sql); }
-    int RUN_QUERY2(const QString& sql) override { return refuse(u"Error in Query2"_s, sql); }
-    void execute(const QString&) override { throw RunTimeError(ErrorNumber::DatabaseError); }
-    NamedRows readGreek(const QString&) override { throw RunTimeError(ErrorNumber::DatabaseError); }
-
- private:
-    int refuse(const QString& title, const QString& sql) {
-        operator_.message(title, u"No database is connected\r\n"_s + sql, Operator::Severity::Warning);
-        return 0;
-    }
-    Operator& operator_;
-};
 
 class NoAskDialog : public AskDialog {
  public:
@@ -64,10 +47,12 @@ class TerminalRun {
         const CardEngine::Outcome outcome = engine_.SHOW_TVCARD(options_.card, options_.autoRun, options_.keepStates);
         graphics_.finishSending(clock_);
         if (options_.printVariables) printVariables();
+        if (database_.connectionState() == Connections::State::Failed) return RunStatus::NotReached;
         switch (outcome) {
             case CardEngine::Outcome::Ran:
-            case CardEngine::Outcome::Closed:
                 return RunStatus::Ran;
+            case CardEngine::Outcome::Closed:  // nothing but a database without a connection ends the program here
+                return RunStatus::NotReached;
             case CardEngine::Outcome::NoScript:
                 return RunStatus::NoScript;
             case CardEngine::Outcome::Failed:
@@ -108,7 +93,13 @@ class TerminalRun {
     SystemClock clock_{state_};
     TerminalOperator operator_;
     TerminalDesktop desktop_;
-    NoDatabase database_{operator_};
+    Connections database_{state_,
+                          operator_,
+                          folder_,
+                          options_.files,
+                          trap_,
+                          {{}, options_.connection},
+                          [this] { state_.closing = true; }};
     NoAskDialog askDialog_;
     GraphicsLinks links_{form_, clock_, trap_, folder_, options_.files};
     RunGraphics graphics_{links_, options_, out_};

@@ -58,9 +58,9 @@ TextFiles parseCodePage(const std::optional<QString>& name) {
     return *files;
 }
 
-int parseConnection(const std::optional<QString>& text) {
+qint16 parseConnection(const std::optional<QString>& text) {
     bool isNumber = false;
-    const short number = text.value_or(u"1"_s).toShort(&isNumber);
+    const qint16 number = text.value_or(u"1"_s).toShort(&isNumber);
     if (!isNumber) throw UsageError{u"--connection takes a number"_s};
     return number;
 }

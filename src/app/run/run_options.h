@@ -28,7 +28,7 @@ struct RunOptions {
     bool keepStates = false;
     bool printVariables = false;
     bool help = false;
-    int connection = 1;
+    qint16 connection = 1;
     std::optional<ServerAddress> main;
     std::optional<ServerAddress> remote;
 };

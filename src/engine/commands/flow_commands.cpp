@@ -27,9 +27,15 @@ void ROF(CardRun& run, const Arguments&) {
     if (run.loop.counter <= run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) run.jumpTo(run.loop.start);
 }
 
+// An operand that begins with "EVAL" stands for the value of the script expression behind it.
+QString operand(CardRun& run, QStringView text) {
+    if (!text.startsWith(u"EVAL")) return text.toString();
+    return run.engine().calculator().evaluate(text.mid(4)).text();
+}
+
 void IF(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    if (conditionHolds(pieces[0], pieces[1], pieces[2])) return;
+    if (conditionHolds(operand(run, pieces[0]), pieces[1], operand(run, pieces[2]))) return;
     const QStringView label = pieces.count() > 3 ? pieces[3] : QStringView();
     const int blockEnd = run.script().findBlockEnd(label, run.lineNo());
     if (blockEnd == 0) {
@@ -60,6 +66,20 @@ void BREAK(CardRun& run, const Arguments& args) {
     if (!onAirLocked(run.form())) SHOW_ONAIR(run.state(), run.form(), run.cardFile());
 }
 
+void LOOPPAGE(CardRun& run, const Arguments& args) {
+    constexpr qint16 kYes = 6;
+    constexpr qint16 kNo = 7;
+    const auto answer = [&run](qint16 value) {
+        run.state().LOOP_ANSWER = value;
+        run.variables().SetVar(u"@LOOP_ANSWER", value);
+    };
+    run.ports().clock.turnEvents(1);
+    answer(kNo);
+    if (run.ports().operatorDesk.yesNo(u"Loop Run"_s, args.text())) answer(kYes);
+    run.ports().clock.turnEvents(1);
+    run.goOnUnlessClosing();
+}
+
 using Argument = Command::Argument;
 
 constexpr std::array kCommands{
@@ -73,6 +93,7 @@ constexpr std::array kCommands{
     Command{u"FI", readEarlier, Argument::None, u"label", u"ends the block of that label"},
     Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile"},
     Command{u"BREAK", BREAK, Argument::Expanded, u"message", u"asks whether to go on"},
+    Command{u"LOOPPAGE", LOOPPAGE, Argument::Expanded, u"question", u"asks Yes or No; @LOOP_ANSWER becomes 6 or 7"},
 };
 
 }  // namespace

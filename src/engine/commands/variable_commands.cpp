@@ -14,10 +14,6 @@ void SETVAR(CardRun& run, const Arguments& args) {
     run.variables().SetVar(pieces[0], pieces[1].toString());
 }
 
-void EVAL(CardRun&, const Arguments&) {
-    throw RunTimeError(ErrorNumber::ActionNotSupported, u"EVAL"_s);
-}
-
 void CHARCOUNT(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     const QStringView text = pieces[1];
@@ -40,7 +36,6 @@ using Argument = Command::Argument;
 
 constexpr std::array kCommands{
     Command{u"SETVAR", SETVAR, Argument::Expanded, u"variable;value", u"sets a variable"},
-    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value"},
     Command{u"CHARCOUNT", CHARCOUNT, Argument::Expanded, u"name;text;character",
             u"@name becomes how often the character stands in the text"},
     Command{u"SPLIT", SPLIT, Argument::Expanded, u"text;separator;name", u"stores the pieces as @name_0, @name_1, ..."},

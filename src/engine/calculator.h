@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStringView>
+
+#include "base/value.h"
+#include "engine/ports.h"
+#include "expr/cls_formula.h"
+#include "script/evaluator.h"
+
+namespace zelvor {
+
+// The two evaluators that scripts use: formulas for CALC, script expressions for EVAL. One formula object serves the
+// whole program, so that its memory is used again.
+class Calculator {
+ public:
+    // The clock answers what a script expression asks of date and time.
+    explicit Calculator(const Clock& clock);
+
+    // A formula's value. Throws 5 with the parser's message for one that does not parse or evaluate.
+    double calculate(QStringView formula);
+    // A script expression's value. Throws the evaluator's errors.
+    [[nodiscard]] Value evaluate(QStringView expression) const { return evaluator_.evaluate(expression); }
+
+ private:
+    expr::clsFormula formula_;
+    script::Evaluator evaluator_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,98 @@
+#include <cmath>
+
+#include "base/number.h"
+#include "engine/card_run.h"
+#include "script/decimal.h"
+#include "script/pattern.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+void EVAL(CardRun& run, const Arguments& args) {
+    const QStringView name = args.rawPieces()[0];
+    run.variables().SetVar(QString(u'@' + name), run.engine().calculator().evaluate(args.pieces()[1]));
+}
+
+void CALC(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    run.variables().SetVar(pieces[0], run.engine().calculator().calculate(pieces[1]));
+}
+
+double roundedTo(QStringView text, int digits) {
+    constexpr int kMostDigits = 22;
+    double number = 0;
+    if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, text.left(80).toString());
+    if (digits < 0 || digits > kMostDigits) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    return script::numberOf(script::decimalOf(number, digits, script::Halves::ToEven));
+}
+
+void ROUND(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    run.variables().SetVar(pieces[0], roundedTo(pieces[1], wholeNumber16(pieces[2])));
+}
+
+void PERCENTMAX(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const double a = Val(pieces[0]);
+    const double total = a + Val(pieces[1]);
+    const double max = Val(pieces[2]);
+    const double first = total > 0 ? std::floor(a / total * max) : 0;
+    run.variables().SetVar(u"@PERCM1", first);
+    run.variables().SetVar(u"@PERCM2", total > 0 ? max - first : 0);
+}
+
+double numberInResult(CardRun& run, int row, QStringView column) {
+    const Value* cell = run.state().QUERY_RESULT.find(row, wholeNumber32(column));
+    if (cell == nullptr) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"QUERY_RESULT"_s);
+    return cell->leadingNumber();
+}
+
+void PERCENT(CardRun& run, const Arguments& args) {
+    const Pieces pieces = args.pieces();
+    const int row = wholeNumber32(pieces[0]);
+    const double part = numberInResult(run, row, pieces[1]);
+    const double whole = numberInResult(run, row, pieces[2]);
+    if (whole == 0) {
+        run.variables().SetVar(u"@PERC", 0);
+        return;
+    }
+    run.variables().SetVar(u"@PERC", script::formatNumber(part / whole * 100, u"##0.00"));
+}
+
+// variable;find;replacement: the variable is named with or without brackets.
+void REPLACE(CardRun& run, const Arguments& args) {
+    QString name = args.rawPieces()[0].toString();
+    name.remove(u'{').remove(u'}');
+    const Pieces pieces = args.pieces();
+    QString text = pieces[0].toString();
+    const QStringView find = pieces[1];
+    const QStringView replacement = pieces[2];
+    if (!find.isEmpty()) text.replace(find.toString(), replacement.toString());
+    run.variables().SetVar(name, text);
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value"},
+    Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value"},
+    Command{u"ROUND", ROUND, Argument::Expanded, u"variable;value;digits",
+            u"the variable becomes the rounded value, halves to the even digit"},
+    Command{u"PERCENTMAX", PERCENTMAX, Argument::Expanded, u"a;b;max",
+            u"splits max as a to b into @PERCM1 and @PERCM2"},
+    Command{u"PERCENT", PERCENT, Argument::Expanded, u"row;column1;column2",
+            u"@PERC becomes column1 in percent of column2 of a row of the query result"},
+    Command{u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
+            u"replaces every find in the variable's value"},
+};
+
+}  // namespace
+
+std::span<const Command> calculations() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands
