@@ -19,6 +19,17 @@ bool waitFor(Clock& clock, Condition&& condition) {
     return true;
 }
 
+// Reads replies until none has come for a moment: leaving one unread would make the server see the connection as
+// broken, and lines that it has not read yet could be lost.
+void waitForQuiet(CasparLink& link, Clock& clock) {
+    constexpr int kQuiet = 100;  // milliseconds
+    QDateTime lastHeard = clock.now();
+    const QMetaObject::Connection listening =
+        QObject::connect(&link, &CasparLink::received, &link, [&] { lastHeard = clock.now(); });
+    waitFor(clock, [&] { return lastHeard.msecsTo(clock.now()) > kQuiet; });
+    QObject::disconnect(listening);
+}
+
 }  // namespace
 
 RunGraphics::RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextStream& out)
@@ -49,7 +60,9 @@ bool RunGraphics::connectNamed(Clock& clock, QTextStream& err) {
 void RunGraphics::finishSending(Clock& clock) {
     for (const LinkId id : kLinks) {
         CasparLink& link = links_.link(id);
+        if (!isSendable(link.state())) continue;
         waitFor(clock, [&] { return link.unsentBytes() == 0 || !isSendable(link.state()); });
+        waitForQuiet(link, clock);
     }
 }
 
