@@ -2,6 +2,8 @@
 
 #include "base/run_time_error.h"
 
+using namespace Qt::StringLiterals;
+
 namespace zelvor {
 
 CardEntry& CardTable::entry(int set, int row) {
@@ -12,6 +14,13 @@ CardEntry& CardTable::entry(int set, int row) {
 FunctionKey& CardTable::functionKey(int key) {
     if (key < 0 || key >= kFunctionKeys) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     return functionKeys[key];
+}
+
+const AskField& AskState::field(int number) const {
+    if (number < 0 || static_cast<size_t>(number) >= ASK_FIELDS.size()) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"ask field %1"_s.arg(number));
+    }
+    return ASK_FIELDS[number];
 }
 
 QString& OnAirTable::at(int row, int column) {

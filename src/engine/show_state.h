@@ -31,14 +31,18 @@ struct AskField {
 
 struct AskState {
     static constexpr qint16 kYes = -1;
+    static constexpr int kSmallestTable = 2;
 
     qint16 ASK_FIELD = 0;
     QString ASK_RESULT;
     QString ASK_PREVIOUS;
     qint16 ASK_CANCELLED = 0;
     qint16 ASK_OPEN = 0;
-    std::vector<AskField> ASK_FIELDS = std::vector<AskField>(2);
+    std::vector<AskField> ASK_FIELDS = std::vector<AskField>(kSmallestTable);
     QString lastItemData;  // the key chosen in the pick list that was answered last
+
+    // Throws 9 Subscript out of range outside of ASK_FIELDS.
+    [[nodiscard]] const AskField& field(int number) const;
 };
 
 // ONAIR_TABLE: which card declared itself on air in a slot. Columns 0 to 5, any row.

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDialog>
+
+#include "ask/pick_list.h"
+
+namespace zelvor {
+
+// The pick-list dialog (frmASK): a line that says how many rows there are, the list, and a Cancel button below it.
+// It ends, cancelled, when the program is closing.
+class AskForm : public QDialog {
+    Q_OBJECT
+
+ public:
+    // list: outlives this form, and is answered when exec() returns.
+    AskForm(PickList& list, const ShowState& state, QWidget* parent);
+
+ private:
+    void choose(int row);
+
+    PickList& list_;
+};
+
+// Shows an AskForm, centred on the console, for each pick list.
+class AskFormDialog : public AskDialog {
+ public:
+    // window: the console's, also the source of the style; may be null.
+    AskFormDialog(ShowState& state, Database& database, ErrorTrap& trap, QWidget* window)
+        : state_(state), database_(database), trap_(trap), window_(window) {}
+
+    void show() override;
+
+ private:
+    ShowState& state_;
+    Database& database_;
+    ErrorTrap& trap_;
+    QWidget* window_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,46 @@
+#include "ask_dialog/pick_list_view.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QToolTip>
+
+namespace zelvor {
+
+PickListView::PickListView(const PickList& list, QWidget* parent) : QListWidget(parent), list_(list) {
+    setObjectName(QStringLiteral("lstASK"));
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    for (const PickList::Row& row : list.rows()) addItem(row.text);
+    setCurrentRow(0);
+    connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) { Q_EMIT chosen(row(item)); });
+}
+
+int PickListView::heightForRows(int rows) const {
+    const int rowHeight = count() > 0 ? sizeHintForRow(0) : fontMetrics().height() + 4;
+    return rows * rowHeight + 2 * frameWidth();
+}
+
+bool PickListView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QListWidget::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QListWidgetItem* item = itemAt(help->pos());
+    const bool elided = item != nullptr && sizeHintForIndex(indexFromItem(item)).width() > viewport()->width();
+    QToolTip::showText(help->globalPos(), elided ? item->text().toHtmlEscaped() : QString(), viewport());
+    return true;
+}
+
+void PickListView::keyboardSearch(const QString& typed) {
+    const int found = list_.firstBeginningWith(typed);
+    if (found >= 0) setCurrentRow(found);
+}
+
+void PickListView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (currentRow() >= 0) Q_EMIT chosen(currentRow());
+        return;
+    }
+    QListWidget::keyPressEvent(event);
+}
+
+}  // namespace zelvor

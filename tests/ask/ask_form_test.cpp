@@ -1,0 +1,119 @@
+#include "ask_dialog/ask_form.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "pick_list_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+namespace {
+
+class AskForm : public testing::Test {
+ protected:
+    // Opens the form and calls `act` with its list once it is shown.
+    void open(std::function<void(QListWidget&)> act) {
+        QTimer::singleShot(0, &console, [&] {
+            form = QApplication::activeModalWidget();
+            ASSERT_NE(form, nullptr);
+            act(*form->findChild<QListWidget*>(u"lstASK"_s));
+        });
+        AskFormDialog dialog(bench.state, bench.rowsDatabase, bench.trap, &console);
+        dialog.show();
+        EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
+    }
+
+    AskBench bench;
+    QWidget console;
+    QWidget* form = nullptr;
+};
+
+TEST_F(AskForm, answersByKeyboardAndMouse) {
+    bench.rowsDatabase.fill({u"Άρης"_s, u"Βασίλης"_s, u"Γιώργος"_s});
+    const auto click = [](QListWidget& list, int row) {
+        const QPoint place = list.visualItemRect(list.item(row)).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+    };
+    struct Case {
+        const char* what;
+        std::function<void(QListWidget&)> act;
+        QString result;
+    };
+    const std::vector<Case> cases{
+        {"letter and Enter",
+         [](QListWidget& list) {
+             QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_unknown, u"γ"_s, {});
+             EXPECT_EQ(list.currentRow(), 2);
+             QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_unknown, u"β"_s, {});
+             QTest::keyClick(&list, Qt::Key_Return);
+         },
+         u"101"_s},
+        {"arrow and Enter",
+         [](QListWidget& list) {
+             QTest::keyClick(&list, Qt::Key_Down);
+             QTest::keyClick(&list, Qt::Key_Enter);
+         },
+         u"101"_s},
+        {"double-click", [&](QListWidget& list) { click(list, 2); }, u"102"_s},
+        {"Escape", [](QListWidget& list) { QTest::keyClick(&list, Qt::Key_Escape); }, u"-1"_s},
+        {"Cancel", [&](QListWidget&) { form->findChild<QPushButton*>(u"cmdCANCEL"_s)->click(); }, u"-1"_s},
+        {"window closed", [&](QListWidget&) { form->close(); }, u"-1"_s},
+        {"program closing", [&](QListWidget&) { bench.state.closing = true; }, u"-1"_s},
+        {"program has closed", {}, u"-1"_s},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        bench.state.ask.ASK_CANCELLED = 0;
+        if (c.act) {
+            open(c.act);
+        } else {
+            AskFormDialog(bench.state, bench.rowsDatabase, bench.trap, nullptr).show();
+        }
+        EXPECT_EQ(bench.state.ask.ASK_RESULT, c.result);
+        EXPECT_EQ(bench.state.ask.ASK_CANCELLED, c.result == u"-1" ? -1 : 0);
+    }
+}
+
+TEST_F(AskForm, saysHowManyRowsThereAreAndShowsTwenty) {
+    QStringList names;
+    for (int i = 0; i < 60; ++i) names += u"Row %1 "_s.arg(i) + QString(i == 7 ? 300 : 1, u'w');
+    bench.rowsDatabase.fill(names);
+    open([&](QListWidget& list) {
+        EXPECT_EQ(form->windowTitle(), u"Player"_s);
+        EXPECT_EQ(form->findChild<QLabel*>()->text(), u"60 rows"_s);
+        EXPECT_EQ(list.indexAt({5, list.visualItemRect(list.item(19)).center().y()}).row(), 19);
+        EXPECT_LE(list.visualItemRect(list.item(19)).bottom(), list.viewport()->height());
+        EXPECT_GT(list.visualItemRect(list.item(20)).bottom(), list.viewport()->height());
+        EXPECT_EQ(list.textElideMode(), Qt::ElideRight);
+        form->close();
+    });
+}
+
+TEST_F(AskForm, canBeCancelledWhenTheQueryFails) {
+    bench.rowsDatabase.fails = true;
+    open([&](QListWidget& list) {
+        EXPECT_EQ(list.count(), 0);
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_EQ(QApplication::activeModalWidget(), form);
+        QTest::keyClick(&list, Qt::Key_Escape);
+    });
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
+    EXPECT_EQ(bench.state.ask.ASK_CANCELLED, -1);
+}
+
+}  // namespace
+}  // namespace zelvor::test
+
+int main(int argc, char* argv[]) {
+    const QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,109 @@
+#include "ask/pick_list.h"
+
+#include <gtest/gtest.h>
+
+#include "ask/scripted_ask.h"
+#include "pick_list_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+namespace {
+
+TEST(PickList, asksWithThePreviousAnswer) {
+    AskBench bench;
+    bench.state.ask.ASK_PREVIOUS = u"17"_s;
+    bench.state.variables.SetVar(u"@PERIOD", 4);
+    bench.state.variables.SetVar(u"@EIDOSEKLOGWN", u"cup"_s);
+    bench.state.variables.SetVar(u"@TABLE", u"player"_s);
+    const std::vector<std::pair<QString, QString>> cases{
+        {u"select {@TABLE} where x='{@@}' and p={@PERIOD}"_s, u"select player where x='17' and p=4"_s},
+        {u"%{@TABLE} {@@} {@PERIOD} {@EIDOSEKLOGWN}"_s, u"%{@TABLE} 17 4 cup"_s},
+    };
+    for (const auto& [sql, expected] : cases) {
+        bench.state.ask.ASK_FIELDS[2].sql = sql;
+        const PickList list(bench.state, bench.rowsDatabase, bench.trap);
+        EXPECT_EQ(bench.rowsDatabase.statements.last(), expected);
+        EXPECT_FALSE(bench.state.variables.find(u"@@"));
+    }
+}
+
+TEST(PickList, isEmptyAfterOneMessageWhenItCannotBeRead) {
+    struct Case {
+        const char* what;
+        void (*spoil)(AskBench&);
+        QString says;
+    };
+    const std::vector<Case> cases{
+        {"query", [](AskBench& bench) { bench.rowsDatabase.fails = true; }, u"no such table"_s},
+        {"code column", [](AskBench& bench) { bench.state.ask.ASK_FIELDS[2].getCode = u"key"_s; }, u"\"key\""_s},
+        {"text column", [](AskBench& bench) { bench.state.ask.ASK_FIELDS[2].display.clear(); }, u"no column \"\""_s},
+        {"text key", [](AskBench& bench) { bench.rowsDatabase.rows.rows[1][0] = u"B12"_s; }, u"Error 13"_s},
+        {"null key", [](AskBench& bench) { bench.rowsDatabase.rows.rows[1][0] = Value::Null(); }, u"Error 94"_s},
+        {"large key", [](AskBench& bench) { bench.rowsDatabase.rows.rows[1][0] = 1e12; }, u"Error 6"_s},
+        {"no field", [](AskBench& bench) { bench.state.ask.ASK_FIELD = 3; }, u"Error 9"_s},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        AskBench bench;
+        bench.rowsDatabase.fill({u"A"_s, u"B"_s});
+        c.spoil(bench);
+        PickList list(bench.state, bench.rowsDatabase, bench.trap);
+        EXPECT_TRUE(list.rows().empty());
+        ASSERT_EQ(bench.operatorDesk.shown.size(), 1);
+        EXPECT_TRUE(bench.operatorDesk.shown[0].contains(c.says)) << bench.operatorDesk.shown[0].toStdString();
+        EXPECT_EQ(bench.state.ask.ASK_OPEN, -1);
+        list.cancel();
+        EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
+    }
+}
+
+TEST(PickList, findsARowByItsFirstLetter) {
+    AskBench bench;
+    bench.rowsDatabase.fill(
+        {u"Ωρίων"_s, u"Άγγελος"_s, u"Αλέξης"_s, u"Σίμος"_s, u"Żak"_s, u"zed"_s, u"7 Bob"_s, u"Éric"_s, u""_s});
+    const PickList list(bench.state, bench.rowsDatabase, bench.trap);
+    const std::vector<std::pair<QString, int>> cases{
+        {u"ω"_s, 0}, {u"Ώ"_s, 0}, {u"α"_s, 2}, {u"ά"_s, 1},  {u"ς"_s, 3},
+        {u"Z"_s, 5}, {u"7"_s, 6}, {u"e"_s, 7}, {u"x"_s, -1}, {u"%"_s, -1},
+    };
+    for (const auto& [typed, row] : cases) EXPECT_EQ(list.firstBeginningWith(typed), row) << typed.toStdString();
+}
+
+TEST(PickList, leavesTheOneBelowItOpen) {
+    AskBench bench;
+    bench.rowsDatabase.fill({u"A"_s, u"B"_s});
+    PickList below(bench.state, bench.rowsDatabase, bench.trap);
+    PickList above(bench.state, bench.rowsDatabase, bench.trap);
+    above.cancel();
+    EXPECT_EQ(bench.state.ask.ASK_OPEN, -1);
+    EXPECT_EQ(bench.state.ask.ASK_RESULT, u"-1"_s);
+    below.choose(1);
+    EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
+    EXPECT_EQ(bench.state.ask.ASK_CANCELLED, 0);
+    EXPECT_EQ(bench.state.ask.ASK_RESULT, u"101"_s);
+    EXPECT_EQ(bench.state.ask.lastItemData, u"101"_s);
+}
+
+TEST(ScriptedAsk, takesItsAnswersInOrder) {
+    AskBench bench;
+    bench.rowsDatabase.fill({u"A"_s, u"B"_s});
+    ScriptedAsk ask(bench.state, bench.rowsDatabase, bench.trap, {u"101"_s, u"cancel"_s, u"A"_s});
+    ask.show();
+    EXPECT_EQ(bench.state.ask.ASK_RESULT, u"101"_s);
+    ask.show();
+    EXPECT_EQ(bench.state.ask.ASK_CANCELLED, -1);
+    for (const QString& fault : {u"has no key \"A\""_s, u"has no answer left"_s}) {
+        try {
+            ask.show();
+            ADD_FAILURE() << "no error";
+        } catch (const RunTimeError& error) {
+            EXPECT_TRUE(error.text().endsWith(u"ask field 2 \"Player\" "_s + fault + u"; it offers 100, 101"_s))
+                << error.text().toStdString();
+        }
+        EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
+    }
+}
+
+}  // namespace
+}  // namespace zelvor::test
