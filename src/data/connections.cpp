@@ -94,7 +94,10 @@ int Connections::runIntoResult(Session& session, const QString& sql, const QStri
             state_.QUERY_RESULT = QueryResult(count, static_cast<int>(rows.columns.size()), std::move(rows.cells));
             state_.variables.SetVar(u"@RECORDCOUNT", count);
         } catch (const RunTimeError& error) {
-            operator_.message(errorTitle, error.text() + u"\r\n"_s + sql, Operator::Severity::Warning);
+            // Who has just been told that the program ends needs no second message.
+            if (!state_.closing) {
+                operator_.message(errorTitle, error.text() + u"\r\n"_s + sql, Operator::Severity::Warning);
+            }
             throw;  // for the error log
         }
     });

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::array kGroups{&commands::flow,      &commands::variables,    &commands::calculations,
                              &commands::cards,     &commands::templateData, &commands::graphics,
-                             &commands::textFiles, &commands::feedback};
+                             &commands::textFiles, &commands::feedback,     &commands::askAndQuery};
 
 QHash<QString, const Command*> commandsByWord() {
     QHash<QString, const Command*> byWord;

@@ -36,6 +36,7 @@ std::span<const Command> calculations();
 std::span<const Command> cards();
 std::span<const Command> templateData();
 std::span<const Command> graphics();
+std::span<const Command> askAndQuery();
 std::span<const Command> textFiles();
 std::span<const Command> feedback();
 }  // namespace commands

@@ -6,6 +6,8 @@
 #include "app_run/run_graphics.h"
 #include "app_run/run_options.h"
 #include "app_run/terminal_ports.h"
+#include "ask/ask_fields.h"
+#include "ask/scripted_ask.h"
 #include "data/connections.h"
 #include "engine/card_engine.h"
 #include "engine/defaults.h"
@@ -17,11 +19,6 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 namespace {
-
-class NoAskDialog : public AskDialog {
- public:
-    void show() override { throw RunTimeError(ErrorNumber::ActionNotSupported, u"ASKFIELD"_s); }
-};
 
 // The objects of one run, made for it and gone with it.
 class TerminalRun {
@@ -38,6 +35,9 @@ class TerminalRun {
         writeAllDefaults(state_, form_, folder_);
         if (!choosePack()) return RunStatus::NoScript;
         if (folder_.exists(folder_.packFile(state_.language(), u"CARDS.TXT"))) packs_.LOAD_CARDS();
+        if (folder_.exists(folder_.packFile(state_.language(), u"ASKFIELDS.TXT"))) {
+            LOAD_ASK(state_, folder_, options_.files, trap_);
+        }
         for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
         if (!graphics_.connectNamed(clock_, err_)) return RunStatus::NotReached;
 
@@ -100,7 +100,7 @@ class TerminalRun {
                           trap_,
                           {{}, options_.connection},
                           [this] { state_.closing = true; }};
-    NoAskDialog askDialog_;
+    ScriptedAsk askDialog_{state_, database_, trap_, options_.answers};
     GraphicsLinks links_{form_, clock_, trap_, folder_, options_.files};
     RunGraphics graphics_{links_, options_, out_};
     Packs packs_{state_, form_, folder_, options_.files, trap_, operator_};

@@ -1,0 +1,105 @@
+// Pick lists, queries and the program's forms.
+
+#include <algorithm>
+
+#include "base/number.h"
+#include "engine/card_run.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::commands {
+
+namespace {
+
+void RETURNASK(CardRun& run, const Arguments& args) {
+    run.state().ask.ASK_RESULT = numberText(Val(args.text()));
+}
+
+void ASKFIELD(CardRun& run, const Arguments& args) {
+    AskState& ask = run.state().ask;
+    const qint16 field = wholeNumber16(args.pieces()[0]);
+    if (run.autoRun()) {
+        ask.ASK_FIELD = field;
+        const QString answer = run.variables().GetVar(QString(u"AUTOTAG_"_s + ask.field(field).autoTag)).text();
+        run.variables().SetVar(u"@RETURNKEY", answer);
+        return;
+    }
+    ask.ASK_PREVIOUS = ask.ASK_RESULT;
+    ask.ASK_RESULT = u"0"_s;
+    ask.ASK_FIELD = field;
+    ask.ASK_CANCELLED = 0;
+    run.ports().askDialog.show();
+    run.goOnUnlessClosing();
+    if (ask.ASK_CANCELLED == AskState::kYes) {
+        run.abandon();
+    } else {
+        run.variables().SetVar(u"@RETURNKEY", ask.ASK_RESULT);
+    }
+}
+
+void QUERY(CardRun& run, const Arguments& args) {
+    run.state().QUERY_TEXT = args.raw();
+}
+
+void QUERY_PLUS(CardRun& run, const Arguments& args) {
+    run.state().QUERY_TEXT += args.raw();
+}
+
+// No rows, or a query that failed, end the card.
+void goOnWith(CardRun& run, int recordCount) {
+    run.goOnUnlessClosing();
+    if (recordCount == 0) run.endWithoutData();
+}
+
+void EXECSQL(CardRun& run, const Arguments&) {
+    goOnWith(run, run.ports().database.RUN_QUERY(run.expand(run.state().QUERY_TEXT)));
+}
+
+void SQL(CardRun& run, const Arguments& args) {
+    goOnWith(run, run.ports().database.RUN_QUERY(args.text()));
+}
+
+void SQL2(CardRun& run, const Arguments& args) {
+    goOnWith(run, run.ports().database.RUN_QUERY2(args.text()));
+}
+
+void SQLU(CardRun& run, const Arguments& args) {
+    run.ports().database.execute(args.text());
+}
+
+// A mark for whoever reads the script.
+void marker(CardRun&, const Arguments&) {}
+
+void LOADFORM(CardRun& run, const Arguments& args) {
+    static constexpr std::array<QStringView, 3> kForms{u"frmMAIN", u"frmASK", u"frmGENERAL"};
+    const QString name = args.raw().trimmed();
+    const auto form =
+        std::ranges::find_if(kForms, [&](QStringView known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
+    if (form == kForms.end()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"form "_s + name);
+    run.ports().desktop.loadForm(form->toString());
+}
+
+using Argument = Command::Argument;
+
+constexpr std::array kCommands{
+    Command{u"RETURNASK", RETURNASK, Argument::Expanded, u"number", u"sets the answer of the last pick list"},
+    Command{u"ASKFIELD", ASKFIELD, Argument::Expanded, u"field",
+            u"opens a pick list; its answer becomes @RETURNKEY, Cancel ends the card"},
+    Command{u"QUERY", QUERY, Argument::Raw, u"text", u"begins the text of a query; EXECSQL runs it"},
+    Command{u"QUERY+", QUERY_PLUS, Argument::Raw, u"text", u"adds to the text of the query"},
+    Command{u"EXECSQL", EXECSQL, Argument::None, u"", u"runs the query of QUERY; no rows end the card"},
+    Command{u"SQL", SQL, Argument::Expanded, u"statement", u"runs a query; no rows end the card"},
+    Command{u"SQL2", SQL2, Argument::Expanded, u"statement", u"the same on the Greek connection"},
+    Command{u"SQLU", SQLU, Argument::Expanded, u"statement", u"runs a statement that gives no rows"},
+    Command{u"RTX", marker, Argument::None, u"", u"a mark without effect"},
+    Command{u"RTXS", marker, Argument::None, u"", u"a mark without effect"},
+    Command{u"LOADFORM", LOADFORM, Argument::Raw, u"name", u"shows frmMAIN, frmASK or frmGENERAL"},
+};
+
+}  // namespace
+
+std::span<const Command> askAndQuery() {
+    return kCommands;
+}
+
+}  // namespace zelvor::commands
