@@ -58,9 +58,10 @@ RunTimeError RunTimeError::withText(ErrorNumber number, const QString& text) {
     return error;
 }
 
-RunTimeError& RunTimeError::atPosition(int position) {
-    position_ = position;
-    return *this;
+RunTimeError RunTimeError::atPosition(int position) const {
+    RunTimeError located(*this);
+    located.position_ = position;
+    return located;
 }
 
 const char* RunTimeError::what() const noexcept {

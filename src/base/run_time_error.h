@@ -49,7 +49,7 @@ class RunTimeError : public std::exception {
     [[nodiscard]] const QString& text() const { return text_; }
     // Where in the evaluated text it happened, counted from 1; 0 when that has no meaning.
     [[nodiscard]] int position() const { return position_; }
-    RunTimeError& atPosition(int position);
+    [[nodiscard]] RunTimeError atPosition(int position) const;
 
     [[nodiscard]] const char* what() const noexcept override;
 

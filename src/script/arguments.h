@@ -19,7 +19,7 @@ struct Environment {
 };
 
 // Texts longer than this (UTF-16 units) are refused with 7 Out of memory.
-inline constexpr qsizetype kLongestText = 16 * 1024 * 1024;
+inline constexpr qsizetype kLongestText = qsizetype{16} * 1024 * 1024;
 
 // One argument of a call; Replace(a, b, c, , 1) leaves its fourth out.
 struct Argument {

@@ -34,9 +34,10 @@ bool cut(QStringView text, Parts& parts) {
         Part part;
         if (isDigit(text[at])) {
             part.kind = PartKind::Number;
-            while (at < text.size() && isDigit(text[at])) part.number = part.number * 10 + text[at++].digitValue();
-            part.digits = at - start;
-            if (part.digits > kMostDigits) return false;
+            for (; at < text.size() && isDigit(text[at]); ++at) {
+                if (++part.digits > kMostDigits) return false;
+                part.number = part.number * 10 + text[at].digitValue();
+            }
         } else if (text[at].isLetter()) {
             part.kind = PartKind::Word;
             while (at < text.size() && text[at].isLetter()) ++at;

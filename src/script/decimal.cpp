@@ -11,12 +11,12 @@ constexpr int kSignificantDigits = 15;
 
 // Adds one at the last digit; true when a digit is carried out at the front.
 bool addOne(std::string& digits) {
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        if (*digit != '9') {
-            ++*digit;
+    for (size_t i = digits.size(); i-- > 0;) {
+        if (digits[i] != '9') {
+            ++digits[i];
             return false;
         }
-        *digit = '0';
+        digits[i] = '0';
     }
     return true;
 }

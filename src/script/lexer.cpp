@@ -73,6 +73,16 @@ constexpr bool isOperandEnd(Token token) {
     }
 }
 
+// Token::End for an empty name, Token::Name for one that is no word of the language.
+Token wordToken(QStringView name) {
+    if (name.isEmpty()) return Token::End;
+    if (name.size() > kLongestWord) return Token::Name;
+    for (const Spelling& word : kWords) {
+        if (compareNames(name, word.text) == 0) return word.token;
+    }
+    return Token::Name;
+}
+
 }  // namespace
 
 void Lexer::advance() {
@@ -111,19 +121,19 @@ void Lexer::readNumber() {
     if (at(end) == u'.') ++end;
     while (isDigit(at(end))) ++end;
     if (at(end) == u'e' || at(end) == u'E') {
-        ++end;
-        if (at(end) == u'+' || at(end) == u'-') ++end;
-        if (!isDigit(at(end))) throw RunTimeError(ErrorNumber::InvalidNumber).atPosition(position());
+        const qsizetype digits = at(end + 1) == u'+' || at(end + 1) == u'-' ? end + 2 : end + 1;
+        if (isDigit(at(digits))) end = digits;
         while (isDigit(at(end))) ++end;
     }
-    if (isInName(at(end)) || at(end) == u'.') throw RunTimeError(ErrorNumber::InvalidNumber).atPosition(position());
+    // A variable's value may stand right before an operator's word: "7mod 4".
+    const Token word = wordToken(nameAt(end));
+    if (word == Token::Name || at(end) == u'.') throw RunTimeError(ErrorNumber::InvalidNumber).atPosition(position());
     take(Token::Number, end - start_);
 }
 
 // &H1F, &O17 or &17; a "&" behind the digits (a wider number, as "&HFFFF&" = 65535) belongs to the number.
 void Lexer::readRadixNumber() {
-    qsizetype end = start_ + 1;
-    while (isInName(at(end))) ++end;
+    qsizetype end = start_ + 1 + nameAt(start_ + 1).size();
     if (end == start_ + 1) throw RunTimeError(ErrorNumber::SyntaxError).atPosition(position());
     if (at(end) == u'&') ++end;
     take(Token::Number, end - start_);
@@ -150,13 +160,14 @@ void Lexer::readDate() {
 }
 
 void Lexer::readName() {
-    qsizetype end = start_;
+    const QStringView name = nameAt(start_);
+    take(wordToken(name), name.size());
+}
+
+QStringView Lexer::nameAt(qsizetype start) const {
+    qsizetype end = start;
     while (isInName(at(end))) ++end;
-    take(Token::Name, end - start_);
-    if (lexeme_.size() > kLongestWord) return;
-    for (const Spelling& word : kWords) {
-        if (compareNames(lexeme_, word.text) == 0) token_ = word.token;
-    }
+    return text_.mid(start, end - start);
 }
 
 void Lexer::readOperator() {

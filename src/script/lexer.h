@@ -59,6 +59,8 @@ class Lexer {
 
  private:
     [[nodiscard]] QChar at(qsizetype index) const { return index < text_.size() ? text_[index] : QChar(); }
+    // The letters, digits and "_" that begin there.
+    [[nodiscard]] QStringView nameAt(qsizetype start) const;
     void take(Token token, qsizetype length);
     void readNumber();
     void readRadixNumber();

@@ -91,7 +91,7 @@ Value rnd(const Arguments& args) {
     const double number = args.has(0) ? args.number(0) : 1;
     if (number < 0) {
         // The same number for the same argument: its bits, mixed, as a fraction.
-        quint64 bits = std::bit_cast<quint64>(number);
+        auto bits = std::bit_cast<quint64>(number);
         bits = (bits ^ (bits >> 31)) * 0x9E3779B97F4A7C15U;
         environment.lastRandom = static_cast<double>(bits >> 11) * 0x1p-53;
     } else if (number > 0 || !environment.lastRandom) {

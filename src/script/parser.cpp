@@ -35,7 +35,7 @@ template <class Operation>
 Value located(int position, Operation operation) {
     try {
         return operation();
-    } catch (RunTimeError& error) {
+    } catch (const RunTimeError& error) {
         throw error.atPosition(position);
     }
 }
@@ -258,7 +258,7 @@ Value Parser::call(const Function& function, int position) {
             } else {
                 result = function.handler(Arguments(given, environment_));
             }
-        } catch (RunTimeError& error) {
+        } catch (const RunTimeError& error) {
             // An error with a position comes from a text that Eval evaluated and says itself what is wrong.
             if (error.position() != 0) throw error.atPosition(position);
             throw RunTimeError(error.code(), u'\'' + function.name + u'\'').atPosition(position);
