@@ -1,5 +1,7 @@
 #include "form/control.h"
 
+#include <algorithm>
+
 #include "base/run_time_error.h"
 
 namespace zelvor {
@@ -18,6 +20,11 @@ void Control::change(T& member, const T& value, Property property) {
 }
 
 void Control::setText(const QString& text) {
+    if (kind_ == Kind::List && !(position_ >= 0 && items_[position_].text == text)) {
+        const auto item =
+            std::find_if(items_.begin(), items_.end(), [&](const Item& each) { return each.text == text; });
+        position_ = item == items_.end() ? -1 : static_cast<int>(item - items_.begin());
+    }
     change(text_, text, Property::Text);
 }
 void Control::setTag(const QString& tag) {

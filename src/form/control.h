@@ -38,6 +38,7 @@ class Control : public QObject {
     // A word for what is shown besides the text: "ON" or "OFF" of a card button.
     [[nodiscard]] const QString& state() const { return state_; }
 
+    // On a list the item of that text becomes the selected one; none when there is no such item.
     void setText(const QString& text);
     void setTag(const QString& tag);
     void setBackColour(std::optional<Colour> colour);

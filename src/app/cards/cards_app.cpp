@@ -1,5 +1,8 @@
 #include "app_cards/cards_app.h"
 
+#include <QScopedValueRollback>
+
+#include "base/command_line.h"
 #include "engine/placeholders.h"
 
 using namespace Qt::StringLiterals;
@@ -10,14 +13,14 @@ CardsApp::CardsApp(const Options& options)
     : folder_(options.appFolder),
       files_(options.files),
       trap_(options.errorLog),
+      database_(state_, boxes_, folder_, files_, trap_, {options.commandLine, std::nullopt},
+                [this] { window_.close(); }),
       linkConsole_(form_, links_, clock_, trap_,
                    [this](const QString& text) { return EXPAND_VARS(text, state_.variables, state_.QUERY_RESULT); }),
       startUp_(engine_, cards_, trap_, steps()) {
-    state_.preview = options.preview;
+    state_.preview = isPreview(options.commandLine);
     boxes_.setWindow(window_);
-    trap_.setReporter([this](const ErrorPlace&, const QString& message) {
-        boxes_.message({}, message, Operator::Severity::Critical);
-    });
+    trap_.setReporter([this](const ErrorPlace&, const QString& message) { tell(message); });
     cards_.answer(events_);
     answerLinks();
     form_.at(u"lblFEED"_s).setText(u"feed off"_s);
@@ -33,6 +36,10 @@ void CardsApp::answerLinks() {
     events_.onClick(u"cmdGASPHISTCLOSE"_s, [this](int) { linkConsole_.cmdGASPHISTCLOSE(); });
     events_.onClick(u"cmdLASTXML"_s, [this](int) { linkConsole_.cmdLASTXML(); });
     events_.onClick(u"cmdMANUALSEND"_s, [this](int) { linkConsole_.cmdMANUALSEND(); });
+    for (const QString& box : {u"txtGASPARIP"_s, u"txtGASPARPORT"_s}) {
+        events_.onEnter(box, [this](int) { linkConsole_.cmdGASPARCONNECT(); });
+        events_.onEnter(box + u"REMOTE"_s, [this](int) { linkConsole_.cmdGASPARCONNECTREMOTE(); });
+    }
     events_.onEnter(u"txtMANUALCASPAR"_s, [this](int) { linkConsole_.cmdMANUALSEND(); });
     connect(&window_, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);
     connect(&window_, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
@@ -41,6 +48,7 @@ void CardsApp::answerLinks() {
 StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
+    steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     return steps;
 }
@@ -48,6 +56,22 @@ StartUp::Steps CardsApp::steps() {
 void CardsApp::start() {
     window_.setWindowTitle(startUp_.caption());
     startUp_.run();
+}
+
+// One message at a time: while it is open further errors stand in the log alone.
+void CardsApp::tell(const QString& message) {
+    if (telling_) return;
+    const QScopedValueRollback telling(telling_, true);
+    boxes_.message({}, message, Operator::Severity::Critical);
+}
+
+void CardsApp::connectDatabase() {
+    database_.CONNECTDATABASE();
+    const QString number = u"database %1 "_s.arg(database_.connectionNumber());
+    QString words = u"database none"_s;
+    if (database_.connectionState() == Connections::State::Open) words = number + u"connected"_s;
+    if (database_.connectionState() == Connections::State::Failed) words = number + u"failed"_s;
+    form_.at(u"lblDATABASE"_s).setText(words);
 }
 
 void CardsApp::close() {

@@ -9,6 +9,7 @@
 #include "console/main_window.h"
 #include "console_rules/card_console.h"
 #include "console_rules/start_up.h"
+#include "data/connections.h"
 #include "engine/card_engine.h"
 #include "engine/packs.h"
 #include "engine/show_state.h"
@@ -27,7 +28,7 @@ class CardsApp : public QObject {
         QString appFolder;
         TextFiles files;
         QString errorLog;
-        bool preview = false;
+        QString commandLine;  // what is left of it beside the program's own options
     };
 
     explicit CardsApp(const Options& options);
@@ -44,6 +45,8 @@ class CardsApp : public QObject {
  private:
     StartUp::Steps steps();
     void answerLinks();
+    void tell(const QString& message);
+    void connectDatabase();
     void close();
 
     ShowState state_;
@@ -54,7 +57,7 @@ class CardsApp : public QObject {
     SystemClock clock_{state_};
     Boxes boxes_{state_};
     GraphicsLinks links_{form_, clock_, trap_, folder_, files_};
-    NoDatabase database_{boxes_};
+    Connections database_;
     NoAskDialog ask_;
     SystemDesktop desktop_;
     CardEngine engine_{state_, form_, folder_, files_, trap_, {boxes_, ask_, links_, database_, desktop_, clock_}};
@@ -64,6 +67,7 @@ class CardsApp : public QObject {
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
     StartUp startUp_;
+    bool telling_ = false;
 };
 
 }  // namespace zelvor

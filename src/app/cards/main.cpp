@@ -60,7 +60,7 @@ int main(int argc, char* argv[]) {
         wanted.files = *files;
     }
     wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
-    wanted.preview = zelvor::isPreview(line.restText());
+    wanted.commandLine = line.restText();
     wanted.errorLog = zelvor::errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 
     zelvor::theme::apply(application);

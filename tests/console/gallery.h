@@ -1,0 +1,120 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+#include "app_cards/cards_app.h"
+
+namespace zelvor::test {
+
+template <class Condition>
+bool waitUntil(Condition&& holds) {
+    const QDeadlineTimer deadline(30000);
+    QTimer alarm;
+    alarm.start(20);
+    while (!holds() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return holds();
+}
+
+// A graphics server of the test's own: answers each line, keeps what it is sent.
+class LinePeer : public QTcpServer {
+ public:
+    LinePeer() {
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, this, [this] {
+                while (socket->canReadLine()) {
+                    lines += QString::fromUtf8(socket->readLine());
+                    socket->write("202 CG OK\r\n");
+                }
+            });
+        });
+        listen(QHostAddress::LocalHost, 0);
+    }
+    // The server goes away.
+    void stop() {
+        close();
+        socket->abort();
+    }
+
+    QStringList lines;
+    QTcpSocket* socket = nullptr;
+};
+
+// The whole console on an application folder of the test's own, driven through its window.
+class Gallery {
+ public:
+    Gallery() { QDir(folder.path()).mkpath(QStringLiteral("MODULES/QRD_EN")); }
+
+    // name: relative to MODULES.
+    void write(const QString& name, const QByteArray& bytes) const {
+        QFile file(folder.filePath(QStringLiteral("MODULES/") + name));
+        if (file.open(QIODevice::WriteOnly)) file.write(bytes);
+    }
+    // A pack "EN": set 1 holds `cards`, the rest of its 21 lines are empty; set 2 a card "Second".
+    void writePack(const QByteArrayList& cards, const QByteArray& head = {}) const {
+        write(QStringLiteral("PACKS.TXT"), "EN;Basketball\r\n");
+        write(QStringLiteral("QRD_EN/CONNECTIONS.TXT"), "1==Test==Driver=SQLite3;Database=test.db\r\n");
+        write(QStringLiteral("QRD_EN/GetGame.csp"), "FUNCTIONCARD\r\nSETVAR~@HTLNAMEEN;Harbour City\r\n");
+        QByteArrayList lines = cards;
+        while (lines.size() < CardTable::kCards) lines += ",";
+        QByteArrayList second(CardTable::kCards, ",");
+        second[0] = "Second,second.csp";
+        write(QStringLiteral("QRD_EN/CARDS.TXT"), head + "SETNO:1,Game\r\n" + lines.join("\r\n") +
+                                                      "\r\nSETNO:2,Players\r\n" + second.join("\r\n") + "\r\n");
+    }
+
+    // Starts the console; every box is answered with "1" and Enter and remembered with its title and text.
+    void start(const QString& commandLine = {}) {
+        app = std::make_unique<CardsApp>(
+            CardsApp::Options{folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine});
+        QObject::connect(&app->boxes(), &Boxes::opened, [this](QDialog* box) {
+            const auto* text = box->findChild<QWidget*>(QStringLiteral("text"));
+            shown +=
+                box->windowTitle() + u'|' + text->property("text").toString() + text->property("plainText").toString();
+            QTimer::singleShot(0, box, [this, box] { answer(*box); });
+        });
+        app->window().show();
+        app->start();
+    }
+
+    template <class Widget>
+    Widget* find(const char* name, int index = -1) const {
+        for (Widget* widget : app->window().findChildren<Widget*>(QString::fromLatin1(name))) {
+            if (widget->property("index").toInt() == index) return widget;
+        }
+        return nullptr;
+    }
+    void click(const char* name, int index = -1) const {
+        QTest::mouseClick(find<QWidget>(name, index), Qt::LeftButton);
+    }
+    void press(Qt::Key key) const {
+        QWidget* focus = QApplication::focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : &app->window(), key);
+    }
+    Control& at(const char* name, int index = -1) const { return app->form().at(QString::fromLatin1(name), index); }
+
+    void connectMain(const LinePeer& peer) const {
+        at("txtGASPARPORT").setText(QString::number(peer.serverPort()));
+        click("cmdGASPARCONNECT");
+        waitUntil([&] { return app->links().state(LinkId::Main) == Graphics::kConnected && peer.socket != nullptr; });
+    }
+
+    QTemporaryDir folder;
+    QStringList shown;
+    std::function<void(QDialog& box)> answer = [](QDialog& box) {
+        if (auto* field = box.findChild<QLineEdit*>(QStringLiteral("answer"))) field->setText(QStringLiteral("1"));
+        box.accept();
+    };
+    std::unique_ptr<CardsApp> app;
+};
+
+}  // namespace zelvor::test

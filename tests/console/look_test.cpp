@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include <QFontMetrics>
+
+#include "console/hints.h"
+#include "console/panels/history_panel.h"
+#include "console/text_label.h"
+#include "console/theme.h"
+#include "gallery.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+
+TEST(Theme, TextContrastsWithItsGround) {
+    EXPECT_NEAR(theme::contrast(Qt::black, Qt::white), 21, 0.01);
+    for (const theme::TextPair& pair : theme::textPairs()) {
+        EXPECT_GE(theme::contrast(theme::colour(pair.text), theme::colour(pair.ground)), theme::kLeastContrast)
+            << "text " << static_cast<int>(pair.text) << " on " << static_cast<int>(pair.ground);
+    }
+    // The colours that rules give to labels and buttons: as text on the label's ground, or as a ground themselves.
+    for (const Colour colour : {colours::kWhite, colours::kGreen, colours::kRed}) {
+        EXPECT_GE(theme::contrast(theme::colour(colour), theme::colour(theme::Role::Cell)), theme::kLeastContrast);
+    }
+    EXPECT_GE(theme::contrast(theme::colour(colours::kRed), theme::colour(theme::Role::AirFill)),
+              theme::kLeastContrast);
+    for (const Colour ground : {colours::kGreen, colours::kRed, colours::kUsedProposal, colours::kOpenProposal,
+                                colours::kAcceptedProposal, colours::kScreenModeOn, colours::kScreenModeOff}) {
+        const QColor shown = theme::colour(ground);
+        EXPECT_GE(theme::contrast(theme::readableOn(shown), shown), theme::kLeastContrast) << ground;
+    }
+    EXPECT_EQ(theme::colour(rgb(1, 2, 3)), QColor(1, 2, 3));
+}
+
+TEST(Theme, DigitsAreOfOneWidthAndGreekIsThere) {
+    for (const bool bold : {false, true}) {
+        const QFontMetrics metrics(theme::font(22, bold));
+        for (const QChar digit : u"123456789"_s)
+            EXPECT_EQ(metrics.horizontalAdvance(digit), metrics.horizontalAdvance(u'0'));
+        EXPECT_TRUE(metrics.inFont(u'Ώ'));
+    }
+}
+
+TEST(TextLabel, WhatDoesNotFitIsElidedAndStandsInTheToolTip) {
+    TextLabel label({14});
+    label.setHint(u"hint"_s);
+    label.resize(400, 20);
+    label.setText(u"Laskaris"_s);
+    EXPECT_EQ(label.toolTip(), u"hint");
+    label.resize(30, 20);
+    label.show();
+    EXPECT_EQ(label.toolTip(), u"Laskaris\nhint");
+    label.resize(400, 20);
+    label.setText(u"one\r\ntwo"_s);
+    EXPECT_EQ(label.toolTip(), u"one\r\ntwo\nhint");
+}
+
+TEST(HistoryPanel, TemplateDataReadable) {
+    EXPECT_EQ(readableXml(u"<a><b c=\"Ώ\"/><b/></a>"_s), u"<a>\n  <b c=\"Ώ\"/>\n  <b/>\n</a>");
+    EXPECT_EQ(readableXml(u"<a c=\\\"1\\\">"_s), u"<a c=\\\"1\\\">");
+    EXPECT_EQ(readableXml({}), u"");
+}
+
+// Every control of the form is in the window once, under its name and number, and can be told by a screen reader.
+TEST(Window, MirrorsEveryControl) {
+    Gallery gallery;
+    gallery.writePack({"Score,score.csp"});
+    gallery.start();
+    const QStringList menuItems{u"mnSet169"_s, u"mnSet43"_s};
+    for (const Control* control : gallery.app->form().all()) {
+        if (menuItems.contains(control->name())) continue;
+        const QByteArray name = control->name().toLatin1();
+        const QWidget* widget = gallery.find<QWidget>(name.constData(), control->index());
+        ASSERT_NE(widget, nullptr) << control->displayName().toStdString();
+        EXPECT_FALSE(hintFor(*control).isEmpty()) << name.constData();
+        EXPECT_FALSE(widget->toolTip().isEmpty()) << name.constData();
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << name.constData();
+    }
+}
+
+}  // namespace zelvor::test

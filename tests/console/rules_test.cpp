@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include "console_rules/card_console.h"
+#include "console_rules/start_up.h"
+#include "support/fake_ports.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+
+// The card rules over an engine whose cards say on the link which of them ran.
+class CardRules : public testing::Test {
+ protected:
+    CardRules() {
+        for (const char* card : {"one", "two", "clear", "key", "invoke", "auto5ada"}) {
+            bench.write(u"QRD_TT/%1.csp"_s.arg(QLatin1StringView(card)),
+                        QByteArray("CSPSEND~") + card + " {@CARD_BUTTON_INDEX}\r\n");
+        }
+        set(1, 1) = {u"One"_s, {}, u"one.qrd"_s};
+        set(2, 21) = {u"Two"_s, {}, u"two.csp"_s};
+        bench.state.cards.clearCard = u"clear.csp"_s;
+        bench.state.cards.functionKeys[10] = {u"Key"_s, u"key.csp"_s};
+        bench.state.cards.functionKeys[11] = {u"Key"_s, u"key.csp"_s};
+        bench.state.cards.functionKeys[3] = {u"Three"_s, u"one.csp"_s};
+    }
+    CardEntry& set(int number, int row) { return bench.state.cards.entry(number, row); }
+    QStringList sent() { return std::exchange(bench.graphics.sent, {}); }
+
+    EngineBench bench;
+    CardConsole console{bench.engine};
+};
+
+TEST_F(CardRules, ButtonsFireTheRowOfTheCurrentSet) {
+    console.pressCard(0);
+    EXPECT_EQ(sent(), QStringList{u"mone 0"_s});
+    EXPECT_EQ(bench.state.variables.GetVar(u"@CARD_BUTTON_INDEX"), Value(0));
+    EXPECT_EQ(bench.state.lastFiredButton, 0);
+    EXPECT_TRUE(console.isLastFired(0));
+
+    console.selectBox(1);
+    EXPECT_TRUE(sent().isEmpty());
+    EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 20).text(), u"Two");
+    EXPECT_TRUE(bench.form.at(u"GradientButtonS"_s, 1).checked());
+    EXPECT_FALSE(bench.form.at(u"GradientButtonS"_s, 0).checked());
+    EXPECT_FALSE(console.isLastFired(0)) << "fired in another set";
+    console.pressCardBox(20);
+    EXPECT_EQ(sent(), QStringList{u"mtwo 20"_s});
+
+    console.pressCard(3);
+    EXPECT_TRUE(bench.operatorDesk.shown.last().contains(u"Card Script file:"));
+    EXPECT_THROW(console.pressCard(21), RunTimeError);
+    EXPECT_TRUE(sent().isEmpty());
+}
+
+TEST_F(CardRules, FunctionKeysOneToTen) {
+    for (const int key : {0, 1, 11, 12, 13}) console.functionKey(key);
+    EXPECT_TRUE(sent().isEmpty());
+    console.functionKey(10);
+    EXPECT_EQ(sent(), QStringList{u"mkey "_s});
+    EXPECT_EQ(bench.state.lastFiredButton, -1);
+    console.showLoaded();
+    EXPECT_EQ(bench.form.at(u"lblFKEYTITLE"_s, 2).text(), u"Three");
+    EXPECT_TRUE(bench.form.at(u"lblFKEYTITLE"_s, 2).visible());
+    EXPECT_FALSE(bench.form.at(u"lblFKEYTITLE"_s, 1).visible());
+}
+
+TEST_F(CardRules, ClearRunsTheClearCardAndResetsTheLastButton) {
+    Control& onAir = bench.form.at(u"lblONAIR"_s);
+    console.CLEAR_TV();
+    EXPECT_EQ(sent(), QStringList{u"mclear "_s});
+    EXPECT_EQ(onAir.text(), u"");
+    EXPECT_EQ(onAir.foreColour(), colours::kGreen);
+
+    console.pressCard(0);
+    set(1, 1).on = true;
+    set(1, 2).on = true;
+    EXPECT_EQ(onAir.text(), u"ON AIR");
+    EXPECT_EQ(bench.form.at(u"lblONAIRCARD"_s).text(), u"One");
+    bench.form.at(u"GradientButtonAIR"_s).setText(u"x"_s);
+    console.CLEAR_TV();
+    EXPECT_EQ(bench.form.at(u"lblONAIRCARD"_s).text(), u"");
+    EXPECT_EQ(bench.form.at(u"lblONAIRLAMP"_s).backColour(), colours::kGreen);
+    EXPECT_EQ(bench.form.at(u"GradientButtonAIR"_s).text(), u"CLEAR");
+    EXPECT_FALSE(set(1, 1).on);
+    EXPECT_TRUE(set(1, 2).on) << "only the button fired last is reset";
+    EXPECT_EQ(bench.state.lastFiredButton, -1);
+}
+
+TEST_F(CardRules, TabsShowOnePanelAndLeaveStartElevenAlone) {
+    bench.form.at(u"Frame6"_s).setVisible(true);
+    const std::array panels{1, 2, 3, 4, 5, 7};
+    for (int tab = 0; tab < 6; ++tab) {
+        console.showTab(tab);
+        for (const int panel : panels) {
+            EXPECT_EQ(bench.form.at(u"Frame%1"_s.arg(panel)).visible(), panel == panels.at(tab)) << tab << panel;
+        }
+        EXPECT_TRUE(bench.form.at(u"Frame6"_s).visible());
+    }
+}
+
+TEST_F(CardRules, ClicksReachTheirRules) {
+    FormEvents events(bench.trap);
+    console.answer(events);
+    bench.form.at(u"lblHPLAYERS"_s, 23).setForeColour(colours::kGreen);
+    bench.form.at(u"lblATEAM"_s).setForeColour(colours::kRed);
+    bench.state.playerSelected = true;
+    for (const QString& name : {u"cmdINVOKE"_s, u"cmdAUTO5ADA"_s, u"cmdCLEARTAG"_s, u"GradientButtonAIR"_s})
+        events.click(bench.form.at(name));
+    EXPECT_EQ(sent(), (QStringList{u"minvoke "_s, u"mauto5ada "_s, u"mclear "_s}));
+    EXPECT_EQ(bench.form.at(u"lblHPLAYERS"_s, 23).foreColour(), std::nullopt);
+    EXPECT_EQ(bench.form.at(u"lblATEAM"_s).foreColour(), std::nullopt);
+    EXPECT_FALSE(bench.state.playerSelected);
+    // An error in a handler ends there, with one message.
+    events.onClick(u"cmdMenu"_s, [](int) { throw RunTimeError(ErrorNumber::TypeMismatch); });
+    events.click(bench.form.at(u"cmdMenu"_s));
+    EXPECT_TRUE(bench.operatorDesk.shown.last().contains(u"Location: ZELVOR_BASKET.frmMAIN.cmdMenu_Click"));
+}
+
+TEST_F(CardRules, AutoCardTakesTheKeyOfThePickList) {
+    bench.state.ask.lastItemData = u"17"_s;
+    console.SHOW_AUTO_CARD(u"one.csp"_s);
+    EXPECT_EQ(bench.state.variables.text(u"@RETURNKEY"), u"17");
+    EXPECT_EQ(sent(), QStringList{u"mone "_s});
+}
+
+TEST_F(CardRules, SwitchesOfThePack) {
+    Control& preview = bench.form.at(u"lblPREVIEW"_s);
+    bench.state.preview = true;
+    bench.state.cards.showControls = false;
+    bench.state.switches.PreviewDisabled = true;
+    console.showLoaded();
+    EXPECT_TRUE(bench.form.at(u"picHideControls"_s).visible());
+    EXPECT_TRUE(preview.visible());
+    EXPECT_FALSE(preview.enabled());
+    bench.state.cards.showPreview = false;
+    console.showLoaded();
+    EXPECT_FALSE(preview.visible());
+}
+
+// The load sequence calls its steps in the required order, and goes on past one that fails.
+TEST_F(CardRules, StartUpOrder) {
+    bench.write(u"QRD_TT/GetGame.csp"_s, "CSPSEND~game {@FADE_IN} {@CRAWLSPEED}\r\nSETVAR~@HTLNAMEEN;Harbour City\r\n");
+    QStringList calls;
+    const auto note = [&](const QString& name) { return [&calls, name] { calls += name; }; };
+    StartUp::Steps steps{note(u"feed"_s), note(u"packs"_s),      note(u"database"_s), note(u"cards"_s),
+                         note(u"ask"_s),  note(u"selections"_s), note(u"general"_s),  note(u"timed"_s)};
+    steps.CONNECTDATABASE = [&] {
+        calls += u"database"_s;
+        throw RunTimeError(ErrorNumber::DatabaseError);
+    };
+    steps.LOAD_ASK = [&] {
+        EXPECT_EQ(bench.state.variables.find(u"@FADE_IN"), nullptr);
+        EXPECT_EQ(bench.state.variables.text(u"@TIMER"), u"0:00");
+        calls += u"ask"_s;
+    };
+    steps.LoadSelections = [&] {
+        EXPECT_EQ(bench.form.at(u"lblHTEAM"_s).text(), u"Harbour City");
+        EXPECT_EQ(bench.form.at(u"lblONAIR"_s).text(), u"");
+        calls += u"selections"_s;
+    };
+    bench.state.currentSet = 3;
+    StartUp start(bench.engine, console, bench.trap, steps);
+    start.run();
+    const QStringList all{u"feed"_s, u"packs"_s,      u"database"_s, u"cards"_s,
+                          u"ask"_s,  u"selections"_s, u"general"_s,  u"timed"_s};
+    EXPECT_EQ(calls, all);
+    EXPECT_EQ(sent(), QStringList{u"mgame 10 4"_s});
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
+    EXPECT_EQ(bench.state.currentSet, 1);
+    EXPECT_EQ(bench.form.at(u"cmbFADE"_s, 3).text(), u"10");
+    EXPECT_EQ(bench.form.at(u"cbQt"_s).items().size(), 9);
+    EXPECT_TRUE(bench.form.at(u"Frame5"_s).visible());
+    EXPECT_EQ(start.caption(), u"Zelvor Cards (" ZELVOR_VERSION ")");
+
+    // The preview instance has no feed; a program that closes during a question ends the sequence there.
+    calls.clear();
+    bench.state.preview = true;
+    steps.CONNECTDATABASE = [&] { bench.state.closing = true; };
+    StartUp preview(bench.engine, console, bench.trap, steps);
+    preview.run();
+    EXPECT_EQ(calls, QStringList{u"packs"_s});
+    EXPECT_TRUE(preview.caption().startsWith(u"Preview Zelvor Cards ("));
+}
+
+}  // namespace zelvor::test

@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+
+#include "console/card_button.h"
+#include "gallery.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+
+// The console on a pack of a few cards.
+class MainWindowTest : public testing::Test {
+ protected:
+    void startWithCards() {
+        gallery.writePack({"Score,score.csp,1", "Player,player.qrd", "Waits,waits.csp"},
+                          "FKEYS:1|Score|score.csp,4|Player|player.csp\r\nCLEAR:clear.csp\r\n");
+        gallery.write(u"QRD_EN/score.csp"_s, "CSPSEND~CG 1-20 ADD 1 'score' 1\r\nON~0\r\n");
+        gallery.write(u"QRD_EN/player.csp"_s, "CSPSEND~CG 1-21 ADD 1 'player' 1\r\n");
+        gallery.write(u"QRD_EN/waits.csp"_s, "DELAY~2\r\nCSPSEND~LATE\r\n");
+        gallery.write(u"QRD_EN/second.csp"_s, "CSPSEND~SECOND\r\n");
+        gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n");
+        gallery.start();
+    }
+    bool sent(const QStringList& lines) {
+        return waitUntil([&] { return peer.lines.size() >= lines.size(); }) && std::exchange(peer.lines, {}) == lines;
+    }
+
+    LinePeer peer;
+    Gallery gallery;
+};
+
+const QString kScoreLine = u"CG 1-20 ADD 1 \"score\" 1\r\n"_s;
+const QString kPlayerLine = u"CG 1-21 ADD 1 \"player\" 1\r\n"_s;
+
+TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
+    startWithCards();
+    ASSERT_EQ(gallery.shown.size(), 2);
+    EXPECT_TRUE(gallery.shown[0].startsWith(u"Project Pack Selection|1. EN-Basketball"));
+    EXPECT_EQ(gallery.app->window().windowTitle(), u"Zelvor Cards (" ZELVOR_VERSION ")");
+    EXPECT_EQ(gallery.at("lblHTEAM").text(), u"Harbour City");
+    gallery.connectMain(peer);
+    EXPECT_TRUE(gallery.at("lblLINKMAIN").text().endsWith(u"connected"));
+
+    gallery.click("cmbCARD", 0);
+    EXPECT_TRUE(sent({kScoreLine}));
+    const auto* score = gallery.find<CardButton>("cmbCARD", 0);
+    EXPECT_EQ(score->face(), (CardButton::Face{true, false, true, true, u"F1"_s}));
+    EXPECT_EQ(score->stateLine(), u"ON · F1");
+    EXPECT_EQ(score->accessibleName(), u"Card 1: Score, ON · F1");
+    EXPECT_TRUE(gallery.find<CardButton>("cmbCARD", 20)->face().quiet);
+    EXPECT_EQ(gallery.find<TextLabel>("lblONAIRCARD")->text(), u"Score");
+
+    gallery.click("cmdCARDBOX", 1);
+    EXPECT_TRUE(sent({kPlayerLine}));
+    gallery.click("GradientButtonS", 1);
+    EXPECT_EQ(gallery.find<CardButton>("cmbCARD", 0)->text(), u"Second");
+    gallery.click("cmbCARD", 0);
+    gallery.press(Qt::Key_F4);
+    gallery.click("GradientButtonAIR");
+    EXPECT_TRUE(sent({u"SECOND\r\n"_s, kPlayerLine, u"CLEAR 1\r\n"_s}));
+    EXPECT_EQ(gallery.find<TextLabel>("lblONAIR")->text(), u"");
+}
+
+TEST_F(MainWindowTest, KeysBelongToTheForm) {
+    startWithCards();
+    gallery.connectMain(peer);
+    MainWindow& window = gallery.app->window();
+    auto* address = gallery.find<QLineEdit>("txtGASPARIP");
+    for (QWidget* target :
+         {static_cast<QWidget*>(&window), static_cast<QWidget*>(address), gallery.find<QWidget>("cmbCARD", 1)}) {
+        QTest::keyClick(target, Qt::Key_F1);
+        EXPECT_TRUE(sent({kScoreLine})) << target->objectName().toStdString();
+    }
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&window, &repeated);
+    auto* button = gallery.find<QWidget>("cmbCARD", 0);
+    button->setFocus();
+    for (const Qt::Key key :
+         {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A, Qt::Key_F2, Qt::Key_F11, Qt::Key_Escape}) {
+        QTest::keyClick(button, key);
+        QTest::keyClick(&window, key);
+    }
+    EXPECT_TRUE(window.isVisible());
+    // An input edits with its keys, and tells the control.
+    address->setFocus();
+    address->selectAll();
+    QTest::keyClicks(address, u"10.0.0.7"_s);
+    EXPECT_EQ(gallery.at("txtGASPARIP").text(), u"10.0.0.7");
+    auto* lock = gallery.find<QCheckBox>("chkONAIRLOCK");
+    QTest::keyClick(lock, Qt::Key_Space);
+    EXPECT_TRUE(gallery.at("chkONAIRLOCK").checked());
+    gallery.press(Qt::Key_F4);
+    EXPECT_TRUE(sent({kPlayerLine})) << "nothing else was fired before";
+}
+
+TEST_F(MainWindowTest, WidgetsMirrorControlsBothWays) {
+    startWithCards();
+    const auto* player = gallery.find<TextLabel>("lblHPLAYERS", 23);
+    gallery.at("lblHPLAYERS", 23).setText(u"23 Laskaris"_s);
+    gallery.at("lblHPLAYERS", 23).setForeColour(rgb(1, 2, 3));
+    EXPECT_EQ(player->text(), u"23 Laskaris");
+    EXPECT_EQ(player->textColour(), QColor(1, 2, 3));
+    EXPECT_EQ(gallery.find<TextLabel>("lblPROPOSED", 8)->groundColour(), QColor(185, 92, 0));
+    EXPECT_EQ(gallery.find<ConsoleButton>("cmdSCREENMODE", 1)->groundColour(), QColor(25, 255, 25));
+    EXPECT_EQ(gallery.find<ConsoleButton>("cmdSCREENMODE", 0)->groundColour(), QColor(255, 25, 25));
+    gallery.at("cmbCARD", 1).setBackColour(rgb(10, 20, 30));
+    EXPECT_EQ(gallery.find<CardButton>("cmbCARD", 1)->groundColour(), QColor(10, 20, 30));
+
+    auto* fade = gallery.find<QComboBox>("cmbFADE", 0);
+    ASSERT_EQ(fade->count(), 100);
+    EXPECT_EQ(fade->currentText(), u"10");
+    fade->setCurrentIndex(24);
+    EXPECT_EQ(gallery.at("cmbFADE", 0).text(), u"25");
+    EXPECT_EQ(gallery.at("cmbFADE", 0).position(), 24);
+    fade->setEditText(u"Off"_s);
+    EXPECT_EQ(gallery.at("cmbFADE", 0).text(), u"Off");
+    EXPECT_EQ(gallery.at("cmbFADE", 0).position(), -1);
+    gallery.at("cmbFADE", 0).setPosition(99);
+    EXPECT_EQ(fade->currentText(), u"100");
+
+    gallery.at("txtS5H", 4).setText(u"7"_s);
+    EXPECT_EQ(gallery.find<QLineEdit>("txtS5H", 4)->text(), u"7");
+    gallery.at("cmbCASPARREMOTELIST").setPosition(2);
+    EXPECT_TRUE(gallery.find<QLineEdit>("txtGASPARIPREMOTE")->isReadOnly());
+    EXPECT_EQ(gallery.find<QLineEdit>("txtGASPARIPREMOTE")->text(), u"192.168.1.102");
+    gallery.click("cmdTAB", 5);
+    gallery.find<QRadioButton>("optTIMERS", 1)->click();
+    EXPECT_TRUE(gallery.at("optTIMERS", 1).checked());
+    EXPECT_FALSE(gallery.at("optTIMERS", 0).checked());
+    gallery.at("picHideControls").setVisible(true);
+    EXPECT_TRUE(gallery.find<QWidget>("picHideControls")->isVisible());
+}
+
+TEST_F(MainWindowTest, LinkLostAndDisconnected) {
+    startWithCards();
+    gallery.connectMain(peer);
+    const auto* tab = gallery.find<ConsoleButton>("cmdTAB", 4);
+    const auto* button = gallery.find<ConsoleButton>("cmdGASPARCONNECT");
+    EXPECT_EQ(button->text(), u"Disconnect");
+    EXPECT_EQ(button->groundColour(), QColor(0, 255, 0));
+    peer.stop();
+    EXPECT_TRUE(waitUntil([&] { return tab->groundColour() == QColor(255, 0, 0); }));
+    EXPECT_TRUE(gallery.at("lblLINKMAIN").text().contains(u"lost"));
+    gallery.click("cmbCARD", 0);
+    EXPECT_EQ(gallery.find<CardButton>("cmbCARD", 0)->face().on, true) << "the card runs without a server";
+    gallery.click("cmdGASPARCONNECT");
+    EXPECT_EQ(tab->groundColour(), std::nullopt);
+    EXPECT_EQ(button->text(), u"Connect");
+    EXPECT_EQ(button->groundColour(), QColor(0, 255, 0)) << "stays green";
+}
+
+TEST_F(MainWindowTest, ManualLineAndHistory) {
+    startWithCards();
+    gallery.connectMain(peer);
+    auto* line = gallery.find<QLineEdit>("txtMANUALCASPAR");
+    line->setFocus();
+    QTest::keyClicks(line, u"CG 1-1 ADD 1 '{@HTLNAMEEN}' 1"_s);
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_TRUE(sent({u"CG 1-1 ADD 1 \"Harbour City\" 1\r\n"_s}));
+    line->clear();
+    QTest::keyClick(line, Qt::Key_Up);
+    EXPECT_EQ(line->text(), u"CG 1-1 ADD 1 '{@HTLNAMEEN}' 1");
+
+    auto* history = gallery.find<QListView>("lstGASPARHISTORY");
+    EXPECT_FALSE(history->isVisible());
+    gallery.click("cmdVIEWGASPHISTORY");
+    ASSERT_TRUE(history->isVisible());
+    // The newest line is followed until the operator scrolls up.
+    QScrollBar* bar = history->verticalScrollBar();
+    for (int i = 0; i < 10000; ++i) gallery.app->links().appendHistory(QString::number(i));
+    EXPECT_EQ(history->model()->rowCount(), 500);
+    EXPECT_TRUE(waitUntil([&] { return bar->value() == bar->maximum(); }));
+    bar->setValue(3);
+    gallery.app->links().appendHistory(u"late"_s);
+    QCoreApplication::processEvents();
+    EXPECT_LT(bar->value(), bar->maximum() - 100);
+
+    history->scrollToTop();
+    const QModelIndex first = history->model()->index(0, 0);
+    QTest::mouseClick(history->viewport(), Qt::LeftButton, {}, history->visualRect(first).center());
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), first.data().toString());
+    gallery.app->links().showLastTemplate(u"<a><b/></a>"_s);
+    gallery.click("cmdLASTXML");
+    auto* xml = gallery.find<QWidget>("lblLASTXML");
+    EXPECT_TRUE(xml->isVisible());
+    EXPECT_EQ(xml->property("plainText").toString(), u"<a>\n  <b/>\n</a>");
+    gallery.click("cmdGASPHISTCLOSE");
+    EXPECT_FALSE(xml->isVisible());
+}
+
+// Whatever is missing, the console comes up and says so.
+TEST_F(MainWindowTest, StartsWithoutItsFiles) {
+    struct Case {
+        const char* what;
+        std::function<void()> prepare;
+        QStringList told;  // what each box holds, in order
+    };
+    const QStringList withoutPack{u"PACKS.TXT"_s, u"No default Pack found"_s};
+    const QList<Case> cases{
+        {"no MODULES", [&] { QDir(gallery.folder.filePath(u"MODULES"_s)).removeRecursively(); }, withoutPack},
+        {"no packs", [&] {}, withoutPack},
+        {"a pack without its folder",
+         [&] { gallery.write(u"PACKS.TXT"_s, "XX;Nowhere\r\n"); },
+         {u"Missing folder(s)|"_s, u"\\MODULES\\QRD_XX"_s}},
+        {"an empty pack",
+         [&] { gallery.write(u"PACKS.TXT"_s, "EN\r\n"); },
+         {u"Project Pack Selection|"_s, u"CONNECTIONS.TXT"_s, u"CARDS.TXT"_s, u"GetGame.csp"_s}},
+    };
+    for (const Case& each : cases) {
+        gallery.shown.clear();
+        each.prepare();
+        gallery.start();
+        for (const QString& words : each.told) {
+            EXPECT_TRUE(gallery.shown.join(u'\n').contains(words))
+                << each.what << ": " << words.toStdString() << " in\n"
+                << gallery.shown.join(u'\n').toStdString();
+        }
+        EXPECT_TRUE(gallery.app->window().isVisible()) << each.what;
+        gallery.click("cmbCARD", 0);
+        gallery.click("cmdTAB", 0);
+        EXPECT_TRUE(gallery.find<QWidget>("Frame1")->isVisible()) << each.what;
+        QDir(gallery.folder.path()).mkpath(u"MODULES/QRD_EN"_s);
+    }
+}
+
+TEST_F(MainWindowTest, ClosesAtAQuestion) {
+    gallery.answer = [&](QDialog&) { gallery.app->window().close(); };
+    startWithCards();
+    EXPECT_TRUE(gallery.app->state().closing);
+    EXPECT_EQ(gallery.shown.size(), 1) << "no further question";
+}
+
+TEST_F(MainWindowTest, ClosesWhileACardWaits) {
+    startWithCards();
+    gallery.connectMain(peer);
+    QTimer::singleShot(50, &gallery.app->window(), [&] {
+        gallery.click("cmbCARD", 1);
+        gallery.click("GradientButtonS", 1);
+        gallery.app->window().close();
+    });
+    gallery.click("cmbCARD", 2);
+    EXPECT_TRUE(sent({kPlayerLine})) << "the waiting card ended, the one fired meanwhile ran";
+}
+
+}  // namespace zelvor::test
