@@ -138,16 +138,16 @@ std::string curve(std::string_view text) {
 std::string waveSheet() {
     std::ostringstream sheet;
     constexpr int kRows = (static_cast<int>(std::size(kDrawn)) + kColumns - 1) / kColumns;
-    sheet << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << kColumns * kCellWidth << "\" height=\""
-          << kRows * kCellHeight << "\" font-family=\"sans-serif\" font-size=\"12\">\n"
-          << "<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>\n";
+    sheet << R"(<svg xmlns="http://www.w3.org/2000/svg" font-family="sans-serif" font-size="12" width=")"
+          << kColumns * kCellWidth << R"(" height=")" << kRows * kCellHeight << "\">\n"
+          << R"(<rect width="100%" height="100%" fill="#fff"/>)" << '\n';
     int index = 0;
     for (const std::string_view text : kDrawn) {
         const int left = index % kColumns * kCellWidth + 10;
         const int middle = index / kColumns * kCellHeight + 65;
-        sheet << "<g transform=\"translate(" << left << ',' << middle << ")\"><text y=\"-45\">" << text
-              << "</text><path d=\"M0,0H" << kPlotWidth << "\" stroke=\"#999\"/><polyline fill=\"none\" "
-              << "stroke=\"#06c\" points=\"" << curve(text) << "\"/></g>\n";
+        sheet << R"svg(<g transform="translate()svg" << left << ',' << middle << R"svg()"><text y="-45">)svg" << text
+              << R"(</text><path d="M0,0H)" << kPlotWidth
+              << R"(" stroke="#999"/><polyline fill="none" stroke="#06c" points=")" << curve(text) << "\"/></g>\n";
         ++index;
     }
     sheet << "</svg>\n";

@@ -39,7 +39,10 @@ double combinations(double n, double k) {
     const double chosen = std::min(k, n - k);
     if (chosen > kMaxChosen) return kFailed;
     Real product = 1;
-    for (double i = 1; i <= chosen; ++i) product = product * (Real{n} - Real{chosen} + Real{i}) / Real{i};
+    for (int i = 1; i <= static_cast<int>(chosen); ++i) {
+        const Real place = static_cast<Real>(i);
+        product = product * (Real{n} - Real{chosen} + place) / place;
+    }
     return static_cast<double>(product);
 }
 
@@ -47,7 +50,7 @@ double permutations(double n, double k) {
     if (!isWhole(n) || !isWhole(k) || k < 0 || k > n) return kFailed;
     if (k > kMaxFactorial) return kFailed;
     Real product = 1;
-    for (double i = 0; i < k; ++i) product *= Real{n} - Real{i};
+    for (int i = 0; i < static_cast<int>(k); ++i) product *= Real{n} - static_cast<Real>(i);
     return static_cast<double>(product);
 }
 
@@ -66,7 +69,8 @@ double leastCommonMultiple(const Arguments& values) {
         if (!isExactWhole(values[i])) return kFailed;
         const std::uint64_t value = magnitude(values[i]);
         const std::uint64_t divisor = std::gcd(magnitude(multiple), value);
-        multiple = divisor == 0 ? 0 : multiple * static_cast<double>(value / divisor);
+        const std::uint64_t factor = divisor == 0 ? 0 : value / divisor;
+        multiple *= static_cast<double>(factor);
         if (multiple > kMaxExact) return kFailed;
     }
     return multiple;

@@ -61,7 +61,7 @@ class Compiler {
     void closeBar();
     void operandMissing();
 
-    bool isInsideDec() const;
+    [[nodiscard]] bool isInsideDec() const;
     // Makes rows of the waiting operators of at least this priority, back to the last opener.
     void reduce(std::int32_t priority);
     void reduceToOpener();
@@ -72,8 +72,8 @@ class Compiler {
     // False with the error set when the table is full.
     bool reserveRow(std::size_t position);
     void fail(ErrorCode code, std::size_t position, std::string_view detail = {});
-    std::int32_t priority(int level) const { return 10 * depth_ + level; }
-    std::string_view rest() const { return formula_.substr(at_); }
+    [[nodiscard]] std::int32_t priority(int level) const { return 10 * depth_ + level; }
+    [[nodiscard]] std::string_view rest() const { return formula_.substr(at_); }
 
     std::string_view formula_;
     NumberStyle style_;

@@ -64,12 +64,14 @@ double dayOf(double date) {
 
 double hourOf(double date) {
     const Moment moment = momentOf(date);
-    return moment.valid ? moment.second / 3600 : kFailed;
+    const int hour = moment.second / 3600;
+    return moment.valid ? hour : kFailed;
 }
 
 double minuteOf(double date) {
     const Moment moment = momentOf(date);
-    return moment.valid ? moment.second / 60 % 60 : kFailed;
+    const int minute = moment.second / 60 % 60;
+    return moment.valid ? minute : kFailed;
 }
 
 double secondOf(double date) {

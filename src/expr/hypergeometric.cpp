@@ -37,6 +37,9 @@ struct Value {
     Real loss;
 };
 
+// A series that needs more terms than it may have; the function fails then.
+constexpr Value kUnsettled{std::numeric_limits<Real>::quiet_NaN(), 0, std::numeric_limits<Real>::max()};
+
 bool isNonPositiveWhole(Real x) {
     return x <= 0 && x == std::floor(x);
 }
@@ -56,17 +59,19 @@ Value powerSeries(Real a, Real b, Real c, Real x) {
     Real sum = 1;
     Real derivative = 0;
     Real largest = 1;
-    for (int n = 0; n < kMaxTerms; ++n) {
+    bool settled = false;
+    for (int n = 0; n < kMaxTerms && !settled; ++n) {
         const Real m = static_cast<Real>(n);
         const Real coefficient = term * (a + m) * (b + m) / ((c + m) * (m + 1));
-        if (coefficient == 0) break;
+        settled = coefficient == 0;
         derivative += coefficient * (m + 1);
         term = coefficient * x;
         sum += term;
         largest = std::max(largest, std::fabs(term));
         const bool pastParameters = m > std::fabs(a) && m > std::fabs(b) && m > std::fabs(c);
-        if (pastParameters && std::fabs(term) < kEpsilon * std::fabs(sum) / 16) break;
+        settled = settled || (pastParameters && std::fabs(term) < kEpsilon * std::fabs(sum) / 16);
     }
+    if (!settled) return kUnsettled;
     return {sum, derivative, relativeLoss(largest, sum)};
 }
 
@@ -80,7 +85,8 @@ Value taylorStep(Real a, Real b, Real c, Real distance, Real h, const Value& fro
     Real sum = u + v;
     Real derivative = from.derivative;
     Real largest = std::max(std::fabs(u), std::fabs(v));
-    for (int n = 0; n < kMaxTerms; ++n) {
+    bool settled = false;
+    for (int n = 0; n < kMaxTerms && !settled; ++n) {
         const Real m = static_cast<Real>(n);
         const Real next = ((m + a) * (m + b) * u * h - (m + 1) * (m * (2 * distance - 1) + linear) * v) * h /
                           (factor * (m + 2) * (m + 1));
@@ -90,8 +96,9 @@ Value taylorStep(Real a, Real b, Real c, Real distance, Real h, const Value& fro
         u = v;
         v = next;
         const Real threshold = kEpsilon * std::fabs(sum) / 16;
-        if (m > 8 && std::fabs(u) < threshold && std::fabs(v) < threshold) break;
+        settled = m > 8 && std::fabs(u) <= threshold && std::fabs(v) <= threshold;
     }
+    if (!settled) return kUnsettled;
     return {sum, derivative, std::max(from.loss, relativeLoss(largest, sum))};
 }
 
@@ -141,10 +148,15 @@ double hypergeometric(const Arguments& values, Context& context) {
     } else if (x > 0) {
         value = insideUnit(a, b, c, 1 - x);
     } else {
-        // The smaller parameter outside keeps the part that grows in the scale and the rest bounded.
+        // The smaller parameter outside keeps the part that grows in the scale and the rest bounded. Where that part
+        // vanishes, as it does when the larger one is c, the other way round is the one without cancellation.
         if (a > b) std::swap(a, b);
-        scale = std::pow(1 - x, -a);
         value = insideUnit(a, c - b, c, 1 / (1 - x));
+        if (!(value.loss <= kMaxLoss)) {
+            std::swap(a, b);
+            value = insideUnit(a, c - b, c, 1 / (1 - x));
+        }
+        scale = std::pow(1 - x, -a);
     }
     if (value.loss > kMaxLoss) context.warning = kCheckAccuracy;
     return static_cast<double>(value.function * scale);

@@ -234,6 +234,7 @@ TEST(Functions, FailOutsideTheirDomain) {
                                    "HypGeom(1,1,0,0.5)",
                                    "HypGeom(1,1,2,1)",
                                    "HypGeom(1,1,2,1.5)",
+                                   "HypGeom(1e6,1e6,1,0.9)",
                                    "wtri(1,0)",
                                    "wsqr(1,-1)",
                                    "wsaw(1,0)",
