@@ -1,0 +1,215 @@
+// The card engine's hot paths: the variable store, placeholders, a record loop, template data.
+
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include "engine/card_engine.h"
+#include "engine/system_clock.h"
+#include "engine/template_xml.h"
+#include "link/graphics_links.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+namespace {
+
+void getAndSet(benchmark::State& bench) {
+    VariableStore store;
+    QStringList names;
+    for (int i = 0; i < bench.range(0); ++i) names += u"@NAME%1"_s.arg(i * 7919 % bench.range(0));
+    for (const QString& name : names) store.SetVar(name, u"value"_s);
+    qsizetype at = 0;
+    for (auto step : bench) {
+        store.SetVar(names[at], u"value"_s);
+        benchmark::DoNotOptimize(store.GetVar(names[at]));
+        at = (at + 1) % names.size();
+    }
+}
+BENCHMARK(getAndSet)->Arg(1000)->Arg(100'000);
+
+void expand(benchmark::State& bench) {
+    VariableStore store;
+    store.SetVar(u"@FIRST", u"Maria"_s);
+    store.SetVar(u"@LAST", u"Laskari"_s);
+    const ExpandableText text(u"CG 1-20 UPDATE 1 'number 23 {@FIRST} {@LAST}, {@FIRST}'"_s);
+    QString out;
+    for (auto step : bench) {
+        text.expandInto(out, store, {});
+        benchmark::DoNotOptimize(out.data());
+    }
+}
+BENCHMARK(expand);
+
+void makeXmlOf40Fields(benchmark::State& bench) {
+    VariableStore fields;
+    for (int i = 0; i < 40; ++i) fields.SetVar(u"t-0*f%1"_s.arg(i), u"value %1"_s.arg(i));
+    for (auto step : bench) benchmark::DoNotOptimize(makeXml(fields));
+}
+BENCHMARK(makeXmlOf40Fields);
+
+class Unused : public Operator, public AskDialog, public Database, public Desktop {
+ public:
+    void message(const QString&, const QString& text, Severity) override { qFatal("%s", qPrintable(text)); }
+    bool yesNo(const QString&, const QString&) override { return true; }
+    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
+    void show() override {}
+    int RUN_QUERY(const QString&) override { return 0; }
+    int RUN_QUERY2(const QString&) override { return 0; }
+    void execute(const QString&) override {}
+    NamedRows readGreek(const QString&) override { return {}; }
+    void open(const QString&) override {}
+    void loadForm(const QString&) override {}
+};
+
+class CountedGraphics : public Graphics {
+ public:
+    void sendLine(LinkId, const QString& command) override { units += command.size(); }
+    int state(LinkId) const override { return kConnected; }
+    bool logging() const override { return false; }
+    void writeLog(const QString&) override {}
+    void appendHistory(const QString&) override {}
+    void clearHistory() override {}
+    void showLastTemplate(const QString&) override {}
+    qsizetype units = 0;
+};
+
+// A pack with one card and an engine to run it.
+class OneCard {
+ public:
+    explicit OneCard(const QByteArray& script, Graphics* graphics = nullptr)
+        : engine_(state, form, folder, files, trap,
+                  Ports{unused_, unused_, graphics == nullptr ? counted_ : *graphics, unused_, unused_, clock}) {
+        QDir(onDisk_.path()).mkpath(u"MODULES/QRD_TT"_s);
+        QFile file(onDisk_.filePath(u"MODULES/QRD_TT/card.csp"_s));
+        if (!file.open(QIODevice::WriteOnly)) qFatal("no card");
+        file.write(script);
+        state.variables.SetVar(u"@LANGUAGE", u"TT"_s);
+        trap.setReporter([](const ErrorPlace&, const QString& message) { qFatal("%s", qPrintable(message)); });
+    }
+    void run() { engine_.SHOW_TVCARD(u"card.qrd"_s, false, false); }
+
+ private:
+    QTemporaryDir onDisk_;
+
+ public:
+    ShowState state;
+    FormModel form;
+    AppFolder folder{onDisk_.path()};
+    TextFiles files;
+    ErrorTrap trap{onDisk_.filePath(u"errors.log"_s)};
+    SystemClock clock{state};
+
+ private:
+    Unused unused_;
+    CountedGraphics counted_;
+    CardEngine engine_;
+};
+
+// The same work as the Tcl shell does in peer_loop.tcl.
+constexpr const char* kLoop = R"(SETVAR~@RECORDCOUNT;1000
+FOREACHREC~I
+SETVAR~@NAME;Player {@I}
+CALC~@PTS;{@I}*2
+CALC~@AVG;{@PTS}/7
+IFL~{@PTS};>;500~"SETVAR~@COL;red"~"SETVAR~@COL;green"
+SETVAR~@FULL;{@NAME}
+REPLACE~{@FULL};Player;P
+SDATA~NAME{@I};{@FULL}
+SDATA~PTS{@I};{@PTS}
+SDATA~AVG{@I};{@AVG}
+SPLIT~a,b,c;,;P
+CSPSEND~CG 1-20 UPDATE 1 '{@FULL} {@PTS} {@AVG} {@COL} {@P_1}'
+ROF
+)";
+
+void loopOf1000Records(benchmark::State& bench) {
+    OneCard card(kLoop);
+    for (auto step : bench) card.run();
+}
+BENCHMARK(loopOf1000Records)->Unit(benchmark::kMillisecond);
+
+// A local server in a thread of its own that answers every line.
+class Peer : public QThread {
+ public:
+    Peer() {
+        start();
+        while (port_ == 0) yieldCurrentThread();
+    }
+    ~Peer() override {
+        quit();
+        wait();
+    }
+    quint16 port() const { return port_; }
+
+ private:
+    void run() override {
+        QTcpServer server;
+        server.listen(QHostAddress::LocalHost);
+        QObject::connect(&server, &QTcpServer::newConnection, &server, [&server] {
+            QTcpSocket* socket = server.nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] {
+                const qsizetype lines = socket->readAll().count('\n');
+                socket->write(QByteArray("202 CG OK\r\n").repeated(lines));
+            });
+        });
+        port_ = server.serverPort();
+        exec();
+    }
+    std::atomic<quint16> port_ = 0;
+};
+
+// A card that fills 40 fields and updates a template, until its reply is there.
+void updateOf40FieldsWithReply(benchmark::State& bench) {
+    const Peer peer;
+    QByteArray script = "CLEARDATA\n";
+    for (int i = 0; i < 40; ++i)
+        script += QByteArrayLiteral("SDATA~f%1;value %1\n").replace("%1", QByteArray::number(i));
+    script += "MAKEXML\nCSPSEND~CG 1-20 UPDATE 1 '{@CASPARXML}'\n";
+    const QTemporaryDir folderOnDisk;
+    ShowState state;
+    FormModel form;
+    const AppFolder folder(folderOnDisk.path());
+    const TextFiles files;
+    ErrorTrap trap(folderOnDisk.filePath(u"errors.log"_s));
+    SystemClock clock(state);
+    GraphicsLinks links(form, clock, trap, folder, files);
+    OneCard card(script, &links);
+    CasparLink& link = links.link(LinkId::Main);
+    int replies = 0;
+    QObject::connect(&link, &CasparLink::received, &link, [&replies] { ++replies; });
+    link.connectTo(u"127.0.0.1"_s, QString::number(peer.port()));
+    while (link.state() != LinkState::Connected) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    for (auto step : bench) {
+        const int before = replies;
+        card.run();
+        while (replies == before) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+BENCHMARK(updateOf40FieldsWithReply)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// The same without waiting for the reply: building and sending alone.
+void updateOf40Fields(benchmark::State& bench) {
+    QByteArray script = "CLEARDATA\n";
+    for (int i = 0; i < 40; ++i)
+        script += QByteArrayLiteral("SDATA~f%1;value %1\n").replace("%1", QByteArray::number(i));
+    OneCard card(script + "MAKEXML\nCSPSEND~CG 1-20 UPDATE 1 '{@CASPARXML}'\n");
+    for (auto step : bench) card.run();
+}
+BENCHMARK(updateOf40Fields)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace zelvor
+
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
