@@ -1,15 +1,27 @@
 #include "engine/variable_store.h"
 
+#include <QHash>
+
 namespace zelvor {
 
-int VariableStore::slotOf(QStringView name) const {
-    return slots_.value(name, kNone);
+namespace {
+
+quint32 hashOf(QStringView name) {
+    const size_t hash = qHash(name);
+    return static_cast<quint32>(hash ^ hash >> 32);
+}
+
+}  // namespace
+
+int VariableStore::slotOf(QStringView name, quint32 hash) const {
+    return index_.find(hash, [&](int slot) { return entries_[slot].name == name; });
 }
 
 void VariableStore::SetVar(QStringView name, Value value) {
-    const int slot = slotOf(name);
+    const quint32 hash = hashOf(name);
+    const int slot = slotOf(name, hash);
     if (slot == kNone) {
-        add(name, std::move(value));
+        add(name, hash, std::move(value));
         return;
     }
     entries_[slot].value = std::move(value);
@@ -20,12 +32,13 @@ void VariableStore::SetVar(QStringView name, Value value) {
 }
 
 const Value& VariableStore::GetVar(QStringView name) {
-    const int slot = slotOf(name);
-    return entries_[slot == kNone ? add(name, {}) : slot].value;
+    const quint32 hash = hashOf(name);
+    const int slot = slotOf(name, hash);
+    return entries_[slot == kNone ? add(name, hash, {}) : slot].value;
 }
 
 const Value* VariableStore::find(QStringView name) const {
-    const int slot = slotOf(name);
+    const int slot = slotOf(name, hashOf(name));
     return slot == kNone ? nullptr : &entries_[slot].value;
 }
 
@@ -35,14 +48,14 @@ QString VariableStore::text(QStringView name) const {
 }
 
 void VariableStore::remove(QStringView name) {
-    const int slot = slotOf(name);
+    const int slot = slotOf(name, hashOf(name));
     if (slot != kNone) removeSlot(slot);
 }
 
 void VariableStore::RemoveVarsWithPrefix(QStringView prefix) {
     if (!sorted_) {
         sorted_.emplace();
-        for (auto at = slots_.cbegin(); at != slots_.cend(); ++at) sorted_->emplace(at.key(), at.value());
+        for (int at = first_; at != kNone; at = entries_[at].next) sorted_->emplace(entries_[at].name, at);
     }
     for (auto at = sorted_->lower_bound(prefix); at != sorted_->end() && at->first.startsWith(prefix);) {
         const int slot = at->second;
@@ -52,14 +65,14 @@ void VariableStore::RemoveVarsWithPrefix(QStringView prefix) {
 }
 
 void VariableStore::clear() {
-    slots_.clear();
+    index_.clear();
     sorted_.reset();
     entries_.clear();
     free_.clear();
     first_ = last_ = kNone;
 }
 
-int VariableStore::add(QStringView name, Value value) {
+int VariableStore::add(QStringView name, quint32 hash, Value value) {
     int slot = static_cast<int>(entries_.size());
     if (free_.empty()) {
         entries_.emplace_back();
@@ -70,7 +83,8 @@ int VariableStore::add(QStringView name, Value value) {
     Entry& entry = entries_[slot];
     entry.name = name.toString();
     entry.value = std::move(value);
-    slots_.insert(entry.name, slot);
+    entry.hash = hash;
+    index_.insert(hash, slot);
     if (sorted_) sorted_->emplace(entry.name, slot);
     linkLast(slot);
     return slot;
@@ -79,7 +93,7 @@ int VariableStore::add(QStringView name, Value value) {
 void VariableStore::removeSlot(int slot) {
     Entry& entry = entries_[slot];
     unlink(slot);
-    slots_.remove(entry.name);
+    index_.remove(entry.hash, slot);
     if (sorted_) sorted_->erase(QStringView(entry.name));
     entry.name.clear();
     entry.value = {};

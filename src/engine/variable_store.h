@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QHash>
 #include <QString>
 #include <deque>
 #include <map>
 #include <optional>
 
 #include "base/value.h"
+#include "engine/name_index.h"
 
 namespace zelvor {
 
@@ -32,7 +32,7 @@ class VariableStore {
     void RemoveVarsWithPrefix(QStringView prefix);
     void clear();
 
-    [[nodiscard]] qsizetype size() const { return slots_.size(); }
+    [[nodiscard]] qsizetype size() const { return index_.size(); }
 
     // Calls visit(const QString& name, const Value& value) for each name in order. The visitor must not change the
     // store.
@@ -42,17 +42,18 @@ class VariableStore {
     }
 
  private:
-    static constexpr int kNone = -1;
+    static constexpr int kNone = NameIndex::kNone;
 
     struct Entry {
         QString name;
         Value value;
         int previous = kNone;
         int next = kNone;
+        quint32 hash = 0;
     };
 
-    int slotOf(QStringView name) const;
-    int add(QStringView name, Value value);
+    [[nodiscard]] int slotOf(QStringView name, quint32 hash) const;
+    int add(QStringView name, quint32 hash, Value value);
     void removeSlot(int slot);
     void unlink(int slot);
     void linkLast(int slot);
@@ -60,11 +61,11 @@ class VariableStore {
     // Entries keep their place; the order is a linked list through them, free places are used again.
     std::deque<Entry> entries_;
     std::vector<int> free_;
-    // The keys are views of the entries' names.
-    QHash<QStringView, int> slots_;
+    NameIndex index_;
     int first_ = kNone;
     int last_ = kNone;
-    // The names in sorted order, made when prefixes are first removed and kept from then on.
+    // The names in sorted order (views of the entries' own), made when prefixes are first removed and kept from then
+    // on.
     std::optional<std::map<QStringView, int>> sorted_;
 };
 
