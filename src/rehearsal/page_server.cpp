@@ -95,8 +95,7 @@ void PageServer::takeViewer() {
         const QUrl origin(socket->origin());
         const QUrl self = socket->requestUrl();
         if (origin.host() != self.host() || origin.port(80) != self.port(80)) {
-            socket->close(QWebSocketProtocol::CloseCodePolicyViolated);
-            socket.release()->deleteLater();
+            socket.release()->deleteLater();  // Qt still works on it when this signal comes
             continue;
         }
         feed_.join(std::move(socket));

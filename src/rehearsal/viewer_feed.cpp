@@ -47,7 +47,7 @@ ViewerFeed::ViewerFeed(const Stage& stage, const Journal& journal, const AmcpSer
 
 void ViewerFeed::join(std::unique_ptr<QWebSocket> socket) {
     if (viewers_.size() >= kMaxViewers) {
-        socket->close(QWebSocketProtocol::CloseCodePolicyViolated, u"too many pages"_s);
+        socket.release()->deleteLater();  // Qt still works on it when it hands it over
         return;
     }
     flush();  // what is still to be sent is part of the state that follows

@@ -20,6 +20,7 @@ function update(data) {
     if (typeof fieldsChanged === "function") {
         fieldsChanged(fields);
     }
+    fitAll();
 }
 
 function play() {
@@ -70,7 +71,6 @@ function setText(element, text) {
     const inner = document.createElement("span");
     inner.textContent = text;
     element.replaceChildren(inner);
-    fit(element);
     if (isChange && element.classList.contains("flash")) {
         inner.animate([{ color: "#ffd54a", transform: "translateY(18%)" }, { color: "#ffd54a", transform: "none", offset: 0.25 }, {}],
             { duration: 1200, easing: "ease-out" });
@@ -84,13 +84,14 @@ function fit(element) {
     if (!inner || !element.classList.contains("fit")) {
         return;
     }
-    inner.style.fontSize = inner.style.transform = "";
+    inner.style.fontSize = inner.style.transform = inner.style.verticalAlign = "";
     const { paddingLeft, paddingRight } = getComputedStyle(element);
     const room = element.clientWidth - parseFloat(paddingLeft) - parseFloat(paddingRight);
     const ratio = room / inner.offsetWidth;
     if (room > 0 && ratio < 1) {
         inner.style.fontSize = `${Math.min(1, ratio / kNarrowest)}em`;
-        inner.style.transform = `scaleX(${Math.max(ratio, kNarrowest)})`;
+        inner.style.transform = `scaleX(${Math.min(1, room / inner.offsetWidth)})`;
+        inner.style.verticalAlign = "middle";
     }
 }
 

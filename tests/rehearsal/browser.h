@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QWebSocket>
+#include <functional>
+#include <map>
+
+namespace zelvor::rehearsal {
+
+// Handles events until CONDITION holds; false when that takes longer than any machine should need.
+bool eventually(const std::function<bool()>& condition);
+
+// Has the process killed when the test program ends, however it ends. To be called before its start.
+void endWithTest(QProcess& process);
+
+// A headless Chromium with one page, steered through its debugging protocol.
+class Browser {
+ public:
+    ~Browser();
+
+    // False, with the reason in fault(), when there is no Chromium or it does not start.
+    bool start();
+    const QString& fault() const { return fault_; }
+
+    void open(const QString& url);
+
+    // What SCRIPT gives in the page; a string, number or boolean, as text. "exception: ..." when it throws.
+    QString evaluate(const QString& script);
+    // The same in the frame whose path ends in PATH; empty when there is no such frame.
+    QString evaluateInFrame(const QString& path, const QString& script);
+
+ private:
+    QJsonObject call(const QString& method, const QJsonObject& parameters, const QString& session = {});
+    QString evaluateIn(const QString& session, const QString& script);
+    void receive(const QString& message);
+
+    QTemporaryDir profile_;
+    QProcess process_;
+    QWebSocket socket_;
+    QString fault_;
+    QString page_;          // the page's session
+    QSet<QString> frames_;  // sessions of the frames in it
+    std::map<int, QJsonObject> results_;
+    int lastCall_ = 0;
+};
+
+}  // namespace zelvor::rehearsal

@@ -1,0 +1,255 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTcpSocket>
+
+#include "browser.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::rehearsal {
+namespace {
+
+// The rehearsal server's own program, with the ports it has chosen.
+class Server {
+ public:
+    bool start(const QString& templates, const QStringList& more = {u"--amcp"_s, u"0"_s, u"--http"_s, u"0"_s}) {
+        endWithTest(process_);
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process_.start(QStringLiteral(REHEARSAL_PROGRAM), QStringList{u"--templates"_s, templates} + more);
+        QByteArray output;
+        eventually([&] {
+            output += process_.readAllStandardOutput();
+            return output.count('\n') == 2 || process_.state() == QProcess::NotRunning;
+        });
+        const QStringList lines = QString::fromUtf8(output).split(u'\n');
+        page_ = lines.value(1).section(u' ', 1);
+        amcpPort_ = lines.value(0).section(u':', -1);
+        return !page_.isEmpty();
+    }
+
+    // Ends it as Ctrl-C does; true when it leaves in order.
+    bool stop() {
+        process_.terminate();
+        return process_.waitForFinished() && process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;
+    }
+
+    const QString& page() const { return page_; }
+    QString amcpPort() const { return amcpPort_; }
+    QString httpPort() const { return page_.section(u':', -1).remove(u'/'); }
+
+ private:
+    QProcess process_;
+    QString page_;
+    QString amcpPort_;
+};
+
+QString lowerThird(const QString& name, const QString& title) {
+    return uR"(<templateData><componentData id=\"NAME\"><data type=\"txt\" ani=\"0\" value=\"%1\"></data></componentData>)"
+           uR"(<componentData id=\"TITLE\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData></templateData>)"_s
+               .arg(name, title);
+}
+
+class BrowserTest : public testing::Test {
+ protected:
+    static void SetUpTestSuite() {
+        browser_ = new Browser;
+        started_ = browser_->start();
+    }
+    static void TearDownTestSuite() { delete browser_; }
+
+    void SetUp() override { ASSERT_TRUE(started_) << qPrintable(browser_->fault()); }
+
+    void open(const Server& server) {
+        browser_->open(server.page());
+        ASSERT_TRUE(becomes([] { return page(u"document.querySelectorAll('.channel').length"_s); }, u"2"_s));
+        console_.connectToHost(u"127.0.0.1"_s, server.amcpPort().toUShort());
+        ASSERT_TRUE(eventually([&] { return console_.state() == QAbstractSocket::ConnectedState; }));
+    }
+
+    // Sends a line and waits for the reply.
+    QString send(const QString& line) {
+        console_.write(line.toUtf8() + "\r\n");
+        eventually([&] { return console_.canReadLine(); });
+        return QString::fromUtf8(console_.readAll()).trimmed();
+    }
+
+    static QString page(const QString& script) { return browser_->evaluate(script); }
+    static QString frame(const QString& name, const QString& script) { return browser_->evaluateInFrame(name, script); }
+    static QString lines() { return page(u"document.getElementById('lines').innerText"_s); }
+
+    static testing::AssertionResult becomes(const std::function<QString()>& read, const QString& wanted) {
+        QString last;
+        if (eventually([&] { return (last = read()).contains(wanted); })) {
+            return testing::AssertionSuccess();
+        }
+        return testing::AssertionFailure() << "still \"" << qPrintable(last) << "\", not " << qPrintable(wanted);
+    }
+
+    QTcpSocket console_;
+    static inline Browser* browser_ = nullptr;
+    static inline bool started_ = false;
+};
+
+const QString kLowerThird = u"/lowerthird.html"_s;
+const QString kName = u"document.querySelector('[data-field=NAME]').textContent"_s;
+// How far the panel is open: "inset(0px)" when it is on, "inset(0px 100% 0px 0px)" when it is off.
+const QString kPanel = u"getComputedStyle(document.querySelector('.panel')).clipPath"_s;
+
+TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
+    Server server;
+    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES)));
+    open(server);
+    const auto name = [] { return frame(kLowerThird, kName); };
+    const auto panel = [] { return frame(kLowerThird, kPanel); };
+    // The name and the panel as soon as the new page has its name.
+    const auto firstSeenAfterReload = [] {
+        frame(kLowerThird, u"window.isOld = true"_s);
+        page(u"location.reload()"_s);
+        QString seen;
+        eventually([&] {
+            seen = frame(kLowerThird, u"window.isOld ? '' : `${%1} ${%2}`"_s.arg(kName, kPanel));
+            return seen.size() > 1 && seen[0] != u' ';
+        });
+        return seen;
+    };
+
+    EXPECT_EQ(send(u"CG 1-20 ADD 1 \"lowerthird\" 1 \"%1\""_s.arg(lowerThird(u"Γιώργος"_s, u"<Guard> & more"_s))),
+              u"202 CG OK"_s);
+    EXPECT_TRUE(becomes(name, u"Γιώργος"_s));
+    EXPECT_TRUE(becomes(panel, u"inset(0px)"_s));
+    EXPECT_EQ(frame(kLowerThird, u"document.querySelector('[data-field=TITLE]').textContent"_s), u"<Guard> & more"_s);
+
+    EXPECT_EQ(send(u"CG 1-20 UPDATE 1 \"%1\""_s.arg(lowerThird(u"O\\\"Neal"_s, {}))), u"202 CG OK"_s);
+    EXPECT_TRUE(becomes(name, u"O’Neal"_s));
+
+    EXPECT_EQ(firstSeenAfterReload().toStdString(), "O’Neal inset(0px)") << "no animation is played again";
+
+    EXPECT_EQ(send(u"CG 1-20 STOP 1"_s), u"202 CG OK"_s);
+    EXPECT_TRUE(becomes(panel, u"100%"_s));
+    EXPECT_EQ(send(u"CG 1-20 PLAY 1"_s), u"202 CG OK"_s);
+    EXPECT_EQ(send(u"CG 1-20 STOP 1"_s), u"202 CG OK"_s);
+    EXPECT_EQ(firstSeenAfterReload().toStdString(), "O’Neal inset(0px 100% 0px 0px)") << "in the middle of going off";
+
+    EXPECT_EQ(send(u"PLAY 1-10 #8000FF00"_s), u"202 PLAY OK"_s);
+    EXPECT_EQ(send(u"MIXER 1-10 FILL 0.5 0 0.5 1"_s), u"202 MIXER OK"_s);
+    EXPECT_TRUE(becomes([] { return page(u"document.querySelector('.layers').innerText"_s); }, u"10 #00FF0080"_s));
+    EXPECT_EQ(page(u"[...document.querySelectorAll('#channel-1 .layer')].map(e => e.style.zIndex).sort().join()"_s),
+              u"10,20"_s);
+    EXPECT_EQ(send(u"CLEAR 1"_s), u"202 CLEAR OK"_s);
+    EXPECT_TRUE(
+        becomes([] { return page(u"`${document.querySelectorAll('iframe').length} frames`"_s); }, u"0 frames"_s));
+    EXPECT_TRUE(server.stop());
+}
+
+TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"calls.html"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"(<!-- c --><!doctype html><p id="calls"></p><script>
+        const note = (text) => { calls.textContent += text + ";"; };
+        const update = (data) => note("update " + data);
+        function play() { note("play"); }
+        function stop() { note("stop"); throw new Error("stops badly"); }
+        function reach(what) { try { note(String(what())); } catch (fault) { note(fault.name); } }
+        const spy = new WebSocket(location.origin.replace("http", "ws") + "/state");
+        spy.onmessage = () => note("spied"); spy.onclose = () => note("shut out");
+        </script><img src="missing.png">)");
+    file.close();
+    Server server;
+    ASSERT_TRUE(server.start(folder.path()));
+    open(server);
+    const auto calls = [] { return frame(u"/calls.html"_s, u"document.getElementById('calls').textContent"_s); };
+
+    send(uR"(CG 2-1 ADD 1 CALLS 1 "{\"a\":\"<b>'\\\"</b>\"}")"_s);
+    EXPECT_TRUE(becomes(calls, uR"(update {"a":"<b>'\"</b>"};play;)"_s));
+    EXPECT_TRUE(becomes(calls, u"shut out"_s));
+    send(u"CG 2-1 STOP 1"_s);
+    send(u"CG 2-1 NEXT 1"_s);
+    send(u"CG 2-1 INVOKE 1 \"reach(() => parent.document.title)\""_s);
+    send(u"CG 2-1 INVOKE 1 \"reach(() => localStorage)\""_s);
+    EXPECT_TRUE(becomes(calls, u"stop;SecurityError;SecurityError;"_s));
+    EXPECT_FALSE(calls().contains(u"spied"_s));
+    EXPECT_EQ(frame(u"/calls.html"_s, u"document.compatMode"_s), u"CSS1Compat"_s);
+    for (const QString& fault : {u"2-1 calls.html: cannot load"_s, u"stops badly"_s, u"the template has no next()"_s}) {
+        EXPECT_TRUE(becomes(&BrowserTest::lines, fault));
+    }
+    EXPECT_EQ(page(u"document.querySelectorAll('#lines b').length"_s), u"0"_s);
+
+    send(u"CG 2-1 ADD 1 missing 1"_s);
+    send(u"NOPE <b>x</b>"_s);
+    EXPECT_TRUE(becomes(&BrowserTest::lines, u"404 CG ADD FAILED"_s));
+    EXPECT_TRUE(becomes(&BrowserTest::lines, u"NOPE <b>x</b>"_s));
+    EXPECT_TRUE(server.stop());
+}
+
+TEST_F(BrowserTest, FollowsConsoleAndServerThroughRestarts) {
+    Server server;
+    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES)));
+    open(server);
+    const auto consoleStatus = [] { return page(u"document.getElementById('console').textContent"_s); };
+    const auto serverStatus = [] { return page(u"document.getElementById('server').textContent"_s); };
+
+    EXPECT_TRUE(becomes(consoleStatus, u"Console connected"_s));
+    console_.disconnectFromHost();
+    EXPECT_TRUE(becomes(consoleStatus, u"Console disconnected at "_s));
+
+    const QStringList samePorts = {u"--amcp"_s, server.amcpPort(), u"--http"_s, server.httpPort()};
+    EXPECT_TRUE(server.stop());
+    EXPECT_TRUE(becomes(serverStatus, u"does not answer"_s));
+    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES), samePorts));
+    EXPECT_TRUE(becomes(serverStatus, u"Following"_s));
+    EXPECT_TRUE(becomes(consoleStatus, u"No console yet: connect it to 127.0.0.1:"_s));
+    EXPECT_TRUE(server.stop());
+}
+
+TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
+    Server server;
+    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES)));
+    const QString longName = u"Κωνσταντίνος-Αλέξανδρος Παπαχατζηθεοδωροπουλόπουλος von Wolfeschlegelsteinhausen"_s;
+    QString data;
+    for (const char* field :
+         {"HOME", "AWAY", "NAME", "TITLE", "TEAM", "LINE2", "LABEL", "COACH", "EXTRA", "P1", "P12"}) {
+        data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData>)"_s.arg(
+            QLatin1String(field), longName);
+    }
+    for (const char* field : {"NUMBER", "SCOREA", "SCOREB", "N1", "N12"}) {
+        data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"188\"></data></componentData>)"_s.arg(
+            QLatin1String(field));
+    }
+    const QStringList names = {u"scorebug"_s, u"lowerthird"_s, u"lineup"_s, u"clock"_s};
+    // Every text that shows: inside the safe area, and inside the box it belongs to.
+    const QString outside =
+        u"[...document.querySelectorAll('[data-field] > span')].filter(text => {"
+        "  const inner = text.getBoundingClientRect(), box = text.parentElement.getBoundingClientRect();"
+        "  return inner.width > 0 && (inner.right > box.right + 1 || inner.left < box.left - 1 ||"
+        "    inner.left < innerWidth * 0.05 - 1 || inner.right > innerWidth * 0.95 + 1 ||"
+        "    inner.top < innerHeight * 0.05 - 1 || inner.bottom > innerHeight * 0.95 + 1); }).map(text =>"
+        "  text.parentElement.dataset.field).join()"_s;
+    open(server);
+    for (const QString& aspect : {u"16:9"_s, u"4:3"_s}) {
+        page(
+            u"{ const choice = document.getElementById('aspect'); choice.value = '%1';"
+            "choice.dispatchEvent(new Event('change')); }"_s.arg(aspect));
+        for (int i = 0; i < names.size(); ++i) {
+            EXPECT_EQ(send(u"CG 1-%1 ADD 1 %2 1 \"<templateData>%3</templateData>\""_s.arg(i).arg(names[i], data)),
+                      u"202 CG OK"_s);
+        }
+        for (const QString& name : names) {
+            const QString path = u"/%1.html"_s.arg(name);
+            EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.className"_s); }, u"on"_s));
+            EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.innerText"_s); }, u"Κωνσταντίνος"_s));
+            // Also lets the animations run out.
+            EXPECT_TRUE(
+                becomes([&] { return frame(path, u"`${document.getAnimations().length} left`"_s); }, u"0 left"_s));
+            EXPECT_EQ(frame(path, u"`${innerWidth}x${innerHeight}`"_s),
+                      aspect == u"4:3"_s ? u"1440x1080"_s : u"1920x1080"_s);
+            EXPECT_EQ(frame(path, outside).toStdString(), "") << qPrintable(name + u' ' + aspect);
+        }
+        send(u"CLEAR 1"_s);
+    }
+    EXPECT_TRUE(server.stop());
+}
+
+}  // namespace
+}  // namespace zelvor::rehearsal
