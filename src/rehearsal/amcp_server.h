@@ -27,15 +27,15 @@ class AmcpServer : public QObject {
 
     // Port 0 takes a free one. False when it cannot listen; errorString() says why.
     bool listen(const QHostAddress& address, quint16 port);
-    quint16 port() const { return listener_.serverPort(); }
-    QString errorString() const { return listener_.errorString(); }
+    [[nodiscard]] quint16 port() const { return listener_.serverPort(); }
+    [[nodiscard]] QString errorString() const { return listener_.errorString(); }
 
     // "address:port", as a console is told to connect.
-    QString address() const;
+    [[nodiscard]] QString address() const;
 
-    int clientCount() const { return static_cast<int>(clients_.size()); }
+    [[nodiscard]] int clientCount() const { return static_cast<int>(clients_.size()); }
     // When a client last went; invalid while none has.
-    QTime lastLeft() const { return lastLeft_; }
+    [[nodiscard]] QTime lastLeft() const { return lastLeft_; }
 
  Q_SIGNALS:
     // A client came or went.

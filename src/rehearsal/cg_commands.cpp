@@ -26,11 +26,11 @@ QString refusedData(const Command& command, const QString& data) {
     return data.isEmpty() ? reply::illegal(command.name) : reply::notFound(command.name);
 }
 
-QString pass(const Command& command, Host& host, TemplateCall call) {
+QString pass(const Command& command, Host& host, const TemplateCall& call) {
     if (!namesTemplateLayer(command) || !host.stage.showsTemplate(command.at)) {
         return reply::illegal(command.name);
     }
-    host.stage.call(command.at, std::move(call));
+    host.stage.call(command.at, call);
     return reply::ok(command.word());
 }
 

@@ -20,7 +20,7 @@ struct Command {
     QStringList parameters = {};
 
     // The first word, which replies of success and of form errors name.
-    QString word() const { return name.section(u' ', 0, 0); }
+    [[nodiscard]] QString word() const { return name.section(u' ', 0, 0); }
 };
 
 // What commands work on.

@@ -26,7 +26,7 @@ class Journal : public QObject {
     // Keeps the line, shortened to kMaxText; the oldest goes when there are more than kMaxLines.
     void add(Kind kind, const QString& client, const QString& text);
 
-    const std::deque<Line>& lines() const { return lines_; }
+    [[nodiscard]] const std::deque<Line>& lines() const { return lines_; }
 
  Q_SIGNALS:
     void added(const zelvor::rehearsal::Journal::Line& line);

@@ -21,7 +21,7 @@ class CallHistory {
     static constexpr qsizetype kMaxText = qsizetype{4} << 20;  // characters over all calls
 
     void add(TemplateCall call);
-    const std::deque<TemplateCall>& calls() const { return calls_; }
+    [[nodiscard]] const std::deque<TemplateCall>& calls() const { return calls_; }
 
  private:
     void dropOldest();

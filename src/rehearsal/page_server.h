@@ -18,7 +18,7 @@ class PageServer : public QAbstractHttpServer {
 
     // Port 0 takes a free one. On failure gives the reason, otherwise an empty text.
     QString start(const QHostAddress& address, quint16 port);
-    quint16 port() const;
+    [[nodiscard]] quint16 port() const;
 
  protected:
     bool handleRequest(const QHttpServerRequest& request, QTcpSocket* socket) override;

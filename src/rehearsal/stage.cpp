@@ -78,7 +78,7 @@ bool Stage::showsTemplate(LayerAddress at) const {
     return layer != nullptr && layer->foreground.kind == Source::Kind::Template;
 }
 
-void Stage::call(LayerAddress at, TemplateCall call) {
+void Stage::call(LayerAddress at, const TemplateCall& call) {
     if (!showsTemplate(at)) {
         return;
     }

@@ -23,11 +23,11 @@ class Stage : public QObject {
 
     explicit Stage(int channels);
 
-    int channelCount() const { return static_cast<int>(channels_.size()); }
+    [[nodiscard]] int channelCount() const { return static_cast<int>(channels_.size()); }
     // The layers of a channel (1..channelCount()) that hold something, from the back to the front.
-    const std::map<int, Layer>& layers(int channel) const;
+    [[nodiscard]] const std::map<int, Layer>& layers(int channel) const;
     // False when the channel has no room for one more layer; a layer in use always has room.
-    bool hasRoomFor(LayerAddress at) const;
+    [[nodiscard]] bool hasRoomFor(LayerAddress at) const;
 
     // Shows SOURCE at once, in place of what was there; PAUSED as LOAD does it. Gives the source its id.
     void show(LayerAddress at, Source source, bool paused = false);
@@ -43,11 +43,11 @@ class Stage : public QObject {
     void clearChannel(int channel);
 
     // True when the layer shows a template. Then call() passes a call on to it (Remove also empties the layer).
-    bool showsTemplate(LayerAddress at) const;
-    void call(LayerAddress at, TemplateCall call);
+    [[nodiscard]] bool showsTemplate(LayerAddress at) const;
+    void call(LayerAddress at, const TemplateCall& call);
 
     // How the mixer shows a layer; a layer never touched has the plain defaults.
-    Mixer mixer(LayerAddress at) const;
+    [[nodiscard]] Mixer mixer(LayerAddress at) const;
     void setMixer(LayerAddress at, const Mixer& mixer);
     void resetMixers(int channel);
 
@@ -57,9 +57,9 @@ class Stage : public QObject {
     void called(quint64 sourceId, const zelvor::rehearsal::TemplateCall& call);
 
  private:
-    std::vector<int> layerNumbers(int channel) const;
+    [[nodiscard]] std::vector<int> layerNumbers(int channel) const;
     Layer* find(LayerAddress at);
-    const Layer* find(LayerAddress at) const;
+    [[nodiscard]] const Layer* find(LayerAddress at) const;
     Layer& obtain(LayerAddress at);
     void changed(LayerAddress at);
 

@@ -29,8 +29,6 @@ std::optional<QString> entryNamed(const QDir& dir, const QString& segment) {
 
 }  // namespace
 
-TemplateFolder::TemplateFolder(const QString& path) : path_(path) {}
-
 std::optional<QString> TemplateFolder::findTemplate(const QString& name) const {
     return findWithEnding(name, kTemplateEndings);
 }

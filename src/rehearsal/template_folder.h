@@ -4,6 +4,7 @@
 #include <QString>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace zelvor::rehearsal {
 
@@ -15,19 +16,20 @@ class TemplateFolder {
     static constexpr qint64 kMaxFile = qint64{64} << 20;  // bytes
 
     // PATH may itself be a link, and need not exist yet.
-    explicit TemplateFolder(const QString& path);
+    explicit TemplateFolder(QString path) : path_(std::move(path)) {}
 
     // The template "NAME.html" (also when NAME already ends so), as a path in this folder with "/".
-    std::optional<QString> findTemplate(const QString& name) const;
+    [[nodiscard]] std::optional<QString> findTemplate(const QString& name) const;
     // The picture NAME, with its ending or without one of the usual endings.
-    std::optional<QString> findPicture(const QString& name) const;
+    [[nodiscard]] std::optional<QString> findPicture(const QString& name) const;
 
     // The bytes of a file, or nothing when it is not found, not a plain file, unreadable or larger than kMaxFile.
-    std::optional<QByteArray> read(const QString& name) const;
+    [[nodiscard]] std::optional<QByteArray> read(const QString& name) const;
 
  private:
-    std::optional<QString> find(const QString& name) const;
-    std::optional<QString> findWithEnding(const QString& name, std::span<const QStringView> endings) const;
+    [[nodiscard]] std::optional<QString> find(const QString& name) const;
+    [[nodiscard]] std::optional<QString> findWithEnding(const QString& name,
+                                                        std::span<const QStringView> endings) const;
 
     QString path_;
 };

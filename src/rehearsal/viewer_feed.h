@@ -40,8 +40,8 @@ class ViewerFeed : public QObject {
     void flush();
     void catchUp(QWebSocket* socket);
     void leave(QWebSocket* socket);
-    QJsonObject consoleEvent() const;
-    QByteArray wholeState() const;
+    [[nodiscard]] QJsonObject consoleEvent() const;
+    [[nodiscard]] QByteArray wholeState() const;
 
     const Stage& stage_;
     const Journal& journal_;
