@@ -13,6 +13,7 @@ namespace zelvor::rehearsal {
 namespace {
 
 constexpr std::chrono::milliseconds kBatch{20};
+constexpr quint64 kMaxIncoming = 1024;  // pages only listen
 
 QByteArray asMessage(const QJsonArray& events) {
     return QJsonDocument(QJsonObject{{u"events"_s, events}}).toJson(QJsonDocument::Compact);
@@ -52,6 +53,8 @@ void ViewerFeed::join(std::unique_ptr<QWebSocket> socket) {
     }
     flush();  // what is still to be sent is part of the state that follows
     QWebSocket* const viewer = socket.get();
+    viewer->setMaxAllowedIncomingFrameSize(kMaxIncoming);
+    viewer->setMaxAllowedIncomingMessageSize(kMaxIncoming);
     connect(viewer, &QWebSocket::disconnected, this, [this, viewer] { leave(viewer); });
     connect(viewer, &QWebSocket::bytesWritten, this, [this, viewer] { catchUp(viewer); });
     viewers_.push_back({std::move(socket)});

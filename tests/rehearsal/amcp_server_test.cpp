@@ -2,28 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTcpSocket>
-#include <QThread>
-#include <functional>
+#include <memory>
+#include <vector>
+
+#include "eventually.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor::rehearsal {
 namespace {
-
-bool eventually(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(20000);
-    while (!condition()) {
-        if (deadline.hasExpired()) {
-            return false;
-        }
-        QCoreApplication::processEvents();
-        QThread::usleep(200);
-    }
-    return true;
-}
 
 class AmcpServerTest : public testing::Test {
  protected:

@@ -2,29 +2,16 @@
 
 #include <sys/prctl.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
-#include <QThread>
 #include <csignal>
+
+#include "eventually.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor::rehearsal {
-
-bool eventually(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(30000);
-    while (!condition()) {
-        if (deadline.hasExpired()) {
-            return false;
-        }
-        QCoreApplication::processEvents();
-        QThread::msleep(2);
-    }
-    return true;
-}
 
 void endWithTest(QProcess& process) {
     process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });

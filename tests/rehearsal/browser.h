@@ -5,13 +5,9 @@
 #include <QSet>
 #include <QTemporaryDir>
 #include <QWebSocket>
-#include <functional>
 #include <map>
 
 namespace zelvor::rehearsal {
-
-// Handles events until CONDITION holds; false when that takes longer than any machine should need.
-bool eventually(const std::function<bool()>& condition);
 
 // Has the process killed when the test program ends, however it ends. To be called before its start.
 void endWithTest(QProcess& process);
