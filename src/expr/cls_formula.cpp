@@ -134,7 +134,7 @@ bool clsFormula::AngleUnit(std::string_view unit) {
 double clsFormula::Eval() {
     clearError();
     context_.warning = {};
-    if (storeError_.code != ErrorCode::None) {
+    if (storeError_.code != ErrorCode::None) [[unlikely]] {
         const std::string position = std::to_string(characterPosition(expression_, storeError_.position));
         if (storeError_.detail.empty()) {
             setError(storeError_.code, storeError_.position, {position});
@@ -150,7 +150,7 @@ double clsFormula::Eval() {
     double* const slots = table_.slots.data();
     for (const Row& row : table_.rows) {
         const double value = compute(row, slots[row.first], slots[row.second]);
-        if (!std::isfinite(value)) {
+        if (!std::isfinite(value)) [[unlikely]] {
             evaluationError(row);
             return 0;
         }
@@ -215,7 +215,13 @@ double clsFormula::call(const Row& row) {
 }
 
 double clsFormula::Eval1(double x) {
-    if (table_.variableCount > 0) VarValue(1, x);
+    if (table_.variableCount > 0) {
+        if (unassigned_ == 0 && std::isfinite(x)) {
+            table_.slots[0] = x;
+        } else {
+            VarValue(1, x);
+        }
+    }
     return Eval();
 }
 
@@ -258,6 +264,7 @@ int clsFormula::indexOf(std::string_view name) const {
 }
 
 void clsFormula::clearError() {
+    if (error_ == ErrorCode::None) return;
     error_ = ErrorCode::None;
     errorPosition_ = 0;
     errorDescription_.clear();
