@@ -32,9 +32,7 @@ void writeCrawlDefault(ShowState& state) {
 }
 
 void writeEffectDefaults(ShowState& state) {
-    for (const QStringView name : {u"@FADE_IN", u"@FADE_OUT", u"@ROLL_SPEED", u"@WIPE"}) {
-        state.variables.SetVar(name, u"10"_s);
-    }
+    for (const QStringView name : kEffectVariables) state.variables.SetVar(name, u"10"_s);
 }
 
 void paintScreenMode(FormModel& form, bool wide) {

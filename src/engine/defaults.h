@@ -1,10 +1,15 @@
 #pragma once
 
+#include <array>
+
 #include "base/app_folder.h"
 #include "engine/show_state.h"
 #include "form/form_model.h"
 
 namespace zelvor {
+
+// The variables of the effect boxes cmbFADE(0) to cmbFADE(3).
+constexpr std::array<QStringView, 4> kEffectVariables{u"@FADE_IN", u"@FADE_OUT", u"@ROLL_SPEED", u"@WIPE"};
 
 // The first values of the console's own variables, in the order of the start-up.
 

@@ -1,0 +1,109 @@
+#include "general_rules/general_variables.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+using Tell = ErrorTrap::Tell;
+
+const QString kTitle = u"General Vars"_s;
+constexpr qsizetype kShownRemarks = 20;
+
+QByteArray readWhole(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
+    const QByteArray bytes = file.read(TextFiles::kLargestFile + 1);
+    if (bytes.size() > TextFiles::kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
+    if (file.error() != QFileDevice::NoError) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
+    return bytes;
+}
+
+}  // namespace
+
+GeneralVariables::GeneralVariables(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
+                                   Operator& operatorDesk)
+    : state_(state), folder_(folder), files_(files), trap_(trap), operator_(operatorDesk) {}
+
+QString GeneralVariables::file(QStringView name) const {
+    return folder_.resolve(folder_.packFile(pack_, name));
+}
+
+void GeneralVariables::load() {
+    pack_ = state_.language();
+    std::vector<GeneralRow> rows;
+    trap_.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator, [&] {
+        if (!QFile::exists(file(u"infodata.dat"))) return;
+        const QByteArray bytes = readWhole(file(u"infodata.dat"));
+        const GridReading reading = readGrid(bytes);
+        rows = reading.rows;
+        if (reading.damagedLine > 0) keepDamaged(bytes, reading);
+    });
+    grid_.setLoaded(rows, [this](const GeneralRow& row) {
+        const Value* value = state_.variables.find(row[general_column::kVariable]);
+        return value != nullptr && value->text() == GeneralCell(row[general_column::kValue]).value();
+    });
+}
+
+void GeneralVariables::keepDamaged(const QByteArray& bytes, const GridReading& reading) {
+    // A copy: until the grid is saved, the file itself keeps what it holds.
+    const bool kept = trap_.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator,
+                                [&] { replaceFile(file(u"infodata.dat") + u".bad"_s, bytes); });
+    QString text = u"infodata.dat is damaged in line %1 (%2).\r\nRows before it: %3."_s.arg(reading.damagedLine)
+                       .arg(reading.damage)
+                       .arg(reading.rows.size());
+    if (kept) text += u"\r\nThe damaged file is kept as infodata.dat.bad."_s;
+    operator_.message(kTitle, text, Operator::Severity::Warning);
+}
+
+bool GeneralVariables::addRow() {
+    GeneralRow row;
+    bool answered = true;
+    trap_.run({u"frmGENERAL.cmdADDROW_Click"_s}, Tell::Operator, [&] {
+        struct Question {
+            QStringView prompt;
+            int column;
+        };
+        for (const Question& question :
+             {Question{u"var", general_column::kVariable}, Question{u"title", general_column::kTitle},
+              Question{u"help", general_column::kHelp}}) {
+            const std::optional<QString> answer = operator_.input(kTitle, question.prompt.toString(), {});
+            answered = answered && answer.has_value();
+            if (!answered) return;
+            row[question.column] = *answer;
+        }
+    });
+    if (answered) grid_.append({row});
+    return answered;
+}
+
+void GeneralVariables::importText() {
+    trap_.run({u"frmGENERAL.cmdIMPORT_Click"_s}, Tell::Operator, [&] {
+        const ImportedRows imported = importRows(files_.readLines(file(u"infodata.txt")));
+        grid_.append(imported.rows);
+        save();
+        if (imported.remarks.isEmpty()) return;
+        QStringList shown = imported.remarks.mid(0, kShownRemarks);
+        if (imported.remarks.size() > kShownRemarks)
+            shown += u"and %1 more"_s.arg(imported.remarks.size() - kShownRemarks);
+        operator_.message(kTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
+    });
+}
+
+bool GeneralVariables::save() {
+    return trap_.run({u"frmGENERAL.cmdSAVE_Click"_s}, Tell::Operator, [&] {
+        replaceFile(file(u"infodata.dat"), gridBytes(grid_.rows()));
+        grid_.markSaved();
+    });
+}
+
+void GeneralVariables::apply() {
+    for (int row = 0; row < grid_.rowCount(); ++row)
+        state_.variables.SetVar(grid_.text(row, general_column::kVariable), grid_.cell(row).value());
+    grid_.markApplied();
+}
+
+}  // namespace zelvor

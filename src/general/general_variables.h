@@ -1,0 +1,46 @@
+#pragma once
+
+#include "base/app_folder.h"
+#include "base/error_trap.h"
+#include "base/text_file.h"
+#include "engine/ports.h"
+#include "engine/show_state.h"
+#include "general_rules/general_grid.h"
+
+namespace zelvor {
+
+// The operator's own variables: kept in the pack's infodata.dat, edited as a grid, copied into the variable table.
+// Failures are reported to the operator here.
+class GeneralVariables {
+ public:
+    GeneralVariables(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
+                     Operator& operatorDesk);
+
+    // Loads infodata.dat of the current pack. Without one the grid starts empty; a damaged one is reported with its
+    // line, copied to infodata.dat.bad, and the rows before the damage are taken.
+    void load();
+    // Asks for name, title and help of a new row. False when the operator cancelled.
+    bool addRow();
+    // Adds every line of infodata.txt as a row and saves; reports lines of more or fewer than four fields.
+    void importText();
+    // Writes infodata.dat, whole or not at all. False when it could not be written.
+    bool save();
+    // Copies the value of every row into the variable it names.
+    void apply();
+
+    GeneralGrid& grid() { return grid_; }
+
+ private:
+    [[nodiscard]] QString file(QStringView name) const;
+    void keepDamaged(const QByteArray& bytes, const GridReading& reading);
+
+    ShowState& state_;
+    const AppFolder& folder_;
+    const TextFiles& files_;
+    ErrorTrap& trap_;
+    Operator& operator_;
+    QString pack_;  // the one whose file was loaded: saving goes there, whatever cards do to @LANGUAGE meanwhile
+    GeneralGrid grid_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,136 @@
+#include "general_rules/grid_file.h"
+
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+const QByteArray kVersionLine = "zelvor-grid 1";
+const QByteArray kByteOrderMark = "\xEF\xBB\xBF";
+
+QString escaped(const QString& field) {
+    QString text;
+    text.reserve(field.size());
+    for (const QChar unit : field) {
+        switch (unit.unicode()) {
+            case u'\\':
+                text += u"\\\\";
+                break;
+            case u'\t':
+                text += u"\\t";
+                break;
+            case u'\r':
+                text += u"\\r";
+                break;
+            case u'\n':
+                text += u"\\n";
+                break;
+            default:
+                text += unit;
+        }
+    }
+    return text;
+}
+
+std::optional<QString> unescaped(QStringView field) {
+    QString text;
+    text.reserve(field.size());
+    for (qsizetype at = 0; at < field.size(); ++at) {
+        if (field[at] != u'\\') {
+            text += field[at];
+            continue;
+        }
+        if (++at == field.size()) return std::nullopt;
+        switch (field[at].unicode()) {
+            case u'\\':
+                text += u'\\';
+                break;
+            case u't':
+                text += u'\t';
+                break;
+            case u'r':
+                text += u'\r';
+                break;
+            case u'n':
+                text += u'\n';
+                break;
+            default:
+                return std::nullopt;
+        }
+    }
+    return text;
+}
+
+// Empty when the line is sound, else what is wrong with it.
+QString readRow(const QByteArray& line, GeneralRow& row) {
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
+    const QString text = utf8.decode(line);
+    if (utf8.hasError()) return u"not UTF-8"_s;
+    const QStringList fields = text.split(u'\t');
+    if (fields.size() != general_column::kCount) return u"%1 fields instead of 4"_s.arg(fields.size());
+    for (int column = 0; column < general_column::kCount; ++column) {
+        const std::optional<QString> field = unescaped(fields[column]);
+        if (!field) return u"unknown escape in field %1"_s.arg(column + 1);
+        row[column] = *field;
+    }
+    return {};
+}
+
+}  // namespace
+
+QByteArray gridBytes(const std::vector<GeneralRow>& rows) {
+    QString text = QString::fromLatin1(kVersionLine) + u'\n';
+    for (const GeneralRow& row : rows) {
+        QStringList fields;
+        for (const QString& field : row) fields += escaped(field);
+        text += fields.join(u'\t') + u'\n';
+    }
+    return text.toUtf8();
+}
+
+GridReading readGrid(const QByteArray& bytes) {
+    GridReading reading;
+    QList<QByteArray> lines = bytes.split('\n');
+    const QByteArray cutOff = lines.takeLast();
+    for (QByteArray& line : lines) {
+        if (line.endsWith('\r')) line.chop(1);
+    }
+    if (!lines.isEmpty() && lines[0].startsWith(kByteOrderMark)) lines[0].remove(0, kByteOrderMark.size());
+    const auto damaged = [&](qsizetype line, const QString& damage) {
+        reading.damagedLine = static_cast<int>(line);
+        reading.damage = damage;
+        return reading;
+    };
+    if (lines.isEmpty() || lines[0] != kVersionLine) return damaged(1, u"no version line known here"_s);
+    for (qsizetype at = 1; at < lines.size(); ++at) {
+        GeneralRow row;
+        const QString damage = readRow(lines[at], row);
+        if (!damage.isEmpty()) return damaged(at + 1, damage);
+        reading.rows.push_back(std::move(row));
+    }
+    if (!cutOff.isEmpty()) return damaged(lines.size() + 1, u"cut off"_s);
+    return reading;
+}
+
+ImportedRows importRows(const QStringList& lines) {
+    static const QRegularExpression kSeparator(u"[,\t]"_s);
+    ImportedRows imported;
+    for (qsizetype at = 0; at < lines.size(); ++at) {
+        const QStringList fields = lines[at].split(kSeparator);
+        GeneralRow row;
+        for (int column = 0; column < general_column::kCount; ++column) row[column] = fields.value(column);
+        imported.rows.push_back(std::move(row));
+        const qsizetype excess = fields.size() - general_column::kCount;
+        const QString where = u"line %1: %2 fields, "_s.arg(at + 1).arg(fields.size());
+        if (excess < 0) imported.remarks += where + u"filled with empty ones"_s;
+        if (excess > 0) imported.remarks += where + u"those after the fourth left out"_s;
+    }
+    return imported;
+}
+
+}  // namespace zelvor

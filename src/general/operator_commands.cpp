@@ -1,0 +1,115 @@
+#include "general_rules/operator_commands.h"
+
+#include "base/number.h"
+#include "engine/defaults.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+const QString kGeneralForm = u"frmGENERAL"_s;
+const QString kStartCard = u"GetGame.csp"_s;
+
+// Meant, though it looks crossed: "Off" is the shortest effect, "Fast" none at all.
+QString effectSpeed(const QString& text) {
+    if (text == u"Off") return u"1"_s;
+    if (text == u"Fast") return u"0"_s;
+    return text;
+}
+
+}  // namespace
+
+OperatorCommands::OperatorCommands(CardEngine& engine, Packs& packs, GeneralVariables& general, OpenForms& forms,
+                                   ErrorTrap& trap)
+    : engine_(engine),
+      packs_(packs),
+      general_(general),
+      forms_(forms),
+      trap_(trap),
+      state_(engine.state()),
+      form_(engine.form()) {
+    connect(&form_, &FormModel::changed, this, [this](const Control* control, Control::Property property) {
+        if (property == Control::Property::Text) follow(*control);
+    });
+}
+
+void OperatorCommands::follow(const Control& control) {
+    ErrorPlace place;
+    place.procedure = u"frmMAIN."_s + control.name() + u"_Change"_s;
+    trap_.run(place, ErrorTrap::Tell::Operator, [&] {
+        if (control.name() == u"cmbFADE") takeEffect(control);
+        if (control.name() == u"cbQt") takePeriod(control);
+        if (control.name() == u"cmbLANG" && control.position() >= 0) changeLanguage(control.text());
+    });
+}
+
+void OperatorCommands::takeEffect(const Control& box) {
+    state_.variables.SetVar(kEffectVariables.at(box.index()), effectSpeed(box.text()));
+}
+
+void OperatorCommands::takePeriod(const Control& box) {
+    state_.variables.SetVar(u"@GAMEPERIOD", Val(box.text()));
+}
+
+void OperatorCommands::cmdSCREENMODE(int button) {
+    const bool wide = button == 1;
+    paintScreenMode(form_, wide);
+    state_.variables.SetVar(u"@SCREEN_MODE", wide ? u"16_9"_s : u"4_3"_s);
+}
+
+void OperatorCommands::mnSet169() {
+    state_.variables.SetVar(u"@SCREEN_MODE", u"16_9"_s);
+    form_.at(u"mnSet169"_s).setChecked(true);
+    form_.at(u"mnSet43"_s).setChecked(false);
+}
+
+void OperatorCommands::mnSet43() {
+    state_.variables.SetVar(u"@SCREEN_MODE", u"4_3"_s);
+    form_.at(u"mnSet169"_s).setChecked(false);
+    form_.at(u"mnSet43"_s).setChecked(true);
+}
+
+void OperatorCommands::mnReloadVar() {
+    engine_.SHOW_TVCARD(kStartCard, false, false);
+}
+
+void OperatorCommands::mnGeneralVars() {
+    // An open editor keeps what is being edited.
+    if (!IsFormOpen(forms_, kGeneralForm)) general_.load();
+    forms_.show(kGeneralForm);
+}
+
+void OperatorCommands::showGeneral() {
+    language_ = state_.language();
+    started_ = true;
+    general_.load();
+    general_.apply();
+    forms_.show(kGeneralForm);
+}
+
+void OperatorCommands::changeLanguage(const QString& language) {
+    // Filling the list at the start is no change, nor is choosing the language that is shown.
+    if (!started_ || language == language_) return;
+    language_ = language;
+    state_.variables.SetVar(u"@LANGUAGE", language);
+    const bool wasOpen = IsFormOpen(forms_, kGeneralForm);
+    if (wasOpen) forms_.close(kGeneralForm);
+    packs_.LOAD_CARDS();
+    LoadFkeys(state_, form_);
+    Q_EMIT cardsLoaded();
+    general_.load();
+    general_.apply();
+    if (wasOpen) forms_.show(kGeneralForm);
+    engine_.SHOW_TVCARD(kStartCard, false, false);
+}
+
+QString OperatorCommands::mnDisplayVars() const {
+    QString text = u"Stored Variables (pasted to clipboard)\r\n"_s;
+    state_.variables.forEach(
+        [&text](const QString& name, const Value& value) { text += name + u" = "_s + value.text() + u"\r\n"_s; });
+    return text;
+}
+
+}  // namespace zelvor

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QObject>
+
+#include "engine/card_engine.h"
+#include "engine/packs.h"
+#include "general_rules/general_variables.h"
+#include "general_rules/open_forms.h"
+
+namespace zelvor {
+
+// The operator's settings and menu commands: screen mode, language, effect speeds, period, variables. What the
+// operator does to a box or list of the form is answered here.
+class OperatorCommands : public QObject {
+    Q_OBJECT
+
+ public:
+    // All must outlive this object.
+    OperatorCommands(CardEngine& engine, Packs& packs, GeneralVariables& general, OpenForms& forms, ErrorTrap& trap);
+
+    // Screen mode by button (0: 4:3, 1: 16:9) and by menu item. Meant: the menu leaves the buttons' colours alone and
+    // the buttons the menu's check marks; @SCREEN_MODE holds the last choice of either.
+    void cmdSCREENMODE(int button);
+    void mnSet169();
+    void mnSet43();
+    // Runs "GetGame.csp".
+    void mnReloadVar();
+    // Opens the general variables as they were saved last.
+    void mnGeneralVars();
+
+    // Loads the current pack's general variables and puts them in force, then opens their editor: the end of the
+    // start-up. A language chosen from now on is changed to.
+    void showGeneral();
+
+    // The text of all variables in the table's order, a line each below a heading.
+    [[nodiscard]] QString mnDisplayVars() const;
+
+ Q_SIGNALS:
+    // A language change has read its cards; what shows them follows.
+    void cardsLoaded();
+
+ private:
+    void follow(const Control& control);
+    void takeEffect(const Control& box);
+    void takePeriod(const Control& box);
+    void changeLanguage(const QString& language);
+
+    CardEngine& engine_;
+    Packs& packs_;
+    GeneralVariables& general_;
+    OpenForms& forms_;
+    ErrorTrap& trap_;
+    ShowState& state_;
+    FormModel& form_;
+    QString language_;  // the one whose cards are shown
+    bool started_ = false;
+};
+
+}  // namespace zelvor

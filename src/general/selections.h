@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+
+#include "engine/card_engine.h"
+
+namespace zelvor {
+
+// The operator's last choices of period, effect speeds and starting fives, kept in MODULES\SELECTIONS.TXT.
+class Selections : public QObject {
+    Q_OBJECT
+
+ public:
+    // All must outlive this object. From LoadSelections on, every change of one of the boxes is saved; before it the
+    // boxes are being filled, which must not overwrite what was saved.
+    Selections(CardEngine& engine, ErrorTrap& trap);
+
+    // Writes the file, whole or not at all. A failure is reported.
+    void SaveSelections();
+    // Reads the file into the boxes and their variables, line by line; nothing without a file. A line that is missing
+    // or no position of its list ends the reading with one message: what was read stays.
+    void LoadSelections();
+
+ private:
+    [[nodiscard]] QString path() const;
+    void read(const QStringList& lines);
+
+    CardEngine& engine_;
+    ErrorTrap& trap_;
+    ShowState& state_;
+    FormModel& form_;
+    bool saving_ = false;
+};
+
+}  // namespace zelvor

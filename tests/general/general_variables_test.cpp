@@ -1,0 +1,157 @@
+#include "general_rules/general_variables.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_ports.h"
+
+namespace zelvor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = GeneralCell::Kind;
+using test::EngineBench;
+
+class GeneralVariablesTest : public testing::Test {
+ protected:
+    QString variable(QStringView name) { return bench.state.variables.text(name); }
+    QByteArray onDisk(const QString& name) {
+        QFile file(bench.folderOnDisk.filePath(u"MODULES/QRD_TT/"_s + name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+
+    EngineBench bench;
+    GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
+};
+
+TEST(GeneralCell, ShowsItsValueAndKeepsItsMarkerOrList) {
+    struct Case {
+        QString text;
+        Kind kind;
+        QString value;
+        QStringList choices;
+        QString afterX;  // the text with the value X
+    };
+    const std::vector<Case> cases{
+        {u"plain:1"_s, Kind::Plain, u"plain:1"_s, {}, u"X"_s},
+        {u""_s, Kind::Plain, u""_s, {}, u"X"_s},
+        {u"ON:ON|OFF"_s, Kind::Choice, u"ON"_s, {u"ON"_s, u"OFF"_s}, u"X:ON|OFF"_s},
+        {u":a|b:c"_s, Kind::Choice, u""_s, {u"a"_s, u"b:c"_s}, u"X:a|b:c"_s},
+        {u"a|b"_s, Kind::Choice, u"a|b"_s, {u"a"_s, u"b"_s}, u"X:a|b"_s},
+        {u"[file]1:1|2"_s, Kind::Choice, u"1"_s, {u"1"_s, u"2"_s}, u"X:1|2"_s},
+        {u"[folder]C:/clips"_s, Kind::Folder, u"C:/clips"_s, {}, u"[folder]X"_s},
+        {u"C:/a.png[file]"_s, Kind::File, u"C:/a.png"_s, {}, u"X[file]"_s},
+        {u"[FILE]x"_s, Kind::Plain, u"[FILE]x"_s, {}, u"X"_s},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.text.toStdString());
+        const GeneralCell cell(each.text);
+        EXPECT_EQ(cell.kind(), each.kind);
+        EXPECT_EQ(cell.value(), each.value);
+        EXPECT_EQ(cell.choices(), each.choices);
+        EXPECT_EQ(cell.withValue(u"X"_s), each.afterX);
+    }
+    EXPECT_EQ(GeneralCell(u"[folder]"_s).withValue(u"[folder]D:/x"_s), u"[folder]D:/x");
+}
+
+TEST(GridFile, EveryTextSurvives) {
+    const std::vector<GeneralRow> rows{
+        {u"a\tb\\t"_s, u"\r\n"_s, u"@Ά"_s, u"\\"_s}, {}, {u"\U0001F3C0"_s, {}, {}, u" "_s}};
+    const GridReading reading = readGrid(gridBytes(rows));
+    EXPECT_EQ(reading.damagedLine, 0);
+    EXPECT_EQ(reading.rows, rows);
+    EXPECT_EQ(readGrid("\xEF\xBB\xBFzelvor-grid 1\r\n1\tT\t@A\tH\r\n").rows,
+              (std::vector<GeneralRow>{{u"1"_s, u"T"_s, u"@A"_s, u"H"_s}}));
+}
+
+TEST(GridFile, DamageIsFoundInItsLine) {
+    struct Case {
+        QByteArray bytes;
+        int line;
+        size_t rows;
+    };
+    const QByteArray head = "zelvor-grid 1\n1\tT\t@A\tH\n";
+    for (const Case& each : std::vector<Case>{{"", 1, 0},
+                                              {"zelvor-grid 2\n", 1, 0},
+                                              {QByteArray(4096, '\0'), 1, 0},
+                                              {head + "1\tT\t@B\n", 3, 1},
+                                              {head + "1\tT\t@B\tH\tX\n", 3, 1},
+                                              {head + "\n", 3, 1},
+                                              {head + "\\x\tT\t@B\tH\n", 3, 1},
+                                              {head + "1\tT\t@B\tH\\\n", 3, 1},
+                                              {head + "\xE1\tT\t@B\tH\n" + "2\tT\t@C\tH\n", 3, 1},
+                                              {head + "1\tT\t@B\tHe", 3, 1}}) {
+        const GridReading reading = readGrid(each.bytes);
+        SCOPED_TRACE(each.bytes.left(60).toStdString());
+        EXPECT_EQ(reading.damagedLine, each.line);
+        EXPECT_EQ(reading.rows.size(), each.rows);
+        EXPECT_FALSE(reading.damage.isEmpty());
+    }
+}
+
+TEST_F(GeneralVariablesTest, AppliesSavesAndLoadsWithItsMarks) {
+    general.load();
+    general.apply();
+    EXPECT_EQ(general.grid().rowCount(), 0);
+    EXPECT_EQ(bench.state.variables.size(), 1) << "an empty grid changes nothing";
+
+    general.grid().append(
+        {{u"ON:ON|OFF"_s, u"Logo"_s, u"@LOGO"_s, u"Shows it"_s}, {u"[folder]"_s, {}, u"@CLIPS"_s, {}}});
+    GeneralGrid& grid = general.grid();
+    grid.setData(grid.index(0, 0), u"OFF"_s, Qt::EditRole);
+    EXPECT_FALSE(grid.setData(grid.index(0, 1), u"slip"_s, Qt::EditRole));
+    EXPECT_EQ(grid.headerData(0, Qt::Vertical, Qt::DisplayRole), u"changed, not saved, not applied"_s);
+    general.apply();
+    EXPECT_EQ(variable(u"@LOGO"), u"OFF");
+    EXPECT_EQ(variable(u"@CLIPS"), u"");
+    EXPECT_TRUE(general.save());
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), "zelvor-grid 1\nOFF:ON|OFF\tLogo\t@LOGO\tShows it\n[folder]\t\t@CLIPS\t\n");
+    EXPECT_FALSE(grid.hasUnsaved());
+
+    bench.state.variables.SetVar(u"@LOGO", u"ON"_s);
+    general.load();
+    EXPECT_EQ(grid.headerData(0, Qt::Vertical, Qt::DisplayRole), u"not applied"_s);
+    EXPECT_EQ(grid.headerData(1, Qt::Vertical, Qt::DisplayRole), u"2"_s);
+    EXPECT_TRUE(bench.operatorDesk.shown.isEmpty());
+}
+
+TEST_F(GeneralVariablesTest, SavesWhereItLoadedWhateverCardsDoToTheLanguage) {
+    general.load();
+    bench.state.variables.SetVar(u"@LANGUAGE", u"XX"_s);
+    EXPECT_TRUE(general.save());
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), "zelvor-grid 1\n");
+}
+
+TEST_F(GeneralVariablesTest, ADamagedFileIsReportedAndKept) {
+    const QByteArray damaged = "zelvor-grid 1\n1\tT\t@A\tH\nhalf";
+    bench.write(u"QRD_TT/infodata.dat"_s, damaged);
+    general.load();
+    EXPECT_EQ(general.grid().rowCount(), 1);
+    ASSERT_EQ(bench.operatorDesk.shown.size(), 1);
+    EXPECT_TRUE(bench.operatorDesk.shown[0].contains(u"line 3"));
+    EXPECT_EQ(onDisk(u"infodata.dat.bad"_s), damaged);
+}
+
+TEST_F(GeneralVariablesTest, ImportsEveryLineAsARowAndSaves) {
+    general.load();
+    general.importText();
+    ASSERT_EQ(bench.operatorDesk.shown.size(), 1) << "there is no infodata.txt";
+    bench.write(u"QRD_TT/infodata.txt"_s, "1,T,@A,H\r\n2,T,@B\r\n\r\n3,T,@C,H,too,many");
+    general.importText();
+    EXPECT_EQ(bench.operatorDesk.shown.last(),
+              u"General Vars|infodata.txt\r\nline 2: 3 fields, filled with empty ones\r\nline 3: 1 fields, filled with "
+              "empty ones\r\nline 4: 6 fields, those after the fourth left out");
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), "zelvor-grid 1\n1\tT\t@A\tH\n2\tT\t@B\t\n\t\t\t\n3\tT\t@C\tH\n");
+}
+
+TEST_F(GeneralVariablesTest, AsksForANewRow) {
+    bench.operatorDesk.answers = {u"@NEW"_s, u"Title"_s, u"Help"_s};
+    EXPECT_TRUE(general.addRow());
+    EXPECT_EQ(bench.operatorDesk.shown,
+              (QStringList{u"General Vars|var"_s, u"General Vars|title"_s, u"General Vars|help"_s}));
+    EXPECT_EQ(general.grid().rows(), (std::vector<GeneralRow>{{u""_s, u"Title"_s, u"@NEW"_s, u"Help"_s}}));
+}
+
+}  // namespace
+}  // namespace zelvor

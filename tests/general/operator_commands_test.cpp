@@ -1,0 +1,141 @@
+#include "general_rules/operator_commands.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/defaults.h"
+#include "support/fake_ports.h"
+
+namespace zelvor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray cardTable(const QByteArray& card) {
+    return "FKEYS:1|" + card + " key|x.qrd\nSETNO:1,Game\n" + card + ",x.qrd\n" + QByteArray(",\n").repeated(20);
+}
+
+// Remembers the calls, and what the console held at each of them.
+class FakeForms : public OpenForms {
+ public:
+    explicit FakeForms(test::EngineBench& bench) : bench_(bench) {}
+
+    QStringList names() const override { return open; }
+    void show(const QString& name) override {
+        note(u"show "_s + name);
+        open = QStringList{name};
+    }
+    void close(const QString& name) override {
+        note(u"close "_s + name);
+        open.removeAll(name);
+    }
+
+    QStringList open;
+    QStringList calls;
+
+ private:
+    void note(const QString& call) {
+        calls += call + u' ' + bench_.state.language() + u' ' + bench_.form.at(u"cmbCARD"_s, 0).text() + u' ' +
+                 bench_.state.variables.text(u"@GREETING");
+    }
+    test::EngineBench& bench_;
+};
+
+class OperatorCommandsTest : public testing::Test {
+ protected:
+    OperatorCommandsTest() {
+        QDir(bench.folderOnDisk.path()).mkpath(u"MODULES/QRD_EN"_s);
+        bench.write(u"QRD_TT/CARDS.TXT"_s, cardTable("Old"));
+        bench.write(u"QRD_EN/CARDS.TXT"_s, cardTable("New"));
+        bench.write(u"QRD_EN/GetGame.csp"_s, "SETVAR~@GREETING;game\n");
+        bench.write(u"QRD_EN/infodata.dat"_s, "zelvor-grid 1\nhello\t\t@GREETING\t\n");
+        form.at(u"cmbLANG"_s).setItems({{u"TT"_s, 1}, {u"EN"_s, 2}, {u"XX"_s, 3}});
+        form.at(u"cmbLANG"_s).setPosition(0);
+    }
+    QString variable(QStringView name) { return bench.state.variables.text(name); }
+    QString screenMode() {
+        const auto shown = [this](int button) {
+            return form.at(u"cmdSCREENMODE"_s, button).backColour() == colours::kScreenModeOn;
+        };
+        return variable(u"@SCREEN_MODE") + (shown(0) ? u" b43"_s : u""_s) + (shown(1) ? u" b169"_s : u""_s) +
+               (form.at(u"mnSet43"_s).checked() ? u" m43"_s : u""_s) +
+               (form.at(u"mnSet169"_s).checked() ? u" m169"_s : u""_s);
+    }
+
+    test::EngineBench bench;
+    FormModel& form = bench.form;
+    FakeForms forms{bench};
+    GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
+    OperatorCommands commands{bench.engine, bench.packs, general, forms, bench.trap};
+};
+
+TEST_F(OperatorCommandsTest, ScreenModeButtonsAndMenuDisagree) {
+    commands.cmdSCREENMODE(1);
+    EXPECT_EQ(screenMode(), u"16_9 b169 m169");
+    commands.mnSet43();
+    EXPECT_EQ(screenMode(), u"4_3 b169 m43");
+    commands.mnSet169();
+    commands.cmdSCREENMODE(0);
+    EXPECT_EQ(screenMode(), u"4_3 b43 m169");
+}
+
+TEST_F(OperatorCommandsTest, EffectsAndPeriodFollowTheirBoxes) {
+    const std::vector<std::pair<QString, QString>> cases{
+        {u"Off"_s, u"1"_s}, {u"Fast"_s, u"0"_s}, {u"off"_s, u"off"_s}, {u"25"_s, u"25"_s}, {u"slow"_s, u"slow"_s}};
+    for (int box = 0; box < 4; ++box) {
+        for (const auto& [text, stored] : cases) {
+            form.at(u"cmbFADE"_s, box).setText(text);
+            EXPECT_EQ(variable(kEffectVariables.at(box)), stored) << text.toStdString();
+        }
+    }
+    form.at(u"cbQt"_s).setItems({{u"1"_s, 1}, {u"2"_s, 2}});
+    form.at(u"cbQt"_s).setPosition(1);
+    EXPECT_EQ(*bench.state.variables.find(u"@GAMEPERIOD"), Value(2.0));
+}
+
+TEST_F(OperatorCommandsTest, DisplayVarsListsTheTableInItsOrder) {
+    bench.state.variables.SetVar(u"@B", 2);
+    bench.state.variables.SetVar(u"@A", u"x"_s);
+    EXPECT_EQ(commands.mnDisplayVars(),
+              u"Stored Variables (pasted to clipboard)\r\n@LANGUAGE = TT\r\n@B = 2\r\n@A = x\r\n");
+}
+
+TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
+    bench.packs.LOAD_CARDS();
+    commands.showGeneral();
+    QObject::connect(&commands, &OperatorCommands::cardsLoaded, &commands, [this] { forms.calls += u"cards"_s; });
+    form.at(u"cmbLANG"_s).setPosition(1);
+    EXPECT_EQ(forms.calls, (QStringList{u"show frmGENERAL TT Old "_s, u"close frmGENERAL EN Old "_s, u"cards"_s,
+                                        u"show frmGENERAL EN New hello"_s}));
+    EXPECT_EQ(form.at(u"lblFKEYTITLE"_s, 0).text(), u"New key");
+    EXPECT_EQ(variable(u"@GREETING"), u"game") << "the start card runs last";
+
+    forms.open.clear();
+    forms.calls.clear();
+    form.at(u"cmbLANG"_s).setPosition(2);
+    EXPECT_EQ(forms.calls, QStringList{u"cards"_s}) << "an editor that was closed stays closed";
+    EXPECT_EQ(variable(u"@LANGUAGE"), u"XX");
+    EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"New") << "without a folder the cards stay";
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 2) << "card table and start card are missing";
+}
+
+TEST_F(OperatorCommandsTest, FillingTheLanguageListChangesNothing) {
+    form.at(u"cmbLANG"_s).setPosition(1);
+    EXPECT_EQ(variable(u"@LANGUAGE"), u"TT");
+    EXPECT_TRUE(forms.calls.isEmpty());
+}
+
+TEST_F(OperatorCommandsTest, GeneralVarsOpensWhatWasSavedAndKeepsAnOpenEditor) {
+    bench.state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
+    commands.mnGeneralVars();
+    EXPECT_EQ(variable(u"@GREETING"), u"") << "opening does not apply";
+    general.grid().setValue(0, u"edited"_s);
+    commands.mnGeneralVars();
+    EXPECT_EQ(general.grid().cell(0).value(), u"edited");
+    forms.open.clear();
+    commands.mnGeneralVars();
+    EXPECT_EQ(general.grid().cell(0).value(), u"hello");
+}
+
+}  // namespace
+}  // namespace zelvor
