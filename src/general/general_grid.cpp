@@ -31,6 +31,10 @@ void GeneralGrid::setValue(int row, const QString& value) {
     Q_EMIT headerDataChanged(Qt::Vertical, row, row);
 }
 
+void GeneralGrid::setPicked(int row, QString path) {
+    if (!path.isEmpty()) setValue(row, path.replace(u'\\', u'/'));
+}
+
 void GeneralGrid::showMarks() {
     if (rows_.empty()) return;
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kCount - 1));

@@ -40,6 +40,8 @@ class GeneralGrid : public QAbstractTableModel {
     void append(const std::vector<GeneralRow>& rows);
     // Gives a row's value cell another value; its marker or its list stays.
     void setValue(int row, const QString& value);
+    // The same with a picked folder or file, its "\" turned into "/"; an empty path leaves the cell as it was.
+    void setPicked(int row, QString path);
 
     void markSaved();
     void markApplied();

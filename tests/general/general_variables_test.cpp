@@ -52,6 +52,11 @@ TEST(GeneralCell, ShowsItsValueAndKeepsItsMarkerOrList) {
         EXPECT_EQ(cell.choices(), each.choices);
         EXPECT_EQ(cell.withValue(u"X"_s), each.afterX);
     }
+    GeneralGrid grid;
+    grid.append({{u"[folder]"_s, {}, u"@CLIPS"_s, {}}});
+    grid.setPicked(0, u"C:\\clips\\new"_s);
+    grid.setPicked(0, {});
+    EXPECT_EQ(grid.text(0, 0), u"[folder]C:/clips/new");
     EXPECT_EQ(GeneralCell(u"[folder]"_s).withValue(u"[folder]D:/x"_s), u"[folder]D:/x");
 }
 

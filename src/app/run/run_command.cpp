@@ -13,6 +13,7 @@
 #include "engine/defaults.h"
 #include "engine/packs.h"
 #include "engine/system_clock.h"
+#include "general_rules/general_variables.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +39,9 @@ class TerminalRun {
         if (folder_.exists(folder_.packFile(state_.language(), u"ASKFIELDS.TXT"))) {
             LOAD_ASK(state_, folder_, options_.files, trap_);
         }
+        GeneralVariables general(state_, folder_, options_.files, trap_, operator_);
+        general.load();
+        general.apply();
         for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
         if (!graphics_.connectNamed(clock_, err_)) return RunStatus::NotReached;
 
