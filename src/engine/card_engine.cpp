@@ -29,8 +29,9 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
     const QString name = scriptName(cardFile);
     const QString language = state_.language();
     const QString shownPath = folder_.packFile(language, name);
-    const QString path = folder_.resolve(shownPath);
-    if (!QFileInfo(path).isFile()) {
+    std::shared_ptr<const CardScript> script = scripts_.current(shownPath);
+    const QString path = script ? QString() : folder_.resolve(shownPath);
+    if (!script && !QFileInfo(path).isFile()) {
         ports_.operatorDesk.message({}, u"Card Script file:\r\n"_s + shownPath + u"\r\n not exist."_s,
                                     Operator::Severity::Warning);
         return Outcome::NoScript;
@@ -41,7 +42,10 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
     ++depth_;
     const bool ran = trap_.run(place, ErrorTrap::Tell::Operator, [&] {
         if (depth_ > kDeepestRun) throw RunTimeError(ErrorNumber::OutOfStackSpace, name);
-        const auto script = scripts_.load(path, language, folder_, files_);
+        if (!script) {
+            script = std::make_shared<CardScript>(path, language, folder_, files_);
+            scripts_.keep(shownPath, script);
+        }
         state_.ask.ASK_RESULT = u"0"_s;
         state_.switches.PreviewDisabled = false;
         try {

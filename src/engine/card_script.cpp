@@ -80,11 +80,9 @@ bool CardScript::isCurrent() const {
     });
 }
 
-std::shared_ptr<const CardScript> CardScriptCache::load(const QString& path, const QString& language,
-                                                        const AppFolder& folder, const TextFiles& files) {
-    std::shared_ptr<const CardScript>& script = scripts_[path];
-    if (!script || !script->isCurrent()) script = std::make_shared<CardScript>(path, language, folder, files);
-    return script;
+std::shared_ptr<const CardScript> CardScriptCache::current(const QString& name) const {
+    const auto found = scripts_.constFind(name);
+    return found != scripts_.constEnd() && (*found)->isCurrent() ? *found : nullptr;
 }
 
 }  // namespace zelvor

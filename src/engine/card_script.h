@@ -67,9 +67,9 @@ class CardScript {
 // Scripts read before, so that a card that runs ten times a second is not read and taken apart ten times.
 class CardScriptCache {
  public:
-    // Throws as CardScript's constructor does.
-    std::shared_ptr<const CardScript> load(const QString& path, const QString& language, const AppFolder& folder,
-                                           const TextFiles& files);
+    // The script read before under that name, null when there is none or a file of it has changed.
+    [[nodiscard]] std::shared_ptr<const CardScript> current(const QString& name) const;
+    void keep(const QString& name, std::shared_ptr<const CardScript> script) { scripts_[name] = std::move(script); }
 
  private:
     QHash<QString, std::shared_ptr<const CardScript>> scripts_;

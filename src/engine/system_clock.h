@@ -12,6 +12,7 @@ class SystemClock : public Clock {
     explicit SystemClock(const ShowState& state) : state_(state) {}
 
     [[nodiscard]] QDateTime now() const override;
+    [[nodiscard]] qint64 secondsSinceEpoch() const override { return QDateTime::currentSecsSinceEpoch(); }
     bool turnEvents(int turns) override;
     bool waitBriefly() override;
 

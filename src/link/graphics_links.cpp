@@ -80,13 +80,18 @@ void GraphicsLinks::stopLog() {
 
 void GraphicsLinks::addResponse(const QString& text) {
     const bool alarm = tellsOfError(text);
-    const QString now = timeOfDay();
+    const QString& now = timeOfDay();
     responses_.add(now + u' ' + text, alarm);
     history_.add(now + u" < "_s + text, alarm);
 }
 
-QString GraphicsLinks::timeOfDay() const {
-    return clock_.now().toString(u"hh:mm:ss"_s);
+const QString& GraphicsLinks::timeOfDay() {
+    const qint64 second = clock_.secondsSinceEpoch();
+    if (second != shownSecond_) {
+        shownSecond_ = second;
+        shownTime_ = clock_.now().toString(u"hh:mm:ss"_s);
+    }
+    return shownTime_;
 }
 
 }  // namespace zelvor

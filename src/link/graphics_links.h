@@ -51,7 +51,8 @@ class GraphicsLinks : public QObject, public Graphics {
  private:
     void sendNow(LinkId link, const QString& line);
     void addResponse(const QString& text);
-    [[nodiscard]] QString timeOfDay() const;
+    // "hh:mm:ss", made once a second: a card adds dozens of lines to the history.
+    const QString& timeOfDay();
 
     Clock& clock_;
     ErrorTrap& trap_;
@@ -62,6 +63,8 @@ class GraphicsLinks : public QObject, public Graphics {
     LineList responses_{LineList::Newest::First};
     CasparLink main_;
     CasparLink remote_;
+    qint64 shownSecond_ = -1;
+    QString shownTime_;
 };
 
 }  // namespace zelvor
