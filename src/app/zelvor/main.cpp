@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app_calc/calc_command.h"
+#include "app_eval/eval_command.h"
 #include "app_run/run_command.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +35,7 @@ int calc(const QStringList& arguments, QTextStream&, QTextStream&) {
 
 const std::array kSubcommands{
     Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
+    Subcommand{u"eval"_s, u"evaluates a script expression"_s, zelvor::runEval},
     Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},
 };
 
