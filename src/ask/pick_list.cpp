@@ -53,12 +53,12 @@ void PickList::readRows(Database& database) {
     const NamedRows found = database.readGreek(sql);
     const int display = columnNamed(found.columns, field.display);
     const int code = columnNamed(found.columns, field.getCode);
-    std::vector<Row> rows;
-    rows.reserve(found.rows.size());
+    std::vector<Row> read;
+    read.reserve(found.rows.size());
     for (const std::vector<Value>& row : found.rows) {
-        rows.push_back({row[display].text(), wholeNumber32(row[code].number())});
+        read.push_back({row[display].text(), wholeNumber32(row[code].number())});
     }
-    rows_ = std::move(rows);
+    rows_ = std::move(read);
 }
 
 int PickList::firstBeginningWith(QStringView character) const {

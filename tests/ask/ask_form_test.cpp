@@ -25,7 +25,8 @@ class AskForm : public testing::Test {
             ASSERT_NE(form, nullptr);
             act(*form->findChild<QListWidget*>(u"lstASK"_s));
         });
-        AskFormDialog dialog(bench.state, bench.rowsDatabase, bench.trap, &console);
+        AskFormDialog dialog(bench.state, bench.rowsDatabase, bench.trap);
+        dialog.setWindow(console);
         dialog.show();
         EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
     }
@@ -75,7 +76,7 @@ TEST_F(AskForm, answersByKeyboardAndMouse) {
         if (c.act) {
             open(c.act);
         } else {
-            AskFormDialog(bench.state, bench.rowsDatabase, bench.trap, nullptr).show();
+            AskFormDialog(bench.state, bench.rowsDatabase, bench.trap).show();
         }
         EXPECT_EQ(bench.state.ask.ASK_RESULT, c.result);
         EXPECT_EQ(bench.state.ask.ASK_CANCELLED, c.result == u"-1" ? -1 : 0);

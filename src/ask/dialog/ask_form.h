@@ -24,9 +24,11 @@ class AskForm : public QDialog {
 // Shows an AskForm, centred on the console, for each pick list.
 class AskFormDialog : public AskDialog {
  public:
-    // window: the console's, also the source of the style; may be null.
-    AskFormDialog(ShowState& state, Database& database, ErrorTrap& trap, QWidget* window)
-        : state_(state), database_(database), trap_(trap), window_(window) {}
+    AskFormDialog(ShowState& state, Database& database, ErrorTrap& trap)
+        : state_(state), database_(database), trap_(trap) {}
+
+    // The console's window; without one the list is centred on the screen.
+    void setWindow(QWidget& window) { window_ = &window; }
 
     void show() override;
 
@@ -34,7 +36,7 @@ class AskFormDialog : public AskDialog {
     ShowState& state_;
     Database& database_;
     ErrorTrap& trap_;
-    QWidget* window_;
+    QWidget* window_ = nullptr;
 };
 
 }  // namespace zelvor
