@@ -3,6 +3,7 @@
 #include <sched.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
 #include <array>
 
@@ -14,12 +15,23 @@ namespace zelvor::odbc {
 
 namespace {
 
-// The calling thread's own working folder, the other threads keep theirs: a driver takes relative paths from it.
-void enterFolder(const QString& folder) {
-    if (unshare(CLONE_FS) != 0 || chdir(QFile::encodeName(folder).constData()) != 0) {
-        throw RunTimeError(ErrorNumber::PathNotFound, folder);
+// The working folder while a connection is opened: a driver takes relative paths from it. It is the calling thread's
+// own where the system allows that (containers may not), else the process's, which gets its own back.
+class WorkingFolder {
+ public:
+    explicit WorkingFolder(const QString& folder)
+        : before_(unshare(CLONE_FS) == 0 ? QByteArray() : QFile::encodeName(QDir::currentPath())) {
+        if (chdir(QFile::encodeName(folder).constData()) != 0) throw RunTimeError(ErrorNumber::PathNotFound, folder);
     }
-}
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+    ~WorkingFolder() {
+        if (!before_.isEmpty() && chdir(before_.constData()) != 0) qWarning("the working folder is gone");
+    }
+
+ private:
+    QByteArray before_;
+};
 
 }  // namespace
 
@@ -45,7 +57,7 @@ void Connection::open() {
     lost_ = false;
     characterSet_ = CharacterSet();
     const QByteArray text = odbcPart(connectionString_).toUtf8();
-    enterFolder(folder_);
+    const WorkingFolder workingFolder(folder_);
 
     handle_ = Handle();
     environment_ = Handle(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
@@ -53,8 +65,8 @@ void Connection::open() {
     handle_ = Handle(SQL_HANDLE_DBC, environment_.raw());
     SQLSetConnectAttr(handle_.raw(), SQL_ATTR_LOGIN_TIMEOUT, attributeValue(kSecondsAllowed), 0);
     auto* bytes = reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.constData()));
-    if (!SQL_SUCCEEDED(SQLDriverConnect(handle_.raw(), nullptr, bytes, static_cast<SQLSMALLINT>(text.size()), nullptr,
-                                        0, nullptr, SQL_DRIVER_NOPROMPT))) {
+    if (!SQL_SUCCEEDED(
+            SQLDriverConnect(handle_.raw(), nullptr, bytes, SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT))) {
         fail(handle_);
     }
     askCharacterSet();

@@ -1,7 +1,6 @@
 #include "mariadb_server.h"
 
 #include <pwd.h>
-#include <signal.h>
 #include <unistd.h>
 
 #include <QDeadlineTimer>
@@ -9,6 +8,7 @@
 #include <QStandardPaths>
 #include <QTcpServer>
 #include <QThread>
+#include <csignal>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
