@@ -96,7 +96,8 @@ constexpr std::array kHints{
     Hint{"lblATEAM"_L1, u"Away team"},
 };
 
-constexpr std::array kFadeHints{u"Fade in", u"Fade out", u"Roll speed", u"Wipe"};
+constexpr std::array kFadeHints{u"Fade in: 1 to 100, Off or Fast", u"Fade out: 1 to 100, Off or Fast",
+                                u"Roll speed: 1 to 100, Off or Fast", u"Wipe: 1 to 100, Off or Fast"};
 
 }  // namespace
 

@@ -23,6 +23,7 @@ CardsApp::CardsApp(const Options& options)
     trap_.setReporter([this](const ErrorPlace&, const QString& message) { tell(message); });
     cards_.answer(events_);
     answerLinks();
+    settings_.answer(events_, desktop_);
     form_.at(u"lblFEED"_s).setText(u"feed off"_s);
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, this, [this](int number) { cards_.functionKey(number); });
@@ -50,6 +51,8 @@ StartUp::Steps CardsApp::steps() {
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
     steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
+    steps.LoadSelections = [this] { settings_.LoadSelections(); };
+    steps.showGeneral = [this] { settings_.showGeneral(); };
     return steps;
 }
 
@@ -76,6 +79,7 @@ void CardsApp::connectDatabase() {
 
 void CardsApp::close() {
     state_.closing = true;
+    settings_.close();
     boxes_.closeAll();
 }
 

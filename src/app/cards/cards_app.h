@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app_cards/settings_desk.h"
 #include "app_cards/stand_ins.h"
 #include "app_cards/system_desktop.h"
 #include "base/app_folder.h"
@@ -41,6 +42,7 @@ class CardsApp : public QObject {
     FormModel& form() { return form_; }
     Boxes& boxes() { return boxes_; }
     GraphicsLinks& links() { return links_; }
+    SettingsDesk& settings() { return settings_; }
 
  private:
     StartUp::Steps steps();
@@ -66,6 +68,7 @@ class CardsApp : public QObject {
     CardConsole cards_{engine_};
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
+    SettingsDesk settings_{engine_, packs_, cards_, boxes_, trap_, window_};
     StartUp startUp_;
     bool telling_ = false;
 };

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app_cards/system_desktop.h"
+#include "console/boxes.h"
+#include "console/main_menu.h"
+#include "console_rules/card_console.h"
+#include "console_rules/form_events.h"
+#include "general_forms/form_list.h"
+#include "general_forms/general_form.h"
+#include "general_forms/variables_box.h"
+#include "general_rules/operator_commands.h"
+#include "general_rules/selections.h"
+
+namespace zelvor {
+
+// The operator's settings put together: commands and main menu, saved selections, general variables with their forms.
+class SettingsDesk : public QObject {
+    Q_OBJECT
+
+ public:
+    // All must outlive the desk. window: the console's.
+    SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, ErrorTrap& trap, QWidget& window);
+
+    // Takes the clicks of its controls, and the forms that cards may show.
+    void answer(FormEvents& events, SystemDesktop& desktop);
+
+    void LoadSelections() { selections_.LoadSelections(); }
+    // Opens the general variables and gives the keys back to the console.
+    void showGeneral();
+    // Closes every form and question without asking anything.
+    void close();
+
+    Pickers& pickers() { return pickers_; }
+
+ private:
+    void choose(const QString& item);
+
+    CardConsole& cards_;
+    QWidget& window_;
+    GeneralVariables general_;
+    Pickers pickers_;
+    GeneralForm generalForm_;
+    VariablesBox variablesBox_;
+    FormList forms_;
+    OperatorCommands commands_;
+    Selections selections_;
+    MainMenu menu_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,38 @@
+#include "console/main_menu.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+MainMenu::MainMenu(FormModel& form, QWidget* parent) : QMenu(u"Main"_s, parent) {
+    setObjectName(u"mnMain"_s);
+    addItem(*this, u"mnReloadVar"_s, u"&Reload db vars"_s);
+    addItem(*this, u"mnDisplayVars"_s, u"&Display Vars"_s);
+    addItem(*this, u"mnGeneralVars"_s, u"&General Vars"_s);
+    addSeparator()->setObjectName(u"mnsep1"_s);
+    // Meant: this item does nothing. A pack's cards are read again by choosing its language.
+    addAction(u"Reload &Cards"_s)->setObjectName(u"mnReloadCards"_s);
+    QMenu* modes = addMenu(u"&Screen mode"_s);
+    modes->setObjectName(u"mnScreenMode"_s);
+    addMode(*modes, u"mnSet169"_s, u"Mode &16:9"_s, form);
+    addMode(*modes, u"mnSet43"_s, u"Mode &4:3"_s, form);
+}
+
+void MainMenu::addItem(QMenu& menu, const QString& name, const QString& caption) {
+    QAction* item = menu.addAction(caption);
+    item->setObjectName(name);
+    connect(item, &QAction::triggered, this, [this, name] { Q_EMIT chosen(name); });
+}
+
+void MainMenu::addMode(QMenu& menu, const QString& name, const QString& caption, FormModel& form) {
+    addItem(menu, name, caption);
+    QAction* item = menu.actions().last();
+    item->setCheckable(true);
+    const auto show = [item, &mode = form.at(name)] { item->setChecked(mode.checked()); };
+    show();
+    connect(&form.at(name), &Control::changed, item, show);
+    // Choosing what is chosen already must not take the mark away.
+    connect(item, &QAction::triggered, item, show);
+}
+
+}  // namespace zelvor

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QMenu>
+
+#include "form/form_model.h"
+
+namespace zelvor {
+
+// The main menu (mnMain), opened as a pop-up. The check marks of the screen modes are those of the form's controls
+// mnSet169 and mnSet43.
+class MainMenu : public QMenu {
+    Q_OBJECT
+
+ public:
+    // form: outlives the menu. parent: gives the menu its place on the screen.
+    MainMenu(FormModel& form, QWidget* parent);
+
+ Q_SIGNALS:
+    // "mnReloadVar", "mnDisplayVars", "mnGeneralVars", "mnSet169" or "mnSet43".
+    void chosen(const QString& item);
+
+ private:
+    void addItem(QMenu& menu, const QString& name, const QString& caption);
+    void addMode(QMenu& menu, const QString& name, const QString& caption, FormModel& form);
+};
+
+}  // namespace zelvor

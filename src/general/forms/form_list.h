@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "general_rules/open_forms.h"
+
+namespace zelvor {
+
+// The program's small forms, found by their objectName. A form counts as open while it is on the screen.
+class FormList : public OpenForms {
+ public:
+    // The form must outlive this list.
+    void add(QWidget& form) { forms_.push_back(&form); }
+
+    [[nodiscard]] QStringList names() const override;
+    void show(const QString& name) override;
+    void close(const QString& name) override;
+    void closeAll();
+
+ private:
+    std::vector<QWidget*> forms_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,178 @@
+#include "general_forms/general_form.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr QSize kFirstSize{900, 520};
+constexpr int kValueWidth = 240;
+constexpr int kTitleWidth = 200;
+constexpr int kVariableWidth = 160;
+
+QString countOf(int rows, const QString& words) {
+    return rows == 1 ? u"1 row "_s + words : u"%1 rows "_s.arg(rows) + words;
+}
+
+}  // namespace
+
+GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, QWidget* window)
+    : QWidget(window, Qt::Window),
+      general_(general),
+      operator_(operatorDesk),
+      pickers_(pickers),
+      search_(new QLineEdit),
+      view_(new QTableView),
+      help_(new QLabel),
+      marks_(new QLabel) {
+    setObjectName(u"frmGENERAL"_s);
+    setWindowTitle(u"General Vars"_s);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    resize(kFirstSize);
+    search_->setObjectName(u"txtSEARCH"_s);
+    search_->setPlaceholderText(u"Search"_s);
+    search_->setToolTip(u"Shows the rows that hold this text"_s);
+    search_->setClearButtonEnabled(true);
+    help_->setObjectName(u"lblHELP"_s);
+    help_->setWordWrap(true);
+    help_->setTextFormat(Qt::PlainText);
+    marks_->setObjectName(u"lblMARKS"_s);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(search_);
+    column->addWidget(gridView(), 1);
+    column->addWidget(help_);
+    column->addWidget(buttonRow());
+
+    connect(search_, &QLineEdit::textChanged, &shown_, &QSortFilterProxyModel::setFilterFixedString);
+    const GeneralGrid& grid = general_.grid();
+    connect(&grid, &GeneralGrid::dataChanged, this, &GeneralForm::showState);
+    connect(&grid, &GeneralGrid::rowsInserted, this, &GeneralForm::showState);
+    connect(&grid, &GeneralGrid::modelReset, this, &GeneralForm::showState);
+    showState();
+}
+
+QWidget* GeneralForm::gridView() {
+    shown_.setSourceModel(&general_.grid());
+    shown_.setFilterKeyColumn(-1);
+    shown_.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    // A row that is being edited does not vanish because it no longer matches.
+    shown_.setDynamicSortFilter(false);
+    view_->setObjectName(u"vsDATA"_s);
+    view_->setAccessibleName(windowTitle());
+    view_->setModel(&shown_);
+    view_->setItemDelegate(&delegate_);
+    view_->setSelectionMode(QAbstractItemView::SingleSelection);
+    view_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                           QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    view_->setColumnWidth(general_column::kValue, kValueWidth);
+    view_->setColumnWidth(general_column::kTitle, kTitleWidth);
+    view_->setColumnWidth(general_column::kVariable, kVariableWidth);
+    view_->horizontalHeader()->setStretchLastSection(true);
+    view_->setToolTip(u"F2 edits the value, F4 opens its list or picker"_s);
+    connect(&delegate_, &ValueDelegate::buttonPressed, this, &GeneralForm::pressCellButton);
+    connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &GeneralForm::showHelp);
+    connect(new QShortcut(Qt::Key_F4, view_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut), &QShortcut::activated,
+            this, [this] { pressCellButton(view_->currentIndex().siblingAtColumn(general_column::kValue)); });
+    return view_;
+}
+
+QWidget* GeneralForm::buttonRow() {
+    auto* row = new QWidget;
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(marks_, 1);
+    const auto add = [&](const QString& name, const QString& caption, const QString& hint, auto action) {
+        auto* button = new QPushButton(caption);
+        button->setObjectName(name);
+        button->setToolTip(hint);
+        connect(button, &QPushButton::clicked, this, [this, action] {
+            endEditing();
+            action();
+        });
+        line->addWidget(button);
+    };
+    add(u"cmdADDROW"_s, u"A&dd row"_s, u"Asks for name, title and help of a new variable"_s, [this] {
+        if (!general_.addRow()) return;
+        search_->clear();
+        view_->setCurrentIndex(shown_.index(shown_.rowCount() - 1, general_column::kValue));
+    });
+    add(u"cmdIMPORT"_s, u"&Import"_s, u"Adds the lines of infodata.txt and saves"_s, [this] { general_.importText(); });
+    add(u"cmdSAVE"_s, u"&Save"_s, u"Saves all rows to infodata.dat"_s, [this] { general_.save(); });
+    add(u"cmdAPPLY"_s, u"&Apply"_s, u"Gives the cards all values"_s, [this] { general_.apply(); });
+    return row;
+}
+
+void GeneralForm::pressCellButton(const QModelIndex& index) {
+    const auto kind = static_cast<GeneralCell::Kind>(index.data(GeneralGrid::KindRole).toInt());
+    if (!index.isValid()) return;
+    if (kind == GeneralCell::Kind::Choice || kind == GeneralCell::Kind::Plain) {
+        view_->edit(index);
+        if (auto* list = qobject_cast<QComboBox*>(view_->indexWidget(index))) list->showPopup();
+        return;
+    }
+    pick(index);
+}
+
+void GeneralForm::pick(const QModelIndex& index) {
+    // While the picker is open the rows may be loaded anew.
+    const QPersistentModelIndex cell(shown_.mapToSource(index));
+    const QString from = index.data().toString();
+    const bool isFolder = general_.grid().cell(cell.row()).kind() == GeneralCell::Kind::Folder;
+    const QString path = isFolder ? pickers_.SelectFolder(this, from) : pickers_.SelectFile(this, from);
+    if (cell.isValid()) general_.grid().setPicked(cell.row(), path);
+}
+
+void GeneralForm::endEditing() {
+    QWidget* editor = view_->indexWidget(view_->currentIndex());
+    if (editor == nullptr) return;
+    Q_EMIT delegate_.commitData(editor);
+    Q_EMIT delegate_.closeEditor(editor);
+}
+
+void GeneralForm::showState() {
+    const GeneralGrid& grid = general_.grid();
+    int unsaved = 0;
+    int unapplied = 0;
+    for (int row = 0; row < grid.rowCount(); ++row) {
+        unsaved += grid.isUnsaved(row) ? 1 : 0;
+        unapplied += grid.isUnapplied(row) ? 1 : 0;
+    }
+    QStringList words;
+    if (unsaved > 0) words += countOf(unsaved, u"not saved"_s);
+    if (unapplied > 0) words += countOf(unapplied, u"not applied"_s);
+    marks_->setText(words.join(u", "_s));
+    showHelp();
+}
+
+void GeneralForm::showHelp() {
+    help_->setText(view_->currentIndex().siblingAtColumn(general_column::kHelp).data().toString());
+}
+
+void GeneralForm::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void GeneralForm::closeEvent(QCloseEvent* event) {
+    endEditing();
+    const bool leave = !general_.grid().hasUnsaved() ||
+                       operator_.yesNo(windowTitle(), u"There are changes that are not saved. Close without them?"_s);
+    event->setAccepted(leave);
+}
+
+}  // namespace zelvor

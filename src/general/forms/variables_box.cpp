@@ -1,0 +1,82 @@
+#include "general_forms/variables_box.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr QSize kFirstSize{640, 520};
+const QString kLineEnd = u"\r\n"_s;
+
+}  // namespace
+
+VariablesBox::VariablesBox(QWidget* window)
+    : QWidget(window, Qt::Window), search_(new QLineEdit), view_(new QPlainTextEdit) {
+    setObjectName(u"frmVARS"_s);
+    setWindowTitle(u"Display Vars"_s);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    resize(kFirstSize);
+    search_->setObjectName(u"txtSEARCH"_s);
+    search_->setPlaceholderText(u"Search"_s);
+    search_->setToolTip(u"Shows the lines that hold this text"_s);
+    search_->setClearButtonEnabled(true);
+    view_->setObjectName(u"txtVARS"_s);
+    view_->setAccessibleName(windowTitle());
+    view_->setReadOnly(true);
+    view_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    auto* copy = new QPushButton(u"&Copy"_s);
+    copy->setObjectName(u"cmdCOPY"_s);
+    copy->setToolTip(u"Copies the lines shown"_s);
+    auto* leave = new QPushButton(u"C&lose"_s);
+    leave->setObjectName(u"cmdCLOSE"_s);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(search_);
+    column->addWidget(view_, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(copy);
+    buttons->addWidget(leave);
+    column->addLayout(buttons);
+    connect(search_, &QLineEdit::textChanged, this, &VariablesBox::showLines);
+    connect(copy, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(view_->toPlainText()); });
+    connect(leave, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void VariablesBox::display(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    lines_ = text.split(kLineEnd, Qt::SkipEmptyParts);
+    search_->clear();
+    showLines();
+    show();
+    raise();
+    activateWindow();
+    search_->setFocus();
+}
+
+void VariablesBox::showLines() {
+    QStringList shown = lines_.mid(0, 1);
+    for (const QString& line : lines_.mid(1)) {
+        if (line.contains(search_->text(), Qt::CaseInsensitive)) shown += line;
+    }
+    view_->setPlainText(shown.join(u'\n'));
+}
+
+void VariablesBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+}  // namespace zelvor

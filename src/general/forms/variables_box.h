@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace zelvor {
+
+// The box of all variables (frmVARS): a scrolling text with a search line that keeps the lines it is found in.
+class VariablesBox : public QWidget {
+    Q_OBJECT
+
+ public:
+    // window: the console's, over which the box stands; may be null.
+    explicit VariablesBox(QWidget* window);
+
+    // Puts the text on the clipboard and shows it, its first line being the heading.
+    void display(const QString& text);
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+    void showLines();
+
+    QStringList lines_;
+    QLineEdit* search_;
+    QPlainTextEdit* view_;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+
+#include "general_forms/form_list.h"
+#include "general_forms/general_form.h"
+#include "general_forms/variables_box.h"
+#include "support/fake_ports.h"
+
+namespace zelvor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class GeneralFormTest : public testing::Test {
+ protected:
+    GeneralFormTest() {
+        bench.write(u"QRD_TT/infodata.dat"_s,
+                    "zelvor-grid 1\nplain\tTitle\t@PLAIN\tFirst help\nON:ON|OFF\tLogo\t@LOGO\tSecond help\n"
+                    "[folder]/old\tClips\t@CLIPS\t\n[file]\tPicture\t@PICTURE\t\n");
+        general.load();
+        general.apply();
+        forms.add(form);
+        forms.show(u"frmGENERAL"_s);
+    }
+    void SetUp() override { ASSERT_TRUE(QTest::qWaitForWindowActive(&form)); }
+
+    QModelIndex cell(int row, int column = 0) { return view->model()->index(row, column); }
+    void pressCellButton(int row) {
+        const QRect area = ValueDelegate::buttonArea(view->visualRect(cell(row)), cell(row));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, area.center());
+    }
+    template <class Widget>
+    Widget* find(const char* name) {
+        return form.findChild<Widget*>(QString::fromLatin1(name));
+    }
+    void click(const char* name) { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
+    QString variable(QStringView name) { return bench.state.variables.text(name); }
+
+    test::EngineBench bench;
+    GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
+    Pickers pickers;
+    GeneralForm form{general, bench.operatorDesk, pickers, nullptr};
+    FormList forms;
+    QTableView* view = find<QTableView>("vsDATA");
+};
+
+TEST_F(GeneralFormTest, ValuesAreEditedInPlaceSavedAndApplied) {
+    view->setCurrentIndex(cell(0));
+    QTest::keyClick(view, Qt::Key_F2);
+    auto* editor = qobject_cast<QLineEdit*>(view->indexWidget(cell(0)));
+    ASSERT_NE(editor, nullptr);
+    editor->selectAll();
+    QTest::keyClicks(editor, u"typed"_s);
+    click("cmdSAVE");
+    EXPECT_EQ(general.grid().text(0, 0), u"typed") << "saving takes what is being typed";
+    EXPECT_EQ(find<QLabel>("lblMARKS")->text(), u"1 row not applied");
+    click("cmdAPPLY");
+    EXPECT_EQ(variable(u"@PLAIN"), u"typed");
+    EXPECT_EQ(find<QLabel>("lblMARKS")->text(), u"");
+
+    for (int column = 1; column < general_column::kCount; ++column) {
+        view->setCurrentIndex(cell(0, column));
+        QTest::keyClick(view, Qt::Key_F2);
+        EXPECT_EQ(view->indexWidget(cell(0, column)), nullptr) << column;
+    }
+    EXPECT_EQ(find<QLabel>("lblHELP")->text(), u"First help");
+    EXPECT_EQ(cell(1).data(Qt::ToolTipRole), u"Second help"_s);
+}
+
+TEST_F(GeneralFormTest, ChoicesDropDown) {
+    pressCellButton(1);
+    auto* list = qobject_cast<QComboBox*>(view->indexWidget(cell(1)));
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->currentText(), u"ON");
+    list->hidePopup();
+    QTest::keyClick(list, Qt::Key_Down);
+    click("cmdAPPLY");
+    EXPECT_EQ(general.grid().text(1, 0), u"OFF:ON|OFF");
+    EXPECT_EQ(variable(u"@LOGO"), u"OFF");
+}
+
+TEST_F(GeneralFormTest, FoldersAndFilesArePicked) {
+    pickers.setNextAnswer(u"C:\\clips"_s);
+    pressCellButton(2);
+    EXPECT_EQ(general.grid().text(2, 0), u"[folder]C:/clips");
+    pickers.setNextAnswer({});
+    pressCellButton(2);
+    EXPECT_EQ(general.grid().text(2, 0), u"[folder]C:/clips");
+    pickers.setNextAnswer(u" /pictures/a b.png "_s);
+    view->setFocus();
+    view->setCurrentIndex(cell(3));
+    QTest::keyClick(view, Qt::Key_F4);
+    EXPECT_EQ(general.grid().text(3, 0), u"[file]/pictures/a b.png");
+
+    QTimer::singleShot(0, &form, [this] { pickers.cancel(); });
+    EXPECT_EQ(pickers.SelectFolder(&form), u"");
+}
+
+TEST_F(GeneralFormTest, RowsLoadedWhileAPickerIsOpenAreLeftAlone) {
+    QTimer::singleShot(0, &form, [this] {
+        general.load();
+        pickers.setNextAnswer(u"/late"_s);
+        QApplication::activeModalWidget()->findChild<QLineEdit*>()->setText(bench.folderOnDisk.path());
+        qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept();
+    });
+    pressCellButton(2);
+    EXPECT_EQ(general.grid().text(2, 0), u"[folder]/old");
+}
+
+TEST_F(GeneralFormTest, TheSearchKeepsWhatMatchesAnyColumn) {
+    for (const auto& [text, rows] :
+         {std::pair{u"@lo"_s, 1}, {u"HELP"_s, 2}, {u"on"_s, 1}, {u"folder"_s, 0}, {u""_s, 4}}) {
+        find<QLineEdit>("txtSEARCH")->setText(text);
+        EXPECT_EQ(view->model()->rowCount(), rows) << text.toStdString();
+    }
+    find<QLineEdit>("txtSEARCH")->setText(u"clips"_s);
+    pickers.setNextAnswer(u"/found"_s);
+    pressCellButton(0);
+    EXPECT_EQ(general.grid().text(2, 0), u"[folder]/found") << "the row that is shown, not the first one";
+}
+
+TEST_F(GeneralFormTest, ClosingByHandAsksAboutUnsavedRows) {
+    form.close();
+    EXPECT_FALSE(IsFormOpen(forms, u"frmGENERAL"_s));
+    forms.show(u"frmGENERAL"_s);
+    bench.operatorDesk.answers = {u"@NEW"_s, u"Title"_s, u"Help"_s};
+    click("cmdADDROW");
+    bench.operatorDesk.shown.clear();
+    bench.operatorDesk.answerYes = false;
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_TRUE(IsFormOpen(forms, u"frmGENERAL"_s));
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
+    forms.close(u"frmGENERAL"_s);
+    EXPECT_FALSE(IsFormOpen(forms, u"frmGENERAL"_s));
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 1) << "the program closes it without asking";
+    forms.show(u"frmGENERAL"_s);
+    bench.operatorDesk.answerYes = true;
+    form.close();
+    EXPECT_FALSE(IsFormOpen(forms, u"frmGENERAL"_s));
+    EXPECT_FALSE(IsFormOpen(forms, u"frmgeneral"_s));
+}
+
+TEST(VariablesBox, ShowsCopiesAndSearches) {
+    VariablesBox box(nullptr);
+    const QString text = u"Stored Variables (pasted to clipboard)\r\n@A = 1\r\n@Bee = 2\r\n"_s;
+    box.display(text);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), text);
+    auto* view = box.findChild<QPlainTextEdit*>(u"txtVARS"_s);
+    EXPECT_EQ(view->toPlainText().count(u'\n'), 2);
+    box.findChild<QLineEdit*>(u"txtSEARCH"_s)->setText(u"bee"_s);
+    EXPECT_EQ(view->toPlainText(), u"Stored Variables (pasted to clipboard)\n@Bee = 2");
+    QTest::mouseClick(box.findChild<QPushButton*>(u"cmdCOPY"_s), Qt::LeftButton);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), view->toPlainText());
+}
+
+}  // namespace
+}  // namespace zelvor
