@@ -1,6 +1,7 @@
 #include "mariadb_server.h"
 
 #include <pwd.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <QDeadlineTimer>
@@ -64,6 +65,8 @@ MariaDbServer::~MariaDbServer() {
 void MariaDbServer::start() {
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.setStandardOutputFile(inFolder(u"server.log"_s));
+    // Ended with this program also when it crashes.
+    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     process_.start(program(u"mariadbd"_s),
                    {u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
                     u"--socket="_s + inFolder(u"s"_s), u"--pid-file="_s + inFolder(u"pid"_s),
