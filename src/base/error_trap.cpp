@@ -22,8 +22,17 @@ QString errorLogPath(const QString& executablePath, const QString& appFolder) {
     return writable ? beside : appFolder + name;
 }
 
+bool ErrorTrap::writtenJustNow(const QString& fault) {
+    constexpr int kPause = 1000;  // milliseconds
+    QDeadlineTimer& pause = justWritten_[fault];
+    if (!pause.hasExpired()) return true;
+    pause.setRemainingTime(kPause);
+    return false;
+}
+
 void ErrorTrap::handle(const ErrorPlace& place, Tell tell, int number, const QString& text) noexcept {
     try {
+        if (tell == Tell::LogOnly && writtenJustNow(place.procedure + u' ' + QString::number(number))) return;
         QFile log(logPath_);
         if (log.open(QIODevice::Append)) {
             QString oneLine = text;

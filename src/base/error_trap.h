@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QString>
 #include <functional>
+#include <map>
 
 #include "base/run_time_error.h"
 
@@ -19,6 +21,7 @@ struct ErrorPlace {
 class ErrorTrap {
  public:
     using Reporter = std::function<void(const ErrorPlace& place, const QString& message)>;
+    // LogOnly is for timers and the like: the same error of the same procedure is then written once a second at most.
     enum class Tell { Operator, LogOnly };
 
     // logPath: the error log; it is appended to, and a log that cannot be written is done without.
@@ -48,7 +51,10 @@ class ErrorTrap {
 
     void handle(const ErrorPlace& place, Tell tell, int number, const QString& text) noexcept;
 
+    [[nodiscard]] bool writtenJustNow(const QString& fault);
+
     QString logPath_;
+    std::map<QString, QDeadlineTimer> justWritten_;
     Reporter reporter_;
 };
 

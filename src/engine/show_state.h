@@ -75,8 +75,9 @@ struct ShowState {
     int lastFiredButton = -1;  // index of the card button fired last, -1 when none
     QString lastCard;          // script of the card shown last, empty after no data
     bool playerSelected = false;
-    bool preview = false;  // the program's command line holds "/PREVIEW"
-    bool closing = false;  // set once when the program ends; runs that wait then end at once
+    int unattendedRuns = 0;  // runs under way of cards that a timer or the feed has fired
+    bool preview = false;    // the program's command line holds "/PREVIEW"
+    bool closing = false;    // set once when the program ends; runs that wait then end at once
 
     [[nodiscard]] QString language() const { return variables.text(u"@LANGUAGE"); }
 };

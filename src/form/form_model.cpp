@@ -76,6 +76,7 @@ void FormModel::addLinks() {
 void FormModel::addClocksAndScores() {
     add(Kind::CheckBox, u"chkEAFTER"_s, -1, u"Extra after"_s);
     add(Kind::TextBox, u"txtEAFTER"_s, -1, u"4500"_s);
+    add(Kind::Label, u"lblFEEDDETAIL"_s);
     add(Kind::Label, u"lblTime"_s);
     add(Kind::Label, u"lblETime"_s);
     add(Kind::Label, u"lblCLOCK"_s, -1, u"00:00:00"_s);

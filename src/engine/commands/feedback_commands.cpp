@@ -1,6 +1,7 @@
 // What a card leaves behind for the operator and for other cards: labels, tags, the on-air table, proposals.
 
 #include "base/number.h"
+#include "engine/auto_tags.h"
 #include "engine/card_run.h"
 
 using namespace Qt::StringLiterals;
@@ -13,11 +14,7 @@ void LASTCARDTAG(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     const QStringView value = pieces[1];
     run.variables().SetVar(QString(u"LASTCARDTAG"_s + pieces[0]), value.toString());
-    const Pieces items(value, u"##");
-    for (int i = 0; i < items.count(); ++i) {
-        const Pieces keyAndAnswer(items[i], u':');
-        run.variables().SetVar(QString(u"AUTOTAG_"_s + keyAndAnswer[0]), keyAndAnswer[1].toString());
-    }
+    setAutoTags(run.variables(), value);
 }
 
 void LASTCARDONAIR(CardRun& run, const Arguments& args) {

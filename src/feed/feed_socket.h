@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QTimer>
+#include <QUdpSocket>
+#include <deque>
+
+#include "feed/feed_status.h"
+#include "feed/game_feed.h"
+
+namespace zelvor {
+
+// wsT, the datagram socket of the game feed. Datagrams are handled one at a time in their order: what arrives while
+// one is being handled (its time card may let the event loop turn) waits its turn.
+class FeedSocket : public QObject {
+    Q_OBJECT
+
+ public:
+    static constexpr quint16 kPort = 7699;
+    // More than this waiting, and datagrams are left to the system until there is room.
+    static constexpr std::size_t kMostWaiting = 20'000;
+    static constexpr qsizetype kMostWaitingCharacters = 16 * 1024 * 1024;
+
+    FeedSocket(GameFeed& feed, FeedStatus& status);
+
+    // Binds to the port on all interfaces, 0 for any free one. False when it cannot be bound; the status says why.
+    bool bind(quint16 port = kPort);
+    // The port it is bound to, 0 when it is not.
+    [[nodiscard]] quint16 port() const { return socket_.localPort(); }
+    [[nodiscard]] std::size_t waiting() const { return waiting_.size(); }
+
+ private:
+    void read();
+    void handleWaiting();
+    [[nodiscard]] bool hasRoom() const;
+
+    GameFeed& feed_;
+    FeedStatus& status_;
+    QUdpSocket socket_{this};
+    QTimer next_{this};
+    std::deque<QString> waiting_;
+    qsizetype waitingCharacters_ = 0;
+    bool handling_ = false;
+};
+
+}  // namespace zelvor

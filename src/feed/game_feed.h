@@ -1,0 +1,32 @@
+#pragma once
+
+#include "feed/quiet_rules.h"
+
+namespace zelvor {
+
+// What one message of the venue's timing system does: it sets the variables of the game time, splits off extra time
+// past the operator's threshold, shows both, and runs the armed time card.
+class GameFeed : public QuietRules {
+    Q_OBJECT
+
+ public:
+    enum class Outcome { Clock, Pause, Refused };
+
+    GameFeed(CardEngine& engine, ErrorTrap& trap);
+
+    // The clock is what stands between the first and the second "t", in minutes, ":" and two digits of seconds;
+    // "pause" changes nothing. A message whose clock is missing or no number is refused, and so is every message
+    // while the threshold in txtEAFTER is no number.
+    Outcome handle(const QString& datagram);
+
+ private:
+    void apply(const QString& datagram);
+
+    CardEngine& engine_;
+    Control& extraAfter_;
+    Control& threshold_;
+    Control& time_;
+    Control& extraTime_;
+};
+
+}  // namespace zelvor

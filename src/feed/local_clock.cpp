@@ -1,0 +1,91 @@
+#include "feed/local_clock.h"
+
+#include "base/run_time_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+const QString kTimeOfDay = u"HH:mm:ss"_s;
+
+// "20:30:00", "8:05:00" or "20:30". Throws 13 for anything else.
+QTime timeOfDay(const QString& text) {
+    const QString trimmed = text.trimmed();
+    QTime time = QTime::fromString(trimmed, u"H:m:s"_s);
+    if (!time.isValid()) time = QTime::fromString(trimmed, u"H:m"_s);
+    if (!time.isValid()) throw RunTimeError(ErrorNumber::TypeMismatch, text);
+    return time;
+}
+
+int secondsOfDay(QTime time) {
+    return time.msecsSinceStartOfDay() / 1000;
+}
+
+}  // namespace
+
+LocalClock::LocalClock(CardEngine& engine, ErrorTrap& trap) : QuietRules(trap), engine_(engine), form_(engine.form()) {
+    timer_.setObjectName(u"tmrCLOCKS"_s);
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.setInterval(kInterval);
+    // Queued, so that a second that passes while the clock card waits is noticed.
+    connect(
+        &timer_, &QTimer::timeout, this,
+        [this] {
+            if (timer_.isActive()) tick();
+        },
+        Qt::QueuedConnection);
+}
+
+void LocalClock::cmdCLOCKS() {
+    Control& button = form_.at(u"cmdCLOCKS"_s);
+    if (button.text() == u"Start") {
+        button.setText(u"Stop"_s);
+        timer_.start();
+    } else {
+        button.setText(u"Start"_s);
+        timer_.stop();
+    }
+}
+
+void LocalClock::tick() {
+    if (ticking_) {
+        missed_ = true;
+        return;
+    }
+    ticking_ = true;
+    missed_ = false;
+    quietly(u"tmrCLOCKS_Timer"_s, [&] { update(); });
+    ticking_ = false;
+    if (!missed_) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (timer_.isActive()) tick();
+        },
+        Qt::QueuedConnection);
+}
+
+void LocalClock::update() {
+    VariableStore& variables = engine_.state().variables;
+    const QTime now = engine_.ports().clock.now().time();
+    const QString nowText = now.toString(kTimeOfDay);
+    const bool counts = form_.at(u"optTIMERS"_s, 1).checked();
+    if (counts || form_.at(u"optTIMERS"_s, 0).checked()) {
+        const QString shown = counts ? countdown(now) : nowText;
+        form_.at(u"lblCLOCK"_s).setText(shown);
+        variables.SetVar(u"@CLOCKS", shown);
+    }
+    variables.SetVar(u"@LOCALTIME", nowText);
+    const CardSwitches& switches = engine_.state().switches;
+    if (switches.IsClockCard) runUnattended(engine_, switches.AutoClockCard);
+}
+
+QString LocalClock::countdown(QTime now) const {
+    const int left = secondsOfDay(timeOfDay(form_.at(u"txtCOUNTDOWNTIME"_s).text())) - secondsOfDay(now);
+    // Past the target it goes on from 23:59:59: meant.
+    return QTime(0, 0).addSecs(left).toString(kTimeOfDay);
+}
+
+}  // namespace zelvor

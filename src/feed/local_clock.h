@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTimer>
+
+#include "feed/quiet_rules.h"
+
+namespace zelvor {
+
+// The local clock or countdown of the Clocks panel (tmrCLOCKS, once a second between Start and Stop) and its card.
+class LocalClock : public QuietRules {
+    Q_OBJECT
+
+ public:
+    static constexpr int kInterval = 1000;  // milliseconds
+
+    LocalClock(CardEngine& engine, ErrorTrap& trap);
+
+    // Starts or stops the clock.
+    void cmdCLOCKS();
+    // One second of the clock. While its card is still running, one more second waits its turn.
+    void tick();
+
+ private:
+    void update();
+    [[nodiscard]] QString countdown(QTime now) const;
+
+    CardEngine& engine_;
+    FormModel& form_;
+    QTimer timer_{this};
+    bool ticking_ = false;
+    bool missed_ = false;
+};
+
+}  // namespace zelvor

@@ -1,0 +1,42 @@
+#include "feed/proposals.h"
+
+#include "engine/arguments.h"
+#include "engine/auto_tags.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+Proposals::Proposals(CardEngine& engine, ErrorTrap& trap) : QuietRules(trap), engine_(engine) {}
+
+void Proposals::lblPROPOSED(int index) {
+    quietly(u"lblPROPOSED_Click"_s, [&] { take(index); });
+}
+
+void Proposals::take(int index) {
+    clearPlayers();
+    Control& label = engine_.form().at(u"lblPROPOSED"_s, index);
+    // A copy: the card may propose anew.
+    const QString record = label.tag();
+    if (record.isEmpty()) return;
+    const Pieces fields(record, u'|');
+    const QString id = fields[0].toString();
+    const QString card = fields[2].toString();
+    setAutoTags(engine_.state().variables, fields[3]);
+    if (engine_.SHOW_TVCARD(card, true, true) == CardEngine::Outcome::Closed) return;
+    engine_.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id);
+    label.setBackColour(colours::kUsedProposal);
+}
+
+void Proposals::clearPlayers() {
+    constexpr int kCleared = 18;  // of the 24 labels: meant
+    const FormModel& form = engine_.form();
+    for (const QString& side : {u"H"_s, u"A"_s}) {
+        for (int player = 0; player < kCleared; ++player)
+            form.at(u"lbl"_s + side + u"PLAYERS"_s, player).setForeColour(colours::kWhite);
+        form.at(u"lbl"_s + side + u"TEAM"_s).setForeColour(colours::kWhite);
+    }
+    engine_.state().playerSelected = false;
+}
+
+}  // namespace zelvor

@@ -1,0 +1,41 @@
+#include "feed/timed_cards.h"
+
+#include <QScopedValueRollback>
+
+#include "base/number.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+TimedCards::TimedCards(CardEngine& engine, ErrorTrap& trap) : QuietRules(trap), engine_(engine) {
+    timer_.setObjectName(u"tmrCARD"_s);
+    timer_.setInterval(kInterval);
+    connect(&timer_, &QTimer::timeout, this, &TimedCards::tick);
+}
+
+void TimedCards::start() {
+    timer_.start();
+}
+
+void TimedCards::tick() {
+    if (ticking_) return;
+    const QScopedValueRollback busy(ticking_, true);
+    const bool runs = timer_.isActive();
+    timer_.stop();
+    quietly(u"tmrCARD_Timer"_s, [&] { count(); });
+    if (runs && !engine_.state().closing) timer_.start();
+}
+
+void TimedCards::count() {
+    // By number: a card that waits may see another card table loaded.
+    std::vector<TimedCard>& cards = engine_.state().cards.timedCards;
+    for (std::size_t i = 0; i < cards.size(); ++i) {
+        cards[i].ticks = wholeNumber16(cards[i].ticks + 1.0);
+        if (cards[i].ticks != cards[i].interval) continue;
+        cards[i].ticks = 0;
+        runUnattended(engine_, QString(cards[i].card));
+    }
+}
+
+}  // namespace zelvor

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTimer>
+
+#include "feed/quiet_rules.h"
+
+namespace zelvor {
+
+// Runs the timed cards of the card table, each at its own interval (tmrCARD, every tenth of a second).
+class TimedCards : public QuietRules {
+    Q_OBJECT
+
+ public:
+    static constexpr int kInterval = 100;  // milliseconds
+
+    TimedCards(CardEngine& engine, ErrorTrap& trap);
+
+    // Switches tmrCARD on.
+    void start();
+    // Counts one tick for every timed card and runs those that are due. The timer is off meanwhile, so that ticks do
+    // not stack. A counter beyond 32767 ends the tick before the cards behind it.
+    void tick();
+
+ private:
+    void count();
+
+    CardEngine& engine_;
+    QTimer timer_{this};
+    bool ticking_ = false;
+};
+
+}  // namespace zelvor

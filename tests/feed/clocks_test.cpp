@@ -1,0 +1,132 @@
+#include <gtest/gtest.h>
+
+#include "studio.h"
+
+using namespace Qt::StringLiterals;
+using namespace zelvor;
+using namespace zelvor::test;
+
+TEST(LocalClock, ShowsTheTimeOrTheCountdown) {
+    struct Case {
+        int option;  // of optTIMERS; -1: neither
+        QTime now;
+        QString target;
+        QString left;  // lblCLOCK|@CLOCKS|@LOCALTIME
+    };
+    const Case cases[] = {
+        {0, QTime(9, 5, 7), u"bad"_s, u"09:05:07|09:05:07|09:05:07"_s},
+        {-1, QTime(9, 5, 7), u"10:00:00"_s, u"00:00:00|-|09:05:07"_s},
+        {1, QTime(0, 0, 5), u"00:00:10"_s, u"00:00:05|00:00:05|00:00:05"_s},
+        {1, QTime(0, 0, 10), u"00:00:10"_s, u"00:00:00|00:00:00|00:00:10"_s},
+        {1, QTime(0, 0, 11), u"00:00:10"_s, u"23:59:59|23:59:59|00:00:11"_s},
+        {1, QTime(20, 0, 0, 900), u" 20:30 "_s, u"00:30:00|00:30:00|20:00:00"_s},
+        {1, QTime(20, 0), u"23:59:59"_s, u"03:59:59|03:59:59|20:00:00"_s},
+        {1, QTime(20, 0), u"25:61:00"_s, u"00:00:00|-|-"_s},
+        {1, QTime(20, 0), u"soon"_s, u"00:00:00|-|-"_s},
+        {1, QTime(20, 0), QString(), u"00:00:00|-|-"_s},
+    };
+    for (const Case& each : cases) {
+        Studio studio;
+        for (int i = 0; i < 2; ++i) studio.at("optTIMERS", i).setChecked(i == each.option);
+        studio.at("txtCOUNTDOWNTIME").setText(each.target);
+        studio.clock.time.setTime(each.now);
+        studio.desk.localClock.tick();
+        EXPECT_EQ(QString(studio.at("lblCLOCK").text() + u'|' + studio.variablesText({u"@CLOCKS"_s, u"@LOCALTIME"_s})),
+                  each.left);
+        EXPECT_EQ(studio.operatorDesk.shown, QStringList());
+    }
+}
+
+TEST(LocalClock, RunsItsCardOneSecondAtATime) {
+    Studio studio;
+    studio.writeCard("clock.csp", "{@CLOCKS}");
+    studio.state.switches.AutoClockCard = u"clock.qrd"_s;
+    studio.desk.localClock.tick();
+    EXPECT_TRUE(studio.graphics.sent.isEmpty());
+    studio.state.switches.IsClockCard = true;
+
+    auto* timer = studio.desk.localClock.findChild<QTimer*>(u"tmrCLOCKS"_s);
+    EXPECT_EQ(timer->interval(), 1000);
+    studio.desk.localClock.cmdCLOCKS();
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(studio.at("cmdCLOCKS").text(), u"Stop"_s);
+    studio.clock.time.setTime(QTime(20, 0, 1));
+    // Two seconds pass while the first card waits: one tick follows it, not inside it.
+    studio.graphics.whileSending = [&] {
+        if (studio.graphics.sent.size() > 1) return;
+        studio.clock.time.setTime(QTime(20, 0, 3));
+        studio.desk.localClock.tick();
+        studio.desk.localClock.tick();
+        EXPECT_EQ(studio.graphics.sent.size(), 1);
+    };
+    studio.desk.localClock.tick();
+    EXPECT_EQ(studio.graphics.sent, QStringList({u"m20:00:01"_s}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(studio.graphics.sent, QStringList({u"m20:00:01"_s, u"m20:00:03"_s}));
+
+    studio.desk.localClock.cmdCLOCKS();
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_EQ(studio.at("cmdCLOCKS").text(), u"Start"_s);
+}
+
+TEST(TimedCards, RunEachAtItsInterval) {
+    Studio studio;
+    for (const QByteArray card : {"every", "fifth", "never", "back"})
+        studio.write(u"QRD_TT/"_s + QString::fromLatin1(card) + u".csp"_s, "FUNCTIONCARD\nCSPSEND~" + card + '\n');
+    studio.state.cards.timedCards = {
+        {u"every.qrd"_s, 1}, {u"never.csp"_s, 0}, {u"fifth.csp"_s, 5}, {u"back.csp"_s, -3}};
+    for (int i = 0; i < 10; ++i) studio.desk.timedCards.tick();
+    EXPECT_EQ(studio.graphics.sent.count(u"mevery"_s), 10);
+    EXPECT_EQ(studio.graphics.sent.count(u"mfifth"_s), 2);
+    EXPECT_EQ(studio.graphics.sent.size(), 12);
+
+    // The counter that cannot go on ends the tick; the cards before it still run.
+    studio.state.cards.timedCards[1].ticks = 32767;
+    studio.state.cards.timedCards[2].ticks = 4;
+    studio.desk.timedCards.tick();
+    studio.desk.timedCards.tick();
+    EXPECT_EQ(studio.graphics.sent.count(u"mevery"_s), 12);
+    EXPECT_EQ(studio.graphics.sent.count(u"mfifth"_s), 2);
+    EXPECT_EQ(studio.state.cards.timedCards[1].ticks, 32767);
+    EXPECT_EQ(studio.operatorDesk.shown, QStringList());
+}
+
+TEST(TimedCards, SwitchTheirTimerOffMeanwhile) {
+    Studio studio;
+    studio.writeCard("card.csp", "x");
+    studio.state.cards.timedCards = {{u"card.csp"_s, 1}, {u"card.csp"_s, 1}};
+    auto* timer = studio.desk.timedCards.findChild<QTimer*>(u"tmrCARD"_s);
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 100);
+    studio.desk.timedCards.start();
+    // Another card table is loaded while the first card waits.
+    studio.graphics.whileSending = [&] {
+        EXPECT_FALSE(timer->isActive());
+        EXPECT_EQ(studio.state.unattendedRuns, 1);
+        studio.desk.timedCards.tick();
+        studio.state.cards.timedCards.clear();
+    };
+    studio.desk.timedCards.tick();
+    EXPECT_EQ(studio.graphics.sent.size(), 1);
+    EXPECT_TRUE(timer->isActive());
+}
+
+TEST(StopwatchSender, SendsFractionsOfASixtieth) {
+    Studio studio;
+    auto* timer = studio.desk.stopwatch.findChild<QTimer*>(u"tmrTEST"_s);
+    EXPECT_EQ(timer->interval(), 10);
+    for (const QString& caption : {u"STOP"_s, u"START"_s}) {
+        studio.desk.stopwatch.Command1();
+        EXPECT_EQ(studio.at("Command1").text(), caption);
+        EXPECT_EQ(timer->isActive(), caption == u"STOP");
+    }
+    for (int i = 0; i < 61; ++i) studio.desk.stopwatch.tick();
+    const auto line = [](const QString& value) {
+        return QString(
+            uR"(mCG 1-2 UPDATE 1 "<templateData><componentData id=\"team1\"><data type=\"txt\" ani=\"0\" )"_s +
+            uR"(value=\")"_s + value + uR"(\"></data></componentData></templateData>")"_s);
+    };
+    EXPECT_EQ(studio.graphics.sent.first(), line(u"0.01"_s));
+    EXPECT_EQ(studio.graphics.sent[58], line(u"0.59"_s));
+    EXPECT_EQ(studio.graphics.sent.mid(59), QStringList({line(u"1.00"_s), line(u"1.01"_s)}));
+}
