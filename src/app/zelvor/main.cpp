@@ -11,6 +11,7 @@
 
 #include "app_calc/calc_command.h"
 #include "app_eval/eval_command.h"
+#include "app_feed/feed_command.h"
 #include "app_run/run_command.h"
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,7 @@ int calc(const QStringList& arguments, QTextStream&, QTextStream&) {
 const std::array kSubcommands{
     Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
     Subcommand{u"eval"_s, u"evaluates a script expression"_s, zelvor::runEval},
+    Subcommand{u"feed"_s, u"sends the datagrams of a game clock"_s, zelvor::runFeed},
     Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},
 };
 

@@ -1,0 +1,52 @@
+#include "app_feed/feed_command.h"
+
+#include <QEventLoop>
+#include <QHostInfo>
+
+#include "app_feed/clock_sender.h"
+#include "app_feed/terminal_keys.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+int runFeed(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+    constexpr int kUnknownHost = 1;
+    constexpr int kWrongUsage = 2;
+    const auto options = parseFeedOptions(arguments, err);
+    if (!options) return kWrongUsage;
+    if (options->help) {
+        out << feedHelp();
+        return 0;
+    }
+    const QHostInfo host = QHostInfo::fromName(options->host);
+    if (host.addresses().isEmpty()) {
+        err << "zelvor feed: " << options->host << ": " << host.errorString() << '\n';
+        return kUnknownHost;
+    }
+
+    QEventLoop loop;
+    ClockSender sender(*options, host.addresses().constFirst());
+    TerminalKeys keys;
+    const QString target = options->host + u':' + QString::number(options->port);
+    out << "sending " << clockText(options->from) << " to " << clockText(options->last()) << " to " << target
+        << (keys.available() ? "; space stops and starts the clock, q ends\n" : "\n");
+    out.flush();
+    if (keys.available()) {
+        QObject::connect(&sender, &ClockSender::shown, &loop, [&](const QString& text) {
+            out << '\r' << text.leftJustified(10);
+            out.flush();
+        });
+        QObject::connect(&keys, &TerminalKeys::pressed, &loop, [&](char key) {
+            if (key == ' ') sender.togglePause();
+            if (key == 'q' || key == '\x03' || key == '\x04') loop.quit();
+        });
+    }
+    QObject::connect(&sender, &ClockSender::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&sender, &ClockSender::start, Qt::QueuedConnection);
+    loop.exec();
+    out << (keys.available() ? "\n" : "") << sender.sent() << " datagrams sent\n";
+    return 0;
+}
+
+}  // namespace zelvor
