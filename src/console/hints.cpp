@@ -58,6 +58,7 @@ constexpr std::array kHints{
     Hint{"lstGASPARHISTORY"_L1, u"Lines sent and received, oldest on top; a click copies the line"},
     Hint{"lstGASPARRESPONSE"_L1, u"Replies of the main server, newest on top"},
     Hint{"lblFEED"_L1, u"Game feed"},
+    Hint{"lblFEEDDETAIL"_L1, u"Where the game feed is heard, when it was last, and how many datagrams came"},
     Hint{"lblLINKMAIN"_L1, u"Main graphics link"},
     Hint{"lblLINKREMOTE"_L1, u"Remote graphics link"},
     Hint{"lblDATABASE"_L1, u"Database"},

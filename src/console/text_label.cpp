@@ -51,6 +51,10 @@ void TextLabel::setColours(std::optional<QColor> ground, std::optional<QColor> t
     update();
 }
 
+bool TextLabel::isMarked() const {
+    return ownText_ && *ownText_ != QColor(Qt::white);
+}
+
 QColor TextLabel::textColour() const {
     if (ownText_) return *ownText_;
     if (ownGround_) return theme::readableOn(*ownGround_);
@@ -95,13 +99,13 @@ void TextLabel::drawNumbered(QPainter& painter, const QRect& area, const QString
     const QStringView number = leadingNumberOf(line);
     QRect rest = area;
     if (!number.isEmpty()) {
-        const QColor numberColour = ownText_ || ownGround_ ? textColour() : theme::colour(theme::Role::Muted);
+        const QColor numberColour = isMarked() || ownGround_ ? textColour() : theme::colour(theme::Role::Muted);
         painter.setFont(theme::font(look_.pixels, true));
         painter.setPen(numberColour);
         painter.drawText(QRect(area.left(), area.top(), kNumberColumn - 6, area.height()),
                          Qt::AlignRight | Qt::AlignVCenter, number.toString());
         rest.setLeft(area.left() + kNumberColumn);
-        painter.setFont(theme::font(look_.pixels, ownText_.has_value()));
+        painter.setFont(theme::font(look_.pixels, isMarked()));
     }
     painter.setPen(textColour());
     const QString name = number.isEmpty() ? line : line.mid(number.size() + 1);

@@ -51,6 +51,8 @@ class TextLabel : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
 
  private:
+    // White is what rules write for "no longer marked".
+    [[nodiscard]] bool isMarked() const;
     void updateToolTip();
     [[nodiscard]] QStringList lines() const;
     void drawNumbered(class QPainter& painter, const QRect& area, const QString& line) const;

@@ -28,7 +28,6 @@ FeedStatus::FeedStatus(const ShowState& state, FormModel& form, Clock& clock)
 void FeedStatus::bound(quint16 port) {
     binding_ = u"Bound to port "_s + QString::number(port);
     reason_.clear();
-    status_.setForeColour(std::nullopt);
     show();
     showDetail();
 }
@@ -36,7 +35,6 @@ void FeedStatus::bound(quint16 port) {
 void FeedStatus::notBound(const QString& reason) {
     binding_ = u"Not bound: "_s + reason;
     reason_ = reason;
-    status_.setForeColour(colours::kRed);
     show();
     showDetail();
 }
@@ -64,9 +62,7 @@ void FeedStatus::check() {
 
 void FeedStatus::setSilent(bool silent) {
     silent_ = silent;
-    const std::optional<Colour> mark = silent ? std::optional(colours::kRed) : std::nullopt;
-    status_.setForeColour(mark);
-    time_.setForeColour(mark);
+    time_.setForeColour(silent ? std::optional(colours::kRed) : std::nullopt);
     show();
     showDetail();
 }

@@ -10,8 +10,8 @@
 
 namespace zelvor {
 
-// What the operator is told of the game feed: a few words in lblFEED, all of it in lblFEEDDETAIL, and a feed that has
-// fallen silent marked red there and on the game time.
+// What the operator is told of the game feed: a few words in lblFEED, all of it in lblFEEDDETAIL. While the feed has
+// fallen silent the game time is red.
 class FeedStatus : public QObject {
     Q_OBJECT
 

@@ -75,7 +75,7 @@ class Gallery {
     // Starts the console; every box is answered with "1" and Enter and remembered with its title and text.
     void start(const QString& commandLine = {}) {
         app = std::make_unique<CardsApp>(
-            CardsApp::Options{folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine});
+            CardsApp::Options{folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine, 0});
         QObject::connect(&app->boxes(), &Boxes::opened, [this](QDialog* box) {
             const auto* text = box->findChild<QWidget*>(QStringLiteral("text"));
             shown +=

@@ -118,7 +118,8 @@ TEST_F(CardRules, ClicksReachTheirRules) {
 
 TEST_F(CardRules, AutoCardTakesTheKeyOfThePickList) {
     bench.state.ask.lastItemData = u"17"_s;
-    console.SHOW_AUTO_CARD(u"one.csp"_s);
+    bench.state.variables.SetVar(u"@AUTOCARD", u"one.csp"_s);
+    console.SHOW_AUTO_CARD();
     EXPECT_EQ(bench.state.variables.text(u"@RETURNKEY"), u"17");
     EXPECT_EQ(sent(), QStringList{u"mone "_s});
 }

@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 CardsApp::CardsApp(const Options& options)
-    : folder_(options.appFolder),
+    : feedPort_(options.feedPort),
+      folder_(options.appFolder),
       files_(options.files),
       trap_(options.errorLog),
       database_(state_, boxes_, folder_, files_, trap_, {options.commandLine, std::nullopt},
@@ -24,7 +25,7 @@ CardsApp::CardsApp(const Options& options)
     cards_.answer(events_);
     answerLinks();
     settings_.answer(events_, desktop_);
-    form_.at(u"lblFEED"_s).setText(u"feed off"_s);
+    answerDesk();
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, this, [this](int number) { cards_.functionKey(number); });
     connect(&window_, &MainWindow::closed, this, &CardsApp::close);
@@ -46,13 +47,27 @@ void CardsApp::answerLinks() {
     connect(&window_, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
 }
 
+void CardsApp::answerDesk() {
+    events_.onClick(u"cmdCLOCKS"_s, [this](int) { desk_.localClock.cmdCLOCKS(); });
+    events_.onClick(u"Command1"_s, [this](int) { desk_.stopwatch.Command1(); });
+    events_.onClick(u"cmdMANSCORE"_s, [this](int index) { desk_.scoreboard.cmdMANSCORE(index); });
+    events_.onClick(u"lblPROPOSED"_s, [this](int index) { desk_.proposals.lblPROPOSED(index); });
+    const auto players = [this](auto handler) {
+        return [this, handler](int index, Qt::MouseButton button) { (desk_.players.*handler)(index, button); };
+    };
+    events_.onMouseDown(u"lblAPLAYERS"_s, players(&PlayerLabels::lblAPLAYERS));
+    events_.onMouseDown(u"lblHPLAYERS"_s, players(&PlayerLabels::lblHPLAYERS));
+}
+
 StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
+    steps.bindFeed = [this] { desk_.feedSocket.bind(feedPort_); };
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
     steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     steps.LoadSelections = [this] { settings_.LoadSelections(); };
     steps.showGeneral = [this] { settings_.showGeneral(); };
+    steps.startTimedCards = [this] { desk_.timedCards.start(); };
     return steps;
 }
 

@@ -15,6 +15,7 @@
 #include "engine/packs.h"
 #include "engine/show_state.h"
 #include "engine/system_clock.h"
+#include "feed/game_desk.h"
 #include "link/graphics_links.h"
 #include "link/link_console.h"
 
@@ -30,6 +31,7 @@ class CardsApp : public QObject {
         TextFiles files;
         QString errorLog;
         QString commandLine;  // what is left of it beside the program's own options
+        quint16 feedPort = FeedSocket::kPort;
     };
 
     explicit CardsApp(const Options& options);
@@ -43,14 +45,17 @@ class CardsApp : public QObject {
     Boxes& boxes() { return boxes_; }
     GraphicsLinks& links() { return links_; }
     SettingsDesk& settings() { return settings_; }
+    GameDesk& desk() { return desk_; }
 
  private:
     StartUp::Steps steps();
     void answerLinks();
+    void answerDesk();
     void tell(const QString& message);
     void connectDatabase();
     void close();
 
+    quint16 feedPort_;
     ShowState state_;
     FormModel form_;
     AppFolder folder_;
@@ -66,6 +71,7 @@ class CardsApp : public QObject {
     Packs packs_{state_, form_, folder_, files_, trap_, boxes_};
     FormEvents events_{trap_};
     CardConsole cards_{engine_};
+    GameDesk desk_{engine_, trap_};
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
     SettingsDesk settings_{engine_, packs_, cards_, boxes_, trap_, window_};

@@ -21,6 +21,7 @@ const QString kHelp =
 
   --app-folder DIR   the folder that holds MODULES; the program's own folder without
   --codepage NAME    read and write text files in this code page, e.g. windows-1253
+  --feed-port N      hears the game feed on this UDP port, 0 for any free one; 7699 without
   --help             this text
   --version          the program's version
 
@@ -34,7 +35,8 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     const std::array options{
         zelvor::CommandLine::Option{u"--app-folder"_s, true}, zelvor::CommandLine::Option{u"--codepage"_s, true},
-        zelvor::CommandLine::Option{u"--help"_s, false}, zelvor::CommandLine::Option{u"--version"_s, false}};
+        zelvor::CommandLine::Option{u"--feed-port"_s, true}, zelvor::CommandLine::Option{u"--help"_s, false},
+        zelvor::CommandLine::Option{u"--version"_s, false}};
     const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
     QTextStream out(stdout);
     QTextStream err(stderr);
@@ -58,6 +60,14 @@ int main(int argc, char* argv[]) {
             return kUsageError;
         }
         wanted.files = *files;
+    }
+    if (const auto port = line.value(u"--feed-port")) {
+        bool isPort = false;
+        wanted.feedPort = port->toUShort(&isPort);
+        if (!isPort) {
+            err << "zelvor-cards: --feed-port takes a number from 0 to 65535, not " << *port << '\n';
+            return kUsageError;
+        }
     }
     wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
     wanted.commandLine = line.restText();

@@ -45,7 +45,9 @@ class KeyChip : public QWidget {
 Role newsRole(const QString& words) {
     if (words.contains(u"not connected")) return Role::Muted;
     if (words.endsWith(u"connected")) return Role::Good;
-    if (words.contains(u"lost") || words.contains(u"fail") || words.contains(u"error")) return Role::Bad;
+    for (const QStringView bad : {u"lost", u"fail", u"error", u"not bound", u"silent"}) {
+        if (words.contains(bad)) return Role::Bad;
+    }
     return words.contains(u"connecting") ? Role::Wait : Role::Muted;
 }
 

@@ -27,10 +27,11 @@ ClocksPanel::ClocksPanel(const Mirrors& mirrors) : PanelFrame(mirrors, u"Frame7"
     grid->addWidget(mirrors.optionButton(u"optTIMERS"_s, 1), 2, 0);
     grid->addWidget(mirrors.textBox(u"txtCOUNTDOWNTIME"_s), 2, 1);
     grid->addWidget(mirrors.button(u"cmdCLOCKS"_s, -1, {14, true}), 1, 2, 2, 1);
-    grid->addWidget(word(u"Extra time for cards"_s), 3, 0);
-    grid->addWidget(mirrors.textBox(u"txtEXTRATIME"_s), 3, 1);
-    grid->addWidget(word(u"Test sender"_s), 4, 0);
-    grid->addWidget(mirrors.button(u"Command1"_s), 4, 2);
+    grid->addWidget(mirrors.label(u"lblFEEDDETAIL"_s, -1, {12, false, Qt::AlignLeft | Qt::AlignVCenter}), 3, 0, 1, 3);
+    grid->addWidget(word(u"Extra time for cards"_s), 4, 0);
+    grid->addWidget(mirrors.textBox(u"txtEXTRATIME"_s), 4, 1);
+    grid->addWidget(word(u"Test sender"_s), 5, 0);
+    grid->addWidget(mirrors.button(u"Command1"_s), 5, 2);
     grid->setRowStretch(0, 1);
 }
 

@@ -106,9 +106,9 @@ void CardConsole::clearTag() {
     state_.playerSelected = false;
 }
 
-void CardConsole::SHOW_AUTO_CARD(const QString& script) {
+void CardConsole::SHOW_AUTO_CARD() {
     state_.variables.SetVar(u"@RETURNKEY", state_.ask.lastItemData);
-    run(script);
+    run(state_.variables.GetVar(u"@AUTOCARD").text());
 }
 
 void CardConsole::showLoaded() {

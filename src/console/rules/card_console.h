@@ -33,8 +33,8 @@ class CardConsole : public QObject {
     void functionKey(int number);
     void showTab(int tab);
     void clearTag();
-    // Writes @RETURNKEY from the pick list answered last and runs the script.
-    void SHOW_AUTO_CARD(const QString& script);
+    // Writes @RETURNKEY from the pick list answered last and runs the script that @AUTOCARD names.
+    void SHOW_AUTO_CARD();
     // After a card table was loaded: function keys, cover panel, preview mark.
     void showLoaded();
 
