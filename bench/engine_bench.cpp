@@ -14,6 +14,7 @@
 #include "engine/system_clock.h"
 #include "engine/template_xml.h"
 #include "link/graphics_links.h"
+#include "unused_ports.h"
 
 using namespace Qt::StringLiterals;
 
@@ -53,20 +54,6 @@ void makeXmlOf40Fields(benchmark::State& bench) {
     for (auto step : bench) benchmark::DoNotOptimize(makeXml(fields));
 }
 BENCHMARK(makeXmlOf40Fields);
-
-class Unused : public Operator, public AskDialog, public Database, public Desktop {
- public:
-    void message(const QString&, const QString& text, Severity) override { qFatal("%s", qPrintable(text)); }
-    bool yesNo(const QString&, const QString&) override { return true; }
-    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
-    void show() override {}
-    int RUN_QUERY(const QString&) override { return 0; }
-    int RUN_QUERY2(const QString&) override { return 0; }
-    void execute(const QString&) override {}
-    NamedRows readGreek(const QString&) override { return {}; }
-    void open(const QString&) override {}
-    void loadForm(const QString&) override {}
-};
 
 class CountedGraphics : public Graphics {
  public:
