@@ -46,6 +46,11 @@ void CasparLink::send(const QString& line) {
     enter(LinkState::Error, u"the server does not read"_s);
 }
 
+void CasparLink::finishSending(QDeadlineTimer deadline) {
+    while (state_ == LinkState::Connected && unsentBytes() > 0 && !deadline.hasExpired())
+        socket_.waitForBytesWritten(static_cast<int>(deadline.remainingTime()));
+}
+
 void CasparLink::dropConnection() {
     const QSignalBlocker quiet(socket_);
     socket_.abort();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QString>
 #include <QTcpSocket>
@@ -45,6 +46,8 @@ class CasparLink : public QObject {
     void close();
     // Hands over the line, which must hold no line break, and CR LF in one piece. Nothing when not connected.
     void send(const QString& line);
+    // Waits, without handling events, until all has been handed to the network or the deadline has passed.
+    void finishSending(QDeadlineTimer deadline);
 
     [[nodiscard]] LinkState state() const { return state_; }
     // Why the link is in state 9, in words; empty in other states.

@@ -70,6 +70,12 @@ void GraphicsLinks::showLastTemplate(const QString& xml) {
     lastTemplate_.setText(xml);
 }
 
+void GraphicsLinks::finishSending() {
+    const QDeadlineTimer deadline(std::chrono::seconds(1));
+    main_.finishSending(deadline);
+    remote_.finishSending(deadline);
+}
+
 void GraphicsLinks::startLog() {
     log_.start(clock_.now());
 }

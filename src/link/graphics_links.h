@@ -34,6 +34,9 @@ class GraphicsLinks : public QObject, public Graphics {
     void clearHistory() override;
     void showLastTemplate(const QString& xml) override;
 
+    // Gives both links a second at most to hand over what they have not sent yet: the program is ending.
+    void finishSending();
+
     // Throws 61, 70, 75 or 76 when the log file cannot be opened.
     void startLog();
     void stopLog();

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <future>
+
 #include "studio.h"
 
 using namespace Qt::StringLiterals;
@@ -157,6 +159,37 @@ TEST(CasparLink, GivesUpAServerThatNeverReads) {
     EXPECT_LT(lines, 60) << "16 MiB, and what the system's own buffers take";
     EXPECT_EQ(studio.links.link(LinkId::Main).unsentBytes(), 0);
     EXPECT_TRUE(studio.logFile().endsWith("\r\nConnection Error. STATE:9\r\n"));
+}
+
+TEST(GraphicsLinks, HandOverTheirLastBytesOrGiveUp) {
+    const QString line(qsizetype{8} * 1024 * 1024, u'x');
+    {
+        Studio studio;
+        // A server that reads on a thread of its own: finishing handles no events of this one.
+        std::promise<quint16> port;
+        std::future<qsizetype> received = std::async(std::launch::async, [&port, wanted = line.size() + 2] {
+            QTcpServer server;
+            server.listen(QHostAddress::LocalHost, 0);
+            port.set_value(server.serverPort());
+            server.waitForNewConnection(30000);
+            QTcpSocket* peer = server.nextPendingConnection();
+            qsizetype bytes = 0;
+            while (bytes < wanted && peer->waitForReadyRead(30000)) bytes += peer->readAll().size();
+            return bytes;
+        });
+        studio.links.link(LinkId::Main).connectTo(u"127.0.0.1"_s, QString::number(port.get_future().get()));
+        ASSERT_TRUE(waitUntil([&] { return studio.isIn(LinkId::Main, Graphics::kConnected); }));
+        studio.links.sendLine(LinkId::Main, line);
+        studio.links.finishSending();
+        EXPECT_EQ(studio.links.link(LinkId::Main).unsentBytes(), 0);
+        EXPECT_EQ(received.get(), line.size() + 2);
+    }
+    Studio studio;
+    Server server(false);
+    studio.connectTo(LinkId::Main, server);
+    studio.links.sendLine(LinkId::Main, line);
+    studio.links.finishSending();
+    EXPECT_GT(studio.links.link(LinkId::Main).unsentBytes(), 0);
 }
 
 TEST(CasparLink, HasANumberForWhatGoesWrong) {

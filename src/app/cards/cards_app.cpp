@@ -95,6 +95,7 @@ void CardsApp::connectDatabase() {
 void CardsApp::close() {
     state_.closing = true;
     settings_.close();
+    links_.finishSending();
     boxes_.closeAll();
 }
 
