@@ -16,7 +16,7 @@ constexpr qsizetype kShownRemarks = 20;
 QByteArray readWhole(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
-    const QByteArray bytes = file.read(TextFiles::kLargestFile + 1);
+    QByteArray bytes = file.read(TextFiles::kLargestFile + 1);
     if (bytes.size() > TextFiles::kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
     if (file.error() != QFileDevice::NoError) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     return bytes;
@@ -61,6 +61,7 @@ void GeneralVariables::keepDamaged(const QByteArray& bytes, const GridReading& r
 
 bool GeneralVariables::addRow() {
     GeneralRow row;
+    const QString pack = pack_;
     bool answered = true;
     trap_.run({u"frmGENERAL.cmdADDROW_Click"_s}, Tell::Operator, [&] {
         struct Question {
@@ -76,8 +77,10 @@ bool GeneralVariables::addRow() {
             row[question.column] = *answer;
         }
     });
-    if (answered) grid_.append({row});
-    return answered;
+    // Another pack's rows may have been loaded while the questions were open.
+    if (!answered || pack != pack_) return false;
+    grid_.append({row});
+    return true;
 }
 
 void GeneralVariables::importText() {

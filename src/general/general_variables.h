@@ -19,7 +19,7 @@ class GeneralVariables {
     // Loads infodata.dat of the current pack. Without one the grid starts empty; a damaged one is reported with its
     // line, copied to infodata.dat.bad, and the rows before the damage are taken.
     void load();
-    // Asks for name, title and help of a new row. False when the operator cancelled.
+    // Asks for name, title and help of a new row. False when none was added: the operator cancelled.
     bool addRow();
     // Adds every line of infodata.txt as a row and saves; reports lines of more or fewer than four fields.
     void importText();

@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QStringDecoder>
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -13,25 +14,23 @@ namespace {
 const QByteArray kVersionLine = "zelvor-grid 1";
 const QByteArray kByteOrderMark = "\xEF\xBB\xBF";
 
+struct Escape {
+    char16_t unit;
+    char16_t letter;  // what stands behind a backslash for it
+};
+constexpr std::array kEscapes{Escape{u'\\', u'\\'}, Escape{u'\t', u't'}, Escape{u'\r', u'r'}, Escape{u'\n', u'n'}};
+
 QString escaped(const QString& field) {
     QString text;
     text.reserve(field.size());
     for (const QChar unit : field) {
-        switch (unit.unicode()) {
-            case u'\\':
-                text += u"\\\\";
-                break;
-            case u'\t':
-                text += u"\\t";
-                break;
-            case u'\r':
-                text += u"\\r";
-                break;
-            case u'\n':
-                text += u"\\n";
-                break;
-            default:
-                text += unit;
+        const auto* escape =
+            std::find_if(kEscapes.begin(), kEscapes.end(), [&](const Escape& e) { return e.unit == unit; });
+        if (escape != kEscapes.end()) {
+            text += u'\\';
+            text += escape->letter;
+        } else {
+            text += unit;
         }
     }
     return text;
@@ -45,23 +44,11 @@ std::optional<QString> unescaped(QStringView field) {
             text += field[at];
             continue;
         }
-        if (++at == field.size()) return std::nullopt;
-        switch (field[at].unicode()) {
-            case u'\\':
-                text += u'\\';
-                break;
-            case u't':
-                text += u'\t';
-                break;
-            case u'r':
-                text += u'\r';
-                break;
-            case u'n':
-                text += u'\n';
-                break;
-            default:
-                return std::nullopt;
-        }
+        const QChar letter = ++at < field.size() ? field[at] : QChar();
+        const auto* escape =
+            std::find_if(kEscapes.begin(), kEscapes.end(), [&](const Escape& e) { return e.letter == letter; });
+        if (escape == kEscapes.end()) return std::nullopt;
+        text += escape->unit;
     }
     return text;
 }
