@@ -52,14 +52,14 @@ QWidget* textPart(const QString& text) {
     return view;
 }
 
-// A dialog with the text on top; the caller adds what is answered with.
+// Puts the text on top of an empty dialog; the caller adds what is answered with.
 struct Box {
-    QDialog dialog;
+    QDialog& dialog;
     QVBoxLayout* column;
     QDialogButtonBox* buttons;
 
-    Box(QWidget* window, const QString& title, const QString& text, QDialogButtonBox::StandardButtons wanted)
-        : dialog(window), column(new QVBoxLayout(&dialog)), buttons(new QDialogButtonBox(wanted)) {
+    Box(QDialog& empty, const QString& title, const QString& text, QDialogButtonBox::StandardButtons wanted)
+        : dialog(empty), column(new QVBoxLayout(&dialog)), buttons(new QDialogButtonBox(wanted)) {
         dialog.setWindowTitle(title.isEmpty() ? u"Zelvor Cards"_s : title);
         dialog.setWindowModality(Qt::ApplicationModal);
         column->setContentsMargins(20, 16, 20, 16);
@@ -98,21 +98,43 @@ bool Boxes::run(QDialog& box) {
     return accepted && !state_.closing;
 }
 
-void Boxes::message(const QString& title, const QString& text, Severity severity) {
-    Box box(window_, title, text, QDialogButtonBox::Ok);
+// A message of a card that a timer or the feed has fired: neither the keyboard nor the timer waits for it. One at a
+// time, so that a faulty card that runs ten times a second does not fill the screen.
+void Boxes::showNotice(const QString& title, const QString& text, Severity severity) {
+    if (notice_ || state_.closing) return;
+    notice_ = new QDialog(window_);
+    notice_->setAttribute(Qt::WA_DeleteOnClose);
+    notice_->setAttribute(Qt::WA_ShowWithoutActivating);
+    Box box(*notice_, title, text, QDialogButtonBox::Ok);
+    notice_->setWindowModality(Qt::NonModal);
     addSeverity(box, severity);
     box.column->addWidget(box.buttons);
-    run(box.dialog);
+    notice_->show();
+    Q_EMIT opened(notice_);
+}
+
+void Boxes::message(const QString& title, const QString& text, Severity severity) {
+    if (state_.unattendedRuns > 0) {
+        showNotice(title, text, severity);
+        return;
+    }
+    QDialog dialog(window_);
+    Box box(dialog, title, text, QDialogButtonBox::Ok);
+    addSeverity(box, severity);
+    box.column->addWidget(box.buttons);
+    run(dialog);
 }
 
 bool Boxes::yesNo(const QString& title, const QString& text) {
-    Box box(window_, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
+    QDialog dialog(window_);
+    Box box(dialog, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
     box.column->addWidget(box.buttons);
-    return run(box.dialog);
+    return run(dialog);
 }
 
 std::optional<QString> Boxes::input(const QString& title, const QString& prompt, const QString& proposed) {
-    Box box(window_, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QDialog dialog(window_);
+    Box box(dialog, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* field = new QLineEdit(proposed);
     field->setObjectName(u"answer"_s);
     field->setAccessibleName(title);
@@ -120,10 +142,11 @@ std::optional<QString> Boxes::input(const QString& title, const QString& prompt,
     box.column->addWidget(box.buttons);
     field->selectAll();
     field->setFocus();
-    return run(box.dialog) ? std::optional(field->text()) : std::nullopt;
+    return run(dialog) ? std::optional(field->text()) : std::nullopt;
 }
 
 void Boxes::closeAll() {
+    if (notice_) notice_->close();
     // From the newest to the oldest: each ends inside the one below it.
     const auto boxes = open_;
     for (auto box = boxes.rbegin(); box != boxes.rend(); ++box) {

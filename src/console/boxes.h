@@ -23,6 +23,8 @@ class Boxes : public QObject, public Operator {
     // The window that the boxes stand over.
     void setWindow(QWidget& window) { window_ = &window; }
 
+    // A message of a card that no operator has fired is shown without waiting and without taking the keyboard; further
+    // ones are dropped while it stands.
     void message(const QString& title, const QString& text, Severity severity = Severity::Information) override;
     bool yesNo(const QString& title, const QString& text) override;
     std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) override;
@@ -36,10 +38,12 @@ class Boxes : public QObject, public Operator {
 
  private:
     bool run(QDialog& box);
+    void showNotice(const QString& title, const QString& text, Severity severity);
 
     const ShowState& state_;
     QPointer<QWidget> window_;
     std::deque<QPointer<QDialog>> open_;
+    QPointer<QDialog> notice_;
 };
 
 }  // namespace zelvor

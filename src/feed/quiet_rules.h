@@ -26,7 +26,7 @@ class QuietRules : public QObject {
     }
 
     // Calls the handler whenever that property of the control changes.
-    using Handler = std::function<void(Control& control)>;
+    using Handler = std::function<void(const Control& control)>;
     void onChange(Control& control, Control::Property property, const Handler& handler);
 
     // Runs a card that nobody at the desk has just asked for: while it runs, messages do not take the keyboard.

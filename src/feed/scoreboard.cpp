@@ -20,9 +20,9 @@ Scoreboard::Scoreboard(FormModel& form, VariableStore& variables, ErrorTrap& tra
       lamp_(form.at(u"lblLIVEBLINK"_s)) {
     follow(a_);
     follow(b_);
-    onChange(manualSwitch_, Property::Checked, [this](Control&) { setMode(); });
+    onChange(manualSwitch_, Property::Checked, [this](const Control&) { setMode(); });
     onChange(form.at(u"txtEXTRATIME"_s), Property::Text,
-             [this](Control& box) { variables_.SetVar(u"@EXTRATIME", box.text()); });
+             [this](const Control& box) { variables_.SetVar(u"@EXTRATIME", box.text()); });
     blinkTimer_.setObjectName(u"tmrBlink"_s);
     blinkTimer_.setInterval(kBlinkInterval);
     connect(&blinkTimer_, &QTimer::timeout, this, &Scoreboard::blink);
@@ -35,13 +35,13 @@ Scoreboard::Side Scoreboard::sideOf(const QString& letter) {
 }
 
 void Scoreboard::follow(Side& side) {
-    onChange(side.automatic, Property::Text, [this, &side](Control& score) {
+    onChange(side.automatic, Property::Text, [this, &side](const Control& score) {
         if (!manualMode()) side.inUse.setText(score.text());
     });
-    onChange(side.inUse, Property::Text, [this, &side](Control& score) {
+    onChange(side.inUse, Property::Text, [this, &side](const Control& score) {
         variables_.SetVar(QString(u"@GREENSCORE"_s + side.letter), Val(score.text()));
     });
-    onChange(side.manual, Property::Text, [this, &side](Control& score) {
+    onChange(side.manual, Property::Text, [this, &side](const Control& score) {
         const double value = Val(score.text());
         variables_.SetVar(QString(u"@MANUALSCORE"_s + side.letter), value);
         if (manualMode()) side.inUse.setText(numberText(value));

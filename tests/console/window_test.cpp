@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QUdpSocket>
 
 #include "console/card_button.h"
 #include "gallery.h"
@@ -229,6 +230,45 @@ TEST_F(MainWindowTest, StartsWithoutItsFiles) {
         EXPECT_TRUE(gallery.find<QWidget>("Frame1")->isVisible()) << each.what;
         QDir(gallery.folder.path()).mkpath(u"MODULES/QRD_EN"_s);
     }
+}
+
+TEST_F(MainWindowTest, DrivesTheGameFromItsPanels) {
+    gallery.writePack({}, "TIMEDCARD:missing.csp|1\r\n");
+    gallery.write(u"QRD_EN/stats.csp"_s, "SETVAR~@TAKEN;yes\r\n");
+    gallery.answer = [](QDialog& box) {
+        if (auto* field = box.findChild<QLineEdit*>(u"answer"_s)) field->setText(u"1"_s);
+        if (box.isModal()) box.accept();
+    };
+    gallery.start();
+    EXPECT_EQ(gallery.at("lblFEED").text(), u"feed bound, nothing heard");
+    QUdpSocket().writeDatagram("t9:58t", QHostAddress::LocalHost, gallery.app->desk().feedSocket.port());
+    EXPECT_TRUE(waitUntil([&] { return gallery.at("lblFEED").text() == u"feed 9:58"; }));
+
+    // The timed card's script is missing: one notice that waits for nobody while the timer goes on.
+    const auto notices = [&] { return gallery.shown.filter(u"missing.csp"_s).size(); };
+    auto* tmrCard = gallery.app->desk().timedCards.findChild<QTimer*>(u"tmrCARD"_s);
+    EXPECT_TRUE(waitUntil([&] { return notices() == 1 && tmrCard->isActive(); }));
+    gallery.app->desk().timedCards.tick();
+    EXPECT_EQ(notices(), 1);
+
+    gallery.click("cmdTAB", 0);
+    const auto* mark = gallery.find<TextLabel>("manualMark", 0);
+    EXPECT_FALSE(mark->isVisible());
+    gallery.find<QCheckBox>("chkMANUAL")->setChecked(true);
+    EXPECT_TRUE(mark->isVisible());
+    gallery.click("cmdMANSCORE", 0);
+    gallery.click("cmdMANSCORE", 3);
+    EXPECT_EQ(gallery.find<TextLabel>("lblScoreA")->text(), u"1");
+    EXPECT_EQ(gallery.find<TextLabel>("lblScoreB")->text(), u"-1");
+
+    gallery.at("lblHPLAYERS", 4).setText(u"7 Laskaris"_s);
+    gallery.at("lblHPLAYERS", 4).setTag(u"P:7"_s);
+    QTest::mouseClick(gallery.find<QWidget>("lblHPLAYERS", 4), Qt::RightButton);
+    EXPECT_EQ(gallery.at("lblHPLAYERS", 4).foreColour(), colours::kRed);
+    EXPECT_EQ(gallery.app->state().variables.text(u"AUTOTAG_O"), u"7");
+    gallery.at("lblPROPOSED", 2).setTag(u"5|N|stats.csp|P:12"_s);
+    gallery.click("lblPROPOSED", 2);
+    EXPECT_EQ(gallery.app->state().variables.text(u"@TAKEN"), u"yes");
 }
 
 TEST_F(MainWindowTest, ClosesAtAQuestion) {

@@ -42,6 +42,15 @@ ScoresPanel::ScoresPanel(const Mirrors& mirrors) : PanelFrame(mirrors, u"Frame1"
     keeps.setRetainSizeWhenHidden(true);
     live->setSizePolicy(keeps);
     grid->addWidget(live, 0, 1, Qt::AlignCenter);
+    // In its place stands what must not be overlooked.
+    auto* manual = new TextLabel({12, true, Qt::AlignCenter, Role::AirText, Role::AirFill});
+    manual->setObjectName(u"manualMark"_s);
+    manual->setText(u"MANUAL"_s);
+    const Control& manualMode = mirrors.form().at(u"chkMANUAL"_s);
+    const auto mark = [manual, &manualMode] { manual->setVisible(manualMode.checked()); };
+    connect(&manualMode, &Control::changed, manual, mark);
+    mark();
+    grid->addWidget(manual, 0, 1, Qt::AlignCenter);
     auto* period = new QVBoxLayout;
     period->setSpacing(2);
     period->addWidget(word(u"Period"_s), 0, Qt::AlignHCenter);
