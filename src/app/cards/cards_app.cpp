@@ -2,6 +2,7 @@
 
 #include <QScopedValueRollback>
 
+#include "ask/ask_fields.h"
 #include "base/command_line.h"
 #include "engine/placeholders.h"
 
@@ -65,6 +66,7 @@ StartUp::Steps CardsApp::steps() {
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
     steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
+    steps.LOAD_ASK = [this] { LOAD_ASK(state_, folder_, files_, trap_); };
     steps.LoadSelections = [this] { settings_.LoadSelections(); };
     steps.showGeneral = [this] { settings_.showGeneral(); };
     steps.startTimedCards = [this] { desk_.timedCards.start(); };

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app_cards/settings_desk.h"
-#include "app_cards/stand_ins.h"
 #include "app_cards/system_desktop.h"
+#include "ask_dialog/ask_form.h"
 #include "base/app_folder.h"
 #include "base/error_trap.h"
 #include "base/text_file.h"
@@ -65,7 +65,7 @@ class CardsApp : public QObject {
     Boxes boxes_{state_};
     GraphicsLinks links_{form_, clock_, trap_, folder_, files_};
     Connections database_;
-    NoAskDialog ask_;
+    AskFormDialog ask_{state_, database_, trap_, nullptr};
     SystemDesktop desktop_;
     CardEngine engine_{state_, form_, folder_, files_, trap_, {boxes_, ask_, links_, database_, desktop_, clock_}};
     Packs packs_{state_, form_, folder_, files_, trap_, boxes_};
