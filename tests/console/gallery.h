@@ -63,6 +63,7 @@ class Gallery {
     void writePack(const QByteArrayList& cards, const QByteArray& head = {}) const {
         write(QStringLiteral("PACKS.TXT"), "EN;Basketball\r\n");
         write(QStringLiteral("QRD_EN/CONNECTIONS.TXT"), "1==Test==Driver=SQLite3;Database=test.db\r\n");
+        write(QStringLiteral("QRD_EN/ASKFIELDS.TXT"), {});
         write(QStringLiteral("QRD_EN/GetGame.csp"), "FUNCTIONCARD\r\nSETVAR~@HTLNAMEEN;Harbour City\r\n");
         QByteArrayList lines = cards;
         while (lines.size() < CardTable::kCards) lines += ",";

@@ -22,6 +22,7 @@ CardsApp::CardsApp(const Options& options)
       startUp_(engine_, cards_, trap_, steps()) {
     state_.preview = isPreview(options.commandLine);
     boxes_.setWindow(window_);
+    ask_.setWindow(window_);
     trap_.setReporter([this](const ErrorPlace&, const QString& message) { tell(message); });
     cards_.answer(events_);
     answerLinks();
