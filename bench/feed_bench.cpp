@@ -92,10 +92,10 @@ std::vector<Moment> sendClocks(quint16 port, int count, int rate) {
     const Moment start = std::chrono::steady_clock::now();
     for (int i = 0; i < count; ++i) {
         std::this_thread::sleep_until(start + std::chrono::nanoseconds(1'000'000'000LL * i / rate));
-        const std::string datagram = "t" + std::to_string(i) + "t";
+        const QByteArray datagram = 't' + QByteArray::number(i) + 't';
         moments.push_back(std::chrono::steady_clock::now());
-        sendto(sender, datagram.data(), datagram.size(), 0, reinterpret_cast<const sockaddr*>(&address),
-               sizeof address);
+        sendto(sender, datagram.constData(), static_cast<std::size_t>(datagram.size()), 0,
+               reinterpret_cast<const sockaddr*>(&address), sizeof address);
     }
     close(sender);
     return moments;
