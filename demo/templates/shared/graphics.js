@@ -3,8 +3,9 @@
 // that a STOP in the middle of coming on simply turns round.
 //
 // In the page: data-field="NAME" shows the field NAME, and is marked data-empty while there is nothing to show; with
-// the class "fit" the text is made narrower, then smaller, until it fits; with "flash" a change lights up. A page may
-// have a function fieldsChanged(fields) of its own.
+// the class "fit" the text is made narrower, then smaller, until it fits; with "flash" a change lights up. The field
+// SIDE ("away") chooses whose colour --side is. A page may have functions fieldsChanged(fields), cameOn() and next() of
+// its own.
 
 "use strict";
 
@@ -17,6 +18,7 @@ function update(data) {
     for (const element of document.querySelectorAll("[data-field]")) {
         setText(element, fields[element.dataset.field] ?? "");
     }
+    document.body.classList.toggle("away", fields.SIDE === "away");
     if (typeof fieldsChanged === "function") {
         fieldsChanged(fields);
     }
@@ -26,6 +28,9 @@ function update(data) {
 function play() {
     void document.body.offsetWidth; // the state before must have been drawn, or there is nothing to move from
     document.body.classList.add("on");
+    if (typeof cameOn === "function") {
+        cameOn();
+    }
 }
 
 function stop() {
@@ -33,7 +38,13 @@ function stop() {
 }
 
 function next() {
-    // These graphics have one step.
+    // Most graphics have one step.
+}
+
+// Sets the text of an element that the page has made itself.
+function setField(element, name) {
+    element.dataset.field = name;
+    setText(element, fields[name] ?? "");
 }
 
 // The fields of template data: XML with one componentData a field, or a JSON object.
