@@ -27,7 +27,7 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
 
 }  // namespace
 
-ScriptLine::ScriptLine(const QString& line) : text(line) {
+ScriptLine::ScriptLine(QString line) : text(std::move(line)) {
     const Pieces items(text, u'~');
     if (items.count() == 0) return;
     const QString word = items[0].trimmed().toString().toUpper();
