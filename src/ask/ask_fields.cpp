@@ -9,8 +9,6 @@ namespace zelvor {
 
 namespace {
 
-constexpr int kLinesOfABlock = 5;
-
 // Where a pair of that key goes; null for a key that means nothing.
 QString* member(AskField& field, QStringView key) {
     if (key == u"ASKTITLE") return &field.title;
@@ -33,28 +31,31 @@ qint16 fieldNumber(const QString& line) {
     return number;
 }
 
-void readBlocks(const QStringList& lines, std::vector<AskField>& fields) {
-    for (qsizetype at = 0; at < lines.size(); ++at) {
-        if (!lines[at].startsWith(u'%')) continue;
-        const qint16 number = fieldNumber(lines[at]);
+}  // namespace
+
+void readAskFields(const QStringList& lines, std::vector<AskField>& fields, int& lineNo) {
+    while (lineNo < lines.size()) {
+        const QString& opening = lines[lineNo++];
+        if (!opening.startsWith(u'%')) continue;
+        const qint16 number = fieldNumber(opening);
         if (fields.size() <= static_cast<size_t>(number)) fields.resize(number + 1);
-        for (int pair = 0; pair < kLinesOfABlock; ++pair) {
-            if (++at == lines.size()) {
+        for (int pair = 0; pair < kAskFieldLines; ++pair) {
+            if (lineNo == lines.size()) {
                 throw RunTimeError(ErrorNumber::InputPastEndOfFile, u"ASKFIELDS.TXT, field %1"_s.arg(number));
             }
-            QString* const known = member(fields[number], lines[at].section(u':', 0, 0).trimmed());
-            if (known != nullptr) *known = valueOf(lines[at]);
+            const QString& line = lines[lineNo++];
+            QString* const known = member(fields[number], line.section(u':', 0, 0).trimmed());
+            if (known != nullptr) *known = valueOf(line);
         }
     }
 }
 
-}  // namespace
-
 void LOAD_ASK(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap) {
     trap.run({u"mGLOBAL.LOAD_ASK"_s}, ErrorTrap::Tell::Operator, [&] {
         state.ask.ASK_FIELDS.assign(AskState::kSmallestTable, {});
-        readBlocks(files.readLines(folder.resolve(folder.packFile(state.language(), u"ASKFIELDS.TXT"))),
-                   state.ask.ASK_FIELDS);
+        int lineNo = 0;
+        readAskFields(files.readLines(folder.resolve(folder.packFile(state.language(), u"ASKFIELDS.TXT"))),
+                      state.ask.ASK_FIELDS, lineNo);
     });
 }
 

@@ -11,10 +11,6 @@ namespace {
 
 constexpr QStringView kBlockEnd = u"FI~";
 
-QString cleaned(QString line) {
-    return line.remove(u'\t').trimmed();
-}
-
 std::shared_ptr<const LineCondition> parseCondition(const QString& line, const ExpandableText& comparison) {
     auto condition = std::make_shared<LineCondition>();
     condition->comparison = comparison;
@@ -27,7 +23,11 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
 
 }  // namespace
 
-ScriptLine::ScriptLine(QString line) : text(std::move(line)) {
+QString cleanedScriptLine(QString line) {
+    return line.remove(u'\t').trimmed();
+}
+
+ScriptLine::ScriptLine(const QString& line) : text(line) {
     const Pieces items(text, u'~');
     if (items.count() == 0) return;
     const QString word = items[0].trimmed().toString().toUpper();
@@ -42,12 +42,12 @@ ScriptLine::ScriptLine(QString line) : text(std::move(line)) {
 
 CardScript::CardScript(const QString& path, const QString& language, const AppFolder& folder, const TextFiles& files) {
     for (const QString& rawLine : readSource(path, files)) {
-        const QString line = cleaned(rawLine);
+        const QString line = cleanedScriptLine(rawLine);
         if (line.isEmpty()) continue;
         const Pieces items(line, u'~');
         if (items[0] == u"INCLUDE") {
             const QString include = folder.resolve(folder.packFile(language, items[1]));
-            for (const QString& included : readSource(include, files)) append(cleaned(included));
+            for (const QString& included : readSource(include, files)) append(cleanedScriptLine(included));
         }
         append(line);
     }

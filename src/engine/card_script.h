@@ -17,7 +17,7 @@ struct LineCondition;
 
 // One line of a script, taken apart once.
 struct ScriptLine {
-    explicit ScriptLine(QString line);
+    explicit ScriptLine(const QString& line);
 
     QString text;
     const Command* command = nullptr;  // null for a comment and for any unknown word
@@ -25,6 +25,9 @@ struct ScriptLine {
     ExpandableText argument;                         // item 1 of the line split at "~"
     std::shared_ptr<const LineCondition> condition;  // of an IFL line
 };
+
+// A line of a script file as it is run: without TABs and the blanks around it.
+QString cleanedScriptLine(QString line);
 
 // IFL~left;operator;right~"then line"~"else line"
 struct LineCondition {

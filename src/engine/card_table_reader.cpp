@@ -25,6 +25,8 @@ class CardTableReader {
         }
     }
 
+    static bool knows(const QString& keyword) { return kReaders.contains(keyword); }
+
  private:
     using Reader = void (CardTableReader::*)(QStringView value);
     static const QHash<QString, Reader> kReaders;
@@ -83,6 +85,11 @@ const QHash<QString, CardTableReader::Reader> CardTableReader::kReaders{
 
 void readCardTable(const QStringList& lines, CardTable& table, int& lineNo) {
     CardTableReader(lines, table, lineNo).read();
+}
+
+bool isCardTableKeyword(const QString& line) {
+    const qsizetype colon = line.indexOf(u':');
+    return colon > 0 && CardTableReader::knows(line.left(colon));
 }
 
 }  // namespace zelvor

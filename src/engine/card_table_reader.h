@@ -11,4 +11,7 @@ namespace zelvor {
 // before it stays in the table.
 void readCardTable(const QStringList& lines, CardTable& table, int& lineNo);
 
+// Whether a CARDS.TXT line begins with a keyword of the table, e.g. "SETNO:".
+bool isCardTableKeyword(const QString& line);
+
 }  // namespace zelvor

@@ -30,11 +30,20 @@ constexpr std::array kComparisons{
     Comparison{u"s!", [](QStringView left, QStringView right) { return left != right; }},
 };
 
+const Comparison* findComparison(QStringView operation) {
+    const auto* comparison = std::ranges::find(kComparisons, operation, &Comparison::operation);
+    return comparison == kComparisons.end() ? nullptr : comparison;
+}
+
 }  // namespace
 
 bool conditionHolds(QStringView left, QStringView operation, QStringView right) {
-    const auto* comparison = std::ranges::find(kComparisons, operation, &Comparison::operation);
-    return comparison != kComparisons.end() && comparison->holds(left, right);
+    const Comparison* comparison = findComparison(operation);
+    return comparison != nullptr && comparison->holds(left, right);
+}
+
+bool isConditionOperator(QStringView operation) {
+    return findComparison(operation) != nullptr;
 }
 
 }  // namespace zelvor

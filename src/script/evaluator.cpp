@@ -15,4 +15,9 @@ Value Evaluator::evaluate(QStringView expression) const {
     return evaluateText(expression, environment);
 }
 
+void Evaluator::check(QStringView expression) const {
+    Environment environment{.clock = clock_, .random = random_, .depth = 0, .lastRandom = std::nullopt};
+    Parser(expression, environment, Parser::Mode::CheckOnly).parse();
+}
+
 }  // namespace zelvor::script

@@ -26,6 +26,9 @@ class Evaluator {
     // evaluated. An expression that cannot be read to its end is reported as such whatever its beginning does.
     [[nodiscard]] Value evaluate(QStringView expression) const;
 
+    // Reads the whole expression and computes nothing. Throws as evaluate does for what cannot be read.
+    void check(QStringView expression) const;
+
  private:
     Clock clock_;
     Random random_;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app_calc/calc_command.h"
+#include "app_check/check_command.h"
 #include "app_eval/eval_command.h"
 #include "app_feed/feed_command.h"
 #include "app_run/run_command.h"
@@ -36,6 +37,7 @@ int calc(const QStringList& arguments, QTextStream&, QTextStream&) {
 
 const std::array kSubcommands{
     Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
+    Subcommand{u"check"_s, u"finds what is wrong with packs without running them"_s, zelvor::runCheck},
     Subcommand{u"eval"_s, u"evaluates a script expression"_s, zelvor::runEval},
     Subcommand{u"feed"_s, u"sends the datagrams of a game clock"_s, zelvor::runFeed},
     Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},

@@ -80,19 +80,21 @@ void LOADFORM(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
     Command{u"RETURNASK", RETURNASK, Argument::Expanded, u"number", u"sets the answer of the last pick list"},
     Command{u"ASKFIELD", ASKFIELD, Argument::Expanded, u"field",
-            u"opens a pick list; its answer becomes @RETURNKEY, Cancel ends the card"},
-    Command{u"QUERY", QUERY, Argument::Raw, u"text", u"begins the text of a query; EXECSQL runs it"},
-    Command{u"QUERY+", QUERY_PLUS, Argument::Raw, u"text", u"adds to the text of the query"},
+            u"opens a pick list; its answer becomes @RETURNKEY, Cancel ends the card", roles(Role::AskField)},
+    Command{u"QUERY", QUERY, Argument::Raw, u"text", u"begins the text of a query; EXECSQL runs it",
+            roles(Role::Query)},
+    Command{u"QUERY+", QUERY_PLUS, Argument::Raw, u"text", u"adds to the text of the query", roles(Role::Query)},
     Command{u"EXECSQL", EXECSQL, Argument::None, u"", u"runs the query of QUERY; no rows end the card"},
     Command{u"SQL", SQL, Argument::Expanded, u"statement", u"runs a query; no rows end the card"},
     Command{u"SQL2", SQL2, Argument::Expanded, u"statement", u"the same on the Greek connection"},
     Command{u"SQLU", SQLU, Argument::Expanded, u"statement", u"runs a statement that gives no rows"},
-    Command{u"RTX", marker, Argument::None, u"", u"a mark without effect"},
-    Command{u"RTXS", marker, Argument::None, u"", u"a mark without effect"},
+    Command{u"RTX", marker, Argument::None, u"[text]", u"a mark without effect"},
+    Command{u"RTXS", marker, Argument::None, u"[text]", u"a mark without effect"},
     Command{u"LOADFORM", LOADFORM, Argument::Raw, u"name", u"shows frmMAIN, frmASK or frmGENERAL"},
 };
 

@@ -75,18 +75,21 @@ void REPLACE(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
-    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value"},
-    Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value"},
+    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value",
+            roles(Role::VariableName, Role::Expression)},
+    Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value",
+            roles(Role::Variable, Role::Formula)},
     Command{u"ROUND", ROUND, Argument::Expanded, u"variable;value;digits",
-            u"the variable becomes the rounded value, halves to the even digit"},
+            u"the variable becomes the rounded value, halves to the even digit", roles(Role::Variable)},
     Command{u"PERCENTMAX", PERCENTMAX, Argument::Expanded, u"a;b;max",
             u"splits max as a to b into @PERCM1 and @PERCM2"},
     Command{u"PERCENT", PERCENT, Argument::Expanded, u"row;column1;column2",
             u"@PERC becomes column1 in percent of column2 of a row of the query result"},
     Command{u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
-            u"replaces every find in the variable's value"},
+            u"replaces every find in the variable's value", roles(Role::Variable)},
 };
 
 }  // namespace

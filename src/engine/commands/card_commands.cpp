@@ -87,18 +87,20 @@ void EXECUTE(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
-    Command{u"BUTTONTEXT", BUTTONTEXT, Argument::Expanded, u"button;text", u"labels a card button, counted from 0"},
+    Command{u"BUTTONTEXT", BUTTONTEXT, Argument::Expanded, u"button;text", u"labels a card button, counted from 0",
+            roles(Role::Button)},
     Command{u"BUTTONCOLOR", BUTTONCOLOR, Argument::Expanded, u"button;colour",
-            u"colours a card button: a number 0xBBGGRR or an English name"},
-    Command{u"ON", ON, Argument::Expanded, u"button", u"marks a card as on"},
-    Command{u"OFF", OFF, Argument::Expanded, u"button", u"marks a card as off"},
+            u"colours a card button: a number 0xBBGGRR or an English name", roles(Role::Button)},
+    Command{u"ON", ON, Argument::Expanded, u"button", u"marks a card as on", roles(Role::Button)},
+    Command{u"OFF", OFF, Argument::Expanded, u"button", u"marks a card as off", roles(Role::Button)},
     Command{u"OFFALL", OFFALL, Argument::None, u"", u"marks every card of the set as off"},
-    Command{u"AUTOTIMECARD", AUTOTIMECARD, Argument::Raw, u"card",
-            u"the card run with every message of the game clock"},
+    Command{u"AUTOTIMECARD", AUTOTIMECARD, Argument::Raw, u"card", u"the card run with every message of the game clock",
+            roles(Role::Card)},
     Command{u"AUTOCLOCKCARD", AUTOCLOCKCARD, Argument::Raw, u"card",
-            u"the card run with every second of the local clock"},
+            u"the card run with every second of the local clock", roles(Role::Card)},
     Command{u"ISTIME", ISTIME, Argument::Expanded, u"YES|NO", u"switches the time card"},
     Command{u"ISCLOCK", ISCLOCK, Argument::Expanded, u"YES|NO", u"switches the clock card"},
     Command{u"STOPTIME", STOPTIME, Argument::None, u"", u"switches the time card off"},

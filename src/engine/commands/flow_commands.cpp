@@ -81,16 +81,20 @@ void LOOPPAGE(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
-    Command{u"INCLUDE", readEarlier, Argument::None, u"file", u"puts the lines of another script file here"},
+    Command{u"INCLUDE", readEarlier, Argument::None, u"file", u"puts the lines of another script file here",
+            roles(Role::Include)},
     Command{u"NORTXOUT", readEarlier, Argument::None, u"", u"no RTX output files at the end"},
     Command{u"FUNCTIONCARD", readEarlier, Argument::None, u"", u"leaves the on-air line and the last card untouched"},
     Command{u"ENDCARD", ENDCARD, Argument::None, u"", u"ends the script"},
-    Command{u"FOREACHREC", FOREACHREC, Argument::Expanded, u"name", u"begins the record loop; @name counts from 1"},
-    Command{u"ROF", ROF, Argument::None, u"", u"ends the record loop"},
-    Command{u"IF", IF, Argument::Expanded, u"left;operator;right;label", u"skips to FI~label when false"},
-    Command{u"FI", readEarlier, Argument::None, u"label", u"ends the block of that label"},
+    Command{u"FOREACHREC", FOREACHREC, Argument::Expanded, u"name", u"begins the record loop; @name counts from 1",
+            roles(Role::LoopName)},
+    Command{u"ROF", ROF, Argument::None, u"", u"ends the record loop", roles(Role::LoopEnd)},
+    Command{u"IF", IF, Argument::Expanded, u"left;operator;right;[label]", u"skips to FI~label when false",
+            roles(Role::Operand, Role::Operation, Role::Operand, Role::BlockLabel)},
+    Command{u"FI", readEarlier, Argument::None, u"label", u"ends the block of that label", roles(Role::BlockEnd)},
     Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile"},
     Command{u"BREAK", BREAK, Argument::Expanded, u"message", u"asks whether to go on"},
     Command{u"LOOPPAGE", LOOPPAGE, Argument::Expanded, u"question", u"asks Yes or No; @LOOP_ANSWER becomes 6 or 7"},

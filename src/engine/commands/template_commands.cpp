@@ -68,6 +68,7 @@ void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
     Command{u"CLEARDATA", CLEARDATA, Argument::None, u"", u"empties the template data and the history list"},
@@ -78,10 +79,10 @@ constexpr std::array kCommands{
     Command{u"SIMAGE", SIMAGE, Argument::Expanded, u"field;[animation;]value", u"sets an image field of the template"},
     Command{u"SIMAGEREMOTE", SIMAGEREMOTE, Argument::Expanded, u"field;[animation;]value",
             u"sets an image field of the remote template"},
-    Command{u"MAKEXML", MAKEXML, Argument::Expanded, u"[name]",
-            u"@CASPARXML or @name becomes the template data as XML"},
+    Command{u"MAKEXML", MAKEXML, Argument::Expanded, u"[name]", u"@CASPARXML or @name becomes the template data as XML",
+            roles(Role::VariableName)},
     Command{u"MAKEXMLREMOTE", MAKEXMLREMOTE, Argument::Expanded, u"[name]",
-            u"@CASPARXMLREMOTE or @name becomes the remote template data as XML"},
+            u"@CASPARXMLREMOTE or @name becomes the remote template data as XML", roles(Role::VariableName)},
 };
 
 }  // namespace

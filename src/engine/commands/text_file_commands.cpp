@@ -92,12 +92,14 @@ void CFILE8(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
     Command{u"LOADTXT", LOADTXT, Argument::Expanded, u"file;name",
-            u"reads a comma-separated file into @name_LLL_CCC, @TEXTLINES and @TEXTCOLS"},
+            u"reads a comma-separated file into @name_LLL_CCC, @TEXTLINES and @TEXTCOLS",
+            roles(Role::Text, Role::VariablePrefix)},
     Command{u"LOADTXTLINE", LOADTXTLINE, Argument::Expanded, u"file;name",
-            u"reads the line marked X into @name_CCC and @TEXTCOLS"},
+            u"reads the line marked X into @name_CCC and @TEXTCOLS", roles(Role::Text, Role::VariablePrefix)},
     Command{u"OFILE", OFILE, Argument::Raw, u"path", u"opens a text file for writing"},
     Command{u"WFILE", WFILE, Argument::Expanded, u"text", u"writes a line to it"},
     Command{u"CFILE", CFILE, Argument::None, u"", u"closes it"},

@@ -33,12 +33,14 @@ void SPLIT(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kCommands{
-    Command{u"SETVAR", SETVAR, Argument::Expanded, u"variable;value", u"sets a variable"},
+    Command{u"SETVAR", SETVAR, Argument::Expanded, u"variable;value", u"sets a variable", roles(Role::Variable)},
     Command{u"CHARCOUNT", CHARCOUNT, Argument::Expanded, u"name;text;character",
-            u"@name becomes how often the character stands in the text"},
-    Command{u"SPLIT", SPLIT, Argument::Expanded, u"text;separator;name", u"stores the pieces as @name_0, @name_1, ..."},
+            u"@name becomes how often the character stands in the text", roles(Role::VariableName)},
+    Command{u"SPLIT", SPLIT, Argument::Expanded, u"text;separator;name", u"stores the pieces as @name_0, @name_1, ...",
+            roles(Role::Text, Role::Text, Role::VariablePrefix)},
 };
 
 }  // namespace

@@ -1,0 +1,61 @@
+#include "app_check/check_command.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <array>
+
+#include "app_check/pack_check.h"
+#include "base/command_line.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kClean = 0;
+constexpr int kErrors = 1;
+constexpr int kWrongUsage = 2;
+
+const QString kUsage =
+    uR"(usage: zelvor check [--app-folder DIR] [CODE]
+
+Reads the pack of that code, or every pack of PACKS.TXT, and prints what is wrong with it without running a card.
+
+  --app-folder DIR     the application folder (default: the program's own)
+
+A line each: FILE:LINE: error|warning: TEXT; then the counts. Exit status 1 when there is an error.
+)"_s;
+
+}  // namespace
+
+int runCheck(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+    static const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true}, CommandLine::Option{u"--help"_s},
+                                     CommandLine::Option{u"-h"_s}};
+    const CommandLine line(arguments, kOptions);
+    if (line.has(u"--help") || line.has(u"-h")) {
+        out << kUsage;
+        return kClean;
+    }
+    const auto refuse = [&err](const QString& reason) {
+        err << reason << "\n\n" << kUsage;
+        return kWrongUsage;
+    };
+    if (!line.unknownOption().isEmpty()) return refuse(u"unknown option "_s + line.unknownOption());
+    if (!line.optionWithoutValue().isEmpty()) return refuse(line.optionWithoutValue() + u" takes a value"_s);
+    if (line.rest().size() > 1) return refuse(u"one pack at a time, or all"_s);
+
+    const AppFolder folder(line.value(u"--app-folder").value_or(QCoreApplication::applicationDirPath()));
+    if (!QFileInfo(folder.path()).isDir()) return refuse(u"no such folder: "_s + folder.path());
+    Findings findings;
+    if (line.rest().isEmpty()) {
+        checkPacks(folder, findings);
+    } else {
+        const QString& code = line.rest().first();
+        if (!folder.exists(folder.packFolder(code))) return refuse(u"no such pack: "_s + code);
+        checkPack(folder, code, findings);
+    }
+    return findings.print(out) > 0 ? kErrors : kClean;
+}
+
+}  // namespace zelvor

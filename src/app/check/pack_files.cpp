@@ -1,0 +1,49 @@
+#include "app_check/pack_files.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+#include "engine/card_engine.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+QString PackFiles::path(QStringView name) const {
+    return folder_.resolve(folder_.packFile(language_, name));
+}
+
+bool PackFiles::exists(QStringView name) {
+    const QString key = name.toString();
+    const auto known = exists_.constFind(key);
+    if (known != exists_.constEnd()) return *known;
+    return *exists_.insert(key, QFileInfo(path(name)).isFile());
+}
+
+bool PackFiles::cardExists(const QString& card) {
+    return exists(CardEngine::scriptName(card));
+}
+
+const QStringList& PackFiles::lines(const QString& path) {
+    const auto known = lines_.constFind(path);
+    if (known != lines_.constEnd()) return *known;
+    return *lines_.insert(path, files_.readLines(path));
+}
+
+Place PackFiles::place(const QString& path, int line) const {
+    return {QDir(folder_.path()).relativeFilePath(path), line};
+}
+
+QStringList PackFiles::scripts() const {
+    QStringList found;
+    QDirIterator files(folder_.resolve(folder_.packFolder(language_)), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        if (file.endsWith(u".csp"_s, Qt::CaseInsensitive)) found += file;
+    }
+    found.sort();
+    return found;
+}
+
+}  // namespace zelvor

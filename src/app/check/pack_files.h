@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QStringList>
+#include <utility>
+
+#include "app_check/findings.h"
+#include "base/app_folder.h"
+#include "base/text_file.h"
+
+namespace zelvor {
+
+// The files of one pack, each read once.
+class PackFiles {
+ public:
+    // The folder must outlive this.
+    PackFiles(const AppFolder& folder, QString language) : folder_(folder), language_(std::move(language)) {}
+
+    // The platform's path of a file named as in a script or a card table.
+    [[nodiscard]] QString path(QStringView name) const;
+    [[nodiscard]] bool exists(QStringView name);
+    // Whether the script that a card of that name runs exists.
+    [[nodiscard]] bool cardExists(const QString& card);
+    // Throws RunTimeError when it cannot be read.
+    const QStringList& lines(const QString& path);
+    // A line of a file as findings name it: relative to the application folder.
+    [[nodiscard]] Place place(const QString& path, int line = 1) const;
+    // The paths of all card scripts, sorted.
+    [[nodiscard]] QStringList scripts() const;
+
+ private:
+    const AppFolder& folder_;
+    QString language_;
+    TextFiles files_;
+    QHash<QString, QStringList> lines_;
+    QHash<QString, bool> exists_;
+};
+
+}  // namespace zelvor

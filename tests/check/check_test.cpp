@@ -1,0 +1,69 @@
+// The packs of broken/ hold each fault that the checker knows beside sound lines of the same kind; expected.txt holds
+// what it must say, and with that what it must not.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <array>
+
+#include "app_check/check_command.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kBroken = QStringLiteral(TEST_DATA_DIR) + u"/broken"_s;
+
+struct CheckRun {
+    explicit CheckRun(const QStringList& arguments) {
+        QTextStream outStream(&out);
+        QTextStream errStream(&err);
+        status = zelvor::runCheck(arguments, outStream, errStream);
+    }
+
+    QString out;
+    QString err;
+    int status = -1;
+};
+
+TEST(Check, FindsEachFaultOfTheBrokenPacks) {
+    QFile file(QStringLiteral(TEST_DATA_DIR) + u"/expected.txt"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n');
+    const CheckRun check({u"--app-folder"_s, kBroken});
+    const QStringList found = check.out.split(u'\n');
+    for (qsizetype i = 0; i < qMax(found.size(), expected.size()); ++i) {
+        EXPECT_EQ(found.value(i).toStdString(), expected.value(i).toStdString());
+    }
+    EXPECT_EQ(check.status, 1);
+}
+
+TEST(Check, HasNothingToSayAboutTheDemo) {
+    const CheckRun check({u"--app-folder"_s, QStringLiteral(DEMO_FOLDER)});
+    EXPECT_EQ(check.out.toStdString(), "0 errors, 0 warnings\n");
+    EXPECT_EQ(check.status, 0);
+}
+
+TEST(Check, TellsItsUsage) {
+    struct Row {
+        QStringList arguments;
+        int status;
+        QString err;  // how it begins
+    };
+    const std::array rows{
+        Row{{u"--help"_s}, 0, {}},
+        Row{{u"--fast"_s}, 2, u"unknown option --fast"_s},
+        Row{{u"--app-folder"_s}, 2, u"--app-folder takes a value"_s},
+        Row{{u"--app-folder"_s, kBroken, u"FLOW"_s, u"WORDS"_s}, 2, u"one pack at a time"_s},
+        Row{{u"--app-folder"_s, kBroken, u"GONE"_s}, 2, u"no such pack: GONE"_s},
+        Row{{u"--app-folder"_s, kBroken + u"/none"_s}, 2, u"no such folder"_s},
+    };
+    for (const Row& row : rows) {
+        const CheckRun check(row.arguments);
+        EXPECT_EQ(check.status, row.status) << qPrintable(row.arguments.join(u' '));
+        EXPECT_TRUE(check.err.startsWith(row.err)) << qPrintable(check.err);
+        EXPECT_EQ(check.out.isEmpty(), row.status == 2);
+    }
+}
+
+}  // namespace
