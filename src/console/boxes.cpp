@@ -1,5 +1,6 @@
 #include "console/boxes.h"
 
+#include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -100,8 +101,8 @@ bool Boxes::run(QDialog& box) {
 
 // A message of a card that a timer or the feed has fired: neither the keyboard nor the timer waits for it. One at a
 // time, so that a faulty card that runs ten times a second does not fill the screen.
-void Boxes::showNotice(const QString& title, const QString& text, Severity severity) {
-    if (notice_ || state_.closing) return;
+QDialog* Boxes::showNotice(const QString& title, const QString& text, Severity severity) {
+    if (notice_ || state_.closing) return nullptr;
     notice_ = new QDialog(window_);
     notice_->setAttribute(Qt::WA_DeleteOnClose);
     notice_->setAttribute(Qt::WA_ShowWithoutActivating);
@@ -111,6 +112,24 @@ void Boxes::showNotice(const QString& title, const QString& text, Severity sever
     box.column->addWidget(box.buttons);
     notice_->show();
     Q_EMIT opened(notice_);
+    return notice_;
+}
+
+void Boxes::cardError(const QString& card, const QString& text) {
+    if (state_.unattendedRuns == 0) {
+        message({}, text, Severity::Critical);
+        return;
+    }
+    if (quietCards_.contains(card)) return;
+    QDialog* notice = showNotice({}, text, Severity::Critical);
+    if (notice == nullptr || card.isEmpty()) return;
+    auto* quiet = new QCheckBox(u"Do not show this again for this card until cards are reloaded"_s);
+    quiet->setObjectName(u"quiet"_s);
+    auto* column = static_cast<QVBoxLayout*>(notice->layout());
+    column->insertWidget(column->count() - 1, quiet);
+    connect(notice, &QDialog::finished, this, [this, card, quiet] {
+        if (quiet->isChecked()) quietCards_.insert(card);
+    });
 }
 
 void Boxes::message(const QString& title, const QString& text, Severity severity) {

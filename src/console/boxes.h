@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <deque>
+#include <set>
 
 #include "engine/ports.h"
 #include "engine/show_state.h"
@@ -26,6 +27,10 @@ class Boxes : public QObject, public Operator {
     // A message of a card that no operator has fired is shown without waiting and without taking the keyboard; further
     // ones are dropped while it stands.
     void message(const QString& title, const QString& text, Severity severity = Severity::Information) override;
+    // An error of a card; one that no operator has fired offers to keep quiet about that card.
+    void cardError(const QString& card, const QString& text);
+    // Cards that were loaded anew are told of again.
+    void forgetQuietCards() { quietCards_.clear(); }
     bool yesNo(const QString& title, const QString& text) override;
     std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) override;
 
@@ -38,12 +43,14 @@ class Boxes : public QObject, public Operator {
 
  private:
     bool run(QDialog& box);
-    void showNotice(const QString& title, const QString& text, Severity severity);
+    // The notice that is shown, null when it is dropped.
+    QDialog* showNotice(const QString& title, const QString& text, Severity severity);
 
     const ShowState& state_;
     QPointer<QWidget> window_;
     std::deque<QPointer<QDialog>> open_;
     QPointer<QDialog> notice_;
+    std::set<QString> quietCards_;
 };
 
 }  // namespace zelvor

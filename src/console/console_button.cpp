@@ -64,8 +64,10 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
         return;
     }
     const bool framed = selected_ && !look_.underlined;
-    theme::drawSurface(painter, rect(),
-                       {ground, theme::colour(framed ? theme::Role::Accent : look_.line), 4, framed ? 2 : 1});
+    theme::drawSurface(
+        painter, rect(),
+        {ground, theme::colour(framed ? (ownGround_ ? theme::Role::Text : theme::Role::Accent) : look_.line), 4,
+         framed ? 2 : 1});
     if (look_.underlined) {
         painter.fillRect(QRect(1, height() - 3, width() - 2, 3),
                          theme::colour(selected_ ? theme::Role::Accent : theme::Role::Line));

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "console/key_filter.h"
@@ -31,7 +32,7 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
                        QAbstractItemModel& responses)
     : mirrors_(form, events) {
     setObjectName(u"frmMAIN"_s);
-    resize(kFirstSize);
+    resize(kFirstSize.boundedTo(screen()->availableSize()));
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);

@@ -10,6 +10,7 @@ namespace zelvor {
 
 namespace {
 
+constexpr int kMark = 7;           // pixels
 constexpr int kNumberColumn = 26;  // pixels, room for two digits and a blank
 
 // The digits before the first blank, empty when the text does not begin with a number.
@@ -106,6 +107,16 @@ void TextLabel::drawNumbered(QPainter& painter, const QRect& area, const QString
                          Qt::AlignRight | Qt::AlignVCenter, number.toString());
         rest.setLeft(area.left() + kNumberColumn);
         painter.setFont(theme::font(look_.pixels, isMarked()));
+    }
+    if (ownText_ && *ownText_ != QColor(Qt::white)) {
+        // Which of the two chosen players it is does not depend on the colour alone: a disc for the first, a ring
+        // for the other.
+        const QRectF mark(area.right() - kMark, area.center().y() - kMark / 2.0, kMark, kMark);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(*ownText_, 2));
+        painter.setBrush(*ownText_ == theme::colour(colours::kRed) ? QBrush(Qt::NoBrush) : QBrush(*ownText_));
+        painter.drawEllipse(mark);
+        rest.setRight(static_cast<int>(mark.left()) - 4);
     }
     painter.setPen(textColour());
     const QString name = number.isEmpty() ? line : line.mid(number.size() + 1);

@@ -271,6 +271,31 @@ TEST_F(MainWindowTest, DrivesTheGameFromItsPanels) {
     EXPECT_EQ(gallery.app->state().variables.text(u"@TAKEN"), u"yes");
 }
 
+// A timed card that fails tells of it once, and keeps quiet when the operator says so until cards are reloaded.
+TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
+    startWithCards();
+    gallery.write(u"QRD_EN/broken.csp"_s, "ON~99\r\n");
+    gallery.write(u"QRD_EN/other.csp"_s, "ON~98\r\n");
+    gallery.answer = [](QDialog& box) {
+        if (auto* quiet = box.findChild<QCheckBox*>(u"quiet"_s)) quiet->setChecked(true);
+        box.accept();
+    };
+    const auto told = [&](const QString& card) {
+        gallery.shown.clear();
+        gallery.app->state().cards.timedCards = {{card, 1}};
+        gallery.app->desk().timedCards.tick();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return gallery.shown.size();
+    };
+    EXPECT_EQ(told(u"broken.csp"_s), 1);
+    EXPECT_TRUE(gallery.shown[0].contains(u"Error 9"));
+    EXPECT_EQ(told(u"broken.csp"_s), 0);
+    EXPECT_EQ(told(u"other.csp"_s), 1);
+    gallery.app->boxes().forgetQuietCards();
+    EXPECT_EQ(told(u"broken.csp"_s), 1);
+}
+
 TEST_F(MainWindowTest, ClosesAtAQuestion) {
     gallery.answer = [&](QDialog&) { gallery.app->window().close(); };
     startWithCards();

@@ -23,13 +23,14 @@ CardsApp::CardsApp(const Options& options)
     state_.preview = isPreview(options.commandLine);
     boxes_.setWindow(window_);
     ask_.setWindow(window_);
-    trap_.setReporter([this](const ErrorPlace&, const QString& message) { tell(message); });
+    trap_.setReporter([this](const ErrorPlace& place, const QString& message) { tell(place, message); });
     cards_.answer(events_);
     answerLinks();
     settings_.answer(events_, desktop_);
     answerDesk();
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, this, [this](int number) { cards_.functionKey(number); });
+    connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     connect(&window_, &MainWindow::closed, this, &CardsApp::close);
 }
 
@@ -80,10 +81,10 @@ void CardsApp::start() {
 }
 
 // One message at a time: while it is open further errors stand in the log alone.
-void CardsApp::tell(const QString& message) {
+void CardsApp::tell(const ErrorPlace& place, const QString& message) {
     if (telling_) return;
     const QScopedValueRollback telling(telling_, true);
-    boxes_.message({}, message, Operator::Severity::Critical);
+    boxes_.cardError(place.card, message);
 }
 
 void CardsApp::connectDatabase() {

@@ -75,7 +75,7 @@ int main(int argc, char* argv[]) {
 
     zelvor::theme::apply(application);
     zelvor::CardsApp app(wanted);
-    app.window().show();
+    app.window().showMaximized();
     QTimer::singleShot(0, &app, &zelvor::CardsApp::start);
     return QApplication::exec();
 }

@@ -74,6 +74,15 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
         ConsoleButton* button = mirrors.button(u"cmdSCREENMODE"_s, mode, {13, true});
         button->setFixedWidth(50);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+        // The mode that is on has a frame as well: its colour is not all that tells it.
+        const Control& control = form_.at(u"cmdSCREENMODE"_s, mode);
+        const auto frame = [button, &control] {
+            const bool on = control.backColour() == colours::kScreenModeOn;
+            button->setSelected(on);
+            button->setAccessibleName(control.text() + (on ? u", on"_s : u", off"_s));
+        };
+        connect(&control, &Control::changed, button, frame);
+        frame();
         modes->addWidget(button);
     }
     row->addLayout(modes);

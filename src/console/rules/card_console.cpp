@@ -114,6 +114,7 @@ void CardConsole::SHOW_AUTO_CARD() {
 void CardConsole::showLoaded() {
     LoadFkeys(state_, form_);
     showSwitches();
+    Q_EMIT loaded();
     Q_EMIT cardsChanged();
 }
 

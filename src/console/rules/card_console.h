@@ -45,6 +45,8 @@ class CardConsole : public QObject {
     [[nodiscard]] const CardEntry& card(int index) const;
 
  Q_SIGNALS:
+    // A card table was loaded and is shown.
+    void loaded();
     // Something that a card button shows besides its control's properties may have changed.
     void cardsChanged();
 
