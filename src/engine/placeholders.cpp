@@ -75,8 +75,8 @@ class Expansion {
 
     // A "}" with no "{" before it is ordinary text when no "{" follows either.
     bool closeWithoutOpen() {
-        for (auto input = inputs_.rbegin(); input != inputs_.rend(); ++input) {
-            const QStringView rest = QStringView(input->text).mid(input->at);
+        for (size_t i = inputs_.size(); i-- > 0;) {
+            const QStringView rest = QStringView(inputs_[i].text).mid(inputs_[i].at);
             if (rest.contains(u'{')) throw RunTimeError(ErrorNumber::InvalidProcedureCall, u"\"}\" before \"{\""_s);
             out_ += rest;
         }
@@ -127,7 +127,7 @@ QString EXPAND_VARS(const QString& text, VariableStore& variables, const QueryRe
     return Expansion(variables, result, previousAnswer).run(text);
 }
 
-ExpandableText::ExpandableText(const QString& text) : raw_(text) {
+ExpandableText::ExpandableText(QString text) : raw_(std::move(text)) {
     // The literals are views of raw_'s own characters, which moving this object does not move.
     const QStringView all(raw_);
     qsizetype start = 0;

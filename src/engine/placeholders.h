@@ -25,7 +25,7 @@ QString EXPAND_VARS(const QString& text, VariableStore& variables, const QueryRe
 class ExpandableText {
  public:
     ExpandableText() = default;
-    explicit ExpandableText(const QString& text);
+    explicit ExpandableText(QString text);
 
     [[nodiscard]] const QString& raw() const { return raw_; }
     // EXPAND_VARS of the text into `out`, whose memory is used again.
