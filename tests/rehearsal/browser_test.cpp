@@ -211,15 +211,18 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
     const QString longName = u"Κωνσταντίνος-Αλέξανδρος Παπαχατζηθεοδωροπουλόπουλος von Wolfeschlegelsteinhausen"_s;
     QString data;
     for (const char* field :
-         {"HOME", "AWAY", "NAME", "TITLE", "TEAM", "LINE2", "LABEL", "COACH", "EXTRA", "P1", "P12"}) {
+         {"HOME",  "AWAY", "NAME", "TITLE", "TEAM", "LINE2", "LABEL", "COACH", "EXTRA", "P1",    "P12",
+          "FIRST", "NOTE", "L1",   "L5",    "F1",   "R1",    "H2",    "H7",    "R1C2",  "VENUE", "COMPETITION"}) {
         data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData>)"_s.arg(
             QLatin1String(field), longName);
     }
-    for (const char* field : {"NUMBER", "SCOREA", "SCOREB", "N1", "N12"}) {
+    for (const char* field : {"NUMBER", "SCOREA", "SCOREB", "N1", "N12", "A1", "B1", "V1", "V5", "R1C7", "PHOTO"}) {
         data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"188\"></data></componentData>)"_s.arg(
             QLatin1String(field));
     }
-    const QStringList names = {u"scorebug"_s, u"lowerthird"_s, u"lineup"_s, u"clock"_s};
+    const QStringList names = {u"scorebug"_s,   u"lowerthird"_s, u"lineup"_s,  u"clock"_s,
+                               u"titles"_s,     u"comparison"_s, u"table"_s,   u"startingfive"_s,
+                               u"statistics"_s, u"timeout"_s,    u"fulltime"_s};
     // Every text that shows: inside the safe area, and inside the box it belongs to.
     const QString outside =
         u"[...document.querySelectorAll('[data-field] > span')].filter(text => {"

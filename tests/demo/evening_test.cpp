@@ -1,0 +1,225 @@
+// The demo's evening as the console plays it: one state, the rules of the running game, the demo's database, and the
+// rehearsal server's interpreter at the other end.
+
+#include <gtest/gtest.h>
+
+#include "ask/ask_fields.h"
+#include "ask/scripted_ask.h"
+#include "data/connections.h"
+#include "demo_folder.h"
+#include "engine/card_engine.h"
+#include "engine/defaults.h"
+#include "engine/packs.h"
+#include "feed/game_desk.h"
+#include "rehearsal/amcp_interpreter.h"
+#include "support/fake_ports.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+namespace {
+
+using test::DemoFolder;
+
+// The main link ends in a stage; every reply is remembered.
+class AirGraphics : public test::FakeGraphics {
+ public:
+    void sendLine(LinkId link, const QString& command) override {
+        FakeGraphics::sendLine(link, command);
+        const QString reply = interpreter_.answer(command);
+        if (!reply.startsWith(u"202"_s)) refused += command.left(60) + u": "_s + reply.trimmed();
+    }
+    bool shows(int layer) const { return stage.showsTemplate({1, layer}); }
+
+    QStringList refused;
+    rehearsal::Stage stage{2};
+
+ private:
+    rehearsal::TemplateFolder templates_{test::demoPath(u"templates"_s)};
+    rehearsal::AmcpInterpreter interpreter_{stage, templates_};
+};
+
+class Evening : public testing::TestWithParam<const char*> {
+ protected:
+    void SetUp() override {
+        ASSERT_TRUE(folderOnDisk_.isMade());
+        trap_.setReporter([this](const ErrorPlace&, const QString& message) { operator_.shown += message; });
+        writeAllDefaults(state_, form_, folder_);
+        switchTo(QString::fromLatin1(GetParam()));
+    }
+    // What the console does when the operator chooses a pack.
+    void switchTo(const QString& pack) {
+        state_.variables.SetVar(u"@LANGUAGE", pack);
+        ASSERT_TRUE(packs_.LOAD_CARDS());
+        LOAD_ASK(state_, folder_, files_, trap_);
+        fire(u"GetGame.csp"_s);
+    }
+    void TearDown() override {
+        EXPECT_EQ("", operator_.shown.join(u'\n').toStdString());
+        EXPECT_EQ("", graphics_.refused.join(u'\n').toStdString());
+    }
+
+    // Fires a card as its button does and lets a second pass. A card that puts something on is the last one shown.
+    void fire(const QString& card) {
+        EXPECT_EQ(CardEngine::Outcome::Ran, engine_.SHOW_TVCARD(card, state_.playerSelected, false))
+            << qPrintable(card);
+        if (!folderOnDisk_.script(state_.language(), card).contains(u"FUNCTIONCARD"_s)) {
+            EXPECT_EQ(card.toStdString(), state_.lastCard.toStdString());
+        }
+        for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
+    }
+    QStringList onButtons() {
+        QStringList scripts;
+        for (int row = 1; row <= CardTable::kCards; ++row) {
+            const CardEntry& entry = state_.cards.entry(state_.currentSet, row);
+            if (entry.on) scripts += entry.script.chopped(4);
+        }
+        return scripts;
+    }
+    QString lastLine() const { return graphics_.sent.value(graphics_.sent.size() - 1); }
+    QString label(const QString& name, int index = -1) const { return form_.at(name, index).text(); }
+    QString fromDatabase(const QString& sql) {
+        EXPECT_GT(database_.RUN_QUERY(sql), 0);
+        const Value* cell = state_.QUERY_RESULT.find(1, 0);
+        return cell == nullptr ? QString() : cell->text();
+    }
+    bool english() const { return state_.language() == u"EN"; }
+
+    // Answers each pick list with the choice for its number.
+    struct Chooser : AskDialog {
+        explicit Chooser(Evening& evening) : evening_(evening) {}
+        void show() override {
+            ScriptedAsk(evening_.state_, evening_.database_, evening_.trap_,
+                        {test::kChoices[evening_.state_.ask.ASK_FIELD]})
+                .show();
+        }
+        Evening& evening_;
+    };
+
+    DemoFolder folderOnDisk_;
+    AppFolder folder_{folderOnDisk_.path()};
+    TextFiles files_;
+    ErrorTrap trap_{folderOnDisk_.path() + u"/errors.log"_s};
+    ShowState state_;
+    FormModel form_;
+    test::FakeOperator operator_;
+    AirGraphics graphics_;
+    test::FakeClock clock_;
+    test::FakeDesktop desktop_;
+    Connections database_{state_, operator_, folder_, files_, trap_, {{}, 1}, [] {}};
+    Chooser chooser_{*this};
+    Packs packs_{state_, form_, folder_, files_, trap_, operator_};
+    CardEngine engine_{state_, form_, folder_,
+                       files_, trap_, Ports{operator_, chooser_, graphics_, database_, desktop_, clock_}};
+    GameDesk game_{engine_, trap_};
+};
+
+TEST_P(Evening, EveryCardInAnyOrderPleasesTheServerAndKeepsTheButtonsTrue) {
+    const QStringList thirds{u"player"_s, u"coach"_s, u"timeout"_s, u"referees"_s, u"nextgame"_s};
+    const QStringList always{u"scorebug"_s, u"gameclock"_s, u"teamfoul"_s, u"extratime"_s, u"crawl"_s};
+    QStringList cards = folderOnDisk_.scripts(state_.language());
+    for (int round = 0; round < 3; ++round) {
+        std::reverse(cards.begin() + round, cards.end());  // another order each time, cards met on and off
+        for (int set = 1; set < CardTable::kSets; ++set) {
+            state_.currentSet = set;
+            for (const QString& card : std::as_const(cards)) {
+                const auto stands = [&](int row) { return state_.cards.entry(set, row).script == card; };
+                bool isHere = false;
+                for (int row = 1; row <= CardTable::kCards; ++row) isHere = isHere || stands(row);
+                if (!isHere) continue;
+                fire(card);
+                int large = 0;
+                int lower = 0;
+                for (const QString& on : onButtons()) {
+                    if (thirds.contains(on)) ++lower;
+                    if (!on.isEmpty() && !thirds.contains(on) && !always.contains(on)) ++large;
+                    EXPECT_FALSE(on.isEmpty()) << "set " << set << ' ' << qPrintable(card);
+                }
+                EXPECT_LE(large + lower, 1)
+                    << "set " << set << ' ' << qPrintable(card + u": "_s + onButtons().join(u' '));
+            }
+        }
+    }
+    for (int key = 1; key <= 5; ++key) fire(state_.cards.functionKey(key).script);
+    for (const QString& card : {u"invoke.csp"_s, u"auto5ada.csp"_s}) fire(card);
+    fire(state_.cards.clearCard);
+    EXPECT_EQ("", onButtons().join(u' ').toStdString());
+    const qsizetype sent = graphics_.sent.size();
+    for (int tick = 0; tick < 50; ++tick) game_.timedCards.tick();
+    EXPECT_EQ(sent, graphics_.sent.size()) << "nothing is refreshed that is off";
+}
+
+TEST_P(Evening, GameComesFromTheDatabase) {
+    EXPECT_EQ(english() ? "Harbour City" : "Λιμάνι", label(u"lblHTEAM"_s).toStdString());
+    EXPECT_EQ("78", label(u"lblScoreA"_s).toStdString());
+    EXPECT_EQ("74", state_.variables.text(u"@GREENSCOREB").toStdString());
+    EXPECT_EQ(english() ? "18 Vance" : "18 Βανς", label(u"lblHPLAYERS"_s, 2).toStdString());
+    EXPECT_EQ("P:244##N:" + std::string(english() ? "Renn" : "Ρεν") + "##T:2",
+              form_.at(u"lblAPLAYERS"_s, 11).tag().toStdString());
+
+    fire(u"player.csp"_s);
+    EXPECT_TRUE(lastLine().contains(english() ? u"Tyler Vance"_s : u"Τάιλερ Βανς"_s)) << qPrintable(lastLine());
+    // A player chosen beside the cards answers the same pick lists, and the right button names the opponent.
+    game_.players.lblAPLAYERS(0, Qt::LeftButton);
+    fire(u"player.csp"_s);
+    EXPECT_TRUE(lastLine().contains(english() ? u"Dale Whitlock"_s : u"Ντέιλ Γουίτλοκ"_s)) << qPrintable(lastLine());
+    game_.players.lblAPLAYERS(1, Qt::RightButton);
+    fire(u"duel.csp"_s);
+    EXPECT_TRUE(lastLine().contains(english() ? u"Arden"_s : u"Άρντεν"_s)) << qPrintable(lastLine());
+}
+
+TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
+    const Control& first = form_.at(u"lblPROPOSED"_s, 1);
+    EXPECT_EQ("1|N|player.csp|T:1##P:132", first.tag().toStdString());
+    game_.proposals.lblPROPOSED(1);
+    EXPECT_TRUE(lastLine().contains(english() ? u"Karas"_s : u"Καράς"_s)) << qPrintable(lastLine());
+    EXPECT_EQ("Y", fromDatabase(u"select pc_used from proposedcard where pc_id = 1"_s).toStdString());
+    // On air by another way: the scan finds it, marks it used and offers it no more.
+    game_.players.lblAPLAYERS(7, Qt::LeftButton);
+    fire(u"player.csp"_s);
+    fire(u"scan.csp"_s);
+    EXPECT_EQ("Y", fromDatabase(u"select pc_used from proposedcard where pc_id = 2"_s).toStdString());
+    EXPECT_EQ("2|Y|player.csp|T:2##P:212", form_.at(u"lblPROPOSED"_s, 2).tag().toStdString());
+    EXPECT_TRUE(lastLine().startsWith(u"mCG 1-21 UPDATE"_s)) << "what is on air does not come on again";
+    EXPECT_EQ("N", fromDatabase(u"select pc_used from proposedcard where pc_id = 4"_s).toStdString());
+}
+
+TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
+    state_.variables.SetVar(u"@GAMEPERIOD", 4);
+    fire(u"scorebug.csp"_s);
+    game_.feed.handle(u"t2:41t"_s);
+    EXPECT_TRUE(lastLine().startsWith(u"mCG 1-20 UPDATE"_s) && lastLine().contains(u"2:41"_s))
+        << qPrintable(lastLine());
+    form_.at(u"lblAutoScoreA"_s).setText(u"81"_s);
+    for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
+    EXPECT_TRUE(lastLine().contains(u"SCOREA\\\"><data type=\\\"txt\\\" ani=\\\"0\\\" value=\\\"81"_s))
+        << qPrintable(lastLine());
+    switchTo(english() ? u"GR"_s : u"EN"_s);
+    EXPECT_TRUE(lastLine().contains(english() ? u"HBC"_s : u"ΛΙΜ"_s)) << qPrintable(lastLine());
+    EXPECT_TRUE(lastLine().contains(english() ? u"Q4"_s : u"4ο"_s)) << qPrintable(lastLine());
+    fire(u"scorebug_off.csp"_s);
+    const qsizetype sent = graphics_.sent.size();
+    game_.feed.handle(u"t2:40t"_s);
+    EXPECT_EQ(sent, graphics_.sent.size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Packs, Evening, testing::Values("EN", "GR"),
+                         [](const auto& pack) { return std::string(pack.param); });
+
+TEST(Packs, DifferInWordsAlone) {
+    const DemoFolder folder;
+    ASSERT_TRUE(folder.isMade());
+    const QStringList english = folder.scripts(u"EN"_s);
+    EXPECT_EQ(english, folder.scripts(u"GR"_s));
+    for (const QString& card : english)
+        EXPECT_EQ(folder.script(u"EN"_s, card), folder.script(u"GR"_s, card)) << qPrintable(card);
+    const auto names = [&](const QString& pack) {
+        QStringList words;
+        for (const QString& line : folder.script(pack, u"words.inc"_s).split(u'\n')) words += line.section(u';', 0, 0);
+        return words;
+    };
+    EXPECT_EQ(names(u"EN"_s), names(u"GR"_s));
+}
+
+}  // namespace
+}  // namespace zelvor
