@@ -74,6 +74,8 @@ struct Box {
         QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
         QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     }
+    Box(const Box&) = delete;
+    Box& operator=(const Box&) = delete;
 };
 
 void addSeverity(Box& box, Severity severity) {
@@ -167,9 +169,9 @@ std::optional<QString> Boxes::input(const QString& title, const QString& prompt,
 void Boxes::closeAll() {
     if (notice_) notice_->close();
     // From the newest to the oldest: each ends inside the one below it.
-    const auto boxes = open_;
-    for (auto box = boxes.rbegin(); box != boxes.rend(); ++box) {
-        if (*box) (*box)->reject();
+    const std::deque<QPointer<QDialog>> newestFirst(open_.rbegin(), open_.rend());
+    for (const QPointer<QDialog>& box : newestFirst) {
+        if (box) box->reject();
     }
 }
 

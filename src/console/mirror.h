@@ -20,17 +20,18 @@ class Mirrors {
  public:
     Mirrors(FormModel& form, FormEvents& events) : form_(form), events_(events) {}
 
-    TextLabel* label(const QString& name, int index = -1, const TextLabel::Look& look = {}) const;
+    [[nodiscard]] TextLabel* label(const QString& name, int index = -1, const TextLabel::Look& look = {}) const;
     // A second view of a label's text, in the look's colours.
-    TextLabel* copy(const QString& name, const QString& objectName, const TextLabel::Look& look) const;
-    ConsoleButton* button(const QString& name, int index = -1, const ConsoleButton::Look& look = {}) const;
+    [[nodiscard]] TextLabel* copy(const QString& name, const QString& objectName, const TextLabel::Look& look) const;
+    [[nodiscard]] ConsoleButton* button(const QString& name, int index = -1,
+                                        const ConsoleButton::Look& look = {}) const;
     // With its "L" button inside.
-    CardButton* cardButton(int index) const;
-    QLineEdit* textBox(const QString& name, int index = -1) const;
-    QCheckBox* checkBox(const QString& name) const;
-    QRadioButton* optionButton(const QString& name, int index) const;
+    [[nodiscard]] CardButton* cardButton(int index) const;
+    [[nodiscard]] QLineEdit* textBox(const QString& name, int index = -1) const;
+    [[nodiscard]] QCheckBox* checkBox(const QString& name) const;
+    [[nodiscard]] QRadioButton* optionButton(const QString& name, int index) const;
     // editable: the operator may type a text that is not in the list.
-    QComboBox* list(const QString& name, int index = -1, bool editable = false) const;
+    [[nodiscard]] QComboBox* list(const QString& name, int index = -1, bool editable = false) const;
     // A widget of the panel's own making; its visibility follows the control.
     void panel(QWidget* widget, const QString& name) const;
 

@@ -263,7 +263,7 @@ class ConsoleStyle : public QProxyStyle {
 }  // namespace
 
 void apply(QApplication& application) {
-    application.setStyle(new ConsoleStyle);
+    application.setStyle(new ConsoleStyle);  // NOLINT: the application takes it over
     application.setFont(font(14));
     application.setPalette(palette());
     application.setStyleSheet(styleSheet());

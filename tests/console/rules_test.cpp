@@ -74,6 +74,8 @@ TEST_F(CardRules, ClearRunsTheClearCardAndResetsTheLastButton) {
     console.pressCard(0);
     set(1, 1).on = true;
     set(1, 2).on = true;
+    bench.form.at(u"cmbCARD"_s, 0).setState(u"ON"_s);
+    bench.form.at(u"cmbCARD"_s, 1).setBackColour(colours::kRed);
     EXPECT_EQ(onAir.text(), u"ON AIR");
     EXPECT_EQ(bench.form.at(u"lblONAIRCARD"_s).text(), u"One");
     bench.form.at(u"GradientButtonAIR"_s).setText(u"x"_s);
@@ -82,7 +84,9 @@ TEST_F(CardRules, ClearRunsTheClearCardAndResetsTheLastButton) {
     EXPECT_EQ(bench.form.at(u"lblONAIRLAMP"_s).backColour(), colours::kGreen);
     EXPECT_EQ(bench.form.at(u"GradientButtonAIR"_s).text(), u"CLEAR");
     EXPECT_FALSE(set(1, 1).on);
+    EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 0).state(), u"OFF");
     EXPECT_TRUE(set(1, 2).on) << "only the button fired last is reset";
+    EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 1).backColour(), colours::kRed);
     EXPECT_EQ(bench.state.lastFiredButton, -1);
 }
 

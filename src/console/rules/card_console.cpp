@@ -77,8 +77,12 @@ void CardConsole::CLEAR_TV() {
     form_.at(u"GradientButtonAIR"_s).setText(u"CLEAR"_s);
     if (state_.lastFiredButton >= 0) {
         state_.cards.entry(lastFiredSet_, state_.lastFiredButton + 1).on = false;
+        if (lastFiredSet_ == state_.currentSet) {
+            Control& button = form_.at(u"cmbCARD"_s, state_.lastFiredButton);
+            button.setState(u"OFF"_s);
+            button.setBackColour(std::nullopt);
+        }
         state_.lastFiredButton = -1;
-        showCurrentSet(state_, form_);
     }
     Q_EMIT cardsChanged();
 }
