@@ -91,9 +91,9 @@ std::vector<Group> groups() {
          "ignored.\n"_s,
          feedback()},
         {u"Questions and queries"_s,
-         u"\nThe rows of a query are `{1|0}`, `{1|1}` ... `{2|0}` ...: rows from 1, columns from 0. A query without "
-         u"rows "
-         "or with an error ends the card and shows NO DATA.\n"_s,
+         u"\nThe rows of a query are `{1|0}`, `{1|1}` ... `{2|0}` ...: rows from 1, columns from 0. A query "
+         "without rows or with an error ends the card and shows NO DATA. `EXECSQL` replaces the placeholders of its "
+         "text.\n"_s,
          askAndQuery()},
     };
 }
@@ -128,7 +128,8 @@ void addCommand(QTextStream& page, const Command& command, const QHash<QString, 
     QString effect = command.summary.toString();
     effect[0] = effect[0].toUpper();
     page << "\n\n" << effect << '.';
-    if (command.argument == Command::Argument::Raw) page << " Placeholders in its argument stay.";
+    if (command.argument != Command::Argument::Expanded && !command.usage.isEmpty())
+        page << " Placeholders in its argument stay.";
     page << '\n';
     const Example example = examples.value(word);
     if (example.script.isEmpty()) return;

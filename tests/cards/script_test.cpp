@@ -7,6 +7,7 @@
 //   # says > TEXT                      what messages and questions hold, in this order, all on one line
 //   # error > 9 @ 3                    the run ends with this error, at this line where one is given
 //   # status > 3                       the exit status, where it is neither 0 nor 1 for an error
+//   # example > WORD                   what follows is that command's example in docs/commands.md
 
 #include <gtest/gtest.h>
 

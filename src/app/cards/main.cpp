@@ -26,7 +26,7 @@ const QString kHelp =
   --version          the program's version
 
   /PREVIEW           starts the preview instance: no game feed
-  CONNECTION         a number: the database connection to take without asking
+  CONNECTION         a number: the database connection to propose; 1 without
 )"_s;
 
 }  // namespace
