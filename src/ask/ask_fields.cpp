@@ -41,7 +41,7 @@ void readAskFields(const QStringList& lines, std::vector<AskField>& fields, int&
         if (fields.size() <= static_cast<size_t>(number)) fields.resize(number + 1);
         for (int pair = 0; pair < kAskFieldLines; ++pair) {
             if (lineNo == lines.size()) {
-                throw RunTimeError(ErrorNumber::InputPastEndOfFile, u"ASKFIELDS.TXT, field %1"_s.arg(number));
+                throw RunTimeError(ErrorNumber::InputPastEndOfFile, u"field %1"_s.arg(number));
             }
             const QString& line = lines[lineNo++];
             QString* const known = member(fields[number], line.section(u':', 0, 0).trimmed());
@@ -51,11 +51,15 @@ void readAskFields(const QStringList& lines, std::vector<AskField>& fields, int&
 }
 
 void LOAD_ASK(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap) {
-    trap.run({u"mGLOBAL.LOAD_ASK"_s}, ErrorTrap::Tell::Operator, [&] {
+    ErrorPlace place{u"mGLOBAL.LOAD_ASK"_s};
+    trap.run(place, ErrorTrap::Tell::Operator, [&] {
         state.ask.ASK_FIELDS.assign(AskState::kSmallestTable, {});
-        int lineNo = 0;
-        readAskFields(files.readLines(folder.resolve(folder.packFile(state.language(), u"ASKFIELDS.TXT"))),
-                      state.ask.ASK_FIELDS, lineNo);
+        const QStringList lines = files.readLines(folder.resolve(folder.packFile(state.language(), u"ASKFIELDS.TXT")));
+        try {
+            readAskFields(lines, state.ask.ASK_FIELDS, place.line);
+        } catch (const RunTimeError& error) {
+            throw RunTimeError::withText(error.code(), error.text() + u": ASKFIELDS.TXT"_s);
+        }
     });
 }
 

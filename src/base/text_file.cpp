@@ -11,12 +11,12 @@
 
 namespace zelvor {
 
-void throwOpenError(const QString& path, QFileDevice::FileError error) {
+void throwOpenError(const QString& path, QFileDevice::FileError error, Opening opening) {
     const QFileInfo info(path);
     if (info.isDir()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     if (!info.dir().exists()) throw RunTimeError(ErrorNumber::PathNotFound, path);
     if (error == QFileDevice::ResourceError) throw RunTimeError(ErrorNumber::DiskFull, path);
-    if (info.exists()) throw RunTimeError(ErrorNumber::PermissionDenied, path);
+    if (info.exists() || opening == Opening::ForWriting) throw RunTimeError(ErrorNumber::PermissionDenied, path);
     throw RunTimeError(ErrorNumber::FileNotFound, path);
 }
 
@@ -51,8 +51,11 @@ QString TextFiles::decode(const QByteArray& bytes) const {
 }
 
 QByteArray TextFiles::encode(const QString& text) const {
+    constexpr char kNoPlace = '\x1A';  // what the encoder writes for a character that the code page does not have
     QStringEncoder encoder(writingCodePage_.constData());
-    return encoder.encode(text);
+    QByteArray bytes = encoder.encode(text);
+    if (!text.contains(QLatin1Char(kNoPlace))) bytes.replace(kNoPlace, '?');
+    return bytes;
 }
 
 QStringList splitLines(const QString& text) {
@@ -70,7 +73,7 @@ QStringList splitLines(const QString& text) {
 
 void replaceFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) throwOpenError(path, file.error());
+    if (!file.open(QIODevice::WriteOnly)) throwOpenError(path, file.error(), Opening::ForWriting);
     file.write(bytes);
     if (!file.commit()) {
         const bool full = file.error() == QFileDevice::WriteError || file.error() == QFileDevice::ResourceError;

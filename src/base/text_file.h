@@ -40,6 +40,8 @@ QStringList splitLines(const QString& text);
 void replaceFile(const QString& path, const QByteArray& bytes);
 
 // Throws the error that a file which could not be opened stands for: 53, 61, 70, 75 or 76 with the path.
-[[noreturn]] void throwOpenError(const QString& path, QFileDevice::FileError error);
+enum class Opening { ForReading, ForWriting };
+[[noreturn]] void throwOpenError(const QString& path, QFileDevice::FileError error,
+                                 Opening opening = Opening::ForReading);
 
 }  // namespace zelvor

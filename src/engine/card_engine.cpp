@@ -52,6 +52,9 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
             CardRun(*this, script, name, autoRun, keepStates, place).execute();
         } catch (const ProgramClosing&) {
             outcome = Outcome::Closed;
+        } catch (const RunTimeError&) {
+            if (!state_.closing) throw;
+            outcome = Outcome::Closed;  // what failed was already told, with the program's end
         }
     });
     --depth_;

@@ -24,10 +24,16 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
 }  // namespace
 
 QString cleanedScriptLine(QString line) {
-    return line.remove(u'\t').trimmed();
+    line.remove(u'\t');
+    qsizetype first = 0;
+    qsizetype last = line.size();
+    // Blanks alone: a no-break space may hold a width on the air.
+    while (first < last && line[first] == u' ') ++first;
+    while (last > first && line[last - 1] == u' ') --last;
+    return line.mid(first, last - first);
 }
 
-ScriptLine::ScriptLine(const QString& line) : text(line) {
+ScriptLine::ScriptLine(QString line) : text(std::move(line)) {
     const Pieces items(text, u'~');
     if (items.count() == 0) return;
     const QString word = items[0].trimmed().toString().toUpper();

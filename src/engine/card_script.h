@@ -17,7 +17,7 @@ struct LineCondition;
 
 // One line of a script, taken apart once.
 struct ScriptLine {
-    explicit ScriptLine(const QString& line);
+    explicit ScriptLine(QString line);
 
     QString text;
     const Command* command = nullptr;  // null for a comment and for any unknown word

@@ -7,7 +7,8 @@ namespace zelvor {
 void OutputFiles::open(const QString& path) {
     file_.close();
     file_.setFileName(path);
-    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) throwOpenError(path, file_.error());
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        throwOpenError(path, file_.error(), Opening::ForWriting);
 }
 
 void OutputFiles::writeLine(const QString& text) {

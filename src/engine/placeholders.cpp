@@ -158,6 +158,7 @@ bool ExpandableText::appendPieces(QString& out, VariableStore& variables) const 
         if (piece.name.isEmpty()) continue;
         const qsizetype start = out.size();
         variables.GetVar(piece.name).appendTo(out);
+        if (out.size() > kLargestExpansion) throw RunTimeError(ErrorNumber::OutOfStackSpace, piece.name);
         if (hasBracket(QStringView(out).mid(start))) return false;
     }
     return true;

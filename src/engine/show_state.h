@@ -75,9 +75,10 @@ struct ShowState {
     int lastFiredButton = -1;  // index of the card button fired last, -1 when none
     QString lastCard;          // script of the card shown last, empty after no data
     bool playerSelected = false;
-    int unattendedRuns = 0;  // runs under way of cards that a timer or the feed has fired
-    bool preview = false;    // the program's command line holds "/PREVIEW"
-    bool closing = false;    // set once when the program ends; runs that wait then end at once
+    bool scanningProposals = false;  // proposals are being fired; a scan inside one of them does nothing
+    int unattendedRuns = 0;          // runs under way of cards that a timer or the feed has fired
+    bool preview = false;            // the program's command line holds "/PREVIEW"
+    bool closing = false;            // set once when the program ends; runs that wait then end at once
 
     [[nodiscard]] QString language() const { return variables.text(u"@LANGUAGE"); }
 };

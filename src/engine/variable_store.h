@@ -11,7 +11,8 @@
 namespace zelvor {
 
 // An insertion-ordered table from name to value. Names are compared exactly. Setting a name that exists moves it to
-// the end of the order. Get, set and remove do not depend on how many names there are.
+// the end of the order. Get, set and remove do not depend on how many names there
+// are, but for names that come and go once prefixes have been removed: those cost the logarithm of it.
 class VariableStore {
  public:
     VariableStore() = default;

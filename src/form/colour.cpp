@@ -38,9 +38,9 @@ Colour parseColour(QStringView text) {
     if (named != kNamedColours.end()) return named->colour;
     double number = 0;
     if (trimmed.startsWith(u"&H", Qt::CaseInsensitive)) {
-        // Not by readNumber(): a colour of 16 bits, as &HFF00, is no negative number.
+        // Not by readNumber(): a colour of 16 bits, as &HFF00 or &HFF00&, is no negative number.
         bool ok = false;
-        number = trimmed.mid(2).toUInt(&ok, 16);
+        number = trimmed.mid(2, trimmed.size() - (trimmed.endsWith(u'&') ? 3 : 2)).toUInt(&ok, 16);
         if (!ok) throw RunTimeError(ErrorNumber::TypeMismatch, trimmed.toString());
     } else if (!readNumber(trimmed, number)) {
         throw RunTimeError(ErrorNumber::TypeMismatch, trimmed.toString());

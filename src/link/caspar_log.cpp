@@ -29,7 +29,8 @@ QString oneLine(QString text) {
 void CasparLog::start(const QDateTime& now) {
     file_.close();
     file_.setFileName(folder_.resolve(folder_.modulesFile(u"CASPAROUT.TXT")));
-    if (!file_.open(QIODevice::Append | QIODevice::Unbuffered)) throwOpenError(file_.fileName(), file_.error());
+    if (!file_.open(QIODevice::Append | QIODevice::Unbuffered))
+        throwOpenError(file_.fileName(), file_.error(), Opening::ForWriting);
     write(QString(kRuleLength, u'-'));
     write(u"LOG start at "_s + generalDateText(now, QLocale::system()));
 }

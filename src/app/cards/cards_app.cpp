@@ -27,6 +27,11 @@ CardsApp::CardsApp(const Options& options)
     cards_.answer(events_);
     answerLinks();
     settings_.answer(events_, desktop_);
+    desktop_.addForm(u"frmMAIN"_s, [this] {
+        window_.show();
+        window_.raise();
+        window_.activateWindow();
+    });
     answerDesk();
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, this, [this](int number) { cards_.functionKey(number); });

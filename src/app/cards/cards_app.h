@@ -66,7 +66,7 @@ class CardsApp : public QObject {
     GraphicsLinks links_{form_, clock_, trap_, folder_, files_};
     Connections database_;
     AskFormDialog ask_{state_, database_, trap_};
-    SystemDesktop desktop_;
+    SystemDesktop desktop_{folder_};
     CardEngine engine_{state_, form_, folder_, files_, trap_, {boxes_, ask_, links_, database_, desktop_, clock_}};
     Packs packs_{state_, form_, folder_, files_, trap_, boxes_};
     FormEvents events_{trap_};

@@ -8,7 +8,9 @@
 namespace zelvor {
 
 void SystemDesktop::open(const QString& target) {
-    if (!QDesktopServices::openUrl(QUrl::fromUserInput(target))) throw RunTimeError(ErrorNumber::FileNotFound, target);
+    const QUrl url =
+        folder_.exists(target) ? QUrl::fromLocalFile(folder_.resolve(target)) : QUrl::fromUserInput(target);
+    if (!QDesktopServices::openUrl(url)) throw RunTimeError(ErrorNumber::FileNotFound, target);
 }
 
 void SystemDesktop::loadForm(const QString& name) {

@@ -44,7 +44,6 @@ AskForm::AskForm(PickList& list, const ShowState& state, QWidget* parent) : QDia
 
     connect(view, &PickListView::chosen, this, &AskForm::choose);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(this, &QDialog::rejected, this, [this] { list_.cancel(); });
     auto* closingCheck = new QTimer(this);
     connect(closingCheck, &QTimer::timeout, this, [this, &state] {
         if (state.closing) reject();
@@ -61,8 +60,16 @@ AskForm::AskForm(PickList& list, const ShowState& state, QWidget* parent) : QDia
 }
 
 void AskForm::choose(int row) {
-    list_.choose(row);
+    chosenRow_ = row;
     accept();
+}
+
+void AskForm::answer() {
+    if (exec() == QDialog::Accepted) {
+        list_.choose(chosenRow_);
+    } else {
+        list_.cancel();
+    }
 }
 
 void AskFormDialog::show() {
@@ -71,7 +78,7 @@ void AskFormDialog::show() {
         list.cancel();
         return;
     }
-    AskForm(list, state_, window_).exec();
+    AskForm(list, state_, window_).answer();
 }
 
 }  // namespace zelvor

@@ -12,13 +12,18 @@ class AskForm : public QDialog {
     Q_OBJECT
 
  public:
-    // list: outlives this form, and is answered when exec() returns.
+    // list: outlives this form.
     AskForm(PickList& list, const ShowState& state, QWidget* parent);
+
+    // Shows the form until it is closed and only then answers the list: a timed card that runs in the same moment
+    // would overwrite an answer given earlier.
+    void answer();
 
  private:
     void choose(int row);
 
     PickList& list_;
+    int chosenRow_ = -1;
 };
 
 // Shows an AskForm, centred on the console, for each pick list.

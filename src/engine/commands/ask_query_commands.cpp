@@ -71,7 +71,7 @@ void SQLU(CardRun& run, const Arguments& args) {
 void marker(CardRun&, const Arguments&) {}
 
 void LOADFORM(CardRun& run, const Arguments& args) {
-    static constexpr std::array<QStringView, 3> kForms{u"frmMAIN", u"frmASK", u"frmGENERAL"};
+    static constexpr std::array<QStringView, 2> kForms{u"frmMAIN", u"frmGENERAL"};
     const QString name = args.raw().trimmed();
     const auto form =
         std::ranges::find_if(kForms, [&](QStringView known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
@@ -95,7 +95,7 @@ constexpr std::array kCommands{
     Command{u"SQLU", SQLU, Argument::Expanded, u"statement", u"runs a statement that gives no rows"},
     Command{u"RTX", marker, Argument::None, u"[text]", u"a mark without effect"},
     Command{u"RTXS", marker, Argument::None, u"[text]", u"a mark without effect"},
-    Command{u"LOADFORM", LOADFORM, Argument::Raw, u"name", u"shows frmMAIN, frmASK or frmGENERAL"},
+    Command{u"LOADFORM", LOADFORM, Argument::Raw, u"name", u"shows frmMAIN or frmGENERAL"},
 };
 
 }  // namespace

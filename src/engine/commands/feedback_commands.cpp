@@ -1,5 +1,7 @@
 // What a card leaves behind for the operator and for other cards: labels, tags, the on-air table, proposals.
 
+#include <QScopedValueRollback>
+
 #include "base/number.h"
 #include "engine/auto_tags.h"
 #include "engine/card_run.h"
@@ -108,6 +110,9 @@ void scanProposal(CardRun& run, Control& label) {
 }
 
 void SCANPROPOSED(CardRun& run, const Arguments&) {
+    // A proposal stays open while its card runs: a card that scans itself would fire it again without end.
+    if (run.state().scanningProposals) return;
+    const QScopedValueRollback scanning(run.state().scanningProposals, true);
     for (Control* label : run.form().named(u"lblPROPOSED"_s)) scanProposal(run, *label);
 }
 

@@ -22,6 +22,7 @@ void FOREACHREC(CardRun& run, const Arguments& args) {
 }
 
 void ROF(CardRun& run, const Arguments&) {
+    if (run.loop.start == 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"ROF without FOREACHREC"_s);
     run.loop.counter += 1;
     run.variables().SetVar(run.loop.variable, static_cast<qint64>(run.loop.counter));
     if (run.loop.counter <= run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) run.jumpTo(run.loop.start);
