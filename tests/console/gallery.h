@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
@@ -12,17 +11,9 @@
 #include <memory>
 
 #include "app_cards/cards_app.h"
+#include "support/wait.h"
 
 namespace zelvor::test {
-
-template <class Condition>
-bool waitUntil(Condition&& holds) {
-    const QDeadlineTimer deadline(30000);
-    QTimer alarm;
-    alarm.start(20);
-    while (!holds() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return holds();
-}
 
 // A graphics server of the test's own: answers each line, keeps what it is sent.
 class LinePeer : public QTcpServer {

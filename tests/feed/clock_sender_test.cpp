@@ -52,7 +52,7 @@ TEST(ClockSender, CountsDownAndUpToTheEnd) {
         EXPECT_EQ(status, 0);
         const auto count = each.heard.count(u' ') + 1;
         EXPECT_TRUE(printed.endsWith(QString::number(count) + u" datagrams sent\n"_s)) << printed.toStdString();
-        EXPECT_TRUE(Studio::waitUntil([&] { return receiver.heard.size() == count; }));
+        EXPECT_TRUE(waitUntil([&] { return receiver.heard.size() == count; }));
         EXPECT_EQ(receiver.heard.join(u' '), each.heard);
     }
 }
@@ -68,10 +68,10 @@ TEST(ClockSender, PausesAndGoesOn) {
     QObject::connect(&sender, &ClockSender::finished, &receiver, [&] { finished = true; });
     sender.start();
     sender.togglePause();
-    EXPECT_TRUE(Studio::waitUntil([&] { return receiver.heard.size() >= 4; }));
+    EXPECT_TRUE(waitUntil([&] { return receiver.heard.size() >= 4; }));
     EXPECT_EQ(receiver.heard.count(u"pause"_s), receiver.heard.size() - 1) << "it says so for as long as it is stopped";
     sender.togglePause();
-    EXPECT_TRUE(Studio::waitUntil([&] { return finished && receiver.heard.size() == sender.sent(); }));
+    EXPECT_TRUE(waitUntil([&] { return finished && receiver.heard.size() == sender.sent(); }));
     EXPECT_EQ(receiver.heard.first(), u"t0:01t"_s);
     EXPECT_EQ(receiver.heard.last(), u"t0:00t"_s);
 }

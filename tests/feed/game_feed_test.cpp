@@ -100,7 +100,7 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     studio.clock.time.setTime(QTime(20, 31, 7));
     const QByteArray large = "t" + QByteArray(65000, '1') + "t";
     studio.sendToFeed({"", large, QByteArray("\0t\xff\x80t", 5), "t2:42t", "pause", "t2:41t"});
-    EXPECT_TRUE(Studio::waitUntil([&] { return studio.taken() == 6; }));
+    EXPECT_TRUE(waitUntil([&] { return studio.taken() == 6; }));
     EXPECT_EQ(studio.desk.feedStatus.refusedCount(), 3);
     EXPECT_EQ(words.text(), u"feed 2:41, 3 refused"_s);
 
@@ -113,7 +113,7 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     EXPECT_EQ(words.text(), u"feed silent since 20:31:07"_s);
     EXPECT_EQ(studio.at("lblTime").foreColour(), colours::kRed);
     studio.sendToFeed({"pause"});
-    EXPECT_TRUE(Studio::waitUntil([&] { return studio.taken() == 7; }));
+    EXPECT_TRUE(waitUntil([&] { return studio.taken() == 7; }));
     EXPECT_EQ(words.text(), u"feed paused, 3 refused"_s);
     EXPECT_EQ(studio.at("lblTime").foreColour(), std::nullopt);
 }
@@ -134,13 +134,13 @@ TEST(FeedSocket, HandlesNoDatagramInsideAnother) {
             QList<QByteArray> more;
             for (int i = 1; i <= kMore; ++i) more += 't' + QByteArray::number(i) + 't';
             studio.sendToFeed(more);
-            EXPECT_TRUE(Studio::waitUntil([&] { return studio.desk.feedSocket.waiting() == kMore; }));
+            EXPECT_TRUE(waitUntil([&] { return studio.desk.feedSocket.waiting() == kMore; }));
         }
         QCoreApplication::processEvents();
         --depth;
     };
     studio.sendToFeed({"t0t"});
-    EXPECT_TRUE(Studio::waitUntil([&] { return studio.taken() == kMore + 1; }));
+    EXPECT_TRUE(waitUntil([&] { return studio.taken() == kMore + 1; }));
     EXPECT_EQ(deepest, 1);
     QStringList expected;
     for (int i = 0; i <= kMore; ++i) expected += u"mCG 1-1 PLAY "_s + QString::number(i);

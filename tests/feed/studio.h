@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QUdpSocket>
 
 #include "feed/game_desk.h"
 #include "support/fake_ports.h"
+#include "support/wait.h"
 
 namespace zelvor::test {
 
@@ -34,12 +34,6 @@ struct Studio : EngineBench {
         }
     }
     qint64 taken() const { return desk.feedStatus.handledCount() + desk.feedStatus.refusedCount(); }
-    template <class Condition>
-    static bool waitUntil(Condition&& holds) {
-        const QDeadlineTimer deadline(30000);
-        while (!holds() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        return holds();
-    }
 
     GameDesk desk{engine, trap};
     QUdpSocket sender;

@@ -1,25 +1,13 @@
 #pragma once
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
 
 #include "link/link_console.h"
 #include "support/fake_ports.h"
+#include "support/wait.h"
 
 namespace zelvor::test {
-
-// Handles events until the condition holds; false when it does not within 30 s.
-template <class Condition>
-bool waitUntil(Condition&& holds) {
-    const QDeadlineTimer deadline(30000);
-    QTimer alarm;
-    alarm.start(30000);
-    while (!holds() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return holds();
-}
 
 // Half past eight in the evening; the pause before "PLAY" is what the test makes of it.
 class StudioClock : public FakeClock {
