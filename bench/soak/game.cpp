@@ -1,0 +1,299 @@
+#include "game.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kPace = 2;               // milliseconds between looks at the plan
+constexpr int kScoreChanges = 100;     // a tenth of a point a second of game time
+constexpr double kServerAway = 1;      // seconds
+constexpr double kReconnected = 4;     // seconds after the server went: its way back takes two seconds at most
+constexpr long kMemoryAllowed = 4096;  // KiB
+constexpr int kQuarterSeconds = 600;
+constexpr int kFunctionKeysFired = 4;  // the fifth clears
+
+// The history and the log file hold the cards' own notes, too.
+bool isOnTheWire(const QByteArray& line) {
+    return line.startsWith("CG ") || line.startsWith("CLEAR ");
+}
+
+QString clockText(qint64 second) {
+    const qint64 left = kQuarterSeconds - second % kQuarterSeconds;
+    return u"%1:%2"_s.arg(left / 60).arg(left % 60, 2, 10, QChar(u'0'));
+}
+
+}  // namespace
+
+Game::Game(ConsoleDesk& desk, double seconds)
+    : desk_(desk),
+      seconds_(seconds),
+      peer_({[this] { arrived_.beginConnection(); }, [this](std::string_view line) { arrived_.add(line); }}) {
+    pace_.setTimerType(Qt::PreciseTimer);
+    connect(&pace_, &QTimer::timeout, this, &Game::turn);
+}
+
+void Game::play() {
+    GraphicsLinks& links = desk_.app().links();
+    connect(&links, &GraphicsLinks::lineSent, this, [this](LinkId, const QString& line) { noteSent(line); });
+    connect(&links.link(LinkId::Main), &CasparLink::stateChanged, this, [this](LinkState state) {
+        if (state == LinkState::Connected) sent_.beginConnection();
+    });
+    boxesBefore_ = desk_.boxes.size();
+    if (!peer_.start()) return fault(u"no local server"_s);
+    desk_.check("chkRECONNECT", true);
+    desk_.check("chkLOGFILE", true);
+    desk_.connectMain(peer_.port());
+    checkConnected(u"at the start"_s);
+
+    const double speed = kClockSeconds / seconds_;
+    auto* timedCards = desk_.app().desk().timedCards.findChild<QTimer*>(u"tmrCARD"_s);
+    timedCards->setTimerType(Qt::PreciseTimer);
+    timedCards->setInterval(std::max(1, static_cast<int>(TimedCards::kInterval / speed)));
+    plan();
+    desk_.answerPickLists();
+    time_.start();
+    pace_.start(kPace);
+    while (clocks_ <= kClockSeconds || busy_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    pace_.stop();
+    // What is on its way arrives.
+    const QDeadlineTimer settled(1000);
+    while (!settled.hasExpired()) QCoreApplication::processEvents(QEventLoop::AllEvents, kPace);
+}
+
+void Game::plan() {
+    events_.push_back({seconds_ * 0.1, [this] { early_ = residentKilobytes(); }});
+    for (int quarter = 0; quarter < 4; ++quarter)
+        events_.push_back({seconds_ * quarter / 4, [this, quarter] { desk_.at("cbQt").setPosition(quarter); }});
+    events_.push_back({seconds_ * 0.5, [this] { setManual(true); }});
+    events_.push_back({seconds_ * 0.75, [this] { setManual(false); }});
+    planFires();
+    planScores();
+    planServer(seconds_ * 0.30, GraphicsPeer::End::Orderly);
+    planServer(seconds_ * 0.65, GraphicsPeer::End::Abrupt);
+    planDatabase();
+    std::stable_sort(events_.begin(), events_.end(), [](const Event& a, const Event& b) { return a.at < b.at; });
+}
+
+void Game::planFires() {
+    const CardTable& table = desk_.app().state().cards;
+    for (int set = 1; set <= CardConsole::kSelectors; ++set)
+        for (int row = 1; row <= CardTable::kCards; ++row)
+            if (!table.sets.at(set).at(row).script.isEmpty()) cards_.emplace_back(set, row - 1);
+    for (int i = 0; i < kFires; ++i) events_.push_back({seconds_ * (i + 0.5) / kFires, [this, i] { fire(i); }});
+}
+
+void Game::planScores() {
+    for (int i = 0; i < kScoreChanges; ++i)
+        events_.push_back({seconds_ * (i + 0.25) / kScoreChanges, [this, i] { changeScore(i); }});
+}
+
+void Game::planServer(double at, GraphicsPeer::End end) {
+    events_.push_back({at, [this, end] { peer_.stop(end); }});
+    events_.push_back({at + kServerAway, [this] {
+                           if (desk_.app().links().state(LinkId::Main) == Graphics::kConnected)
+                               fault(u"the link did not notice that the server went"_s);
+                           if (!peer_.start()) fault(u"the server's port is taken"_s);
+                       }});
+    events_.push_back({at + kReconnected, [this] { checkConnected(u"after a restart of the server"_s); }});
+}
+
+// Another program takes the tables away and brings them back: queries fail meanwhile, on the connection that is open.
+void Game::planDatabase() {
+    events_.push_back({seconds_ * 0.45, [this] {
+                           if (desk_.boxes.size() != boxesBefore_) fault(u"a box: "_s + desk_.boxes.last());
+                           if (const QByteArray errors = desk_.read(u"errors.log"_s); !errors.isEmpty())
+                               fault(u"error log: "_s + QString::fromUtf8(errors));
+                           boxesBefore_ = desk_.boxes.size();
+                           moveTables(u"alter table %1 rename to away_%1;"_s);
+                           databaseOut_ = true;
+                       }});
+    events_.push_back({seconds_ * 0.5, [this] {
+                           moveTables(u"alter table away_%1 rename to %1;"_s);
+                           databaseOut_ = false;
+                           boxesInOutage_ = desk_.boxes.size() - boxesBefore_;
+                           errorsAfterOutage_ = desk_.read(u"errors.log"_s);
+                           if (boxesInOutage_ == 0) fault(u"nobody was told that the database is away"_s);
+                       }});
+}
+
+void Game::moveTables(const QString& sql) {
+    if (!desk_.changeDatabase(sql.arg(u"game"_s) + sql.arg(u"proposedcard"_s)))
+        fault(u"another program cannot rename the tables"_s);
+}
+
+// Clocks go out whatever the console is at; the operator does one thing after the other.
+void Game::turn() {
+    sendClock();
+    if (busy_ || ConsoleDesk::atAQuestion() || nextEvent_ == events_.size()) return;
+    if (static_cast<double>(time_.elapsed()) < events_[nextEvent_].at * 1000) return;
+    busy_ = true;
+    events_[nextEvent_++].step();
+    busy_ = false;
+}
+
+void Game::sendClock() {
+    const double now = static_cast<double>(time_.elapsed()) / 1000 / seconds_ * kClockSeconds;
+    const auto send = [this](const QString& text) {
+        feed_.writeDatagram('t' + text.toLatin1() + 't', QHostAddress::LocalHost, desk_.app().desk().feedSocket.port());
+        ++clocks_;
+    };
+    while (clocks_ < kClockSeconds && static_cast<double>(clocks_) <= now) send(clockText(clocks_));
+    // The last one when all is done, so that it must be what is on air in the end.
+    if (clocks_ == kClockSeconds && now >= kClockSeconds && nextEvent_ == events_.size() && !busy_) send(u"0:00"_s);
+}
+
+void Game::fire(int number) {
+    ++fired_;
+    const bool clockRuns = desk_.app().state().switches.IsTimeCard;
+    if (!clockRuns || number == kFires - 1) return desk_.press(Qt::Key_F1);
+    if (number % 10 == 3) return desk_.press(static_cast<Qt::Key>(Qt::Key_F1 + number / 10 % kFunctionKeysFired));
+    if (number % 15 == 7) return desk_.click("lblPROPOSED", 1 + number / 15 % 5);
+    fireCard(number);
+}
+
+void Game::fireCard(int number) {
+    if (number % 6 == 5) {
+        desk_.click("lblHPLAYERS", number / 6 % 12);
+        desk_.click("lblAPLAYERS", number / 7 % 12, Qt::RightButton);
+    }
+    const auto [set, button] = cards_[static_cast<std::size_t>(number) * 37 % cards_.size()];
+    desk_.click("GradientButtonS", set - 1);
+    desk_.click("cmbCARD", button);
+}
+
+// In the third quarter by hand, else by the database: another program writes, the operator reads it anew.
+void Game::changeScore(int number) {
+    const int side = number % 3 == 0 ? 1 : 0;
+    if (isManual_) {
+        desk_.click("cmdMANSCORE", 2 * side);
+        ++manual_.at(side);
+    } else if (!databaseOut_) {
+        ++automatic_.at(side);
+        writeScores();
+        desk_.choose("mnReloadVar");
+        ++reloads_;
+    }
+    if (!databaseOut_) checkScores();
+}
+
+void Game::writeScores() {
+    const QString sql = u"update game set home_score = %1, away_score = %2 where game_id = 2;"_s;
+    if (!desk_.changeDatabase(sql.arg(automatic_[0]).arg(automatic_[1])))
+        fault(u"the database cannot be written by another program"_s);
+}
+
+void Game::setManual(bool manual) {
+    desk_.check("chkMANUAL", manual);
+    isManual_ = manual;
+    if (manual) manual_ = {desk_.at("lblScoreA").text().toInt(), desk_.at("lblScoreB").text().toInt()};
+    checkScores();
+}
+
+void Game::checkScores() {
+    const std::array<int, 2>& scores = isManual_ ? manual_ : automatic_;
+    const QString wanted = u"%1-%2"_s.arg(scores[0]).arg(scores[1]);
+    const QString shown = desk_.at("lblScoreA").text() + u'-' + desk_.at("lblScoreB").text();
+    if (shown != wanted) fault(u"score %1 instead of %2"_s.arg(shown, wanted));
+}
+
+void Game::checkConnected(const QString& when) {
+    if (desk_.app().links().state(LinkId::Main) != Graphics::kConnected)
+        fault(u"not connected "_s + when + u": "_s + desk_.at("lblLINKMAIN").text());
+}
+
+void Game::noteSent(const QString& line) {
+    const QByteArray bytes = line.toUtf8();
+    sent_.add({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    const bool scoreBug = line.startsWith(u"CG 1-20 ");
+    const bool withScore = line.contains(u"SCOREA");
+    if (scoreBug) (withScore ? lastScoreLine_ : lastClockLine_) = line;
+    if (scoreBug && !busy_) ++(withScore ? timedLines_ : feedLines_);
+}
+
+void Game::fault(const QString& what) {
+    faults_ += u"at %1 s: %2"_s.arg(static_cast<double>(time_.elapsed()) / 1000, 0, 'f', 1).arg(what);
+}
+
+void Game::report() {
+    const long late = residentKilobytes();
+    const FeedStatus& feed = desk_.app().desk().feedStatus;
+    std::printf("%d s of game in %.0f s: %d cards fired, scores read from the database %d times\n", kClockSeconds,
+                seconds_, fired_, reloads_);
+    std::printf("clock datagrams: %lld sent, %lld handled, %lld refused\n", static_cast<long long>(clocks_),
+                static_cast<long long>(feed.handledCount()), static_cast<long long>(feed.refusedCount()));
+    std::printf("lines by themselves: %d of the feed's card, %d of the timed card\n", feedLines_, timedLines_);
+    checkLines();
+    std::printf("boxes: %lld while the database was away, %lld else\n", static_cast<long long>(boxesInOutage_),
+                static_cast<long long>(desk_.boxes.size() - boxesBefore_ - boxesInOutage_));
+    std::printf("memory, KiB: %ld after a tenth of the game, %ld at the end (%.3f times)\n", early_, late,
+                static_cast<double>(late) / static_cast<double>(early_));
+    if (feed.handledCount() != clocks_ || feed.refusedCount() != 0) fault(u"datagrams lost"_s);
+    if (fired_ != kFires) fault(u"%1 cards fired"_s.arg(fired_));
+    if (timedLines_ == 0 || feedLines_ == 0) fault(u"no card has run by itself"_s);
+    if (late - early_ > kMemoryAllowed) fault(u"memory grew by %1 KiB"_s.arg(late - early_));
+    checkLeftovers();
+}
+
+// Every line of a connection that ended in order has arrived. Where the server was killed, what it had not read is
+// lost with it, but nothing before that.
+void Game::checkLines() {
+    const auto sent = sent_.connections();
+    const auto arrived = arrived_.connections();
+    std::printf("lines: %zu sent, %zu arrived;", sent_.lineCount(), arrived_.lineCount());
+    for (std::size_t i = 0; i < std::min(sent.size(), arrived.size()); ++i) {
+        const bool killed = i == 1;
+        std::printf(" connection %zu: %zu of %zu%s", i + 1, arrived[i].size(), sent[i].size(),
+                    killed ? " until the server was killed" : "");
+        if (arrived[i].size() > sent[i].size() || !std::equal(arrived[i].begin(), arrived[i].end(), sent[i].begin()))
+            fault(u"connection %1: lines differ"_s.arg(i + 1));
+        if (!killed && arrived[i].size() != sent[i].size()) fault(u"connection %1: lines lost"_s.arg(i + 1));
+    }
+    std::printf("\n");
+    if (sent.size() != 3 || arrived.size() != 3)
+        return fault(
+            u"%1 connections of the console, %2 of the server instead of 3"_s.arg(sent.size()).arg(arrived.size()));
+    checkHistory(sent.back());
+}
+
+// The history's newest lines, and the log file, tell of the same lines.
+void Game::checkHistory(const LineLedger::Connection& sent) {
+    const LineList& history = desk_.app().links().history();
+    const QString mark = u" > "_s;
+    std::size_t compared = 0;
+    for (int row = history.rowCount() - 1; row >= 0 && compared < sent.size(); --row) {
+        const QString text = history.text(row);
+        const QByteArray line = text.mid(text.indexOf(mark) + mark.size()).toUtf8();
+        if (!text.contains(mark) || !isOnTheWire(line)) continue;
+        ++compared;
+        if (LineLedger::numberOf({line.constData(), static_cast<std::size_t>(line.size())}) !=
+            sent[sent.size() - compared])
+            return fault(u"the history differs from what was sent: "_s + text);
+    }
+    if (compared == 0) fault(u"the history is empty"_s);
+
+    desk_.check("chkLOGFILE", false);
+    const QList<QByteArray> log = desk_.read(u"MODULES/CASPAROUT.TXT"_s).split('\n');
+    const auto logged = std::count_if(log.begin(), log.end(), isOnTheWire);
+    if (static_cast<std::size_t>(logged) != sent_.lineCount())
+        fault(u"%1 lines in the log file, %2 were sent"_s.arg(logged).arg(sent_.lineCount()));
+}
+
+void Game::checkLeftovers() {
+    checkScores();
+    checkConnected(u"at the end"_s);
+    for (const QString& title : ConsoleDesk::openDialogs()) fault(u"left open: "_s + title);
+    for (const QString& box : desk_.boxes.mid(boxesBefore_ + boxesInOutage_)) fault(u"a box: "_s + box);
+    if (desk_.read(u"errors.log"_s) != errorsAfterOutage_)
+        fault(u"error log: "_s + QString::fromUtf8(desk_.read(u"errors.log"_s).mid(errorsAfterOutage_.size())));
+    if (!lastClockLine_.contains(u"0:00")) fault(u"the clock on air is not the newest: "_s + lastClockLine_);
+    for (const int score : automatic_)
+        if (!lastScoreLine_.contains(QString::number(score))) fault(u"the score on air is old: "_s + lastScoreLine_);
+}
+
+}  // namespace zelvor
