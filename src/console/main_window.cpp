@@ -51,6 +51,9 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     rows->addLayout(sides, 1);
     rows->addWidget(new KeyBar(mirrors_));
 
+    // The window itself has the keyboard until the operator chooses a box: a stray key must not turn a list.
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     auto* keys = new KeyFilter(*this);
     connect(keys, &KeyFilter::functionKey, this, &MainWindow::functionKey);
 }

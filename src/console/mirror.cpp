@@ -183,6 +183,8 @@ QComboBox* Mirrors::list(const QString& name, int index, bool editable) const {
             widget->clear();
             for (const Control::Item& item : control.items()) widget->addItem(item.text, item.data);
         }
+        // What is being typed is there already; writing it again would move the cursor.
+        if (editable && property == Property::Text && widget->currentText() == control.text()) return;
         if (property == Property::Text || property == Property::Items) {
             widget->setCurrentIndex(control.position());
             if (editable && widget->currentText() != control.text()) widget->setEditText(control.text());

@@ -49,6 +49,8 @@ class TextLabel : public QWidget {
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    // The second press of a double click is no press of its own: a proposal would be taken twice.
+    void mouseDoubleClickEvent(QMouseEvent*) override {}
 
  private:
     // White is what rules write for "no longer marked".

@@ -30,11 +30,11 @@ class CardEngine {
     // is one message; a run-time error ends the run with one message.
     Outcome SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates);
 
-    ShowState& state() { return state_; }
-    FormModel& form() { return form_; }
-    const AppFolder& folder() const { return folder_; }
-    const TextFiles& files() const { return files_; }
-    const Ports& ports() const { return ports_; }
+    [[nodiscard]] ShowState& state() { return state_; }
+    [[nodiscard]] FormModel& form() { return form_; }
+    [[nodiscard]] const AppFolder& folder() const { return folder_; }
+    [[nodiscard]] const TextFiles& files() const { return files_; }
+    [[nodiscard]] const Ports& ports() const { return ports_; }
     Calculator& calculator() { return calculator_; }
 
     // Names the pack's script of a card: ".qrd" and ".QRD" are run as ".csp", any other spelling stays.

@@ -1,11 +1,23 @@
 #include "engine/packs.h"
 
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
 #include "engine/card_table_reader.h"
 #include "engine/on_air.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
+
+namespace {
+
+auto timing(const TimedCard& timed) {
+    return std::tie(timed.card, timed.interval);
+}
+
+}  // namespace
 
 Packs::Packs(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
              Operator& operatorDesk)
@@ -73,12 +85,14 @@ bool Packs::LOAD_CARDS() {
     const bool read = trap_.run(place, ErrorTrap::Tell::Operator, [&] {
         const QString path = folder_.resolve(folder_.packFile(state_.language(), u"CARDS.TXT"));
         const QStringList lines = files_.readLines(path);
-        state_.cards = {};
+        const std::vector<TimedCard> before = std::exchange(state_.cards, {}).timedCards;
         try {
             readCardTable(lines, state_.cards, place.line);
         } catch (const RunTimeError& error) {
             throw RunTimeError::withText(error.code(), error.text() + u": CARDS.TXT"_s);
         }
+        // The same list goes on counting where it was.
+        if (std::ranges::equal(before, state_.cards.timedCards, {}, &timing, &timing)) state_.cards.timedCards = before;
     });
     showCurrentSet(state_, form_);
     return read;

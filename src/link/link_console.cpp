@@ -88,11 +88,17 @@ void LinkConsole::cmdMANUALSEND() {
 }
 
 void LinkConsole::recallOlder() {
-    trapped(u"txtMANUALCASPAR"_s, [&] { form_.at(u"txtMANUALCASPAR"_s).setText(manualLines_.older()); });
+    trapped(u"txtMANUALCASPAR"_s, [&] {
+        Control& box = form_.at(u"txtMANUALCASPAR"_s);
+        box.setText(manualLines_.older(box.text()));
+    });
 }
 
 void LinkConsole::recallNewer() {
-    trapped(u"txtMANUALCASPAR"_s, [&] { form_.at(u"txtMANUALCASPAR"_s).setText(manualLines_.newer()); });
+    trapped(u"txtMANUALCASPAR"_s, [&] {
+        Control& box = form_.at(u"txtMANUALCASPAR"_s);
+        box.setText(manualLines_.newer(box.text()));
+    });
 }
 
 void LinkConsole::choosePreset() {

@@ -11,14 +11,17 @@ void RecallList::add(const QString& line) {
     at_ = lines_.size();
 }
 
-QString RecallList::older() {
+QString RecallList::older(const QString& shown) {
+    if (lines_.isEmpty()) return shown;
+    if (at_ == lines_.size()) typed_ = shown;
     at_ = std::max<qsizetype>(at_ - 1, 0);
-    return lines_.value(at_);
+    return lines_[at_];
 }
 
-QString RecallList::newer() {
-    at_ = std::min(at_ + 1, lines_.size());
-    return lines_.value(at_);
+QString RecallList::newer(const QString& shown) {
+    if (at_ == lines_.size()) return shown;
+    ++at_;
+    return at_ == lines_.size() ? typed_ : lines_[at_];
 }
 
 }  // namespace zelvor

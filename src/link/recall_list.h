@@ -12,13 +12,15 @@ class RecallList {
 
     // Remembers a line as the newest and steps back to behind it. An empty line, or the newest once more, is not kept.
     void add(const QString& line);
-    // The line before the one recalled last; stays on the oldest. Empty when nothing is remembered.
-    QString older();
-    // The line after the one recalled last; empty behind the newest.
-    QString newer();
+    // The line before the one recalled last; stays on the oldest. shown: what stands in the box; it is kept while
+    // lines are recalled, and stays when nothing is remembered.
+    QString older(const QString& shown);
+    // The line after the one recalled last; behind the newest what stood in the box before.
+    QString newer(const QString& shown);
 
  private:
     QStringList lines_;  // oldest first
+    QString typed_;      // what stood in the box before a line was recalled
     qsizetype at_ = 0;
 };
 

@@ -103,7 +103,7 @@ TEST_F(CardRules, TabsShowOnePanelAndLeaveStartElevenAlone) {
 }
 
 TEST_F(CardRules, ClicksReachTheirRules) {
-    FormEvents events(bench.trap);
+    FormEvents events(bench.state, bench.trap);
     console.answer(events);
     bench.form.at(u"lblHPLAYERS"_s, 23).setForeColour(colours::kGreen);
     bench.form.at(u"lblATEAM"_s).setForeColour(colours::kRed);

@@ -71,6 +71,9 @@ TEST_F(PackFiles, TheCardTableIsRead) {
     EXPECT_EQ(u"Last"_s, cards.sets[5][0].caption);
     EXPECT_EQ(u"Score"_s, form.at(u"cmbCARD"_s, 0).text());
     EXPECT_EQ(u"Last"_s, form.at(u"GradientButtonS"_s, 4).text());
+    state.cards.timedCards[0].ticks = 7;
+    ASSERT_TRUE(packs.LOAD_CARDS());
+    EXPECT_EQ(7, state.cards.timedCards[0].ticks) << "an unchanged list goes on counting";
     LoadFkeys(state, form);
     EXPECT_EQ(u"Clock"_s, form.at(u"lblFKEYTITLE"_s, 2).text());
     EXPECT_FALSE(form.at(u"lblFKEYTITLE"_s, 1).visible());

@@ -58,8 +58,12 @@ TEST(RecallList, StepsThroughTheLast50Lines) {
     RecallList lines;
     for (int i = 1; i <= 52; ++i) lines.add(QString::number(i));
     for (const QString& notKept : {u"52"_s, QString()}) lines.add(notKept);
-    const QStringList steps{lines.older(), lines.older(), lines.newer(), lines.newer(), lines.newer()};
-    EXPECT_EQ(steps, (QStringList{u"52"_s, u"51"_s, u"52"_s, QString(), QString()}));
-    for (int i = 0; i < 60; ++i) lines.older();
-    EXPECT_EQ(lines.older(), u"3"_s);
+    QString shown = u"draft"_s;
+    const auto older = [&] { return shown = lines.older(shown); };
+    const auto newer = [&] { return shown = lines.newer(shown); };
+    const QStringList steps{newer(), older(), older(), newer(), newer(), newer()};
+    EXPECT_EQ(steps, (QStringList{u"draft"_s, u"52"_s, u"51"_s, u"52"_s, u"draft"_s, u"draft"_s}));
+    for (int i = 0; i < 60; ++i) older();
+    EXPECT_EQ(older(), u"3"_s);
+    EXPECT_EQ(RecallList().older(u"kept"_s), u"kept"_s);
 }

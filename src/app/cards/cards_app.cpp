@@ -34,7 +34,10 @@ CardsApp::CardsApp(const Options& options)
     });
     answerDesk();
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
-    connect(&window_, &MainWindow::functionKey, this, [this](int number) { cards_.functionKey(number); });
+    connect(&window_, &MainWindow::functionKey, this, [this](int number) {
+        const QScopedValueRollback attended(state_.unattendedRuns, 0);
+        cards_.functionKey(number);
+    });
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     connect(&window_, &MainWindow::closed, this, &CardsApp::close);
 }
@@ -47,8 +50,13 @@ void CardsApp::answerLinks() {
     events_.onClick(u"cmdLASTXML"_s, [this](int) { linkConsole_.cmdLASTXML(); });
     events_.onClick(u"cmdMANUALSEND"_s, [this](int) { linkConsole_.cmdMANUALSEND(); });
     for (const QString& box : {u"txtGASPARIP"_s, u"txtGASPARPORT"_s}) {
-        events_.onEnter(box, [this](int) { linkConsole_.cmdGASPARCONNECT(); });
-        events_.onEnter(box + u"REMOTE"_s, [this](int) { linkConsole_.cmdGASPARCONNECTREMOTE(); });
+        // Enter connects; it never drops a link that is on air.
+        events_.onEnter(box, [this](int) {
+            if (form_.at(u"cmdGASPARCONNECT"_s).tag() == u"connect") linkConsole_.cmdGASPARCONNECT();
+        });
+        events_.onEnter(box + u"REMOTE"_s, [this](int) {
+            if (form_.at(u"cmdGASPARCONNECTREMOTE"_s).tag() == u"connect") linkConsole_.cmdGASPARCONNECTREMOTE();
+        });
     }
     events_.onEnter(u"txtMANUALCASPAR"_s, [this](int) { linkConsole_.cmdMANUALSEND(); });
     connect(&window_, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);

@@ -69,7 +69,7 @@ class CardsApp : public QObject {
     SystemDesktop desktop_{folder_};
     CardEngine engine_{state_, form_, folder_, files_, trap_, {boxes_, ask_, links_, database_, desktop_, clock_}};
     Packs packs_{state_, form_, folder_, files_, trap_, boxes_};
-    FormEvents events_{trap_};
+    FormEvents events_{state_, trap_};
     CardConsole cards_{engine_};
     GameDesk desk_{engine_, trap_};
     LinkConsole linkConsole_;

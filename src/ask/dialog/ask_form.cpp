@@ -1,5 +1,6 @@
 #include "ask_dialog/ask_form.h"
 
+#include <QEventLoop>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -25,10 +26,12 @@ QString countText(size_t rows) {
 
 }  // namespace
 
-AskForm::AskForm(PickList& list, const ShowState& state, QWidget* parent) : QDialog(parent), list_(list) {
+AskForm::AskForm(PickList& list, const ShowState& state, QWidget* parent)
+    : QDialog(parent), list_(list), unattended_(state.unattendedRuns > 0) {
     setObjectName(u"frmASK"_s);
     setWindowTitle(list.title());
-    setModal(true);
+    setModal(!unattended_);
+    setAttribute(Qt::WA_ShowWithoutActivating, unattended_);
 
     auto* header = new QLabel(countText(list.rows().size()), this);
     header->setObjectName(u"lblASKCOUNT"_s);
@@ -65,7 +68,15 @@ void AskForm::choose(int row) {
 }
 
 void AskForm::answer() {
-    if (exec() == QDialog::Accepted) {
+    if (unattended_) {
+        QEventLoop closed;
+        connect(this, &QDialog::finished, &closed, &QEventLoop::quit);
+        QDialog::show();
+        closed.exec();
+    } else {
+        exec();
+    }
+    if (result() == QDialog::Accepted) {
         list_.choose(chosenRow_);
     } else {
         list_.cancel();

@@ -23,6 +23,7 @@ class AskForm : public QDialog {
     void choose(int row);
 
     PickList& list_;
+    bool unattended_;  // a timer or the feed fired the card: the keyboard stays where it is
     int chosenRow_ = -1;
 };
 

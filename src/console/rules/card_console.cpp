@@ -32,7 +32,7 @@ void CardConsole::answer(FormEvents& events) {
     events.onClick(u"cmdINVOKE"_s, [this](int) { run(u"invoke.csp"_s); });
     events.onClick(u"cmdAUTO5ADA"_s, [this](int) { run(u"auto5ada.csp"_s); });
     events.onClick(u"cmdCLEARTAG"_s, [this](int) { clearTag(); });
-    events.onMouseDown(u"lblFKEYTITLE"_s, [this](int index, Qt::MouseButton) { functionKey(index + 1); });
+    events.onClick(u"lblFKEYTITLE"_s, [this](int index) { functionKey(index + 1); });
 }
 
 void CardConsole::pressCard(int index) {
@@ -116,6 +116,7 @@ void CardConsole::SHOW_AUTO_CARD() {
 }
 
 void CardConsole::showLoaded() {
+    state_.lastFiredButton = -1;  // a button of the cards before
     LoadFkeys(state_, form_);
     showSwitches();
     Q_EMIT loaded();
