@@ -13,7 +13,7 @@ namespace zelvor {
 class TextFiles {
  public:
     // A file larger than this (bytes) is refused with 7 Out of memory.
-    static constexpr qint64 kLargestFile = 64 * 1024 * 1024;
+    static constexpr qint64 kLargestFile = qint64{64} * 1024 * 1024;
 
     TextFiles() = default;
     // nullopt when no such code page is known, e.g. "windows-1253", "ISO-8859-7", "UTF-8".

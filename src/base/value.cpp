@@ -57,7 +57,7 @@ QDateTime toDateTime(Value::Date date) {
 
 QString dateText(Value::Date date) {
     const auto [day, second] = daySecond(date);
-    const QString time = timeOfSecond(second).toString(u"HH:mm:ss"_s);
+    QString time = timeOfSecond(second).toString(u"HH:mm:ss"_s);
     if (day == 0) return time;
     const QString isoDate = epoch().addDays(day).toString(Qt::ISODate);
     return second == 0 ? isoDate : isoDate + u' ' + time;
@@ -88,7 +88,7 @@ QString Value::text() const {
 }
 
 void Value::appendTo(QString& out) const {
-    if (const QString* own = as<QString>()) {
+    if (const auto* own = as<QString>()) {
         out += *own;
     } else {
         out += text();
@@ -96,7 +96,7 @@ void Value::appendTo(QString& out) const {
 }
 
 double Value::leadingNumber() const {
-    if (const QString* own = as<QString>()) return Val(*own);
+    if (const auto* own = as<QString>()) return Val(*own);
     return isNull() ? 0 : number();
 }
 

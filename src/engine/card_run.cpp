@@ -5,11 +5,11 @@
 
 namespace zelvor {
 
-CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, const QString& cardFile, bool autoRun,
+CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, QString cardFile, bool autoRun,
                  bool keepStates, ErrorPlace& place)
     : engine_(engine),
       script_(std::move(script)),
-      cardFile_(cardFile),
+      cardFile_(std::move(cardFile)),
       autoRun_(autoRun),
       keepStates_(keepStates),
       place_(place),

@@ -14,7 +14,7 @@ namespace zelvor {
 class CardRun {
  public:
     // place: kept up to date with the line reached, for the error message.
-    CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, const QString& cardFile, bool autoRun,
+    CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, QString cardFile, bool autoRun,
             bool keepStates, ErrorPlace& place);
 
     // Runs every line and finishes. Throws RunTimeError for an error of the script.
@@ -27,11 +27,11 @@ class CardRun {
     FormModel& form() { return engine_.form(); }
     const Ports& ports() { return engine_.ports(); }
     OutputFiles& files() { return files_; }
-    const CardScript& script() const { return *script_; }
-    const QString& cardFile() const { return cardFile_; }
-    bool autoRun() const { return autoRun_; }
-    bool keepStates() const { return keepStates_; }
-    int lineNo() const { return lineNo_; }
+    [[nodiscard]] const CardScript& script() const { return *script_; }
+    [[nodiscard]] const QString& cardFile() const { return cardFile_; }
+    [[nodiscard]] bool autoRun() const { return autoRun_; }
+    [[nodiscard]] bool keepStates() const { return keepStates_; }
+    [[nodiscard]] int lineNo() const { return lineNo_; }
     // The text with its placeholders replaced.
     QString expand(const QString& text) { return EXPAND_VARS(text, variables(), state().QUERY_RESULT); }
 
@@ -47,7 +47,6 @@ class CardRun {
     void goOnUnlessClosing();
     // Shows the card as on air, or that it had no data, and remembers it as the last one.
     void finish();
-    bool hasData() const { return hasData_; }
 
     struct RecordLoop {
         int start = 0;

@@ -10,7 +10,7 @@ namespace zelvor {
 
 // Limits of one expansion; beyond them it ends with 28 Out of stack space instead of freezing the program.
 constexpr int kLargestReplacements = 100'000;
-constexpr qsizetype kLargestExpansion = 16 * 1024 * 1024;  // UTF-16 units
+constexpr qsizetype kLargestExpansion = qsizetype{16} * 1024 * 1024;  // UTF-16 units
 
 // What "{@@}", the previous answer of a pick list, means to an expansion.
 enum class PreviousAnswer { AsVariable, LeftAlone };
