@@ -128,7 +128,8 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     theme::apply(application);
-    ConsoleDesk desk;
+    const SqliteDemo database;
+    ConsoleDesk desk(database);
     addCard(desk);
     desk.start();
     Arrivals arrivals;

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
-#include <QProcess>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -41,7 +40,7 @@ void dropSizeHints(QtMsgType, const QMessageLogContext&, const QString& message)
 
 }  // namespace
 
-ConsoleDesk::ConsoleDesk() {
+ConsoleDesk::ConsoleDesk(const DemoDatabase& database) {
     qInstallMessageHandler(dropSizeHints);
     const QString demo = QStringLiteral(DEMO_FOLDER);
     for (QDirIterator files(demo + u"/MODULES"_s, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
@@ -49,9 +48,8 @@ ConsoleDesk::ConsoleDesk() {
         const QString to = folder_.filePath(QDir(demo).relativeFilePath(from));
         if (!QDir().mkpath(QFileInfo(to).path()) || !QFile::copy(from, to)) qFatal("cannot copy the demo");
     }
-    QFile sql(demo + u"/demo.sql"_s);
-    if (!sql.open(QIODevice::ReadOnly) || !changeDatabase(QString::fromUtf8(sql.readAll())))
-        qFatal("cannot make the demo's database: is sqlite3 installed?");
+    for (const QString& pack : {u"EN"_s, u"GR"_s})
+        write(u"MODULES/QRD_%1/CONNECTIONS.TXT"_s.arg(pack), "1==Demo==" + database.connectionString() + "\r\n");
     connect(&picker_, &QTimer::timeout, this, &ConsoleDesk::answerPickList);
     picker_.setInterval(kReactionTime);
 }
@@ -65,14 +63,6 @@ void ConsoleDesk::write(const QString& name, const QByteArray& bytes) const {
     QFile file(folder_.filePath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(name));
-}
-
-bool ConsoleDesk::changeDatabase(const QString& sql) const {
-    QProcess sqlite;
-    sqlite.start(u"sqlite3"_s, {u"-bail"_s, folder_.filePath(u"demo.db"_s)});
-    sqlite.write(sql.toUtf8());
-    sqlite.closeWriteChannel();
-    return sqlite.waitForFinished() && sqlite.exitStatus() == QProcess::NormalExit && sqlite.exitCode() == 0;
 }
 
 void ConsoleDesk::start() {

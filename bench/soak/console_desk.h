@@ -6,23 +6,21 @@
 #include <memory>
 
 #include "app_cards/cards_app.h"
+#include "soak_desk/demo_database.h"
 
 namespace zelvor {
 
-// The real console on a temporary copy of the demo with its database, and the hands of its operator: clicks and keys
+// The real console on a temporary copy of the demo, and the hands of its operator: clicks and keys
 // go to the widgets, boxes are agreed to, pick lists answered row by row (now and then cancelled).
 class ConsoleDesk : public QObject {
  public:
-    // Copies the demo. Ends the program with a message when it cannot, or when sqlite3 is missing.
-    ConsoleDesk();
+    // Copies the demo. Ends the program with a message when it cannot.
+    explicit ConsoleDesk(const DemoDatabase& database);
 
     // A file below the application folder; empty when there is none.
     [[nodiscard]] QByteArray read(const QString& name) const;
     // Writes in place: who has the file open sees it.
     void write(const QString& name, const QByteArray& bytes) const;
-    // Runs SQL on the demo's database by another program, as a statistician's would. False when that fails.
-    [[nodiscard]] bool changeDatabase(const QString& sql) const;
-
     // Shows the console and runs its load sequence.
     void start();
     void connectMain(quint16 port);

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "mariadb_demo.h"
 #include "soak_desk/console_desk.h"
 #include "soak_desk/graphics_peer.h"
 #include "soak_desk/line_ledger.h"
@@ -16,7 +17,7 @@ namespace zelvor {
 
 // A whole game at the console in compressed time, and what must hold at its end: the clock's datagrams once a second
 // of game time, timed cards at the same pace, scores, card fires, an orderly and an abrupt restart of the graphics
-// server, an outage of the database.
+// server, a restart of the database's.
 class Game : public QObject {
  public:
     static constexpr int kClockSeconds = 2400;
@@ -24,7 +25,7 @@ class Game : public QObject {
     static constexpr int kShortest = 12;  // seconds of real time
 
     // seconds: real time, kShortest at least.
-    Game(ConsoleDesk& desk, double seconds);
+    Game(ConsoleDesk& desk, MariaDbDemo& database, double seconds);
 
     void play();
     // Prints the figures; what is wrong is in faults() afterwards.
@@ -43,7 +44,7 @@ class Game : public QObject {
     void planScores();
     void planServer(double at, GraphicsPeer::End end);
     void planDatabase();
-    void moveTables(const QString& sql);
+    void awaitDatabase();
     void turn();
     void sendClock();
     void fire(int number);
@@ -60,6 +61,7 @@ class Game : public QObject {
     void noteSent(const QString& line);
 
     ConsoleDesk& desk_;
+    MariaDbDemo& database_;
     double seconds_;
     LineLedger arrived_;
     LineLedger sent_;

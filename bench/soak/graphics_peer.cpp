@@ -48,7 +48,7 @@ void GraphicsPeer::stop(End end) {
 
 void GraphicsPeer::serve() {
     while (true) {
-        const int accepted = accept(listening_, nullptr, nullptr);
+        const int accepted = accept4(listening_, nullptr, nullptr, SOCK_CLOEXEC);
         if (accepted < 0) break;
         setOption(accepted, IPPROTO_TCP, TCP_NODELAY, 1);
         listener_.connected();

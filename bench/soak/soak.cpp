@@ -17,9 +17,10 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     zelvor::theme::apply(application);
-    zelvor::ConsoleDesk desk;
+    zelvor::MariaDbDemo database;
+    zelvor::ConsoleDesk desk(database);
     desk.start();
-    zelvor::Game game(desk, seconds);
+    zelvor::Game game(desk, database, seconds);
     game.play();
     game.report();
     for (const QString& fault : game.faults()) std::printf("WRONG %s\n", qPrintable(fault));

@@ -35,6 +35,27 @@ class WorkingFolder {
 
 }  // namespace
 
+// The statement that another thread may cancel, for as long as this lives.
+class Connection::Running {
+ public:
+    Running(Connection& connection, const Statement& statement) : connection_(connection) {
+        const std::lock_guard lock(connection_.runningMutex_);
+        if (connection_.cancelled_) {
+            throw RunTimeError::withText(ErrorNumber::DatabaseError, u"The statement was cancelled."_s);
+        }
+        connection_.running_ = &statement;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+    ~Running() {
+        const std::lock_guard lock(connection_.runningMutex_);
+        connection_.running_ = nullptr;
+    }
+
+ private:
+    Connection& connection_;
+};
+
 QString odbcPart(const QString& connectionString) {
     const qsizetype end = connectionString.indexOf(u';');
     const QString first = connectionString.left(end < 0 ? connectionString.size() : end);
@@ -79,10 +100,17 @@ Rows Connection::run(const QString& sql) {
     }
     open();
     Statement statement(handle_.raw(), kSecondsAllowed);
+    const Running running(*this, statement);
     Rows rows;
     if (!statement.execute(characterSet_.encode(sql))) fail(statement.handle());
     if (statement.columnCount() > 0 && !statement.readRows(characterSet_, rows)) fail(statement.handle());
     return rows;
+}
+
+void Connection::cancel() {
+    const std::lock_guard lock(runningMutex_);
+    cancelled_ = true;
+    if (running_ != nullptr) SQLCancel(running_->handle().raw());
 }
 
 bool Connection::isDead() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <mutex>
 
 #include "data/character_set.h"
 #include "data/odbc_handle.h"
@@ -25,10 +26,15 @@ class Connection {
     // Runs a statement; the rows it gives, none for an UPDATE.
     Rows run(const QString& sql);
 
+    // From any thread: a statement that runs is given up, as soon as its driver can, and no further one begins.
+    void cancel();
+
     // How the last try to open it ended.
     [[nodiscard]] State state() const { return state_; }
 
  private:
+    class Running;
+
     [[nodiscard]] bool isDead();
     void askCharacterSet();
     [[noreturn]] void fail(const Handle& handle);
@@ -40,6 +46,10 @@ class Connection {
     CharacterSet characterSet_;
     bool lost_ = false;
     State state_ = State::NotTried;
+
+    std::mutex runningMutex_;
+    const Statement* running_ = nullptr;
+    bool cancelled_ = false;
 };
 
 // Refuses a string that names an OLE DB provider, other than the one for ODBC drivers, which is left out. Throws

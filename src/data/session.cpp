@@ -26,6 +26,8 @@ auto Session::inTime(Work work) {
     timedOut_ = result.wait_for(std::chrono::seconds(odbc::Connection::kSecondsAllowed)) == std::future_status::timeout;
     if (timedOut_) {
         thread.detach();
+        // Nor is it waited for that the driver gives up.
+        std::thread([abandoned = connection_] { abandoned->cancel(); }).detach();
         connection_ = std::make_shared<odbc::Connection>(connectionString_, folder_);
         throw RunTimeError::withText(
             ErrorNumber::DatabaseError,

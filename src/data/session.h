@@ -8,7 +8,7 @@
 namespace zelvor {
 
 // A connection that never keeps its caller waiting for more than a few seconds: each call runs on a thread of its
-// own, and when the time is up that thread is left to itself, together with the connection it hangs on.
+// own. When the time is up the statement is cancelled and that thread left to itself, with the connection it hangs on.
 class Session {
  public:
     // folder: what a relative path in the connection string starts from.

@@ -1,4 +1,6 @@
+#include <QDir>
 #include <QElapsedTimer>
+#include <QThread>
 
 #include "mariadb_server.h"
 #include "show_fixture.h"
@@ -56,6 +58,22 @@ TEST_F(LostServer, keepsNobodyWaitingWhenItSaysNothing) {
     ASSERT_EQ(show.operatorDesk.shown.size(), 1);
     EXPECT_TRUE(show.operatorDesk.shown[0].contains(u"within 5 seconds"_s)) << show.operatorDesk.shown[0].toStdString();
     EXPECT_EQ(queries(), 2);
+}
+
+TEST(EndlessStatement, isCancelled) {
+    Show show;
+    show.writeConnections("1==test==Driver=SQLite3;Database=show.db");
+    show.make();
+    ASSERT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 1);
+    const auto threads = [] { return QDir(u"/proc/self/task"_s).count(); };
+    const auto before = threads();
+    const QString endless = u"with recursive n(i) as (select 1 union all select i + 1 from n) select max(i) from n"_s;
+    EXPECT_EQ(show.connections->RUN_QUERY(endless), 0);
+    QElapsedTimer waited;
+    waited.start();
+    while (threads() > before && waited.elapsed() < 20'000) QThread::msleep(20);
+    EXPECT_LE(threads(), before);
+    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 1);
 }
 
 }  // namespace

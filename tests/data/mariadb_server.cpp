@@ -30,9 +30,11 @@ QString userName() {
     return entry == nullptr ? QString::number(getuid()) : QString::fromLocal8Bit(entry->pw_name);
 }
 
-bool run(const QString& name, const QStringList& arguments) {
+bool run(const QString& name, const QStringList& arguments, const QByteArray& input = {}) {
     QProcess process;
     process.start(program(name), arguments);
+    process.write(input);
+    process.closeWriteChannel();
     return process.waitForFinished(kPatience) && process.exitStatus() == QProcess::NormalExit &&
            process.exitCode() == 0;
 }
@@ -45,15 +47,15 @@ quint16 freePort() {
 
 }  // namespace
 
-MariaDbServer::MariaDbServer() : port_(freePort()) {
+MariaDbServer::MariaDbServer(QStringList options) : options_(std::move(options)), port_(freePort()) {
     if (!run(u"mariadb-install-db"_s,
              {u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
               u"--auth-root-authentication-method=normal"_s, u"--skip-test-db"_s})) {
         throw std::runtime_error("mariadb-install-db failed: is mariadb-server installed?");
     }
     start();
-    if (!client(u"create database `show` character set utf8mb4; create user 'show'@'127.0.0.1' identified by 'time';"
-                " grant all on `show`.* to 'show'@'127.0.0.1'"_s)) {
+    if (!execute("create database `show` character set utf8mb4; create user 'show'@'127.0.0.1' identified by 'time';"
+                 "grant all on `show`.* to 'show'@'127.0.0.1'")) {
         throw std::runtime_error("the database could not be made");
     }
 }
@@ -62,17 +64,22 @@ MariaDbServer::~MariaDbServer() {
     kill();
 }
 
-void MariaDbServer::start() {
+void MariaDbServer::beginStart() {
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.setStandardOutputFile(inFolder(u"server.log"_s));
     // Ended with this program also when it crashes.
     process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     process_.start(program(u"mariadbd"_s),
-                   {u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
-                    u"--socket="_s + inFolder(u"s"_s), u"--pid-file="_s + inFolder(u"pid"_s),
-                    u"--bind-address=127.0.0.1"_s, u"--port=%1"_s.arg(port_), u"--skip-name-resolve"_s});
-    QDeadlineTimer patience(kPatience);
-    while (!client(u"select 1"_s)) {
+                   QStringList{u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
+                               u"--socket="_s + inFolder(u"s"_s), u"--pid-file="_s + inFolder(u"pid"_s),
+                               u"--bind-address=127.0.0.1"_s, u"--port=%1"_s.arg(port_), u"--skip-name-resolve"_s} +
+                       options_);
+}
+
+void MariaDbServer::start() {
+    beginStart();
+    const QDeadlineTimer patience(kPatience);
+    while (!execute("select 1")) {
         if (process_.state() == QProcess::NotRunning || patience.hasExpired()) {
             throw std::runtime_error("the MariaDB server did not start");
         }
@@ -95,8 +102,9 @@ QByteArray MariaDbServer::connectionString() const {
            ";Database=show;User=show;Password=time;INITSTMT=set names 'utf8'";
 }
 
-bool MariaDbServer::client(const QString& statement) const {
-    return run(u"mariadb"_s, {u"--no-defaults"_s, u"-uroot"_s, u"-S"_s, inFolder(u"s"_s), u"-e"_s, statement});
+bool MariaDbServer::execute(const QByteArray& sql) const {
+    return run(u"mariadb"_s,
+               {u"--no-defaults"_s, u"--default-character-set=utf8mb4"_s, u"-uroot"_s, u"-S"_s, inFolder(u"s"_s)}, sql);
 }
 
 }  // namespace zelvor::test
