@@ -68,7 +68,9 @@ void Game::play() {
 }
 
 void Game::plan() {
-    events_.push_back({seconds_ * 0.1, [this] { early_ = residentKilobytes(); }});
+    for (std::size_t i = 0; i < kMemoryLooks; ++i)
+        events_.push_back(
+            {seconds_ * (i + 1) / (kMemoryLooks + 1), [this, i] { memory_.at(i) = residentKilobytes(); }});
     for (int quarter = 0; quarter < 4; ++quarter)
         events_.push_back({seconds_ * quarter / 4, [this, quarter] { desk_.at("cbQt").setPosition(quarter); }});
     events_.push_back({seconds_ * 0.5, [this] { setManual(true); }});
@@ -236,13 +238,14 @@ void Game::report() {
     checkLines();
     std::printf("boxes: %lld while the database was away, %lld else\n", static_cast<long long>(boxesInOutage_),
                 static_cast<long long>(desk_.boxes.size() - boxesBefore_ - boxesInOutage_));
-    std::printf("memory, KiB: %ld after a tenth of the game, %ld at the end (%.3f times)\n", early_, late,
-                static_cast<double>(late) / static_cast<double>(early_));
+    std::printf("memory, KiB, at each tenth of the game:");
+    for (const long kilobytes : memory_) std::printf(" %ld", kilobytes);
+    std::printf(" %ld (%.3f times)\n", late, static_cast<double>(late) / static_cast<double>(memory_.front()));
     if (feed.handledCount() != clocks_ || feed.refusedCount() != 0) fault(u"datagrams lost"_s);
     if (databaseOut_) fault(u"the database did not come back"_s);
     if (fired_ != kFires) fault(u"%1 cards fired"_s.arg(fired_));
     if (timedLines_ == 0 || feedLines_ == 0) fault(u"no card has run by itself"_s);
-    if (late - early_ > kMemoryAllowed) fault(u"memory grew by %1 KiB"_s.arg(late - early_));
+    if (const long grown = late - memory_.front(); grown > kMemoryAllowed) fault(u"memory grew by %1 KiB"_s.arg(grown));
     checkLeftovers();
 }
 

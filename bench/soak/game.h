@@ -23,6 +23,7 @@ class Game : public QObject {
     static constexpr int kClockSeconds = 2400;
     static constexpr int kFires = 300;
     static constexpr int kShortest = 12;  // seconds of real time
+    static constexpr std::size_t kMemoryLooks = 9;
 
     // seconds: real time, kShortest at least.
     Game(ConsoleDesk& desk, MariaDbDemo& database, double seconds);
@@ -83,7 +84,7 @@ class Game : public QObject {
     qsizetype boxesBefore_ = 0;
     qsizetype boxesInOutage_ = 0;
     QByteArray errorsAfterOutage_;
-    long early_ = 0;
+    std::array<long, kMemoryLooks> memory_{};  // KiB
     int timedLines_ = 0;
     int feedLines_ = 0;
     QString lastClockLine_;
