@@ -18,7 +18,7 @@ class FeedSocket : public QObject {
     static constexpr quint16 kPort = 7699;
     // More than this waiting, and datagrams are left to the system until there is room.
     static constexpr std::size_t kMostWaiting = 20'000;
-    static constexpr qsizetype kMostWaitingCharacters = 16 * 1024 * 1024;
+    static constexpr qsizetype kMostWaitingCharacters = qsizetype{16} * 1024 * 1024;
 
     FeedSocket(GameFeed& feed, FeedStatus& status);
 
