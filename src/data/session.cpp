@@ -1,8 +1,7 @@
 #include "data/session.h"
 
-#include <chrono>
-#include <future>
 #include <thread>
+#include <utility>
 
 #include "base/run_time_error.h"
 
@@ -10,31 +9,59 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
+namespace {
+
+RunTimeError silence(const QString& text) {
+    return RunTimeError::withText(ErrorNumber::DatabaseError, text);
+}
+
+}  // namespace
+
 void Session::setConnectionString(const QString& connectionString) {
     connectionString_ = connectionString;
     connection_ = std::make_shared<odbc::Connection>(connectionString_, folder_);
-    timedOut_ = false;
+    silentSince_ = {};
+    opening_ = {};
 }
 
 template <class Work>
 auto Session::inTime(Work work) {
     if (!connection_) throw RunTimeError::withText(ErrorNumber::DatabaseError, u"No database connection is open."_s);
+    if (silentSince_.isValid()) awaitAnswer();
     // The thread shares the connection, so that it outlives a caller who no longer waits.
     std::packaged_task task([work = std::move(work), connection = connection_] { return work(*connection); });
     auto result = task.get_future();
     std::thread thread(std::move(task));
-    timedOut_ = result.wait_for(std::chrono::seconds(odbc::Connection::kSecondsAllowed)) == std::future_status::timeout;
-    if (timedOut_) {
+    if (result.wait_for(std::chrono::seconds(odbc::Connection::kSecondsAllowed)) == std::future_status::timeout) {
         thread.detach();
-        // Nor is it waited for that the driver gives up.
-        std::thread([abandoned = connection_] { abandoned->cancel(); }).detach();
-        connection_ = std::make_shared<odbc::Connection>(connectionString_, folder_);
-        throw RunTimeError::withText(
-            ErrorNumber::DatabaseError,
-            u"The database did not answer within %1 seconds."_s.arg(odbc::Connection::kSecondsAllowed));
+        fallSilent();
+        throw silence(u"The database did not answer within %1 seconds."_s.arg(odbc::Connection::kSecondsAllowed));
     }
     thread.join();
     return result.get();
+}
+
+void Session::fallSilent() {
+    silentSince_ = QTime::currentTime();
+    // Nor is it waited for that the driver gives up.
+    std::thread([abandoned = std::move(connection_)] { abandoned->cancel(); }).detach();
+    connection_ = std::make_shared<odbc::Connection>(connectionString_, folder_);
+    beginOpening();
+}
+
+void Session::beginOpening() {
+    std::packaged_task<void()> task([connection = connection_] { connection->open(); });
+    opening_ = task.get_future();
+    std::thread(std::move(task)).detach();
+}
+
+void Session::awaitAnswer() {
+    if (!opening_.valid()) beginOpening();
+    if (opening_.wait_for(kAllowedInSilence) == std::future_status::timeout) {
+        throw silence(u"The database has not answered since %1."_s.arg(silentSince_.toString(u"HH:mm:ss"_s)));
+    }
+    std::exchange(opening_, {}).get();
+    silentSince_ = {};
 }
 
 void Session::open() {
@@ -47,7 +74,7 @@ odbc::Rows Session::run(const QString& sql) {
 
 odbc::Connection::State Session::state() const {
     using State = odbc::Connection::State;
-    if (timedOut_) return State::Failed;
+    if (silentSince_.isValid()) return State::Failed;
     return connection_ ? connection_->state() : State::NotTried;
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QTime>
+#include <chrono>
+#include <future>
 #include <memory>
 
 #include "data/odbc_connection.h"
@@ -8,9 +11,12 @@
 namespace zelvor {
 
 // A connection that never keeps its caller waiting for more than a few seconds: each call runs on a thread of its
-// own. When the time is up the statement is cancelled and that thread left to itself, with the connection it hangs on.
+// own. When the time is up the statement is cancelled and that thread left to itself, with the connection it hangs on;
+// from then on calls fail almost at once, until another connection has been opened behind their backs.
 class Session {
  public:
+    static constexpr std::chrono::milliseconds kAllowedInSilence{200};
+
     // folder: what a relative path in the connection string starts from.
     explicit Session(QString folder) : folder_(std::move(folder)) {}
 
@@ -30,11 +36,16 @@ class Session {
     // Runs work(connection) within the time allowed.
     template <class Work>
     auto inTime(Work work);
+    void fallSilent();
+    // Throws while the database is silent.
+    void awaitAnswer();
+    void beginOpening();
 
     QString folder_;
     QString connectionString_;
     std::shared_ptr<odbc::Connection> connection_;
-    bool timedOut_ = false;
+    QTime silentSince_;          // invalid while it answers
+    std::future<void> opening_;  // in silence: the connection that is being opened
 };
 
 }  // namespace zelvor
