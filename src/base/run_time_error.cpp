@@ -32,7 +32,6 @@ constexpr std::array kErrors{
     ErrorRow{ErrorNumber::ObjectVariableNotSet, u"Object variable not set"},
     ErrorRow{ErrorNumber::InvalidUseOfNull, u"Invalid use of Null"},
     ErrorRow{ErrorNumber::InvalidPropertyValue, u"Invalid property value"},
-    ErrorRow{ErrorNumber::ActionNotSupported, u"Object doesn't support this action"},
     ErrorRow{ErrorNumber::WrongNumberOfArguments, u"Wrong number of arguments or invalid property assignment"},
     ErrorRow{ErrorNumber::SyntaxError, u"Syntax error"},
     ErrorRow{ErrorNumber::ExpectedClosingBracket, u"Expected ')'"},

@@ -24,7 +24,6 @@ enum class ErrorNumber {
     ObjectVariableNotSet = 91,
     InvalidUseOfNull = 94,
     InvalidPropertyValue = 380,
-    ActionNotSupported = 445,
     WrongNumberOfArguments = 450,
     SyntaxError = 1002,
     ExpectedClosingBracket = 1006,

@@ -1,6 +1,8 @@
 #include "rehearsal/options.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,16 @@ int number(const QCommandLineParser& parser, const QCommandLineOption& option, i
     return value;
 }
 
+// The demo's templates: of the checkout, beside the program, or installed.
+QString demoTemplates() {
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const auto* place : {"/templates", "/../share/zelvor-cards/demo/templates"}) {
+        QString folder = QDir::cleanPath(program + QLatin1StringView(place));
+        if (QFileInfo(folder).isDir()) return folder;
+    }
+    return u"demo/templates"_s;
+}
+
 }  // namespace
 
 Options parseOptions(const QStringList& arguments) {
@@ -39,9 +51,9 @@ Options parseOptions(const QStringList& arguments) {
                                   u"ADDRESS"_s, u"127.0.0.1"_s);
     const QCommandLineOption channels(
         u"channels"_s, u"Offer this many channels (2), 1 to %1."_s.arg(Options::kMaxChannels), u"N"_s, u"2"_s);
-    const QCommandLineOption templates(
-        u"templates"_s, u"Take HTML templates and pictures from this folder (%1)."_s.arg(options.templates), u"DIR"_s,
-        options.templates);
+    const QCommandLineOption templates(u"templates"_s,
+                                       u"Take HTML templates and pictures from this folder (the demo's)."_s, u"DIR"_s,
+                                       demoTemplates());
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
     const QCommandLineOption version({u"v"_s, u"version"_s}, u"Show the version."_s);
 

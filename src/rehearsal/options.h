@@ -15,7 +15,7 @@ struct Options {
     quint16 amcpPort = kAmcpPort;  // 0: a free one
     quint16 httpPort = kHttpPort;
     int channels = 2;  // 1..kMaxChannels
-    QString templates = QStringLiteral("demo/templates");
+    QString templates;
 
     // What is wrong with the command line, for the user; empty when all is well.
     QString fault;

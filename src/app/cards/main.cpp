@@ -1,12 +1,14 @@
 // The operator's console.
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
 #include <array>
 #include <cstdio>
 
 #include "app_cards/cards_app.h"
+#include "app_cards/user_folder.h"
 #include "base/command_line.h"
 #include "console/theme.h"
 
@@ -14,12 +16,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kNoFolder = 1;
 constexpr int kUsageError = 2;
+
+const std::array kOptions{zelvor::CommandLine::Option{u"--app-folder"_s, true},
+                          zelvor::CommandLine::Option{u"--user-folder"_s},
+                          zelvor::CommandLine::Option{u"--codepage"_s, true},
+                          zelvor::CommandLine::Option{u"--feed-port"_s, true},
+                          zelvor::CommandLine::Option{u"--help"_s},
+                          zelvor::CommandLine::Option{u"--version"_s}};
 
 const QString kHelp =
     uR"(usage: zelvor-cards [options] [/PREVIEW] [CONNECTION]
 
+Fires the cards of a pack on the air, from one window.
+
   --app-folder DIR   the folder that holds MODULES; the program's own folder without
+  --user-folder      the user's own folder, ~/.local/share/zelvor-cards, made from the demo the first time
   --codepage NAME    read and write text files in this code page, e.g. windows-1253
   --feed-port N      hears the game feed on this UDP port, 0 for any free one; 7699 without
   --help             this text
@@ -32,22 +45,24 @@ const QString kHelp =
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
-    const std::array options{
-        zelvor::CommandLine::Option{u"--app-folder"_s, true}, zelvor::CommandLine::Option{u"--codepage"_s, true},
-        zelvor::CommandLine::Option{u"--feed-port"_s, true}, zelvor::CommandLine::Option{u"--help"_s, false},
-        zelvor::CommandLine::Option{u"--version"_s, false}};
-    const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
     QTextStream out(stdout);
     QTextStream err(stderr);
-    if (line.has(u"--help")) {
+    // What needs no display is answered before one is looked for.
+    QStringList words;
+    for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
+    const zelvor::CommandLine asked(words, kOptions);
+    if (asked.has(u"--help")) {
         out << kHelp;
         return 0;
     }
-    if (line.has(u"--version")) {
+    if (asked.has(u"--version")) {
         out << "zelvor-cards " ZELVOR_VERSION "\n";
         return 0;
     }
+
+    QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
+    const zelvor::CommandLine line(QApplication::arguments().mid(1), kOptions);
     if (!line.optionWithoutValue().isEmpty()) {
         err << "zelvor-cards: " << line.optionWithoutValue() << " needs a value\n";
         return kUsageError;
@@ -70,6 +85,16 @@ int main(int argc, char* argv[]) {
         }
     }
     wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
+    if (line.has(u"--user-folder")) {
+        wanted.appFolder = zelvor::userFolder();
+        const QString fault =
+            zelvor::makeUserFolder(wanted.appFolder, zelvor::installedDemo(QApplication::applicationDirPath()));
+        if (!fault.isEmpty()) {
+            // Started from the desktop, it has no terminal to say it in.
+            QMessageBox::critical(nullptr, u"Zelvor Cards"_s, fault);
+            return kNoFolder;
+        }
+    }
     wanted.commandLine = line.restText();
     wanted.errorLog = zelvor::errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 

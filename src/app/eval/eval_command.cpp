@@ -14,9 +14,14 @@ constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
 QString usage() {
-    return u"usage: zelvor eval [--] EXPRESSION\n\n"
-           u"Prints the value of a script expression, as EVAL computes it: zelvor eval \"7 mod 4\"\n"
-           u"\"--\" comes before an expression that begins with \"-\".\n"_s;
+    return uR"(usage: zelvor eval [--] EXPRESSION
+
+Prints the value of a script expression, as EVAL computes it.
+"--" comes before an expression that begins with "-".
+
+Exit status: 0, 1 for an error in the expression, 2 for wrong usage.
+Example: zelvor eval "7 mod 4" prints 3
+)"_s;
 }
 
 QString shown(const Value& value) {

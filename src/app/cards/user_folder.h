@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace zelvor {
+
+// Where an installed console finds the demo that came with it, a folder with MODULES in it: beside the program's own
+// folder, in ../share/zelvor-cards/demo.
+QString installedDemo(const QString& programFolder);
+
+// The user's own application folder: "zelvor-cards" where the desktop keeps programs' data (XDG_DATA_HOME).
+QString userFolder();
+
+// Makes the folder as a copy of the demo. One that exists is left as it is, whatever it holds. Gives what went wrong,
+// in words, after which there is no folder; empty when all is well.
+QString makeUserFolder(const QString& folder, const QString& demo);
+
+}  // namespace zelvor

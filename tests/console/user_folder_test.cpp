@@ -1,0 +1,45 @@
+#include "app_cards/user_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+
+TEST(UserFolder, IsMadeFromTheDemoOnceAndThenTheUsers) {
+    const QTemporaryDir work;
+    const QString demo = installedDemo(work.filePath(u"bin"_s));
+    const QString own = work.filePath(u"data/zelvor-cards"_s);
+    EXPECT_NE(makeUserFolder(own, demo), QString()) << "no demo";
+    EXPECT_FALSE(QFile::exists(own));
+
+    QDir().mkpath(demo + u"/MODULES/QRD_EN"_s);
+    QFile card(demo + u"/MODULES/QRD_EN/a.csp"_s);
+    ASSERT_TRUE(card.open(QIODevice::WriteOnly));
+    card.write("demo");
+    card.close();
+    card.setPermissions(QFile::ReadOwner);
+
+    EXPECT_EQ(makeUserFolder(own, demo), QString());
+    QFile copy(own + u"/MODULES/QRD_EN/a.csp"_s);
+    EXPECT_TRUE(copy.permissions() & QFile::WriteOwner) << "the user's to edit";
+    ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
+    copy.write("mine");
+    copy.close();
+
+    QFile other(demo + u"/MODULES/PACKS.TXT"_s);
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    EXPECT_EQ(makeUserFolder(own, demo), QString());
+    EXPECT_FALSE(QFile::exists(own + u"/MODULES/PACKS.TXT"_s));
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(copy.readAll(), "mine");
+    EXPECT_EQ(QDir(work.filePath(u"data"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{u"zelvor-cards"_s})
+        << "nothing half made stays";
+}
+
+}  // namespace zelvor::test
