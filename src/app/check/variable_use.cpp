@@ -1,6 +1,5 @@
 #include "app_check/variable_use.h"
 
-#include <algorithm>
 #include <array>
 
 #include "app_check/placeholder_scan.h"
@@ -59,51 +58,23 @@ constexpr std::array kOwnVariables{
     QStringView(u"@PERCM2"),
 };
 
-// Whether two names, either with kAnything in it, may be the same.
-bool mayBeSame(QStringView a, QStringView b) {
-    const auto width = static_cast<size_t>(b.size()) + 1;
-    // below[j]: whether what is left of a behind row i may equal what is left of b behind j.
-    std::vector<char> below(width, 0);
-    std::vector<char> row(width, 0);
-    for (qsizetype i = a.size(); i >= 0; --i) {
-        for (qsizetype j = b.size(); j >= 0; --j) {
-            const auto at = static_cast<size_t>(j);
-            const bool aEnds = i == a.size();
-            const bool bEnds = j == b.size();
-            if (aEnds && bEnds) {
-                row[at] = 1;
-            } else {
-                const bool aAny = !aEnds && a[i] == kAnything;
-                const bool bAny = !bEnds && b[j] == kAnything;
-                bool same = false;
-                if (aAny) same = below[at] != 0 || (!bEnds && row[at + 1] != 0);
-                if (bAny) same = same || row[at + 1] != 0 || (!aEnds && below[at] != 0);
-                if (!aAny && !bAny && !aEnds && !bEnds) same = a[i] == b[j] && below[at + 1] != 0;
-                row[at] = same ? 1 : 0;
-            }
-        }
-        below = row;
-    }
-    return below[0] != 0;
-}
-
 }  // namespace
+
+VariableUse::VariableUse() {
+    for (const QStringView name : kOwnVariables) set(name.toString());
+}
 
 void VariableUse::set(const QString& name) {
     if (!name.contains(kAnything)) {
         names_.insert(name);
-    } else if (name.size() > 1 && !patterns_.contains(name)) {
+    } else if (name.size() > 1) {
         // A name that is nothing but a placeholder would excuse every variable.
-        patterns_ += name;
+        patterns_.insert(name);
     }
 }
 
 bool VariableUse::isSet(const QString& name) const {
-    const auto same = [&](QStringView other) { return mayBeSame(name, other); };
-    if (names_.contains(name) || std::ranges::any_of(patterns_, same) || std::ranges::any_of(kOwnVariables, same)) {
-        return true;
-    }
-    return name.contains(kAnything) && std::ranges::any_of(names_, same);
+    return names_.contains(name) || patterns_.mayHold(name) || (name.contains(kAnything) && names_.anyIs(name));
 }
 
 void VariableUse::report(Findings& findings) const {
