@@ -77,8 +77,10 @@ void Connections::setConnectionStrings(const QString& connectionString) {
 
 odbc::Rows Connections::run(Session& session, const QString& sql) {
     if (choice_.number && !session.hasConnectionString()) {
+        isMissing_ = true;
         const QString connectionString = GET_CONNECTION_STRING();
         if (!connectionString.isEmpty()) setConnectionStrings(connectionString);
+        isMissing_ = connectionString.isEmpty();
     }
     return session.run(sql);
 }
@@ -131,7 +133,7 @@ NamedRows Connections::readGreek(const QString& sql) {
 }
 
 Connections::State Connections::connectionState() const {
-    if (utf8_.state() == State::Failed || greek_.state() == State::Failed) return State::Failed;
+    if (isMissing_ || utf8_.state() == State::Failed || greek_.state() == State::Failed) return State::Failed;
     return utf8_.state() == State::Open || greek_.state() == State::Open ? State::Open : State::NotTried;
 }
 

@@ -42,7 +42,7 @@ class Connections : public Database {
     void execute(const QString& sql) override;
     NamedRows readGreek(const QString& sql) override;
 
-    // Failed when either connection could not be opened at the last try.
+    // Failed when either connection could not be opened at the last try, or none was found.
     [[nodiscard]] State connectionState() const;
     // The number chosen last, 0 before.
     [[nodiscard]] qint16 connectionNumber() const { return number_; }
@@ -65,6 +65,7 @@ class Connections : public Database {
     Session utf8_;
     Session greek_;
     qint16 number_ = 0;
+    bool isMissing_ = false;  // no connection was found for a query that wanted one
 };
 
 }  // namespace zelvor

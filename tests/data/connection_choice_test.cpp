@@ -81,10 +81,12 @@ TEST(ConnectionChoice, reportsWhatCannotBeOpened) {
 
 TEST(ConnectionChoice, leavesAFixedNumberToTheFirstQuery) {
     Show show;
-    show.writeConnections("1==x==Driver=SQLite3;Database=x.db");
     show.make();
     show.connections->CONNECTDATABASE();
     EXPECT_EQ(show.connections->connectionState(), Connections::State::NotTried);
+    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 0);
+    EXPECT_EQ(show.connections->connectionState(), Connections::State::Failed) << "no CONNECTIONS.TXT";
+    show.writeConnections("1==x==Driver=SQLite3;Database=x.db");
     EXPECT_EQ(show.connections->RUN_QUERY2(u"select 1"_s), 1);
     EXPECT_TRUE(show.operatorDesk.asked.isEmpty());
     // A relative database lies in the application folder, whatever the working folder is.

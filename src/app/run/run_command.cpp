@@ -27,7 +27,8 @@ class TerminalRun {
     TerminalRun(const RunOptions& options, QTextStream& out, QTextStream& err)
         : options_(options), out_(out), err_(err), operator_(err, options.yes), desktop_(out) {
         trap_.setReporter([this](const ErrorPlace&, const QString& message) {
-            operator_.message({}, message, Operator::Severity::Critical);
+            // Who has just been told that the program ends needs no second message.
+            if (!state_.closing) operator_.message({}, message, Operator::Severity::Critical);
         });
         state_.preview = options.preview;
     }
