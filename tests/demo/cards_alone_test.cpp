@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+
+#include "app_check/check_command.h"
 #include "app_run/run_command.h"
 #include "demo_folder.h"
 #include "rehearsal/amcp_server.h"
@@ -22,6 +25,22 @@ class CardsAlone : public testing::TestWithParam<const char*> {
         });
     }
 
+    // Fires the card with its pick lists answered.
+    RunStatus fire(const QString& card, const QStringList& more = {}) {
+        output_.clear();
+        errors_.clear();
+        QTextStream out(&output_);
+        QTextStream err(&errors_);
+        QStringList arguments{u"--app-folder"_s, folder_.path(), u"--language"_s, pack_};
+        for (const QString& line : folder_.script(pack_, card).split(u'\n')) {
+            if (line.startsWith(u"ASKFIELD~"_s)) arguments += {u"--answer"_s, test::kChoices[line.mid(9).toInt()]};
+        }
+        return runCard(arguments + more + QStringList{card}, out, err);
+    }
+
+    const QString pack_ = QString::fromLatin1(GetParam());
+    QString output_;
+    QString errors_;
     test::DemoFolder folder_;
     rehearsal::Stage stage_{2};
     rehearsal::TemplateFolder templates_{test::demoPath(u"templates"_s)};
@@ -32,25 +51,48 @@ class CardsAlone : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(CardsAlone, RunFromTheTerminal) {
-    const QString pack = QString::fromLatin1(GetParam());
-    for (const QString& card : folder_.scripts(pack)) {
-        QStringList arguments{u"--app-folder"_s, folder_.path(), u"--language"_s, pack, u"--main"_s, server_.address()};
-        for (const QString& line : folder_.script(pack, card).split(u'\n')) {
-            if (line.startsWith(u"ASKFIELD~"_s)) arguments += {u"--answer"_s, test::kChoices[line.mid(9).toInt()]};
-        }
+    for (const QString& card : folder_.scripts(pack_)) {
         stage_.clearChannel(1);
         replies_.clear();
-        QString output;
-        QString errors;
-        QTextStream out(&output);
-        QTextStream err(&errors);
-        EXPECT_EQ(RunStatus::Ran, runCard(arguments + QStringList{card}, out, err)) << qPrintable(card);
-        EXPECT_EQ("", errors.toStdString()) << qPrintable(card);
-        EXPECT_FALSE(output.contains(u"NO DATA"_s)) << qPrintable(card);
-        EXPECT_EQ(output.count(u"main > "_s), replies_.size()) << qPrintable(card);
+        EXPECT_EQ(RunStatus::Ran, fire(card, {u"--main"_s, server_.address()})) << qPrintable(card);
+        EXPECT_EQ("", errors_.toStdString()) << qPrintable(card);
+        EXPECT_FALSE(output_.contains(u"NO DATA"_s)) << qPrintable(card);
+        EXPECT_EQ(output_.count(u"main > "_s), replies_.size()) << qPrintable(card);
         for (const QString& reply : replies_)
             EXPECT_TRUE(reply.startsWith(u"202"_s)) << qPrintable(card + u' ' + reply);
     }
+}
+
+TEST_P(CardsAlone, MissWhatTheCheckerSaysIsMissing) {
+    // Pick lists 5 and 6, an include, and a card of the table.
+    QFile asks(folder_.file(pack_, u"ASKFIELDS.TXT"_s));
+    ASSERT_TRUE(asks.open(QIODevice::ReadWrite));
+    const QList<QByteArray> fields = asks.readAll().split('%');
+    ASSERT_EQ(fields.size(), 7);
+    ASSERT_TRUE(asks.resize(0) && asks.seek(0) && asks.write(fields.first(5).join('%')) > 0);
+    asks.close();
+    ASSERT_TRUE(QFile::remove(folder_.file(pack_, u"player_fields.inc"_s)));
+    ASSERT_TRUE(QFile::remove(folder_.file(pack_, u"timeout.csp"_s)));
+
+    QString found;
+    QTextStream out(&found);
+    EXPECT_EQ(1, runCheck({u"--app-folder"_s, folder_.path(), pack_}, out, out));
+    static const QRegularExpression kCard(
+        u"card (\\S+) does not exist|(\\w+\\.csp):\\d+: error: .*"
+        "(the include \\S+ does not exist|has no field)"_s);
+    QSet<QString> named;
+    for (auto matches = kCard.globalMatch(found); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        named.insert(match.captured(1) + match.captured(2));
+    }
+    EXPECT_EQ((QSet<QString>{u"timeout.csp"_s, u"player.csp"_s, u"player_next.csp"_s, u"duel.csp"_s}), named)
+        << qPrintable(found);
+
+    QSet<QString> failing;
+    for (const QString& card : folder_.scripts(pack_) + QStringList{u"timeout.csp"_s}) {
+        if (fire(card) != RunStatus::Ran) failing.insert(card);
+    }
+    EXPECT_EQ(named, failing) << qPrintable(QStringList(failing.values()).join(u' '));
 }
 
 INSTANTIATE_TEST_SUITE_P(Packs, CardsAlone, testing::Values("EN", "GR"),

@@ -37,8 +37,11 @@ class DemoFolder {
     QStringList scripts(const QString& pack) const {
         return QDir(path() + QStringLiteral("/MODULES/QRD_") + pack).entryList({QStringLiteral("*.csp")});
     }
+    QString file(const QString& pack, const QString& name) const {
+        return path() + QStringLiteral("/MODULES/QRD_") + pack + u'/' + name;
+    }
     QString script(const QString& pack, const QString& card) const {
-        QFile file(path() + QStringLiteral("/MODULES/QRD_") + pack + u'/' + card);
+        QFile file(this->file(pack, card));
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
