@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "browser.h"
+#include "demo/demo_folder.h"
 #include "eventually.h"
 
 using namespace Qt::StringLiterals;
@@ -100,7 +101,7 @@ const QString kPanel = u"getComputedStyle(document.querySelector('.panel')).clip
 
 TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
     Server server;
-    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES)));
+    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
     open(server);
     const auto name = [] { return frame(kLowerThird, kName); };
     const auto panel = [] { return frame(kLowerThird, kPanel); };
@@ -144,6 +145,38 @@ TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
     EXPECT_TRUE(server.stop());
 }
 
+TEST_F(BrowserTest, ShowsDemoCardsFiredFromTheTerminal) {
+    const test::DemoFolder demo;
+    ASSERT_TRUE(demo.isMade());
+    Server server;
+    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
+    open(server);
+    const auto fire = [&](const QString& language, const QStringList& cardAndOptions) {
+        QProcess zelvor;
+        endWithTest(zelvor);
+        zelvor.start(QStringLiteral(ZELVOR_PROGRAM),
+                     QStringList{u"run"_s, u"--app-folder"_s, demo.path(), u"--main"_s,
+                                 u"127.0.0.1:"_s + server.amcpPort(), u"--language"_s, language} +
+                         cardAndOptions);
+        return zelvor.waitForFinished() && zelvor.exitStatus() == QProcess::NormalExit && zelvor.exitCode() == 0;
+    };
+    const QStringList player{u"player.csp"_s, u"--answer"_s, u"1"_s, u"--answer"_s, u"118"_s};
+    const QStringList onAir{u"--set"_s, u"@ONTHIRD=player"_s, u"--set"_s, u"@THIRDTAG=T:1##P:118"_s};
+
+    EXPECT_TRUE(fire(u"EN"_s, player));
+    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kName); }, u"Tyler Vance"_s));
+    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kPanel); }, u"inset(0px)"_s));
+    frame(kLowerThird, u"window.before = 'the same page'"_s);
+    EXPECT_TRUE(fire(u"GR"_s, player + onAir));
+    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kName); }, u"Τάιλερ Βανς"_s));
+    EXPECT_EQ(frame(kLowerThird, u"window.before"_s), u"the same page"_s);
+    EXPECT_TRUE(fire(u"GR"_s, QStringList{u"lowerthird_off.csp"_s} + onAir));
+    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kPanel); }, u"100%"_s));
+    EXPECT_TRUE(fire(u"GR"_s, {u"clear.csp"_s}));
+    EXPECT_TRUE(becomes([] { return page(u"`${document.querySelectorAll('iframe').length} left`"_s); }, u"0 left"_s));
+    EXPECT_TRUE(server.stop());
+}
+
 TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"calls.html"_s));
@@ -178,16 +211,19 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
     }
     EXPECT_EQ(page(u"document.querySelectorAll('#lines b').length"_s), u"0"_s);
 
+    // The list goes on showing the newest line when it has become shorter.
+    page(u"lines.style.cssText = 'flex: none; height: 60px'"_s);
     send(u"CG 2-1 ADD 1 missing 1"_s);
     send(u"NOPE <b>x</b>"_s);
     EXPECT_TRUE(becomes(&BrowserTest::lines, u"404 CG ADD FAILED"_s));
     EXPECT_TRUE(becomes(&BrowserTest::lines, u"NOPE <b>x</b>"_s));
+    EXPECT_EQ(page(u"lines.scrollTop + lines.clientHeight > lines.scrollHeight - 4"_s), u"true"_s);
     EXPECT_TRUE(server.stop());
 }
 
 TEST_F(BrowserTest, FollowsConsoleAndServerThroughRestarts) {
     Server server;
-    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES)));
+    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
     open(server);
     const auto consoleStatus = [] { return page(u"document.getElementById('console').textContent"_s); };
     const auto serverStatus = [] { return page(u"document.getElementById('server').textContent"_s); };
@@ -199,7 +235,7 @@ TEST_F(BrowserTest, FollowsConsoleAndServerThroughRestarts) {
     const QStringList samePorts = {u"--amcp"_s, server.amcpPort(), u"--http"_s, server.httpPort()};
     EXPECT_TRUE(server.stop());
     EXPECT_TRUE(becomes(serverStatus, u"does not answer"_s));
-    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES), samePorts));
+    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s), samePorts));
     EXPECT_TRUE(becomes(serverStatus, u"Following"_s));
     EXPECT_TRUE(becomes(consoleStatus, u"No console yet: connect it to 127.0.0.1:"_s));
     EXPECT_TRUE(server.stop());
@@ -207,7 +243,7 @@ TEST_F(BrowserTest, FollowsConsoleAndServerThroughRestarts) {
 
 TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
     Server server;
-    ASSERT_TRUE(server.start(QStringLiteral(DEMO_TEMPLATES)));
+    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
     const QString longName = u"Κωνσταντίνος-Αλέξανδρος Παπαχατζηθεοδωροπουλόπουλος von Wolfeschlegelsteinhausen"_s;
     QString data;
     for (const char* field :

@@ -5,6 +5,14 @@ const kMaxLines = 200;
 export class LineList {
     constructor(element) {
         this.element = element;
+        this.follows = true;
+        let last = 0;
+        // Only who scrolls up stops it: the list also gets shorter when the channels above it grow.
+        element.addEventListener("scroll", () => {
+            const isAtEnd = element.scrollTop + element.clientHeight >= element.scrollHeight - 4;
+            this.follows = isAtEnd || (this.follows && element.scrollTop >= last);
+            last = element.scrollTop;
+        });
     }
 
     clear() {
@@ -13,7 +21,6 @@ export class LineList {
 
     // line: { time, kind, client, text }; kind "received", "sent", "note" or "fault".
     add(line) {
-        const follows = this.element.scrollTop + this.element.clientHeight >= this.element.scrollHeight - 4;
         const item = document.createElement("li");
         item.className = line.kind;
         item.classList.toggle("refused", line.kind === "sent" && /^(RES \S+ )?[45]\d\d /.test(line.text));
@@ -23,7 +30,7 @@ export class LineList {
         while (this.element.childElementCount > kMaxLines) {
             this.element.firstElementChild.remove();
         }
-        if (follows) {
+        if (this.follows) {
             this.element.scrollTop = this.element.scrollHeight;
         }
     }
