@@ -18,13 +18,18 @@ bool isKept(const Control& control) {
            control.name() == u"txtS5A";
 }
 
-// The place of the box's text in its list, -1 for a text of its own ("Off").
-int positionOf(const Control& box) {
-    const QList<Control::Item>& items = box.items();
-    for (int position = 0; position < items.size(); ++position) {
-        if (items[position].text == box.text()) return position;
-    }
-    return -1;
+// What stands for an effect box whose text is none of its list, before that text: the position alone would lose it.
+const QString kOwnText = u"-1;"_s;
+
+QString savedEffect(const Control& box) {
+    const bool isOwn = box.position() < 0 && !box.text().isEmpty();
+    return isOwn ? kOwnText + box.text() : QString::number(box.position());
+}
+
+// A box that was saved with nothing selected keeps its default.
+void restorePosition(Control& box, const QString& line) {
+    const int position = wholeNumber16(line);
+    if (position != -1) box.setPosition(position);
 }
 
 }  // namespace
@@ -43,9 +48,12 @@ QString Selections::path() const {
 void Selections::SaveSelections() {
     trap_.run({u"frmMAIN.SaveSelections"_s}, Tell::Operator, [&] {
         QString text;
-        const auto addLine = [&text](const QString& line) { text += line + u"\r\n"_s; };
-        addLine(QString::number(positionOf(form_.at(u"cbQt"_s))));
-        for (const Control* box : form_.named(u"cmbFADE"_s)) addLine(QString::number(positionOf(*box)));
+        // A card may have written several lines into a box.
+        const auto addLine = [&text](QString line) {
+            text += line.replace(u'\r', u' ').replace(u'\n', u' ') + u"\r\n"_s;
+        };
+        addLine(QString::number(form_.at(u"cbQt"_s).position()));
+        for (const Control* box : form_.named(u"cmbFADE"_s)) addLine(savedEffect(*box));
         for (const QString& side : {u"txtS5H"_s, u"txtS5A"_s}) {
             for (const Control* box : form_.named(side)) addLine(box->text());
         }
@@ -68,17 +76,19 @@ void Selections::read(const QStringList& lines) {
         if (at == lines.size()) throw RunTimeError(ErrorNumber::InputPastEndOfFile, u"SELECTIONS.TXT"_s);
         return lines[at++];
     };
-    // A text that was no item of its list was saved as no position: the box keeps its default.
-    const auto setPosition = [](Control& box, int position) {
-        if (position >= 0 || position < -1) box.setPosition(position);
-    };
     Control& period = form_.at(u"cbQt"_s);
-    setPosition(period, wholeNumber16(next()));
+    restorePosition(period, next());
     state_.variables.SetVar(u"@GAMEPERIOD", Val(period.text()));
     for (int i = 0; i < static_cast<int>(kEffectVariables.size()); ++i) {
         Control& box = form_.at(u"cmbFADE"_s, i);
-        setPosition(box, wholeNumber16(next()));
-        state_.variables.SetVar(kEffectVariables.at(i), box.text());
+        const QString line = next();
+        if (line.startsWith(kOwnText)) {
+            // Its variable is written as it was when the operator typed the text: by the change of the box.
+            box.setText(line.mid(kOwnText.size()));
+        } else {
+            restorePosition(box, line);
+            state_.variables.SetVar(kEffectVariables.at(i), box.text());
+        }
     }
     for (const QString& side : {u"H"_s, u"A"_s}) {
         for (int player = 0; player < kFive; ++player) {

@@ -1,13 +1,8 @@
 #include "general_rules/selections.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <QElapsedTimer>
-#include <QThread>
-#include <csignal>
-
+#include "engine/defaults.h"
 #include "support/fake_ports.h"
 
 namespace zelvor {
@@ -33,8 +28,8 @@ struct Desk : EngineBench {
         for (Control* box : form.named(u"cmbFADE"_s)) {
             box->setItems(numbers(100));
             box->setPosition(9);
-            state.variables.SetVar(u"@FADE_IN", u"10"_s);
         }
+        writeEffectDefaults(state);
     }
     QByteArray saved() const {
         QFile file(folderOnDisk.filePath(u"MODULES/SELECTIONS.TXT"_s));
@@ -44,8 +39,6 @@ struct Desk : EngineBench {
     Selections selections{engine, trap};
 };
 
-const QByteArray kDefaults = "0\r\n9\r\n9\r\n9\r\n9\r\n" + QByteArray("0\r\n").repeated(10);
-
 TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
     Desk desk;
     desk.selections.LoadSelections();
@@ -53,11 +46,14 @@ TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
     EXPECT_EQ(desk.state.variables.text(u"@FADE_IN"), u"10");
     desk.form.at(u"cbQt"_s).setPosition(2);
     desk.form.at(u"cmbFADE"_s, 0).setText(u"25"_s);
-    desk.form.at(u"cmbFADE"_s, 3).setText(u"Off"_s);
+    desk.form.at(u"cmbFADE"_s, 1).setText({});
+    desk.form.at(u"cmbFADE"_s, 2).setText(u"Off"_s);
+    desk.form.at(u"cmbFADE"_s, 3).setText(u"2;x\r\ny"_s);
     desk.form.at(u"txtS5H"_s, 0).setText(u"12a"_s);
     desk.form.at(u"txtS5H"_s, 1).setText(u"07"_s);
     desk.form.at(u"txtS5A"_s, 4).setText(u"x"_s);
-    EXPECT_EQ(desk.saved(), "2\r\n24\r\n9\r\n9\r\n-1\r\n12a\r\n07\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\nx\r\n");
+    EXPECT_EQ(desk.saved(),
+              "2\r\n24\r\n-1\r\n-1;Off\r\n-1;2;x  y\r\n12a\r\n07\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\nx\r\n");
 
     Desk next;
     next.write(u"SELECTIONS.TXT"_s, desk.saved());
@@ -66,7 +62,9 @@ TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
     const VariableStore& variables = next.state.variables;
     EXPECT_EQ(variables.text(u"@GAMEPERIOD"), u"3");
     EXPECT_EQ(variables.text(u"@FADE_IN"), u"25");
-    EXPECT_EQ(variables.text(u"@WIPE"), u"10") << "a text that is no item keeps the default";
+    EXPECT_EQ(variables.text(u"@FADE_OUT"), u"10") << "an empty box was saved: the default stays";
+    EXPECT_EQ(next.form.at(u"cmbFADE"_s, 2).text(), u"Off");
+    EXPECT_EQ(next.form.at(u"cmbFADE"_s, 3).text(), u"2;x  y");
     EXPECT_EQ(next.form.at(u"txtS5H"_s, 0).text(), u"12");
     EXPECT_EQ(*variables.find(u"@S5H2"), Value(7.0));
     EXPECT_EQ(variables.text(u"@S5A5"), u"0");
@@ -108,39 +106,6 @@ TEST(Selections, AFolderThatCannotBeWrittenIsReported) {
     desk.selections.SaveSelections();
     ASSERT_EQ(desk.operatorDesk.shown.size(), 1);
     EXPECT_TRUE(desk.operatorDesk.shown[0].startsWith(u"Error 76\r\n"));
-}
-
-TEST(Selections, AKillInTheMiddleOfASaveLeavesTheOldOrTheNew) {
-    constexpr int kKills = 60;
-    Desk desk;
-    desk.selections.SaveSelections();
-    const QByteArray one = desk.saved();
-    ASSERT_EQ(one, kDefaults);
-    desk.form.at(u"txtS5H"_s, 0).setText(QString(20000, u'7'));
-    desk.selections.SaveSelections();
-    const QByteArray other = desk.saved();
-    int changes = 0;
-    QByteArray before = other;
-    for (int i = 0; i < kKills; ++i) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            for (;;) {
-                desk.form.at(u"txtS5H"_s, 0).setText(u"0"_s);
-                desk.selections.SaveSelections();
-                desk.form.at(u"txtS5H"_s, 0).setText(QString(20000, u'7'));
-                desk.selections.SaveSelections();
-            }
-        }
-        QThread::usleep(1500 + 137 * i % 2000);
-        kill(child, SIGKILL);
-        ASSERT_EQ(waitpid(child, nullptr, 0), child);
-        const QByteArray after = desk.saved();
-        ASSERT_TRUE(after == one || after == other) << after.size() << " bytes";
-        changes += after != before ? 1 : 0;
-        before = after;
-    }
-    EXPECT_GT(changes, 0) << "the children were killed before they saved anything";
 }
 
 }  // namespace
