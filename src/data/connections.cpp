@@ -70,6 +70,11 @@ void Connections::CONNECTDATABASE() {
     });
 }
 
+void Connections::close() {
+    utf8_.close();
+    greek_.close();
+}
+
 void Connections::setConnectionStrings(const QString& connectionString) {
     utf8_.setConnectionString(connectionString);
     greek_.setConnectionString(QString(connectionString).replace(u"'utf8'"_s, u"'greek'"_s));

@@ -36,6 +36,8 @@ class Connections : public Database {
     QString FIND_CONNECTION(qint16& ConnID);
     // Chooses and opens both connections. One that did not open is tried again before its next statement.
     void CONNECTDATABASE();
+    // Closes both connections; no statement opens them again.
+    void close();
 
     int RUN_QUERY(const QString& sql) override;
     int RUN_QUERY2(const QString& sql) override;

@@ -18,8 +18,13 @@ RunTimeError silence(const QString& text) {
 }  // namespace
 
 void Session::setConnectionString(const QString& connectionString) {
+    close();
     connectionString_ = connectionString;
     connection_ = std::make_shared<odbc::Connection>(connectionString_, folder_);
+}
+
+void Session::close() {
+    connection_.reset();
     silentSince_ = {};
     opening_ = {};
 }

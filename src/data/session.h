@@ -22,6 +22,8 @@ class Session {
 
     // Takes effect with the next call; an open connection is dropped.
     void setConnectionString(const QString& connectionString);
+    // Closes the connection and forgets its string.
+    void close();
     [[nodiscard]] bool hasConnectionString() const { return connection_ != nullptr; }
 
     // Opens the connection unless it is open. Both throw RunTimeError, also when the time is up or no connection

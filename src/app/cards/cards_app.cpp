@@ -111,8 +111,9 @@ void CardsApp::connectDatabase() {
 
 void CardsApp::close() {
     state_.closing = true;
-    settings_.close();
     links_.finishSending();
+    database_.close();
+    settings_.close();
     boxes_.closeAll();
 }
 
