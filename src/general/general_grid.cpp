@@ -43,6 +43,7 @@ void GeneralGrid::showMarks() {
 
 void GeneralGrid::markSaved() {
     for (Entry& entry : rows_) entry.saved = entry.now;
+    removedUnsaved_ = 0;
     showMarks();
 }
 
@@ -52,7 +53,8 @@ void GeneralGrid::markApplied() {
 }
 
 bool GeneralGrid::hasUnsaved() const {
-    return std::any_of(rows_.begin(), rows_.end(), [](const Entry& entry) { return entry.saved != entry.now; });
+    return removedUnsaved_ > 0 ||
+           std::any_of(rows_.begin(), rows_.end(), [](const Entry& entry) { return entry.saved != entry.now; });
 }
 
 int GeneralGrid::rowCount(const QModelIndex& parent) const {
@@ -100,6 +102,17 @@ Qt::ItemFlags GeneralGrid::flags(const QModelIndex& index) const {
 bool GeneralGrid::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || index.column() != kValue || role != Qt::EditRole) return false;
     setValue(index.row(), value.toString());
+    return true;
+}
+
+bool GeneralGrid::removeRows(int row, int count, const QModelIndex& parent) {
+    if (parent.isValid() || row < 0 || count < 1 || row + count > rowCount()) return false;
+    const auto first = rows_.begin() + row;
+    removedUnsaved_ += static_cast<int>(
+        std::count_if(first, first + count, [](const Entry& entry) { return entry.saved.has_value(); }));
+    beginRemoveRows({}, row, row + count - 1);
+    rows_.erase(first, first + count);
+    endRemoveRows();
     return true;
 }
 

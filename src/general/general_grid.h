@@ -32,6 +32,7 @@ class GeneralGrid : public QAbstractTableModel {
     void setLoaded(const std::vector<GeneralRow>& rows, IsInForce&& isInForce) {
         beginResetModel();
         rows_.clear();
+        removedUnsaved_ = 0;
         for (const GeneralRow& row : rows)
             rows_.push_back({row, row, row, isInForce(row) ? std::optional(row) : std::nullopt});
         endResetModel();
@@ -49,6 +50,8 @@ class GeneralGrid : public QAbstractTableModel {
     [[nodiscard]] bool isUnsaved(int row) const { return rows_.at(row).saved != rows_.at(row).now; }
     [[nodiscard]] bool isUnapplied(int row) const { return rows_.at(row).applied != rows_.at(row).now; }
     [[nodiscard]] bool hasUnsaved() const;
+    // Rows taken away that the saved file still holds.
+    [[nodiscard]] int removedUnsaved() const { return removedUnsaved_; }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -57,6 +60,7 @@ class GeneralGrid : public QAbstractTableModel {
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    bool removeRows(int row, int count, const QModelIndex& parent = {}) override;
 
  private:
     struct Entry {
@@ -68,6 +72,7 @@ class GeneralGrid : public QAbstractTableModel {
     void showMarks();
 
     std::vector<Entry> rows_;
+    int removedUnsaved_ = 0;
 };
 
 }  // namespace zelvor

@@ -83,6 +83,20 @@ bool GeneralVariables::addRow() {
     return true;
 }
 
+void GeneralVariables::removeRows(const QList<int>& rows) {
+    if (rows.isEmpty()) return;
+    // Another pack's rows may be loaded while the question is open.
+    QList<QPersistentModelIndex> chosen;
+    for (const int row : rows) chosen += QPersistentModelIndex(grid_.index(row, 0));
+    const QString what = rows.size() > 1 ? u"%1 rows"_s.arg(rows.size())
+                                         : grid_.text(rows[0], general_column::kTitle) + u' ' +
+                                               grid_.text(rows[0], general_column::kVariable);
+    if (!operator_.yesNo(kTitle, u"Remove "_s + what.trimmed() + u'?')) return;
+    for (const QPersistentModelIndex& row : chosen) {
+        if (row.isValid()) grid_.removeRow(row.row());
+    }
+}
+
 void GeneralVariables::importText() {
     trap_.run({u"frmGENERAL.cmdIMPORT_Click"_s}, Tell::Operator, [&] {
         const ImportedRows imported = importRows(files_.readLines(file(u"infodata.txt")));

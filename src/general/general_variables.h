@@ -21,6 +21,8 @@ class GeneralVariables {
     void load();
     // Asks for name, title and help of a new row. False when none was added: the operator cancelled.
     bool addRow();
+    // Takes rows away once the operator has agreed. Their variables keep the values they have.
+    void removeRows(const QList<int>& rows);
     // Adds every line of infodata.txt as a row and saves; reports lines of more or fewer than four fields.
     void importText();
     // Writes infodata.dat, whole or not at all. False when it could not be written.

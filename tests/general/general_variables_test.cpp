@@ -150,6 +150,31 @@ TEST_F(GeneralVariablesTest, ImportsEveryLineAsARowAndSaves) {
     EXPECT_EQ(onDisk(u"infodata.dat"_s), "zelvor-grid 1\n1\tT\t@A\tH\n2\tT\t@B\t\n\t\t\t\n3\tT\t@C\tH\n");
 }
 
+TEST_F(GeneralVariablesTest, RemovesRowsOnceAgreed) {
+    bench.write(u"QRD_TT/infodata.dat"_s, "zelvor-grid 1\n1\tOne\t@A\t\n2\t\t@B\t\n3\t\t@C\t\n4\t\t@D\t\n");
+    general.load();
+    general.apply();
+    bench.operatorDesk.answerYes = false;
+    general.removeRows({0});
+    EXPECT_EQ(bench.operatorDesk.shown, QStringList{u"General Vars|Remove One @A?"_s});
+    EXPECT_EQ(general.grid().rowCount(), 4);
+    EXPECT_FALSE(general.grid().hasUnsaved());
+    bench.operatorDesk.answerYes = true;
+    general.removeRows({3, 0, 1});
+    EXPECT_EQ(bench.operatorDesk.shown.last(), u"General Vars|Remove 3 rows?");
+    EXPECT_EQ(general.grid().rows(), (std::vector<GeneralRow>{{u"3"_s, {}, u"@C"_s, {}}}));
+    EXPECT_EQ(general.grid().removedUnsaved(), 3);
+    EXPECT_TRUE(general.grid().hasUnsaved());
+    EXPECT_EQ(variable(u"@A"), u"1");
+    general.save();
+    EXPECT_FALSE(general.grid().hasUnsaved());
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), "zelvor-grid 1\n3\t\t@C\t\n");
+    // Rows loaded while the question is open are others.
+    bench.operatorDesk.whileAsked = [this] { general.load(); };
+    general.removeRows({0});
+    EXPECT_EQ(general.grid().rowCount(), 1);
+}
+
 TEST_F(GeneralVariablesTest, AsksForANewRow) {
     bench.operatorDesk.answers = {u"@NEW"_s, u"Title"_s, u"Help"_s};
     EXPECT_TRUE(general.addRow());
