@@ -85,7 +85,7 @@ constexpr std::array kHints{
     Hint{"cmdSCREENMODE"_L1, u"Screen mode: green is on"},
     Hint{"mnSet169"_L1, u"Screen mode 16:9"},
     Hint{"mnSet43"_L1, u"Screen mode 4:3"},
-    Hint{"cmbLANG"_L1, u"Card language: changing it loads that pack's cards"},
+    Hint{"cmbLANG"_L1, u"Card language: choosing it loads that pack's cards"},
     Hint{"cbQt"_L1, u"Period of the game"},
     Hint{"txtS5H"_L1, u"Home starting five, player %1"},
     Hint{"txtS5A"_L1, u"Away starting five, player %1"},

@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <utility>
 
 #include "console/hints.h"
 
@@ -157,6 +158,9 @@ namespace {
 
 // A closed list that the wheel does not change unless the operator has chosen it.
 class ListBox : public QComboBox {
+ public:
+    int changedTo = -1;  // the position that a choice under way has changed it to
+
  protected:
     void wheelEvent(QWheelEvent* event) override {
         if (hasFocus()) {
@@ -190,8 +194,14 @@ QComboBox* Mirrors::list(const QString& name, int index, bool editable) const {
             if (editable && widget->currentText() != control.text()) widget->setEditText(control.text());
         }
     });
-    QObject::connect(widget, &QComboBox::currentIndexChanged, &control, [&control](int position) {
-        if (position >= 0) control.setPosition(position);
+    QObject::connect(widget, &QComboBox::currentIndexChanged, &control, [&control, widget](int position) {
+        if (position < 0) return;
+        control.setPosition(position);
+        widget->changedTo = position;
+    });
+    // Choosing what is chosen already is a click, though no change.
+    QObject::connect(widget, &QComboBox::activated, &control, [&events = events_, &control, widget](int position) {
+        if (std::exchange(widget->changedTo, -1) != position) events.click(control);
     });
     if (editable) QObject::connect(widget, &QComboBox::editTextChanged, &control, &Control::setText);
     return widget;

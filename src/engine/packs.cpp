@@ -86,6 +86,7 @@ bool Packs::LOAD_CARDS() {
         const QString path = folder_.resolve(folder_.packFile(state_.language(), u"CARDS.TXT"));
         const QStringList lines = files_.readLines(path);
         const std::vector<TimedCard> before = std::exchange(state_.cards, {}).timedCards;
+        state_.lastFiredButton = -1;  // a button of the cards before
         try {
             readCardTable(lines, state_.cards, place.line);
         } catch (const RunTimeError& error) {

@@ -116,7 +116,6 @@ void CardConsole::SHOW_AUTO_CARD() {
 }
 
 void CardConsole::showLoaded() {
-    state_.lastFiredButton = -1;  // a button of the cards before
     LoadFkeys(state_, form_);
     showSwitches();
     Q_EMIT loaded();
