@@ -1,5 +1,6 @@
 #include "console/boxes.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -92,6 +93,16 @@ void addSeverity(Box& box, Severity severity) {
 
 }  // namespace
 
+// The window that the operator is in: a box over another one would bring that one before it. Between two boxes no
+// window is active yet.
+QWidget* Boxes::over() {
+    if (state_.unattendedRuns > 0) return window_;
+    QWidget* active = QApplication::activeWindow();
+    while (active != nullptr && active->parentWidget() != nullptr) active = active->parentWidget()->window();
+    if (active != nullptr) used_ = active;
+    return used_ && used_->isVisible() ? used_ : window_;
+}
+
 bool Boxes::run(QDialog& box) {
     if (state_.closing) return false;
     open_.emplace_back(&box);
@@ -139,7 +150,7 @@ void Boxes::message(const QString& title, const QString& text, Severity severity
         showNotice(title, text, severity);
         return;
     }
-    QDialog dialog(window_);
+    QDialog dialog(over());
     Box box(dialog, title, text, QDialogButtonBox::Ok);
     addSeverity(box, severity);
     box.column->addWidget(box.buttons);
@@ -147,14 +158,14 @@ void Boxes::message(const QString& title, const QString& text, Severity severity
 }
 
 bool Boxes::yesNo(const QString& title, const QString& text) {
-    QDialog dialog(window_);
+    QDialog dialog(over());
     Box box(dialog, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
     box.column->addWidget(box.buttons);
     return run(dialog);
 }
 
 std::optional<QString> Boxes::input(const QString& title, const QString& prompt, const QString& proposed) {
-    QDialog dialog(window_);
+    QDialog dialog(over());
     Box box(dialog, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* field = new QLineEdit(proposed);
     field->setObjectName(u"answer"_s);

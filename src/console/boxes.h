@@ -21,7 +21,7 @@ class Boxes : public QObject, public Operator {
  public:
     explicit Boxes(const ShowState& state) : state_(state) {}
 
-    // The window that the boxes stand over.
+    // The window that the boxes stand over, unless the operator is in another one.
     void setWindow(QWidget& window) { window_ = &window; }
 
     // A message of a card that no operator has fired is shown without waiting and without taking the keyboard; further
@@ -43,11 +43,13 @@ class Boxes : public QObject, public Operator {
 
  private:
     bool run(QDialog& box);
+    QWidget* over();
     // The notice that is shown, null when it is dropped.
     QDialog* showNotice(const QString& title, const QString& text, Severity severity);
 
     const ShowState& state_;
     QPointer<QWidget> window_;
+    QPointer<QWidget> used_;  // the window that the operator was in last
     std::deque<QPointer<QDialog>> open_;
     QPointer<QDialog> notice_;
     std::set<QString> quietCards_;

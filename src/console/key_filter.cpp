@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <algorithm>
 
 namespace zelvor {
 
@@ -31,12 +32,15 @@ KeyFilter::KeyFilter(QWidget& form) : QObject(&form), form_(form) {
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
     auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget == nullptr || widget->window() != &form_) return false;
+    if (widget == nullptr) return false;
+    const bool inForm = widget->window() == &form_;
+    if (!inForm && std::find(beside_.begin(), beside_.end(), widget->window()) == beside_.end()) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() >= Qt::Key_F1 && key->key() <= Qt::Key_F10) {
         if (!key->isAutoRepeat()) Q_EMIT functionKey(key->key() - Qt::Key_F1 + 1);
         return true;
     }
+    if (!inForm) return false;
     if (key->key() >= Qt::Key_F11 && key->key() <= Qt::Key_F35) return true;
     if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
     return !isInput(widget);

@@ -1,20 +1,24 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
+#include <vector>
 
 class QWidget;
 
 namespace zelvor {
 
 // The form sees every key before its controls: F1 to F10 are told, once a press; a focused input gets the keys it
-// edits with, Tab moves between inputs, and every other key is consumed.
+// edits with, Tab moves between inputs, and every other key is consumed. A window beside the form keeps its keys but
+// F1 to F10: they fire cards wherever the operator has clicked last.
 class KeyFilter : public QObject {
     Q_OBJECT
 
  public:
     // form: the window whose keys are filtered, and the filter's parent.
     explicit KeyFilter(QWidget& form);
+
+    // A window whose F1 to F10 are the form's.
+    void addBeside(const QWidget& window) { beside_.push_back(&window); }
 
  Q_SIGNALS:
     // number: 1 to 10.
@@ -25,6 +29,7 @@ class KeyFilter : public QObject {
 
  private:
     QWidget& form_;
+    std::vector<const QWidget*> beside_;
 };
 
 }  // namespace zelvor

@@ -30,7 +30,7 @@ constexpr int kPanelHeight = 250;  // the tallest panel's
 
 MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
                        QAbstractItemModel& responses)
-    : mirrors_(form, events) {
+    : mirrors_(form, events), keys_(new KeyFilter(*this)) {
     setObjectName(u"frmMAIN"_s);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
     auto* rows = new QVBoxLayout(this);
@@ -54,8 +54,11 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     // The window itself has the keyboard until the operator chooses a box: a stray key must not turn a list.
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
-    auto* keys = new KeyFilter(*this);
-    connect(keys, &KeyFilter::functionKey, this, &MainWindow::functionKey);
+    connect(keys_, &KeyFilter::functionKey, this, &MainWindow::functionKey);
+}
+
+void MainWindow::takeFunctionKeysOf(const QWidget& beside) {
+    keys_->addBeside(beside);
 }
 
 QWidget* MainWindow::leftSide(const CardConsole& console, QAbstractItemModel& history) {

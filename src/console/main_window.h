@@ -10,6 +10,7 @@ class QAbstractItemModel;
 namespace zelvor {
 
 class CasparPanel;
+class KeyFilter;
 
 // The operator's window (frmMAIN): lays the panels out around the form model and hands keys and clicks on.
 class MainWindow : public QWidget {
@@ -19,6 +20,9 @@ class MainWindow : public QWidget {
     // All must outlive the window. history: oldest line on top; responses: newest on top.
     MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
                QAbstractItemModel& responses);
+
+    // F1 to F10 pressed in that window are this one's.
+    void takeFunctionKeysOf(const QWidget& beside);
 
  Q_SIGNALS:
     void closed();
@@ -36,6 +40,7 @@ class MainWindow : public QWidget {
     QWidget* rightSide(QAbstractItemModel& responses);
 
     Mirrors mirrors_;
+    KeyFilter* keys_;
 };
 
 }  // namespace zelvor

@@ -10,8 +10,10 @@ class OpenForms {
     virtual ~OpenForms() = default;
     // The names of all forms that are open.
     [[nodiscard]] virtual QStringList names() const = 0;
-    // Opens the form, not modally; one that is open comes to the front.
+    // Opens the form, not modally, behind the console where the two overlap; the keyboard stays where it is.
     virtual void show(const QString& name) = 0;
+    // Opens the form, not modally, in front of all others and gives it the keyboard.
+    virtual void bringToFront(const QString& name) = 0;
     // Closes the form without asking anything; nothing when it is not open.
     virtual void close(const QString& name) = 0;
 };

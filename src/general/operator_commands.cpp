@@ -1,5 +1,7 @@
 #include "general_rules/operator_commands.h"
 
+#include <QScopedValueRollback>
+
 #include "base/number.h"
 #include "engine/defaults.h"
 
@@ -29,19 +31,26 @@ OperatorCommands::OperatorCommands(CardEngine& engine, Packs& packs, GeneralVari
       forms_(forms),
       trap_(trap),
       state_(engine.state()),
-      form_(engine.form()) {
+      form_(engine.form()),
+      languages_(form_.at(u"cmbLANG"_s)) {
+    languages_.setEnabled(false);
     connect(&form_, &FormModel::changed, this, [this](const Control* control, Control::Property property) {
-        if (property == Control::Property::Text) follow(*control);
+        if (property == Control::Property::Text) take(*control, u"_Change"_s);
     });
 }
 
-void OperatorCommands::follow(const Control& control) {
+void OperatorCommands::chooseAgain(const Control& list) {
+    take(list, u"_Click"_s);
+}
+
+void OperatorCommands::take(const Control& control, const QString& event) {
     ErrorPlace place;
-    place.procedure = u"frmMAIN."_s + control.name() + u"_Change"_s;
+    place.procedure = u"frmMAIN."_s + control.name() + event;
     trap_.run(place, ErrorTrap::Tell::Operator, [&] {
         if (control.name() == u"cmbFADE") takeEffect(control);
         if (control.name() == u"cbQt") takePeriod(control);
-        if (control.name() == u"cmbLANG" && control.position() >= 0) changeLanguage(control.text());
+        // Filling the list at the start is no change.
+        if (&control == &languages_ && control.enabled() && control.position() >= 0) changeLanguage(control.text());
     });
 }
 
@@ -78,21 +87,19 @@ void OperatorCommands::mnReloadVar() {
 void OperatorCommands::mnGeneralVars() {
     // An open editor keeps what is being edited.
     if (!IsFormOpen(forms_, kGeneralForm)) general_.load();
-    forms_.show(kGeneralForm);
+    forms_.bringToFront(kGeneralForm);
 }
 
 void OperatorCommands::showGeneral() {
-    language_ = state_.language();
-    started_ = true;
     general_.load();
     general_.apply();
     forms_.show(kGeneralForm);
+    languages_.setEnabled(true);
 }
 
 void OperatorCommands::changeLanguage(const QString& language) {
-    // Filling the list at the start is no change, nor is choosing the language that is shown.
-    if (!started_ || language == language_) return;
-    language_ = language;
+    // Its cards run for the operator, also while a timed card waits below.
+    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     state_.variables.SetVar(u"@LANGUAGE", language);
     const bool wasOpen = IsFormOpen(forms_, kGeneralForm);
     if (wasOpen) forms_.close(kGeneralForm);

@@ -25,11 +25,14 @@ class OperatorCommands : public QObject {
     void mnSet43();
     // Runs "GetGame.csp".
     void mnReloadVar();
-    // Opens the general variables as they were saved last.
+    // Opens the general variables as they were saved last; an open editor comes to the front as it is.
     void mnGeneralVars();
+    // The operator has chosen in a list what it shows already: its variable is written again, a language's cards are
+    // read again.
+    void chooseAgain(const Control& list);
 
     // Loads the current pack's general variables and puts them in force, then opens their editor: the end of the
-    // start-up. A language chosen from now on is changed to.
+    // start-up. From now on the operator may change the language; until then its list cannot be used.
     void showGeneral();
 
     // The text of all variables in the table's order, a line each below a heading.
@@ -40,7 +43,7 @@ class OperatorCommands : public QObject {
     void cardsLoaded();
 
  private:
-    void follow(const Control& control);
+    void take(const Control& control, const QString& event);
     void takeEffect(const Control& box);
     void takePeriod(const Control& box);
     void changeLanguage(const QString& language);
@@ -52,8 +55,7 @@ class OperatorCommands : public QObject {
     ErrorTrap& trap_;
     ShowState& state_;
     FormModel& form_;
-    QString language_;  // the one whose cards are shown
-    bool started_ = false;
+    Control& languages_;
 };
 
 }  // namespace zelvor

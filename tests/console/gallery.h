@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
@@ -82,6 +83,13 @@ class Gallery {
     Widget* find(const char* name, int index = -1) const {
         for (Widget* widget : app->window().findChildren<Widget*>(QString::fromLatin1(name))) {
             if (widget->property("index").toInt() == index) return widget;
+        }
+        return nullptr;
+    }
+    // One of the program's windows.
+    QWidget* form(const char* name) const {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1StringView(name)) return window;
         }
         return nullptr;
     }

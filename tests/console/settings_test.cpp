@@ -26,32 +26,46 @@ class SettingsTest : public testing::Test {
         gallery.write(u"QRD_GR/infodata.dat"_s, "zelvor-grid 1\nΓεια\tGreeting\t@GREETING\t\n");
     }
     QString variable(QStringView name) { return gallery.app->state().variables.text(name); }
-    bool isOpen(const char* form) { return gallery.find<QWidget>(form, 0)->isVisible(); }
+    bool isOpen(const char* form) { return gallery.form(form)->isVisible(); }
     QAction* item(const char* name) { return gallery.app->window().findChild<QAction*>(QString::fromLatin1(name)); }
 
     Gallery gallery;
 };
 
+// Everything that is kept differs from what was kept before, and all of it comes back.
 TEST_F(SettingsTest, SelectionsAreFoundAgainAfterARestart) {
+    const QStringList effects{u"@FADE_IN"_s, u"@FADE_OUT"_s, u"@ROLL_SPEED"_s, u"@WIPE"_s};
+    const auto kept = [&] {
+        QStringList all{gallery.find<QComboBox>("cbQt")->currentText() + u'=' + variable(u"@GAMEPERIOD")};
+        for (int i = 0; i < 4; ++i)
+            all += gallery.find<QComboBox>("cmbFADE", i)->currentText() + u'=' + variable(effects[i]);
+        for (const char* box : {"txtS5H", "txtS5A"}) {
+            const QString name = u'@' + QString::fromLatin1(box).mid(3);
+            for (int i = 0; i < 5; ++i)
+                all +=
+                    gallery.find<QLineEdit>(box, i)->text() + u'=' + variable(QString(name + QString::number(i + 1)));
+        }
+        return all.join(u' ');
+    };
+    gallery.write(u"SELECTIONS.TXT"_s,
+                  " 1 \r\n 1\r\n2\r\n3\r\n4\r\n11\r\n12\r\n13\r\n14\r\n15\r\n21\r\n22\r\n23\r\n24\r\n25\r\n");
     gallery.start();
     EXPECT_EQ(variable(u"@GREETING"), u"Hello") << "the general variables are in force";
     EXPECT_TRUE(isOpen("frmGENERAL"));
-    gallery.find<QComboBox>("cbQt")->setCurrentIndex(2);
-    gallery.find<QComboBox>("cmbFADE", 0)->setCurrentIndex(24);
-    gallery.find<QComboBox>("cmbFADE", 3)->setEditText(u"77"_s);
-    gallery.find<QLineEdit>("txtS5H", 1)->setText(u"07"_s);
-    gallery.find<QLineEdit>("txtS5A", 4)->setText(u"12a"_s);
+    EXPECT_EQ(kept(), u"2=2 2=2 3=3 4=4 5=5 11=11 12=12 13=13 14=14 15=15 21=21 22=22 23=23 24=24 25=25");
 
+    gallery.find<QComboBox>("cbQt")->setCurrentIndex(3);
+    gallery.find<QComboBox>("cmbFADE", 0)->setCurrentIndex(24);
+    gallery.find<QComboBox>("cmbFADE", 1)->setEditText(u"77"_s);
+    gallery.find<QComboBox>("cmbFADE", 2)->setEditText(u"Off"_s);
+    gallery.find<QComboBox>("cmbFADE", 3)->setEditText(u"slow"_s);
+    for (int i = 0; i < 5; ++i) {
+        gallery.find<QLineEdit>("txtS5H", i)->setText(u"3%1"_s.arg(i));
+        gallery.find<QLineEdit>("txtS5A", i)->setText(u"0%1a"_s.arg(i));
+    }
     gallery.app.reset();
     gallery.start();
-    EXPECT_EQ(gallery.find<QComboBox>("cbQt")->currentText(), u"3");
-    EXPECT_EQ(variable(u"@GAMEPERIOD"), u"3");
-    EXPECT_EQ(gallery.find<QComboBox>("cmbFADE", 0)->currentText(), u"25");
-    EXPECT_EQ(variable(u"@FADE_IN"), u"25");
-    EXPECT_EQ(variable(u"@FADE_OUT"), u"10");
-    EXPECT_EQ(variable(u"@WIPE"), u"77");
-    EXPECT_EQ(gallery.find<QLineEdit>("txtS5H", 1)->text(), u"7");
-    EXPECT_EQ(variable(u"@S5A5"), u"12");
+    EXPECT_EQ(kept(), u"4=4 25=25 77=77 Off=1 slow=slow 30=30 31=31 32=32 33=33 34=34 0=0 1=1 2=2 3=3 4=4");
 }
 
 TEST_F(SettingsTest, MainMenu) {
@@ -70,7 +84,7 @@ TEST_F(SettingsTest, MainMenu) {
     item("mnReloadCards")->trigger();
     EXPECT_EQ(gallery.app->state().variables.size(), variables);
     item("mnDisplayVars")->trigger();
-    const auto* text = gallery.app->window().findChild<QPlainTextEdit*>(u"txtVARS"_s);
+    const auto* text = gallery.form("frmVARS")->findChild<QPlainTextEdit*>(u"txtVARS"_s);
     EXPECT_EQ(text->blockCount(), variables + 1);
     gallery.app->state().variables.SetVar(u"@HTLNAMEEN", u"changed"_s);
     item("mnReloadVar")->trigger();
@@ -101,16 +115,50 @@ TEST_F(SettingsTest, TheLanguageChangesWhileACardWaits) {
     EXPECT_TRUE(isOpen("frmGENERAL"));
 }
 
+// The editor takes neither the keyboard nor the function keys away from the cards.
+TEST_F(SettingsTest, FunctionKeysReachTheCardsFromTheForms) {
+    gallery.write(u"QRD_EN/first.csp"_s, "SETVAR~@FIRED;{@FIRED}x\r\n");
+    gallery.start();
+    auto* editor = gallery.form("frmGENERAL");
+    EXPECT_TRUE(editor->testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_EQ(editor->parentWidget(), nullptr) << "a window that belongs to another cannot go behind it";
+    item("mnDisplayVars")->trigger();
+    for (QWidget* target : {editor, editor->findChild<QWidget*>(u"vsDATA"_s), gallery.form("frmVARS")})
+        QTest::keyClick(target, Qt::Key_F1);
+    EXPECT_EQ(variable(u"@FIRED"), u"xxx");
+    auto* search = editor->findChild<QLineEdit*>(u"txtSEARCH"_s);
+    QTest::keyClicks(search, u"greet"_s);
+    EXPECT_EQ(search->text(), u"greet") << "its other keys are its own";
+}
+
+TEST_F(SettingsTest, ChoosingTheLanguageAgainReadsTheCards) {
+    gallery.start();
+    gallery.writePack({"Edited,first.csp"});
+    auto* languages = gallery.find<QComboBox>("cmbLANG");
+    QTest::keyClick(languages, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(languages->view(), Qt::Key_Return);
+    EXPECT_EQ(gallery.at("cmbCARD", 0).text(), u"Edited");
+}
+
 TEST_F(SettingsTest, ClosingTheConsoleAsksNothing) {
     gallery.start();
+    const auto openDatabases = [this] {
+        const QString database = gallery.folder.filePath(u"test.db"_s);
+        int open = 0;
+        for (const QFileInfo& file : QDir(u"/proc/self/fd"_s).entryInfoList(QDir::AllEntries | QDir::System))
+            open += file.symLinkTarget() == database ? 1 : 0;
+        return open;
+    };
+    EXPECT_EQ(openDatabases(), 2);
     item("mnDisplayVars")->trigger();
-    auto* grid = gallery.app->window().findChild<QAbstractItemView*>(u"vsDATA"_s)->model();
+    auto* grid = gallery.form("frmGENERAL")->findChild<QAbstractItemView*>(u"vsDATA"_s)->model();
     grid->setData(grid->index(0, 0), u"unsaved"_s);
     const qsizetype questions = gallery.shown.size();
     gallery.app->window().close();
     EXPECT_EQ(gallery.shown.size(), questions);
     EXPECT_FALSE(isOpen("frmGENERAL"));
     EXPECT_FALSE(isOpen("frmVARS"));
+    EXPECT_EQ(openDatabases(), 0);
 }
 
 }  // namespace zelvor::test

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -51,14 +52,16 @@ class GeneralFormTest : public testing::Test {
     test::EngineBench bench;
     GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
     Pickers pickers;
-    GeneralForm form{general, bench.operatorDesk, pickers, nullptr};
-    FormList forms;
+    GeneralForm form{general, bench.operatorDesk, pickers};
+    QWidget console;
+    FormList forms{console};
     QTableView* view = find<QTableView>("vsDATA");
 };
 
 TEST_F(GeneralFormTest, ValuesAreEditedInPlaceSavedAndApplied) {
-    view->setCurrentIndex(cell(0));
-    QTest::keyClick(view, Qt::Key_F2);
+    view->setFocus();
+    view->setCurrentIndex(cell(0, 2));
+    QTest::keyClick(view, Qt::Key_Return);
     auto* editor = qobject_cast<QLineEdit*>(view->indexWidget(cell(0)));
     ASSERT_NE(editor, nullptr);
     editor->selectAll();
@@ -72,7 +75,7 @@ TEST_F(GeneralFormTest, ValuesAreEditedInPlaceSavedAndApplied) {
 
     for (int column = 1; column < general_column::kCount; ++column) {
         view->setCurrentIndex(cell(0, column));
-        QTest::keyClick(view, Qt::Key_F2);
+        QTest::keyClicks(view, u"x"_s);
         EXPECT_EQ(view->indexWidget(cell(0, column)), nullptr) << column;
     }
     EXPECT_EQ(find<QLabel>("lblHELP")->text(), u"First help");
@@ -84,8 +87,9 @@ TEST_F(GeneralFormTest, ChoicesDropDown) {
     auto* list = qobject_cast<QComboBox*>(view->indexWidget(cell(1)));
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(list->currentText(), u"ON");
-    list->hidePopup();
-    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list->view(), Qt::Key_Down);
+    QTest::keyClick(list->view(), Qt::Key_Return);
+    EXPECT_EQ(view->indexWidget(cell(1)), nullptr) << "a choice ends the editing";
     click("cmdAPPLY");
     EXPECT_EQ(general.grid().text(1, 0), u"OFF:ON|OFF");
     EXPECT_EQ(variable(u"@LOGO"), u"OFF");
@@ -101,7 +105,7 @@ TEST_F(GeneralFormTest, FoldersAndFilesArePicked) {
     pickers.setNextAnswer(u" /pictures/a b.png "_s);
     view->setFocus();
     view->setCurrentIndex(cell(3));
-    QTest::keyClick(view, Qt::Key_F4);
+    QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(general.grid().text(3, 0), u"[file]/pictures/a b.png");
 
     QTimer::singleShot(0, &form, [this] { pickers.cancel(); });
@@ -131,6 +135,23 @@ TEST_F(GeneralFormTest, TheSearchKeepsWhatMatchesAnyColumn) {
     EXPECT_EQ(general.grid().text(2, 0), u"[folder]/found") << "the row that is shown, not the first one";
 }
 
+TEST_F(GeneralFormTest, TheChosenRowsAreRemoved) {
+    find<QLineEdit>("txtSEARCH")->setText(u"help"_s);
+    view->selectRow(1);
+    click("cmdREMOVEROW");
+    EXPECT_EQ(bench.operatorDesk.shown, QStringList{u"General Vars|Remove Logo @LOGO?"_s});
+    find<QLineEdit>("txtSEARCH")->clear();
+    EXPECT_EQ(view->model()->rowCount(), 3);
+    EXPECT_EQ(find<QLabel>("lblMARKS")->text(), u"1 row removed but not saved");
+    click("cmdSAVE");
+    EXPECT_EQ(find<QLabel>("lblMARKS")->text(), u"");
+    view->selectAll();
+    click("cmdREMOVEROW");
+    EXPECT_EQ(view->model()->rowCount(), 0);
+    click("cmdREMOVEROW");
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 2) << "nothing is chosen";
+}
+
 TEST_F(GeneralFormTest, ClosingByHandAsksAboutUnsavedRows) {
     form.close();
     EXPECT_FALSE(IsFormOpen(forms, u"frmGENERAL"_s));
@@ -152,10 +173,33 @@ TEST_F(GeneralFormTest, ClosingByHandAsksAboutUnsavedRows) {
     EXPECT_FALSE(IsFormOpen(forms, u"frmgeneral"_s));
 }
 
+TEST(FormList, StandsBesideTheConsoleWhereThereIsRoom) {
+    QWidget console;
+    QWidget form;
+    form.setObjectName(u"form"_s);
+    form.resize(150, 100);
+    const QRect screen = console.screen()->availableGeometry();
+    for (const QRect& taken : {screen.adjusted(0, 0, -200, 0), screen.adjusted(200, 0, 0, 0), screen}) {
+        console.setGeometry(taken);
+        console.show();
+        FormList forms{console};
+        forms.add(form);
+        form.setAttribute(Qt::WA_Moved, false);
+        forms.show(u"form"_s);
+        EXPECT_EQ(form.geometry().intersects(taken), taken == screen);
+        EXPECT_TRUE(screen.contains(form.geometry()));
+        form.move(screen.topLeft());
+        forms.close(u"form"_s);
+        forms.show(u"form"_s);
+        EXPECT_EQ(form.pos(), screen.topLeft()) << "where it was moved to";
+        forms.closeAll();
+    }
+}
+
 TEST(VariablesBox, ShowsCopiesAndSearches) {
-    VariablesBox box(nullptr);
+    VariablesBox box;
     const QString text = u"Stored Variables (pasted to clipboard)\r\n@A = 1\r\n@Bee = 2\r\n"_s;
-    box.display(text);
+    box.setText(text);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), text);
     auto* view = box.findChild<QPlainTextEdit*>(u"txtVARS"_s);
     EXPECT_EQ(view->toPlainText().count(u'\n'), 2);

@@ -25,6 +25,10 @@ class FakeForms : public OpenForms {
         note(u"show "_s + name);
         open = QStringList{name};
     }
+    void bringToFront(const QString& name) override {
+        note(u"front "_s + name);
+        open = QStringList{name};
+    }
     void close(const QString& name) override {
         note(u"close "_s + name);
         open.removeAll(name);
@@ -104,7 +108,9 @@ TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
     bench.packs.LOAD_CARDS();
     commands.showGeneral();
     QObject::connect(&commands, &OperatorCommands::cardsLoaded, &commands, [this] { forms.calls += u"cards"_s; });
+    bench.state.lastFiredButton = 3;
     form.at(u"cmbLANG"_s).setPosition(1);
+    EXPECT_EQ(bench.state.lastFiredButton, -1) << "a button of the cards before";
     EXPECT_EQ(forms.calls, (QStringList{u"show frmGENERAL TT Old "_s, u"close frmGENERAL EN Old "_s, u"cards"_s,
                                         u"show frmGENERAL EN New hello"_s}));
     EXPECT_EQ(form.at(u"lblFKEYTITLE"_s, 0).text(), u"New key");
@@ -112,14 +118,40 @@ TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
 
     forms.open.clear();
     forms.calls.clear();
+    bench.state.lastFiredButton = 3;
     form.at(u"cmbLANG"_s).setPosition(2);
     EXPECT_EQ(forms.calls, QStringList{u"cards"_s}) << "an editor that was closed stays closed";
     EXPECT_EQ(variable(u"@LANGUAGE"), u"XX");
     EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"New") << "without a folder the cards stay";
+    EXPECT_EQ(bench.state.lastFiredButton, 3);
     EXPECT_EQ(bench.operatorDesk.shown.size(), 2) << "card table and start card are missing";
 }
 
+TEST_F(OperatorCommandsTest, ChoosingAgainWritesAndReadsAgain) {
+    form.at(u"cbQt"_s).setItems({{u"1"_s, 1}, {u"2"_s, 2}});
+    form.at(u"cbQt"_s).setPosition(1);
+    form.at(u"cmbFADE"_s, 2).setText(u"Fast"_s);
+    for (const QStringView name : {u"@GAMEPERIOD", u"@ROLL_SPEED"}) bench.state.variables.SetVar(name, u"card's"_s);
+    commands.chooseAgain(form.at(u"cbQt"_s));
+    commands.chooseAgain(form.at(u"cmbFADE"_s, 2));
+    EXPECT_EQ(variable(u"@GAMEPERIOD"), u"2");
+    EXPECT_EQ(variable(u"@ROLL_SPEED"), u"0");
+
+    commands.showGeneral();
+    commands.chooseAgain(form.at(u"cmbLANG"_s));
+    EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"Old");
+    bench.write(u"QRD_TT/CARDS.TXT"_s, cardTable("Edited"));
+    // A timed card waits below: what the operator has chosen is told as his own.
+    bench.state.unattendedRuns = 1;
+    bench.write(u"QRD_TT/GetGame.csp"_s, "SETVAR~@GREETING;again\n");
+    commands.chooseAgain(form.at(u"cmbLANG"_s));
+    EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"Edited");
+    EXPECT_EQ(variable(u"@GREETING"), u"again");
+    EXPECT_EQ(bench.state.unattendedRuns, 1);
+}
+
 TEST_F(OperatorCommandsTest, FillingTheLanguageListChangesNothing) {
+    EXPECT_FALSE(form.at(u"cmbLANG"_s).enabled());
     form.at(u"cmbLANG"_s).setPosition(1);
     EXPECT_EQ(variable(u"@LANGUAGE"), u"TT");
     EXPECT_TRUE(forms.calls.isEmpty());
@@ -129,6 +161,7 @@ TEST_F(OperatorCommandsTest, GeneralVarsOpensWhatWasSavedAndKeepsAnOpenEditor) {
     bench.state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
     commands.mnGeneralVars();
     EXPECT_EQ(variable(u"@GREETING"), u"") << "opening does not apply";
+    EXPECT_EQ(forms.calls, QStringList{u"front frmGENERAL EN  "_s});
     general.grid().setValue(0, u"edited"_s);
     commands.mnGeneralVars();
     EXPECT_EQ(general.grid().cell(0).value(), u"edited");

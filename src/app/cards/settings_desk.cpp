@@ -1,23 +1,28 @@
 #include "app_cards/settings_desk.h"
 
 #include <QCursor>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
 SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, ErrorTrap& trap,
-                           QWidget& window)
+                           MainWindow& window)
     : cards_(cards),
       window_(window),
-      general_(engine.state(), engine.folder(), engine.files(), trap, boxes),
-      generalForm_(general_, boxes, pickers_, &window),
-      variablesBox_(&window),
+      state_(engine.state()),
+      form_(engine.form()),
+      general_(state_, engine.folder(), engine.files(), trap, boxes),
+      generalForm_(general_, boxes, pickers_),
+      forms_(window),
       commands_(engine, packs, general_, forms_, trap),
       selections_(engine, trap),
       menu_(engine.form(), &window) {
     forms_.add(generalForm_);
     forms_.add(variablesBox_);
+    for (const QWidget* form : std::initializer_list<const QWidget*>{&generalForm_, &variablesBox_})
+        window.takeFunctionKeysOf(*form);
     connect(&commands_, &OperatorCommands::cardsLoaded, &cards_, &CardConsole::showLoaded);
     connect(&menu_, &MainMenu::chosen, this, &SettingsDesk::choose);
 }
@@ -25,12 +30,19 @@ SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards,
 void SettingsDesk::answer(FormEvents& events, SystemDesktop& desktop) {
     events.onClick(u"cmdSCREENMODE"_s, [this](int button) { commands_.cmdSCREENMODE(button); });
     events.onClick(u"cmdMenu"_s, [this](int) { menu_.popup(QCursor::pos()); });
+    for (const QString& list : {u"cmbFADE"_s, u"cbQt"_s, u"cmbLANG"_s})
+        events.onClick(list, [this, list](int index) { commands_.chooseAgain(form_.at(list, index)); });
     desktop.addForm(generalForm_.objectName(), [this] { commands_.mnGeneralVars(); });
 }
 
 void SettingsDesk::choose(const QString& item) {
+    // What the operator chooses is told as his own, also while a timed card waits below it.
+    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     if (item == u"mnReloadVar") commands_.mnReloadVar();
-    if (item == u"mnDisplayVars") variablesBox_.display(commands_.mnDisplayVars());
+    if (item == u"mnDisplayVars") {
+        variablesBox_.setText(commands_.mnDisplayVars());
+        forms_.bringToFront(variablesBox_.objectName());
+    }
     if (item == u"mnGeneralVars") commands_.mnGeneralVars();
     if (item == u"mnSet169") commands_.mnSet169();
     if (item == u"mnSet43") commands_.mnSet43();

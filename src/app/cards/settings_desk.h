@@ -3,6 +3,7 @@
 #include "app_cards/system_desktop.h"
 #include "console/boxes.h"
 #include "console/main_menu.h"
+#include "console/main_window.h"
 #include "console_rules/card_console.h"
 #include "console_rules/form_events.h"
 #include "general_forms/form_list.h"
@@ -19,7 +20,8 @@ class SettingsDesk : public QObject {
 
  public:
     // All must outlive the desk. window: the console's.
-    SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, ErrorTrap& trap, QWidget& window);
+    SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, ErrorTrap& trap,
+                 MainWindow& window);
 
     // Takes the clicks of its controls, and the forms that cards may show.
     void answer(FormEvents& events, SystemDesktop& desktop);
@@ -36,7 +38,9 @@ class SettingsDesk : public QObject {
     void choose(const QString& item);
 
     CardConsole& cards_;
-    QWidget& window_;
+    MainWindow& window_;
+    ShowState& state_;
+    FormModel& form_;
     GeneralVariables general_;
     Pickers pickers_;
     GeneralForm generalForm_;

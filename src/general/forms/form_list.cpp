@@ -1,6 +1,42 @@
 #include "general_forms/form_list.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
 namespace zelvor {
+
+namespace {
+
+// Where a form of that size leaves the console free: on a screen of its own, or beside it. Without such a place it
+// lies in the lower right corner, where the least of the cards is.
+QPoint placeBeside(const QWidget& console, QSize content) {
+    const QRect taken = console.frameGeometry();
+    const QSize size = content + (taken.size() - console.size());  // with a frame like the console's
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect free = screen->availableGeometry();
+        if (!free.intersects(taken)) return free.center() - QRect({}, size).center();
+    }
+    const QRect free = console.screen()->availableGeometry();
+    const QPoint corner = free.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+    const int top = std::clamp(taken.top(), free.top(), std::max(free.top(), corner.y()));
+    if (taken.right() < corner.x()) return {taken.right() + 1, top};
+    if (taken.left() - free.left() >= size.width()) return {taken.left() - size.width(), top};
+    return corner;
+}
+
+}  // namespace
+
+void FormList::add(QWidget& form) {
+    form.setAttribute(Qt::WA_ShowWithoutActivating);
+    forms_.push_back(&form);
+}
+
+QWidget* FormList::find(const QString& name) const {
+    const auto found =
+        std::find_if(forms_.begin(), forms_.end(), [&](const QWidget* form) { return form->objectName() == name; });
+    return found == forms_.end() ? nullptr : *found;
+}
 
 QStringList FormList::names() const {
     QStringList names;
@@ -11,19 +47,25 @@ QStringList FormList::names() const {
 }
 
 void FormList::show(const QString& name) {
-    for (QWidget* form : forms_) {
-        if (form->objectName() != name) continue;
-        form->show();
-        form->raise();
-        form->activateWindow();
-    }
+    QWidget* form = find(name);
+    if (form == nullptr || form->isVisible()) return;
+    // Where the operator has moved it, it stays.
+    if (!form->testAttribute(Qt::WA_Moved)) form->move(placeBeside(console_, form->size()));
+    form->show();
+    console_.raise();
+}
+
+void FormList::bringToFront(const QString& name) {
+    show(name);
+    QWidget* form = find(name);
+    if (form == nullptr) return;
+    form->raise();
+    form->activateWindow();
 }
 
 void FormList::close(const QString& name) {
     // Hidden, not closed: closing would ask about what is not saved.
-    for (QWidget* form : forms_) {
-        if (form->objectName() == name) form->hide();
-    }
+    if (QWidget* form = find(name)) form->hide();
 }
 
 void FormList::closeAll() {

@@ -16,7 +16,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr QSize kFirstSize{900, 520};
+constexpr QSize kFirstSize{1060, 520};
 constexpr int kValueWidth = 240;
 constexpr int kTitleWidth = 200;
 constexpr int kVariableWidth = 160;
@@ -27,9 +27,8 @@ QString countOf(int rows, const QString& words) {
 
 }  // namespace
 
-GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, QWidget* window)
-    : QWidget(window, Qt::Window),
-      general_(general),
+GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers)
+    : general_(general),
       operator_(operatorDesk),
       pickers_(pickers),
       search_(new QLineEdit),
@@ -59,6 +58,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     const GeneralGrid& grid = general_.grid();
     connect(&grid, &GeneralGrid::dataChanged, this, &GeneralForm::showState);
     connect(&grid, &GeneralGrid::rowsInserted, this, &GeneralForm::showState);
+    connect(&grid, &GeneralGrid::rowsRemoved, this, &GeneralForm::showState);
     connect(&grid, &GeneralGrid::modelReset, this, &GeneralForm::showState);
     showState();
 }
@@ -73,17 +73,22 @@ QWidget* GeneralForm::gridView() {
     view_->setAccessibleName(windowTitle());
     view_->setModel(&shown_);
     view_->setItemDelegate(&delegate_);
-    view_->setSelectionMode(QAbstractItemView::SingleSelection);
+    view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
-                           QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+                           QAbstractItemView::AnyKeyPressed);
     view_->setColumnWidth(general_column::kValue, kValueWidth);
     view_->setColumnWidth(general_column::kTitle, kTitleWidth);
     view_->setColumnWidth(general_column::kVariable, kVariableWidth);
     view_->horizontalHeader()->setStretchLastSection(true);
-    view_->setToolTip(u"F2 edits the value, F4 opens its list or picker"_s);
+    view_->setToolTip(u"Enter edits the value, Alt+Down opens its list or picker"_s);
     connect(&delegate_, &ValueDelegate::buttonPressed, this, &GeneralForm::pressCellButton);
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &GeneralForm::showHelp);
-    connect(new QShortcut(Qt::Key_F4, view_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut), &QShortcut::activated,
+    // Enter, or a double click on a cell that is no value. F2 and F4, as elsewhere, fire cards.
+    connect(view_, &QTableView::activated, this, [this](const QModelIndex& index) {
+        view_->setCurrentIndex(index.siblingAtColumn(general_column::kValue));
+        view_->edit(view_->currentIndex());
+    });
+    connect(new QShortcut(Qt::ALT | Qt::Key_Down, view_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             this, [this] { pressCellButton(view_->currentIndex().siblingAtColumn(general_column::kValue)); });
     return view_;
 }
@@ -108,6 +113,8 @@ QWidget* GeneralForm::buttonRow() {
         search_->clear();
         view_->setCurrentIndex(shown_.index(shown_.rowCount() - 1, general_column::kValue));
     });
+    add(u"cmdREMOVEROW"_s, u"&Remove row"_s, u"Takes the chosen rows away; Save makes it last"_s,
+        [this] { general_.removeRows(chosenRows()); });
     add(u"cmdIMPORT"_s, u"&Import"_s, u"Adds the lines of infodata.txt and saves"_s, [this] { general_.importText(); });
     add(u"cmdSAVE"_s, u"&Save"_s, u"Saves all rows to infodata.dat"_s, [this] { general_.save(); });
     add(u"cmdAPPLY"_s, u"&Apply"_s, u"Gives the cards all values"_s, [this] { general_.apply(); });
@@ -141,6 +148,12 @@ void GeneralForm::endEditing() {
     Q_EMIT delegate_.closeEditor(editor);
 }
 
+QList<int> GeneralForm::chosenRows() const {
+    QList<int> rows;
+    for (const QModelIndex& row : view_->selectionModel()->selectedRows()) rows += shown_.mapToSource(row).row();
+    return rows;
+}
+
 void GeneralForm::showState() {
     const GeneralGrid& grid = general_.grid();
     int unsaved = 0;
@@ -150,6 +163,7 @@ void GeneralForm::showState() {
         unapplied += grid.isUnapplied(row) ? 1 : 0;
     }
     QStringList words;
+    if (grid.removedUnsaved() > 0) words += countOf(grid.removedUnsaved(), u"removed but not saved"_s);
     if (unsaved > 0) words += countOf(unsaved, u"not saved"_s);
     if (unapplied > 0) words += countOf(unapplied, u"not applied"_s);
     marks_->setText(words.join(u", "_s));

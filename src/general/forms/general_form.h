@@ -14,13 +14,14 @@ class QTableView;
 namespace zelvor {
 
 // The general-variables editor (frmGENERAL): the grid vsDATA, a search line, the current row's help, and the buttons.
-// Closing it by hand asks about what is not saved; hiding it does not.
+// Closing it by hand asks about what is not saved; hiding it does not. A window of its own, so that it can stand
+// behind the console.
 class GeneralForm : public QWidget {
     Q_OBJECT
 
  public:
-    // All must outlive the form. window: the console's, over which the form stands; may be null.
-    GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, QWidget* window);
+    // All must outlive the form.
+    GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers);
 
  protected:
     void closeEvent(QCloseEvent* event) override;
@@ -32,6 +33,7 @@ class GeneralForm : public QWidget {
     void pressCellButton(const QModelIndex& index);
     void pick(const QModelIndex& index);
     void endEditing();
+    [[nodiscard]] QList<int> chosenRows() const;
     void showState();
     void showHelp();
 

@@ -27,6 +27,7 @@ QString Pickers::ask(QFileDialog& dialog, const QString& from) {
     if (nextAnswer_) return *std::exchange(nextAnswer_, std::nullopt);
     dialog.setObjectName(u"picker"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     const QFileInfo start(from);
     const bool known = !from.isEmpty() && start.exists();
     dialog.setDirectory(!known ? QDir::rootPath() : start.isDir() ? start.filePath() : start.path());

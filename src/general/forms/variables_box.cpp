@@ -19,8 +19,7 @@ const QString kLineEnd = u"\r\n"_s;
 
 }  // namespace
 
-VariablesBox::VariablesBox(QWidget* window)
-    : QWidget(window, Qt::Window), search_(new QLineEdit), view_(new QPlainTextEdit) {
+VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit) {
     setObjectName(u"frmVARS"_s);
     setWindowTitle(u"Display Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -52,14 +51,11 @@ VariablesBox::VariablesBox(QWidget* window)
     connect(leave, &QPushButton::clicked, this, &QWidget::close);
 }
 
-void VariablesBox::display(const QString& text) {
+void VariablesBox::setText(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
     lines_ = text.split(kLineEnd, Qt::SkipEmptyParts);
     search_->clear();
     showLines();
-    show();
-    raise();
-    activateWindow();
     search_->setFocus();
 }
 

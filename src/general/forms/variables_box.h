@@ -13,11 +13,10 @@ class VariablesBox : public QWidget {
     Q_OBJECT
 
  public:
-    // window: the console's, over which the box stands; may be null.
-    explicit VariablesBox(QWidget* window);
+    VariablesBox();
 
-    // Puts the text on the clipboard and shows it, its first line being the heading.
-    void display(const QString& text);
+    // Puts the text on the clipboard and fills the box with it, its first line being the heading.
+    void setText(const QString& text);
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;
