@@ -29,6 +29,8 @@ function(zelvor_program name)
   cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${PROGRAM_SOURCES})
   target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS} zelvor_options)
+  # The stack trace of a crash names functions.
+  set_target_properties(${name} PROPERTIES ENABLE_EXPORTS ON)
 endfunction()
 
 # zelvor_test(NAME SOURCES file... LINKS target... [MAIN target] [TIMEOUT seconds])

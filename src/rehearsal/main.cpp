@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <cstdio>
 
+#include "crash/crash_dump.h"
 #include "rehearsal/options.h"
 #include "rehearsal/page_server.h"
 #include "rehearsal/termination.h"
@@ -30,6 +31,7 @@ int reportPort(const QHostAddress& address, quint16 port, const QString& reason,
 }  // namespace
 
 int main(int argc, char** argv) {
+    zelvor::dumpCrashes();
     const QCoreApplication application(argc, argv);
     const Options options = parseOptions(QCoreApplication::arguments());
     if (!options.wantedText.isEmpty()) {

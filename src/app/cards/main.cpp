@@ -1,6 +1,7 @@
 // The operator's console.
 
 #include <QApplication>
+#include <QFile>
 #include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
@@ -11,6 +12,7 @@
 #include "app_cards/user_folder.h"
 #include "base/command_line.h"
 #include "console/theme.h"
+#include "crash/crash_dump.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +47,7 @@ Fires the cards of a pack on the air, from one window.
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    zelvor::dumpCrashes();
     QTextStream out(stdout);
     QTextStream err(stderr);
     // What needs no display is answered before one is looked for.
@@ -95,6 +98,7 @@ int main(int argc, char* argv[]) {
             return kNoFolder;
         }
     }
+    zelvor::dumpCrashes(QFile::encodeName(wanted.appFolder).toStdString());
     wanted.commandLine = line.restText();
     wanted.errorLog = zelvor::errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 

@@ -14,6 +14,7 @@
 #include "app_eval/eval_command.h"
 #include "app_feed/feed_command.h"
 #include "app_run/run_command.h"
+#include "crash/crash_dump.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,6 +56,7 @@ QString help() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    zelvor::dumpCrashes();
     const QCoreApplication application(argc, argv);
     QTextStream out(stdout);
     QTextStream err(stderr);

@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "crash/crash_dump.h"
+#include "support/wait.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+
+namespace {
+
+// A program of the build, copied into a folder of its own, in which its dump is not mixed with others.
+class CrashDump : public testing::Test {
+ protected:
+    void SetUp() override {
+        if (!kDumpsCrashes) GTEST_SKIP() << "the sanitizer handles crashes itself";
+    }
+    void start(const QString& name, const QStringList& arguments) {
+        const QString path = folder.filePath(name);
+        ASSERT_TRUE(QFile::exists(path) || QFile::copy(QStringLiteral(PROGRAM_FOLDER "/") + name, path));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"TMPDIR"_s, temporary.path());
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path());
+        process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        process.start(path, arguments);
+        ASSERT_TRUE(process.waitForStarted());
+    }
+    // True once the program would handle a segmentation fault.
+    bool handlesCrashes() const {
+        QFile status(u"/proc/%1/status"_s.arg(process.processId()));
+        if (!status.open(QIODevice::ReadOnly)) return false;
+        const QByteArray bytes = status.readAll();
+        const qsizetype mask = bytes.indexOf("SigCgt:\t") + 8;
+        return (bytes.mid(mask, 16).toULongLong(nullptr, 16) >> (SIGSEGV - 1) & 1) != 0;
+    }
+    // Waits for the program's end and gives what it has written there.
+    QString dump(const QString& path) {
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::CrashExit);
+        EXPECT_TRUE(QString::fromLocal8Bit(process.readAllStandardError()).contains(u"the stack trace is in " + path));
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : u"no file"_s;
+    }
+
+    QTemporaryDir folder;
+    QTemporaryDir temporary;
+    QProcess process;
+};
+
+}  // namespace
+
+TEST_F(CrashDump, OfEveryProgramStandsInItsFolder) {
+    const QString appFolder = temporary.path();
+    const std::pair<QString, QStringList> programs[]{
+        {u"zelvor"_s, {u"feed"_s, u"--to"_s, u"127.0.0.1:9"_s}},
+        {u"zelvor-rehearsal"_s, {u"--amcp"_s, u"0"_s, u"--http"_s, u"0"_s}},
+        {u"zelvor-cards"_s, {u"--app-folder"_s, appFolder, u"--feed-port"_s, u"0"_s}},
+    };
+    for (const auto& [name, arguments] : programs) {
+        start(name, arguments);
+        EXPECT_TRUE(waitUntil([&] { return handlesCrashes(); }));
+        kill(static_cast<pid_t>(process.processId()), SIGSEGV);
+        const QString text = dump(folder.filePath(name) + u".dmp"_s);
+        EXPECT_TRUE(text.startsWith(name + u' ')) << text.toStdString();
+        EXPECT_TRUE(text.contains(u"SIGSEGV")) << text.toStdString();
+        EXPECT_TRUE(text.contains(name + u'(')) << "a frame of the program's own:\n" << text.toStdString();
+        EXPECT_EQ(process.exitCode(), SIGSEGV);
+    }
+}
+
+TEST_F(CrashDump, NamesTheExceptionAndSurvivesAFullStack) {
+    start(u"crashing"_s, {u"exception"_s});
+    const QString path = folder.filePath(u"crashing.dmp"_s);
+    EXPECT_TRUE(dump(path).contains(u"SIGABRT")) << "it stays the way an uncaught exception ends a program";
+    start(u"crashing"_s, {u"recursion"_s});
+    const QString both = dump(path);
+    EXPECT_TRUE(both.contains(u"std::runtime_error: nobody catches this")) << both.toStdString();
+    EXPECT_TRUE(both.contains(u"SIGSEGV")) << "appended\n" << both.toStdString();
+
+    // Where nothing can be written beside the program.
+    QFile::remove(path);
+    QDir(folder.path()).mkdir(u"crashing.dmp"_s);
+    start(u"crashing"_s, {u"exception"_s});
+    EXPECT_TRUE(dump(temporary.filePath(u"crashing.dmp"_s)).contains(u"nobody catches this"));
+}
+
+}  // namespace zelvor::test
