@@ -95,6 +95,8 @@ class Clock {
     [[nodiscard]] virtual QDateTime now() const = 0;
     // now() without the date's and the time zone's cost.
     [[nodiscard]] virtual qint64 secondsSinceEpoch() const { return now().toSecsSinceEpoch(); }
+    // Milliseconds from some moment on, whatever is done to the wall clock meanwhile: for measuring.
+    [[nodiscard]] virtual qint64 steadyMilliseconds() const { return now().toMSecsSinceEpoch(); }
     // Handles pending events that many times. False as soon as the program is closing: the caller ends at once.
     virtual bool turnEvents(int turns) = 0;
     // Handles events until one comes or a few milliseconds have passed; false as turnEvents().

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDeadlineTimer>
+
 #include "engine/ports.h"
 #include "engine/show_state.h"
 
@@ -13,6 +15,7 @@ class SystemClock : public Clock {
 
     [[nodiscard]] QDateTime now() const override;
     [[nodiscard]] qint64 secondsSinceEpoch() const override { return QDateTime::currentSecsSinceEpoch(); }
+    [[nodiscard]] qint64 steadyMilliseconds() const override { return QDeadlineTimer::current().deadline(); }
     bool turnEvents(int turns) override;
     bool waitBriefly() override;
 

@@ -41,6 +41,7 @@ void FeedStatus::notBound(const QString& reason) {
 
 void FeedStatus::arrived() {
     lastHeard_ = clock_.now();
+    lastHeardSteady_ = clock_.steadyMilliseconds();
     if (!timer_.isActive()) timer_.start();
     if (silent_) setSilent(false);
 }
@@ -56,7 +57,7 @@ void FeedStatus::handled(GameFeed::Outcome outcome) {
 }
 
 void FeedStatus::check() {
-    if (!silent_ && lastHeard_.isValid() && lastHeard_.msecsTo(clock_.now()) >= kSilence) setSilent(true);
+    if (!silent_ && lastHeard_.isValid() && clock_.steadyMilliseconds() - lastHeardSteady_ >= kSilence) setSilent(true);
     showDetail();
 }
 

@@ -49,6 +49,7 @@ class FeedStatus : public QObject {
     QString binding_;  // empty until bind was tried
     QString reason_;   // why the feed is not bound
     QDateTime lastHeard_;
+    qint64 lastHeardSteady_ = 0;
     qint64 handled_ = 0;
     qint64 refused_ = 0;
     bool paused_ = false;

@@ -96,7 +96,7 @@ void LinkWatch::watch() {
 }
 
 void LinkWatch::retry() {
-    if (isDown(link_.state())) link_.connectTo(host_, hostPort_);
+    if (isDown(link_.state()) || link_.state() == LinkState::Connecting) link_.connectTo(host_, hostPort_);
 }
 
 void LinkWatch::followLink(LinkState state) {

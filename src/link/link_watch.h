@@ -26,7 +26,8 @@ class LinkWatch : public QObject {
     bool pressConnect();
     // tmrWS, tmrWSREMOTE: every 500 ms while the connection is wanted.
     void watch();
-    // Every 2 s while a lost link is wanted back: tries it again unless that is going on.
+    // Every 2 s while a lost link is wanted back: tries it again, also when the host has not answered until then. A
+    // name that is being looked up is waited for.
     void retry();
 
  private:

@@ -57,12 +57,20 @@ TEST_F(CardRuns, FinishUnlessLockedOrFunctionCards) {
     EXPECT_TRUE(state.lastCard.isEmpty());
 }
 
-TEST_F(CardRuns, DelayWaitsPastMidnight) {
+TEST_F(CardRuns, DelayWaitsPastMidnightWhateverTheClockSays) {
     const QDateTime start = clock.time;
     EXPECT_EQ(Outcome::Ran, run("DELAY~3\nCSPSEND~x\n"));
     EXPECT_GT(start.msecsTo(clock.time), 3000);
     EXPECT_LT(start.msecsTo(clock.time), 3300);
     EXPECT_EQ(1, graphics.sent.size());
+
+    // Somebody sets the clock an hour back meanwhile.
+    int waits = 0;
+    clock.whileWaiting = [&] {
+        if (++waits == 1) clock.set(-3'600'000);
+    };
+    EXPECT_EQ(Outcome::Ran, run("DELAY~3\n"));
+    EXPECT_LT(waits, 33);
 }
 
 TEST_F(CardRuns, EndAtOnceWhenTheProgramCloses) {

@@ -85,7 +85,7 @@ TEST(LinkConsole, TriesALostLinkAgainWhileReconnectIsChecked) {
     QObject::connect(&studio.links.link(LinkId::Main), &CasparLink::stateChanged, timer,
                      [&](LinkState state) { refused += state == LinkState::Error ? 1 : 0; });
     EXPECT_EQ(timer->interval(), 2000);
-    timer->setInterval(0);
+    timer->setInterval(20);
     EXPECT_TRUE(waitUntil([&] { return refused >= 3; })) << "tried until it is back";
     EXPECT_TRUE(status.text().endsWith(u"lost at 20:31:07, trying again"_s));
     server.listen(QHostAddress::LocalHost, port.toUShort());
@@ -96,6 +96,32 @@ TEST(LinkConsole, TriesALostLinkAgainWhileReconnectIsChecked) {
     EXPECT_TRUE(waitUntil([&] { return timer->isActive(); }));
     studio.console.cmdGASPARCONNECT();
     EXPECT_FALSE(timer->isActive()) << "disconnected by the operator";
+}
+
+TEST(LinkConsole, TriesAHostAgainThatDoesNotAnswer) {
+    // One connection fills the server's queue; what knocks later gets no answer at all.
+    Server full;
+    full.pauseAccepting();
+    full.close();
+    full.setListenBacklogSize(0);
+    ASSERT_TRUE(full.listen(QHostAddress::LocalHost, 0));
+    full.pauseAccepting();
+    QTcpSocket first;
+    first.connectToHost(QHostAddress::LocalHost, full.serverPort());
+    ASSERT_TRUE(first.waitForConnected());
+
+    Studio studio;
+    int tries = 0;
+    QObject::connect(&studio.links.link(LinkId::Main), &CasparLink::stateChanged, &studio.links,
+                     [&](LinkState state) { tries += state == LinkState::Resolving ? 1 : 0; });
+    studio.at("txtGASPARPORT").setText(full.port());
+    studio.at("chkRECONNECT").setChecked(true);
+    studio.console.findChild<QTimer*>(u"tmrRETRY"_s)->setInterval(20);
+    studio.console.cmdGASPARCONNECT();
+    EXPECT_TRUE(waitUntil([&] { return tries >= 3; }));
+    EXPECT_TRUE(studio.at("lblLINKMAIN").text().endsWith(u"connecting"_s));
+    full.resumeAccepting();
+    EXPECT_TRUE(studio.isIn(LinkId::Main, 7));
 }
 
 TEST(LinkConsole, PutsPresetAddressesInAndLocksThem) {

@@ -56,6 +56,12 @@ class FakeGraphics : public Graphics {
 class FakeClock : public Clock {
  public:
     QDateTime now() const override { return time; }
+    qint64 steadyMilliseconds() const override { return time.toMSecsSinceEpoch() - setForward; }
+    // Somebody sets the wall clock.
+    void set(qint64 milliseconds) {
+        time = time.addMSecs(milliseconds);
+        setForward += milliseconds;
+    }
     bool turnEvents(int count) override {
         turns += count;
         return true;
@@ -67,6 +73,7 @@ class FakeClock : public Clock {
     }
 
     QDateTime time{QDate(2026, 11, 21), QTime(23, 59, 58)};
+    qint64 setForward = 0;  // milliseconds
     int turns = 0;
     std::function<void()> whileWaiting;
 };

@@ -12,9 +12,9 @@ constexpr std::array kLinks{LinkId::Main, LinkId::Remote};
 // Handles events until the condition holds or the time is over; whether it held.
 template <class Condition>
 bool waitFor(Clock& clock, Condition&& condition) {
-    const QDateTime start = clock.now();
+    const qint64 start = clock.steadyMilliseconds();
     while (!condition()) {
-        if (start.msecsTo(clock.now()) > kConnectTimeout || !clock.waitBriefly()) return false;
+        if (clock.steadyMilliseconds() - start > kConnectTimeout || !clock.waitBriefly()) return false;
     }
     return true;
 }
@@ -23,10 +23,10 @@ bool waitFor(Clock& clock, Condition&& condition) {
 // broken, and lines that it has not read yet could be lost.
 void waitForQuiet(CasparLink& link, Clock& clock) {
     constexpr int kQuiet = 100;  // milliseconds
-    QDateTime lastHeard = clock.now();
+    qint64 lastHeard = clock.steadyMilliseconds();
     const QMetaObject::Connection listening =
-        QObject::connect(&link, &CasparLink::received, &link, [&] { lastHeard = clock.now(); });
-    waitFor(clock, [&] { return lastHeard.msecsTo(clock.now()) > kQuiet; });
+        QObject::connect(&link, &CasparLink::received, &link, [&] { lastHeard = clock.steadyMilliseconds(); });
+    waitFor(clock, [&] { return clock.steadyMilliseconds() - lastHeard > kQuiet; });
     QObject::disconnect(listening);
 }
 

@@ -49,11 +49,11 @@ void IF(CardRun& run, const Arguments& args) {
 void DELAY(CardRun& run, const Arguments& args) {
     const qint64 milliseconds = static_cast<qint64>(wholeNumber32(args.text())) * 1000;
     Clock& clock = run.ports().clock;
-    const QDateTime start = clock.now();
+    const qint64 start = clock.steadyMilliseconds();
     do {
         clock.waitBriefly();
         run.goOnUnlessClosing();
-    } while (start.msecsTo(clock.now()) <= milliseconds);
+    } while (clock.steadyMilliseconds() - start <= milliseconds);
 }
 
 void BREAK(CardRun& run, const Arguments& args) {
