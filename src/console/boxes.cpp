@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -63,7 +64,6 @@ struct Box {
     Box(QDialog& empty, const QString& title, const QString& text, QDialogButtonBox::StandardButtons wanted)
         : dialog(empty), column(new QVBoxLayout(&dialog)), buttons(new QDialogButtonBox(wanted)) {
         dialog.setWindowTitle(title.isEmpty() ? u"Zelvor Cards"_s : title);
-        dialog.setWindowModality(Qt::ApplicationModal);
         column->setContentsMargins(20, 16, 20, 16);
         column->setSpacing(14);
         if (!title.isEmpty()) {
@@ -107,42 +107,39 @@ bool Boxes::run(QDialog& box) {
     if (state_.closing) return false;
     open_.emplace_back(&box);
     Q_EMIT opened(&box);
-    const bool accepted = box.exec() == QDialog::Accepted;
+    if (state_.unattendedRuns > 0) {
+        QEventLoop closed;
+        connect(&box, &QDialog::finished, &closed, &QEventLoop::quit);
+        box.setAttribute(Qt::WA_ShowWithoutActivating);
+        box.show();
+        closed.exec();
+    } else {
+        box.setWindowModality(Qt::ApplicationModal);
+        box.exec();
+    }
     std::erase_if(open_, [&](const QPointer<QDialog>& each) { return each == &box; });
-    return accepted && !state_.closing;
+    return box.result() == QDialog::Accepted && !state_.closing;
 }
 
-// A message of a card that a timer or the feed has fired: neither the keyboard nor the timer waits for it. One at a
-// time, so that a faulty card that runs ten times a second does not fill the screen.
-QDialog* Boxes::showNotice(const QString& title, const QString& text, Severity severity) {
-    if (notice_ || state_.closing) return nullptr;
+// Neither the keyboard nor the timer waits for it. One at a time, so that a faulty card that runs ten times a second
+// does not fill the screen.
+void Boxes::showNotice(const QString& title, const QString& text, Severity severity) {
+    const QString card = state_.unattendedCard;
+    if (notice_ || state_.closing || quietCards_.contains(card)) return;
     notice_ = new QDialog(window_);
     notice_->setAttribute(Qt::WA_DeleteOnClose);
     notice_->setAttribute(Qt::WA_ShowWithoutActivating);
     Box box(*notice_, title, text, QDialogButtonBox::Ok);
-    notice_->setWindowModality(Qt::NonModal);
     addSeverity(box, severity);
+    auto* quiet = new QCheckBox(u"Do not show this again for this card until cards are reloaded"_s);
+    quiet->setObjectName(u"quiet"_s);
+    box.column->addWidget(quiet);
+    connect(notice_, &QDialog::finished, this, [this, card, quiet] {
+        if (quiet->isChecked()) quietCards_.insert(card);
+    });
     box.column->addWidget(box.buttons);
     notice_->show();
     Q_EMIT opened(notice_);
-    return notice_;
-}
-
-void Boxes::cardError(const QString& card, const QString& text) {
-    if (state_.unattendedRuns == 0) {
-        message({}, text, Severity::Critical);
-        return;
-    }
-    if (quietCards_.contains(card)) return;
-    QDialog* notice = showNotice({}, text, Severity::Critical);
-    if (notice == nullptr || card.isEmpty()) return;
-    auto* quiet = new QCheckBox(u"Do not show this again for this card until cards are reloaded"_s);
-    quiet->setObjectName(u"quiet"_s);
-    auto* column = static_cast<QVBoxLayout*>(notice->layout());
-    column->insertWidget(column->count() - 1, quiet);
-    connect(notice, &QDialog::finished, this, [this, card, quiet] {
-        if (quiet->isChecked()) quietCards_.insert(card);
-    });
 }
 
 void Boxes::message(const QString& title, const QString& text, Severity severity) {

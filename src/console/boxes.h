@@ -24,11 +24,9 @@ class Boxes : public QObject, public Operator {
     // The window that the boxes stand over, unless the operator is in another one.
     void setWindow(QWidget& window) { window_ = &window; }
 
-    // A message of a card that no operator has fired is shown without waiting and without taking the keyboard; further
-    // ones are dropped while it stands.
+    // Boxes of a card that no operator has fired do not take the keyboard. Its message waits for nobody and offers to
+    // keep quiet about that card; further ones are dropped while it stands.
     void message(const QString& title, const QString& text, Severity severity = Severity::Information) override;
-    // An error of a card; one that no operator has fired offers to keep quiet about that card.
-    void cardError(const QString& card, const QString& text);
     // Cards that were loaded anew are told of again.
     void forgetQuietCards() { quietCards_.clear(); }
     bool yesNo(const QString& title, const QString& text) override;
@@ -44,8 +42,7 @@ class Boxes : public QObject, public Operator {
  private:
     bool run(QDialog& box);
     QWidget* over();
-    // The notice that is shown, null when it is dropped.
-    QDialog* showNotice(const QString& title, const QString& text, Severity severity);
+    void showNotice(const QString& title, const QString& text, Severity severity);
 
     const ShowState& state_;
     QPointer<QWidget> window_;

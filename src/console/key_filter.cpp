@@ -23,6 +23,21 @@ bool isInput(const QWidget* widget) {
            qobject_cast<const QCheckBox*>(widget) != nullptr || qobject_cast<const QRadioButton*>(widget) != nullptr;
 }
 
+// The window that the widget is part of; for a list or menu that has popped up, the one it has popped up over.
+const QWidget* formOf(const QWidget* widget) {
+    const QWidget* window = widget->window();
+    while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr)
+        window = window->parentWidget()->window();
+    return window;
+}
+
+// Closes the lists and menus that have popped up: they would lie over what a card asks.
+void closePopups() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) return;
+    }
+}
+
 }  // namespace
 
 KeyFilter::KeyFilter(QWidget& form) : QObject(&form), form_(form) {
@@ -33,14 +48,16 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
     auto* widget = qobject_cast<QWidget*>(watched);
     if (widget == nullptr) return false;
-    const bool inForm = widget->window() == &form_;
-    if (!inForm && std::find(beside_.begin(), beside_.end(), widget->window()) == beside_.end()) return false;
+    const QWidget* form = formOf(widget);
+    if (form != &form_ && std::find(beside_.begin(), beside_.end(), form) == beside_.end()) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() >= Qt::Key_F1 && key->key() <= Qt::Key_F10) {
-        if (!key->isAutoRepeat()) Q_EMIT functionKey(key->key() - Qt::Key_F1 + 1);
+        if (key->isAutoRepeat()) return true;
+        closePopups();
+        Q_EMIT functionKey(key->key() - Qt::Key_F1 + 1);
         return true;
     }
-    if (!inForm) return false;
+    if (widget->window() != &form_) return false;
     if (key->key() >= Qt::Key_F11 && key->key() <= Qt::Key_F35) return true;
     if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
     return !isInput(widget);

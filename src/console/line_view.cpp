@@ -46,6 +46,10 @@ LineView::LineView(QAbstractItemModel& lines, Newest newest, QWidget* parent) : 
     connect(&lines, &QAbstractItemModel::rowsInserted, this, [this] {
         if (following_) scrollToBottom();
     });
+    // The oldest lines go as new ones come; the bar counts lines.
+    connect(&lines, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex&, int first, int last) {
+        if (!following_ && first == 0) verticalScrollBar()->setValue(verticalScrollBar()->value() - (last + 1));
+    });
 }
 
 void LineView::showEvent(QShowEvent* event) {

@@ -5,7 +5,7 @@
 namespace zelvor {
 
 // A list of time-stamped lines. With the newest line at the bottom it follows the newest one unless the operator has
-// scrolled up; lines marked as alarms stand out.
+// scrolled up: then what he reads stays where it is. Lines marked as alarms stand out.
 class LineView : public QListView {
     Q_OBJECT
 

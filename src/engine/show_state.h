@@ -77,6 +77,7 @@ struct ShowState {
     bool playerSelected = false;
     bool scanningProposals = false;  // proposals are being fired; a scan inside one of them does nothing
     int unattendedRuns = 0;          // runs under way of cards that a timer or the feed has fired
+    QString unattendedCard;          // the innermost of them
     bool preview = false;            // the program's command line holds "/PREVIEW"
     bool closing = false;            // set once when the program ends; runs that wait then end at once
 

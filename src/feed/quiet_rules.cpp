@@ -1,5 +1,7 @@
 #include "feed/quiet_rules.h"
 
+#include <QScopedValueRollback>
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -11,10 +13,10 @@ void QuietRules::onChange(Control& control, Control::Property property, const Ha
 }
 
 void QuietRules::runUnattended(CardEngine& engine, const QString& card) {
-    int& depth = engine.state().unattendedRuns;
-    ++depth;
+    ShowState& state = engine.state();
+    const QScopedValueRollback depth(state.unattendedRuns, state.unattendedRuns + 1);
+    const QScopedValueRollback innermost(state.unattendedCard, card);
     engine.SHOW_TVCARD(card, false, false);
-    --depth;
 }
 
 }  // namespace zelvor

@@ -48,6 +48,7 @@ void FormModel::addCards() {
     add(Kind::Panel, u"picHideControls"_s).setVisible(false);
     add(Kind::Button, u"cmdINVOKE"_s, -1, u"Invoke"_s);
     add(Kind::Button, u"cmdAUTO5ADA"_s, -1, u"Auto five"_s);
+    add(Kind::Button, u"cmdAUTOCARD"_s, -1, u"Auto card"_s).setEnabled(false);
     add(Kind::Button, u"cmdCLEARTAG"_s, -1, u"Clear tag"_s);
     add(Kind::Button, u"cmdMenu"_s, -1, u"Main"_s);
 }
@@ -69,6 +70,7 @@ void FormModel::addLinks() {
     add(Kind::TextBox, u"txtMANUALCASPAR"_s);
     add(Kind::Button, u"cmdMANUALSEND"_s, -1, u"Send"_s);
     add(Kind::CheckBox, u"chkLOGFILE"_s, -1, u"Log caspar"_s);
+    add(Kind::Label, u"lblLOG"_s);
     add(Kind::Panel, u"lstGASPARHISTORY"_s);
     add(Kind::Panel, u"lstGASPARRESPONSE"_s);
 }

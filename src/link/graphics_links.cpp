@@ -18,6 +18,7 @@ GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, ErrorTrap& trap, con
     : clock_(clock),
       trap_(trap),
       logSwitch_(form.at(u"chkLOGFILE"_s)),
+      logStatus_(form.at(u"lblLOG"_s)),
       lastTemplate_(form.at(u"lblLASTXML"_s)),
       log_(folder, files) {
     // Only the main server's replies are shown; the remote one's are meant to be ignored.
@@ -55,7 +56,8 @@ bool GraphicsLinks::logging() const {
 
 void GraphicsLinks::writeLog(const QString& line) {
     if (!logging()) return;
-    trap_.run({u"frmMAIN.writeLog"_s, {}, 0}, ErrorTrap::Tell::LogOnly, [&] { log_.write(line); });
+    const bool written = trap_.run({u"frmMAIN.writeLog"_s, {}, 0}, ErrorTrap::Tell::LogOnly, [&] { log_.write(line); });
+    showLogWritten(written && log_.isOpen());
 }
 
 void GraphicsLinks::appendHistory(const QString& text) {
@@ -77,11 +79,20 @@ void GraphicsLinks::finishSending() {
 }
 
 void GraphicsLinks::startLog() {
+    showLogWritten(false);
     log_.start(clock_.now());
+    showLogWritten(true);
 }
 
 void GraphicsLinks::stopLog() {
+    logStatus_.setText({});
     log_.stop(clock_.now());
+}
+
+// The box stays ticked whether the file can be written or not: the words beside it tell.
+void GraphicsLinks::showLogWritten(bool written) {
+    logStatus_.setText(written ? u"writing"_s : u"cannot be written"_s);
+    logStatus_.setForeColour(written ? std::nullopt : std::optional(colours::kRed));
 }
 
 void GraphicsLinks::addResponse(const QString& text) {

@@ -37,7 +37,7 @@ class GraphicsLinks : public QObject, public Graphics {
     // Gives both links a second at most to hand over what they have not sent yet: the program is ending.
     void finishSending();
 
-    // Throws 61, 70, 75 or 76 when the log file cannot be opened.
+    // Throws 61, 70, 75 or 76 when the log file cannot be opened; lblLOG says so as long as logging is on.
     void startLog();
     void stopLog();
 
@@ -53,6 +53,7 @@ class GraphicsLinks : public QObject, public Graphics {
 
  private:
     void sendNow(LinkId link, const QString& line);
+    void showLogWritten(bool written);
     void addResponse(const QString& text);
     // "hh:mm:ss", made once a second: a card adds dozens of lines to the history.
     const QString& timeOfDay();
@@ -60,6 +61,7 @@ class GraphicsLinks : public QObject, public Graphics {
     Clock& clock_;
     ErrorTrap& trap_;
     Control& logSwitch_;
+    Control& logStatus_;
     Control& lastTemplate_;
     CasparLog log_;
     LineList history_{LineList::Newest::Last};

@@ -68,7 +68,7 @@ class Gallery {
     // Starts the console; every box is answered with "1" and Enter and remembered with its title and text.
     void start(const QString& commandLine = {}) {
         app = std::make_unique<CardsApp>(
-            CardsApp::Options{folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine, 0});
+            CardsApp::Options{folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine, feedPort});
         QObject::connect(&app->boxes(), &Boxes::opened, [this](QDialog* box) {
             const auto* text = box->findChild<QWidget*>(QStringLiteral("text"));
             shown +=
@@ -109,6 +109,7 @@ class Gallery {
     }
 
     QTemporaryDir folder;
+    quint16 feedPort = 0;
     QStringList shown;
     std::function<void(QDialog& box)> answer = [](QDialog& box) {
         if (auto* field = box.findChild<QLineEdit*>(QStringLiteral("answer"))) field->setText(QStringLiteral("1"));

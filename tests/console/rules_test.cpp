@@ -3,6 +3,7 @@
 #include "console_rules/card_console.h"
 #include "console_rules/start_up.h"
 #include "support/fake_ports.h"
+#include "support/wait.h"
 
 using namespace Qt::StringLiterals;
 
@@ -121,9 +122,15 @@ TEST_F(CardRules, ClicksReachTheirRules) {
 }
 
 TEST_F(CardRules, AutoCardTakesTheKeyOfThePickList) {
+    FormEvents events(bench.state, bench.trap);
+    console.answer(events);
+    const Control& button = bench.form.at(u"cmdAUTOCARD"_s);
+    EXPECT_FALSE(button.enabled());
     bench.state.ask.lastItemData = u"17"_s;
+    // As a timed card may do.
     bench.state.variables.SetVar(u"@AUTOCARD", u"one.csp"_s);
-    console.SHOW_AUTO_CARD();
+    EXPECT_TRUE(waitUntil([&] { return button.enabled(); }));
+    events.click(button);
     EXPECT_EQ(bench.state.variables.text(u"@RETURNKEY"), u"17");
     EXPECT_EQ(sent(), QStringList{u"mone "_s});
 }
@@ -137,6 +144,15 @@ TEST_F(CardRules, SwitchesOfThePack) {
     EXPECT_TRUE(bench.form.at(u"picHideControls"_s).visible());
     EXPECT_TRUE(preview.visible());
     EXPECT_FALSE(preview.enabled());
+    // The players of a pack stay chosen while its cards are loaded again, not when another's are.
+    for (const bool sameLanguage : {true, false}) {
+        bench.state.playerSelected = true;
+        bench.form.at(u"lblHPLAYERS"_s, 3).setForeColour(colours::kGreen);
+        if (!sameLanguage) bench.state.variables.SetVar(u"@LANGUAGE", u"XX"_s);
+        console.showLoaded();
+        EXPECT_EQ(bench.state.playerSelected, sameLanguage);
+        EXPECT_EQ(bench.form.at(u"lblHPLAYERS"_s, 3).foreColour().has_value(), sameLanguage);
+    }
     bench.state.cards.showPreview = false;
     console.showLoaded();
     EXPECT_FALSE(preview.visible());

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -80,6 +81,14 @@ TEST_F(MainWindowTest, KeysBelongToTheForm) {
         QTest::keyClick(target, Qt::Key_F1);
         EXPECT_TRUE(sent({kScoreLine})) << target->objectName().toStdString();
     }
+    // An open list closes, and the key still fires.
+    gallery.click("cmdTAB", 0);
+    auto* periods = gallery.find<QComboBox>("cbQt");
+    periods->showPopup();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(periods->view(), Qt::Key_F4);
+    EXPECT_TRUE(sent({kPlayerLine}));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(&window, &repeated);
     auto* button = gallery.find<QWidget>("cmbCARD", 0);
@@ -179,10 +188,13 @@ TEST_F(MainWindowTest, ManualLineAndHistory) {
     for (int i = 0; i < 10000; ++i) gallery.app->links().appendHistory(QString::number(i));
     EXPECT_EQ(history->model()->rowCount(), 500);
     EXPECT_TRUE(waitUntil([&] { return bar->value() == bar->maximum(); }));
-    bar->setValue(3);
-    gallery.app->links().appendHistory(u"late"_s);
+    bar->setValue(30);
+    const auto topLine = [&] { return history->indexAt({5, 5}).data().toString(); };
+    EXPECT_TRUE(waitUntil([&] { return !topLine().isEmpty(); }));
+    const QString read = topLine();
+    for (const QString& late : {u"late"_s, u"later"_s}) gallery.app->links().appendHistory(late);
     QCoreApplication::processEvents();
-    EXPECT_LT(bar->value(), bar->maximum() - 100);
+    EXPECT_EQ(topLine(), read);
 
     history->scrollToTop();
     const QModelIndex first = history->model()->index(0, 0);
@@ -271,6 +283,32 @@ TEST_F(MainWindowTest, DrivesTheGameFromItsPanels) {
     EXPECT_EQ(gallery.app->state().variables.text(u"@TAKEN"), u"yes");
 }
 
+// A timed card asks without taking the keyboard from what the operator is typing.
+TEST_F(MainWindowTest, QuestionsOfATimedCardLeaveTheKeyboardAlone) {
+    startWithCards();
+    gallery.connectMain(peer);
+    gallery.write(u"QRD_EN/asks.csp"_s, "LOOPPAGE~Again?\r\nSETVAR~@DONE;{@LOOP_ANSWER}\r\n");
+    gallery.app->window().activateWindow();
+    auto* line = gallery.find<QLineEdit>("txtMANUALCASPAR");
+    line->setFocus();
+    ASSERT_TRUE(waitUntil([&] { return line->hasFocus(); }));
+    gallery.shown.clear();
+    gallery.answer = [&](QDialog& box) {
+        EXPECT_TRUE(waitUntil([&] { return box.isVisible(); }));
+        EXPECT_TRUE(line->hasFocus());
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        gallery.press(Qt::Key_F4);
+        QTest::keyClicks(line, u"VERSION"_s);
+        gallery.press(Qt::Key_Return);
+        EXPECT_TRUE(sent({kPlayerLine, u"VERSION\r\n"_s}));
+        box.accept();
+    };
+    gallery.app->state().cards.timedCards = {{u"asks.csp"_s, 1}};
+    gallery.app->desk().timedCards.tick();
+    EXPECT_EQ(gallery.shown.size(), 1);
+    EXPECT_EQ(gallery.app->state().variables.text(u"@DONE"), u"6");
+}
+
 // A timed card that fails tells of it once, and keeps quiet when the operator says so until cards are reloaded.
 TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
     startWithCards();
@@ -292,6 +330,7 @@ TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
     EXPECT_TRUE(gallery.shown[0].contains(u"Error 9"));
     EXPECT_EQ(told(u"broken.csp"_s), 0);
     EXPECT_EQ(told(u"other.csp"_s), 1);
+    for (const int times : {1, 0}) EXPECT_EQ(told(u"missing.csp"_s), times) << "its script is not there";
     gallery.app->boxes().forgetQuietCards();
     EXPECT_EQ(told(u"broken.csp"_s), 1);
 }

@@ -104,8 +104,14 @@ TEST(GraphicsLinks, TellsOfALogThatCannotBeOpened) {
     ASSERT_EQ(studio.told.size(), 1);
     EXPECT_TRUE(studio.told.first().startsWith(u"Error 76\r\nPath not found"_s)) << studio.told.first().toStdString();
     studio.links.sendLine(LinkId::Main, u"A"_s);
+    EXPECT_TRUE(studio.at("chkLOGFILE").checked());
+    EXPECT_EQ(studio.at("lblLOG").text(), u"cannot be written"_s);
     studio.at("chkLOGFILE").setChecked(false);
     EXPECT_EQ(studio.told.size(), 1);
+    EXPECT_EQ(studio.at("lblLOG").text(), QString());
+    QDir(studio.folder.path()).mkdir(u"MODULES"_s);
+    studio.at("chkLOGFILE").setChecked(true);
+    EXPECT_EQ(studio.at("lblLOG").text(), u"writing"_s);
 }
 
 TEST(GraphicsLinks, ShowsResponsesOfTheMainServerAlone) {

@@ -23,14 +23,14 @@ CardsApp::CardsApp(const Options& options)
     state_.preview = isPreview(options.commandLine);
     boxes_.setWindow(window_);
     ask_.setWindow(window_);
-    trap_.setReporter([this](const ErrorPlace& place, const QString& message) { tell(place, message); });
+    trap_.setReporter([this](const ErrorPlace&, const QString& message) { tell(message); });
     cards_.answer(events_);
     answerLinks();
     settings_.answer(events_, desktop_);
     desktop_.addForm(u"frmMAIN"_s, [this] {
         window_.show();
         window_.raise();
-        window_.activateWindow();
+        if (state_.unattendedRuns == 0) window_.activateWindow();
     });
     answerDesk();
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
@@ -94,10 +94,10 @@ void CardsApp::start() {
 }
 
 // One message at a time: while it is open further errors stand in the log alone.
-void CardsApp::tell(const ErrorPlace& place, const QString& message) {
+void CardsApp::tell(const QString& message) {
     if (telling_) return;
     const QScopedValueRollback telling(telling_, true);
-    boxes_.cardError(place.card, message);
+    boxes_.message({}, message, Operator::Severity::Critical);
 }
 
 void CardsApp::connectDatabase() {

@@ -51,7 +51,7 @@ class CardsApp : public QObject {
     StartUp::Steps steps();
     void answerLinks();
     void answerDesk();
-    void tell(const ErrorPlace& place, const QString& message);
+    void tell(const QString& message);
     void connectDatabase();
     void close();
 

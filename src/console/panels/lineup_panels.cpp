@@ -39,6 +39,7 @@ StartFivePanel::StartFivePanel(const Mirrors& mirrors) : PanelFrame(mirrors, u"F
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(mirrors.button(u"cmdAUTO5ADA"_s));
     buttons->addWidget(mirrors.button(u"cmdINVOKE"_s));
+    buttons->addWidget(mirrors.button(u"cmdAUTOCARD"_s));
     buttons->addStretch(1);
     column->addLayout(buttons);
 }

@@ -47,6 +47,7 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
     grid->setRowStretch(2, 1);
 
     auto* manual = new QHBoxLayout;
+    manual->setSpacing(6);
     QLineEdit* line = mirrors.textBox(u"txtMANUALCASPAR"_s);
     line->setPlaceholderText(u"Command line"_s);
     line->installEventFilter(this);
@@ -56,6 +57,7 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
 
     auto* log = new QHBoxLayout;
     log->addWidget(mirrors.checkBox(u"chkLOGFILE"_s));
+    log->addWidget(mirrors.label(u"lblLOG"_s, -1, {12, false, Qt::AlignLeft | Qt::AlignVCenter, theme::Role::Muted}));
     log->addStretch(1);
     log->addWidget(mirrors.button(u"cmdVIEWGASPHISTORY"_s));
     grid->addLayout(log, 4, 0, 1, 4);

@@ -1,6 +1,7 @@
 #include "console_rules/card_console.h"
 
 #include <array>
+#include <utility>
 
 #include "engine/on_air.h"
 #include "engine/packs.h"
@@ -21,7 +22,11 @@ QString panelName(int number) {
 
 }  // namespace
 
-CardConsole::CardConsole(CardEngine& engine) : engine_(engine), state_(engine.state()), form_(engine.form()) {}
+CardConsole::CardConsole(CardEngine& engine) : engine_(engine), state_(engine.state()), form_(engine.form()) {
+    // Timed cards, the feed and the general variables write what is shown here, too.
+    connect(&switchTimer_, &QTimer::timeout, this, &CardConsole::showSwitches);
+    switchTimer_.start(kSwitchInterval);
+}
 
 void CardConsole::answer(FormEvents& events) {
     events.onClick(u"cmbCARD"_s, [this](int index) { pressCard(index); });
@@ -31,6 +36,7 @@ void CardConsole::answer(FormEvents& events) {
     events.onClick(u"cmdTAB"_s, [this](int index) { showTab(index); });
     events.onClick(u"cmdINVOKE"_s, [this](int) { run(u"invoke.csp"_s); });
     events.onClick(u"cmdAUTO5ADA"_s, [this](int) { run(u"auto5ada.csp"_s); });
+    events.onClick(u"cmdAUTOCARD"_s, [this](int) { SHOW_AUTO_CARD(); });
     events.onClick(u"cmdCLEARTAG"_s, [this](int) { clearTag(); });
     events.onClick(u"lblFKEYTITLE"_s, [this](int index) { functionKey(index + 1); });
 }
@@ -116,6 +122,8 @@ void CardConsole::SHOW_AUTO_CARD() {
 }
 
 void CardConsole::showLoaded() {
+    const QString language = state_.language();
+    if (std::exchange(shownLanguage_, language) != language) clearTag();
     LoadFkeys(state_, form_);
     showSwitches();
     Q_EMIT loaded();
@@ -127,6 +135,7 @@ void CardConsole::showSwitches() {
     Control& preview = form_.at(u"lblPREVIEW"_s);
     preview.setVisible(state_.preview && state_.cards.showPreview);
     preview.setEnabled(!state_.switches.PreviewDisabled);
+    form_.at(u"cmdAUTOCARD"_s).setEnabled(!state_.variables.text(u"@AUTOCARD").isEmpty());
 }
 
 bool CardConsole::isLastFired(int index) const {

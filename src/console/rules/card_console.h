@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 #include "console_rules/form_events.h"
 #include "engine/card_engine.h"
@@ -33,9 +34,11 @@ class CardConsole : public QObject {
     void functionKey(int number);
     void showTab(int tab);
     void clearTag();
-    // Writes @RETURNKEY from the pick list answered last and runs the script that @AUTOCARD names.
+    // Writes @RETURNKEY from the pick list answered last and runs the script that @AUTOCARD names. Its button
+    // (cmdAUTOCARD) is enabled while there is such a name.
     void SHOW_AUTO_CARD();
-    // After a card table was loaded: function keys, cover panel, preview mark.
+    // After a card table was loaded: function keys, cover panel, preview mark. Another language has other players: none
+    // of them is chosen.
     void showLoaded();
 
     // True when card button `index` of the current set is the one fired last.
@@ -55,9 +58,13 @@ class CardConsole : public QObject {
     void run(const QString& script, bool tagged = false);
     void showSwitches();
 
+    static constexpr int kSwitchInterval = 500;  // milliseconds
+
     CardEngine& engine_;
     ShowState& state_;
     FormModel& form_;
+    QTimer switchTimer_{this};
+    QString shownLanguage_;
     int lastFiredSet_ = 0;
 };
 
