@@ -15,6 +15,13 @@ class LineDelegate : public QStyledItemDelegate {
  public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    // The beginning of a line, wider than any screen: measuring a whole one that a server sent without a line end would
+    // hold up the cards.
+    [[nodiscard]] QString displayText(const QVariant& line, const QLocale&) const override {
+        constexpr int kMostShown = 1000;
+        return line.toString().left(kMostShown);
+    }
+
  protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(option, index);

@@ -32,13 +32,13 @@ class BadInput : public testing::Test {
     // Cards run, panels and boxes change.
     void expectUsable(const Gallery& gallery) {
         gallery.click("GradientButtonAIR");
+        gallery.click("GradientButtonS", 0);
         gallery.click("cmbCARD", 0);
         EXPECT_TRUE(gallery.find<CardButton>("cmbCARD", 0)->face().on);
         gallery.click("cmdTAB", 0);
         EXPECT_TRUE(gallery.find<QWidget>("Frame1")->isVisible());
         gallery.click("GradientButtonS", 1);
         EXPECT_EQ(gallery.find<CardButton>("cmbCARD", 0)->text(), u"Second");
-        gallery.click("GradientButtonS", 0);
     }
 };
 
@@ -170,6 +170,7 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
                 });
             });
             moment.fire(gallery);
+            gallery.answer = answer;
             EXPECT_TRUE(done);
             EXPECT_EQ(gallery.app->state().closing, !deed.goesOn);
             const QStringList expected = deed.before + (deed.goesOn ? QStringList{moment.after} : QStringList());
