@@ -106,8 +106,10 @@ void writeDump(int file, std::string_view what, const siginfo_t& info) {
 
 void onCrash(int signal, siginfo_t* info, void*) {
     const auto* known = std::ranges::find(kSignals, signal, &CrashSignal::number);
-    FixedText<PATH_MAX + 256> news;
-    news << program.view() << ": crashed (" << known->name << "); ";
+    FixedText<PATH_MAX + 2048> news;
+    news << program.view() << ": crashed (" << known->name;
+    if (!uncaught.view().empty()) news << ", " << uncaught.view();
+    news << "); ";
     const auto* dump = paths.begin();
     int file = -1;
     for (; dump != paths.end(); ++dump) {
