@@ -245,7 +245,11 @@ TEST_F(MainWindowTest, StartsWithoutItsFiles) {
 
 TEST_F(MainWindowTest, DrivesTheGameFromItsPanels) {
     gallery.writePack({}, "TIMEDCARD:missing.csp|1\r\n");
-    gallery.write(u"QRD_EN/stats.csp"_s, "SETVAR~@TAKEN;yes\r\n");
+    gallery.write(u"QRD_EN/GetGame.csp"_s,
+                  "FUNCTIONCARD\r\nSQLU~create table proposedcard (pc_id integer, pc_used text)\r\n"
+                  "SQLU~insert into proposedcard values (5, 'N'), (6, 'N')\r\n");
+    gallery.write(u"QRD_EN/stats.csp"_s,
+                  "SQL~select group_concat(pc_used) from proposedcard\r\nSETVAR~@USED;{1|0}\r\n");
     gallery.answer = [](QDialog& box) {
         if (auto* field = box.findChild<QLineEdit*>(u"answer"_s)) field->setText(u"1"_s);
         if (box.isModal()) box.accept();
@@ -278,8 +282,12 @@ TEST_F(MainWindowTest, DrivesTheGameFromItsPanels) {
     EXPECT_EQ(gallery.at("lblHPLAYERS", 4).foreColour(), colours::kRed);
     EXPECT_EQ(gallery.app->state().variables.text(u"AUTOTAG_O"), u"7");
     gallery.at("lblPROPOSED", 2).setTag(u"5|N|stats.csp|P:12"_s);
-    gallery.click("lblPROPOSED", 2);
-    EXPECT_EQ(gallery.app->state().variables.text(u"@TAKEN"), u"yes");
+    // Its card runs before the proposal is marked as used.
+    for (const QString& used : {u"N,N"_s, u"Y,N"_s}) {
+        gallery.click("lblPROPOSED", 2);
+        EXPECT_EQ(gallery.app->state().variables.text(u"@USED"), used);
+    }
+    EXPECT_EQ(gallery.at("lblPROPOSED", 2).backColour(), colours::kUsedProposal);
 }
 
 // A timed card asks without taking the keyboard from what the operator is typing.
