@@ -61,7 +61,7 @@ TEST_F(CrashDump, OfEveryProgramStandsInItsFolder) {
     const QString appFolder = temporary.path();
     const std::pair<QString, QStringList> programs[]{
         {u"zelvor"_s, {u"feed"_s, u"--to"_s, u"127.0.0.1:9"_s}},
-        {u"zelvor-rehearsal"_s, {u"--amcp"_s, u"0"_s, u"--http"_s, u"0"_s}},
+        {u"zelvor-rehearsal"_s, {u"--amcp"_s, u"0"_s, u"--http"_s, u"0"_s, u"--templates"_s, appFolder}},
         {u"zelvor-cards"_s, {u"--app-folder"_s, appFolder, u"--feed-port"_s, u"0"_s}},
     };
     for (const auto& [name, arguments] : programs) {
