@@ -2,6 +2,7 @@
 
 #include <pwd.h>
 #include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDeadlineTimer>
@@ -50,7 +51,7 @@ quint16 freePort() {
 MariaDbServer::MariaDbServer(QStringList options) : options_(std::move(options)), port_(freePort()) {
     if (!run(u"mariadb-install-db"_s,
              {u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
-              u"--auth-root-authentication-method=normal"_s, u"--skip-test-db"_s})) {
+              u"--tmpdir="_s + folder_.path(), u"--auth-root-authentication-method=normal"_s, u"--skip-test-db"_s})) {
         throw std::runtime_error("mariadb-install-db failed: is mariadb-server installed?");
     }
     start();
@@ -71,8 +72,9 @@ void MariaDbServer::beginStart() {
     process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     process_.start(program(u"mariadbd"_s),
                    QStringList{u"--no-defaults"_s, u"--user="_s + userName(), u"--datadir="_s + inFolder(u"data"_s),
-                               u"--socket="_s + inFolder(u"s"_s), u"--pid-file="_s + inFolder(u"pid"_s),
-                               u"--bind-address=127.0.0.1"_s, u"--port=%1"_s.arg(port_), u"--skip-name-resolve"_s} +
+                               u"--tmpdir="_s + folder_.path(), u"--socket="_s + inFolder(u"s"_s),
+                               u"--pid-file="_s + inFolder(u"pid"_s), u"--bind-address=127.0.0.1"_s,
+                               u"--port=%1"_s.arg(port_), u"--skip-name-resolve"_s} +
                        options_);
 }
 
@@ -94,7 +96,11 @@ void MariaDbServer::kill() {
 }
 
 void MariaDbServer::freeze(bool frozen) {
-    ::kill(static_cast<pid_t>(process_.processId()), frozen ? SIGSTOP : SIGCONT);
+    const auto pid = static_cast<pid_t>(process_.processId());
+    ::kill(pid, frozen ? SIGSTOP : SIGCONT);
+    // Its threads go on until one of them has had its turn to stop them all.
+    siginfo_t stopped{};
+    if (frozen) waitid(P_PID, static_cast<id_t>(pid), &stopped, WSTOPPED | WNOWAIT);
 }
 
 QByteArray MariaDbServer::connectionString() const {
