@@ -62,7 +62,7 @@ using Path = FixedText<PATH_MAX>;
 std::array<Path, 3> paths;  // in the order they are tried
 FixedText<NAME_MAX + 1> program;
 FixedText<1024> uncaught;              // the exception that ended the program
-std::array<char, 64 * 1024> ownStack;  // for a crash by too deep a recursion
+std::array<char, std::size_t{64} * 1024> ownStack;  // for a crash by too deep a recursion
 
 void write(int file, std::string_view text) {
     while (!text.empty()) {

@@ -45,8 +45,9 @@ const std::array kSubcommands{
 };
 
 QString help() {
-    QString text = u"usage: zelvor COMMAND [options]\n\n"_s
-                   u"Runs the card engine in a terminal, without a display.\n\n"_s;
+    QString text =
+        u"usage: zelvor COMMAND [options]\n\n"_s
+        u"Runs the card engine in a terminal, without a display.\n\n"_s;
     for (const Subcommand& command : kSubcommands) {
         text += u"  "_s + command.name.leftJustified(8) + command.summary + u'\n';
     }
