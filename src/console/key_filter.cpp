@@ -23,11 +23,14 @@ bool isInput(const QWidget* widget) {
            qobject_cast<const QCheckBox*>(widget) != nullptr || qobject_cast<const QRadioButton*>(widget) != nullptr;
 }
 
-// The window that the widget is part of; for a list or menu that has popped up, the one it has popped up over.
+// The window that the widget is part of; for a list or menu that has popped up, and for a box that waits for nobody,
+// the one it stands over.
 const QWidget* formOf(const QWidget* widget) {
     const QWidget* window = widget->window();
-    while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr)
-        window = window->parentWidget()->window();
+    const auto standsOver = [](const QWidget& each) {
+        return each.windowType() == Qt::Popup || (each.windowType() == Qt::Dialog && !each.isModal());
+    };
+    while (standsOver(*window) && window->parentWidget() != nullptr) window = window->parentWidget()->window();
     return window;
 }
 

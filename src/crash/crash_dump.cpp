@@ -61,7 +61,7 @@ using Path = FixedText<PATH_MAX>;
 // What the signal handler works with; a handler takes no argument of ours.
 std::array<Path, 3> paths;  // in the order they are tried
 FixedText<NAME_MAX + 1> program;
-FixedText<1024> uncaught;              // the exception that ended the program
+FixedText<1024> uncaught;                           // the exception that ended the program
 std::array<char, std::size_t{64} * 1024> ownStack;  // for a crash by too deep a recursion
 
 void write(int file, std::string_view text) {
@@ -105,6 +105,8 @@ void writeDump(int file, std::string_view what, const siginfo_t& info) {
 }
 
 void onCrash(int signal, siginfo_t* info, void*) {
+    constexpr unsigned kSecondsAllowed = 5;  // should the dump hang, on a lock that the crash left behind
+    alarm(kSecondsAllowed);
     const auto* known = std::ranges::find(kSignals, signal, &CrashSignal::number);
     FixedText<PATH_MAX + 2048> news;
     news << program.view() << ": crashed (" << known->name;
@@ -114,7 +116,7 @@ void onCrash(int signal, siginfo_t* info, void*) {
     int file = -1;
     for (; dump != paths.end(); ++dump) {
         if (dump->view().empty()) continue;
-        file = open(dump->c_str(), O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC, 0644);
+        file = open(dump->c_str(), O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0644);
         if (file >= 0) break;
     }
     if (file >= 0) {

@@ -61,8 +61,13 @@ void Session::beginOpening() {
 }
 
 void Session::awaitAnswer() {
-    if (!opening_.valid()) beginOpening();
-    if (opening_.wait_for(kAllowedInSilence) == std::future_status::timeout) {
+    // Each try is waited for once.
+    std::chrono::milliseconds allowed{0};
+    if (!opening_.valid()) {
+        beginOpening();
+        allowed = kAllowedInSilence;
+    }
+    if (opening_.wait_for(allowed) == std::future_status::timeout) {
         throw silence(u"The database has not answered since %1."_s.arg(silentSince_.toString(u"HH:mm:ss"_s)));
     }
     std::exchange(opening_, {}).get();

@@ -87,7 +87,11 @@ void OperatorCommands::mnReloadVar() {
 void OperatorCommands::mnGeneralVars() {
     // An open editor keeps what is being edited.
     if (!IsFormOpen(forms_, kGeneralForm)) general_.load();
-    forms_.bringToFront(kGeneralForm);
+    if (state_.unattendedRuns == 0) {
+        forms_.bringToFront(kGeneralForm);
+    } else {
+        forms_.show(kGeneralForm);  // a timed card's wish: the keyboard stays where it is
+    }
 }
 
 void OperatorCommands::showGeneral() {

@@ -307,7 +307,8 @@ TEST_F(MainWindowTest, QuestionsOfATimedCardLeaveTheKeyboardAlone) {
         gallery.press(Qt::Key_F4);
         QTest::keyClicks(line, u"VERSION"_s);
         gallery.press(Qt::Key_Return);
-        EXPECT_TRUE(sent({kPlayerLine, u"VERSION\r\n"_s}));
+        QTest::keyClick(&box, Qt::Key_F4);  // also where he has clicked the question itself
+        EXPECT_TRUE(sent({kPlayerLine, u"VERSION\r\n"_s, kPlayerLine}));
         box.accept();
     };
     gallery.app->state().cards.timedCards = {{u"asks.csp"_s, 1}};

@@ -52,7 +52,7 @@ class GeneralFormTest : public testing::Test {
     test::EngineBench bench;
     GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
     Pickers pickers;
-    GeneralForm form{general, bench.operatorDesk, pickers};
+    GeneralForm form{general, bench.operatorDesk, pickers, bench.state};
     QWidget console;
     FormList forms{console};
     QTableView* view = find<QTableView>("vsDATA");

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QThread>
+#include <array>
 #include <csignal>
 
 #include "general_rules/general_variables.h"
@@ -38,12 +39,20 @@ void killWhileSaving(const QString& path, Save save) {
     int changes = 0;
     QByteArray before = odd;
     for (int kill = 0; kill < kKills; ++kill) {
+        std::array<int, 2> saved{};
+        ASSERT_EQ(pipe(saved.data()), 0);
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
-            for (int state = 0;; state = 1 - state) save(state);
+            save(0);
+            if (write(saved[1], "", 1) != 1) _exit(1);
+            for (int state = 1;; state = 1 - state) save(state);
         }
-        // Everywhere in the first three saves, each of which begins a little later than the one before.
+        close(saved[1]);
+        char byte = 0;
+        ASSERT_EQ(read(saved[0], &byte, 1), 1);
+        close(saved[0]);
+        // Everywhere in the next three saves, each of which begins a little later than the one before.
         QThread::usleep(oneSave * 3 * kill / kKills);
         ::kill(child, SIGKILL);
         ASSERT_EQ(waitpid(child, nullptr, 0), child);

@@ -120,6 +120,7 @@ TEST(LinkConsole, TriesAHostAgainThatDoesNotAnswer) {
     studio.console.cmdGASPARCONNECT();
     EXPECT_TRUE(waitUntil([&] { return tries >= 3; }));
     EXPECT_TRUE(studio.at("lblLINKMAIN").text().endsWith(u"connecting"_s));
+    studio.console.findChild<QTimer*>(u"tmrRETRY"_s)->setInterval(LinkWatch::kRetryInterval);
     full.resumeAccepting();
     EXPECT_TRUE(studio.isIn(LinkId::Main, 7));
 }

@@ -87,6 +87,10 @@ int main(int argc, char* argv[]) {
             return kUsageError;
         }
     }
+    if (line.has(u"--user-folder") && line.has(u"--app-folder")) {
+        err << "zelvor-cards: --app-folder or --user-folder, not both\n";
+        return kUsageError;
+    }
     wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
     if (line.has(u"--user-folder")) {
         wanted.appFolder = zelvor::userFolder();

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -27,10 +28,11 @@ QString countOf(int rows, const QString& words) {
 
 }  // namespace
 
-GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers)
+GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, ShowState& state)
     : general_(general),
       operator_(operatorDesk),
       pickers_(pickers),
+      state_(state),
       search_(new QLineEdit),
       view_(new QTableView),
       help_(new QLabel),
@@ -103,6 +105,8 @@ QWidget* GeneralForm::buttonRow() {
         button->setObjectName(name);
         button->setToolTip(hint);
         connect(button, &QPushButton::clicked, this, [this, action] {
+            // What the operator does is told as his own, also while a timed card waits below it.
+            const QScopedValueRollback attended(state_.unattendedRuns, 0);
             endEditing();
             action();
         });
@@ -183,6 +187,7 @@ void GeneralForm::keyPressEvent(QKeyEvent* event) {
 }
 
 void GeneralForm::closeEvent(QCloseEvent* event) {
+    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     endEditing();
     const bool leave = !general_.grid().hasUnsaved() ||
                        operator_.yesNo(windowTitle(), u"There are changes that are not saved. Close without them?"_s);

@@ -21,7 +21,7 @@ class GeneralForm : public QWidget {
 
  public:
     // All must outlive the form.
-    GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers);
+    GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, ShowState& state);
 
  protected:
     void closeEvent(QCloseEvent* event) override;
@@ -40,6 +40,7 @@ class GeneralForm : public QWidget {
     GeneralVariables& general_;
     Operator& operator_;
     Pickers& pickers_;
+    ShowState& state_;
     QSortFilterProxyModel shown_;
     ValueDelegate delegate_;
     QLineEdit* search_;
