@@ -66,7 +66,8 @@ TEST_F(CrashDump, OfEveryProgramStandsInItsFolder) {
     };
     for (const auto& [name, arguments] : programs) {
         start(name, arguments);
-        EXPECT_TRUE(waitUntil([&] { return handlesCrashes(); }));
+        ASSERT_TRUE(waitUntil([&] { return handlesCrashes() || process.state() == QProcess::NotRunning; }));
+        ASSERT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().toStdString();
         kill(static_cast<pid_t>(process.processId()), SIGSEGV);
         const QString text = dump(folder.filePath(name) + u".dmp"_s);
         EXPECT_TRUE(text.startsWith(name + u' ')) << text.toStdString();

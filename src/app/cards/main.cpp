@@ -47,7 +47,6 @@ Fires the cards of a pack on the air, from one window.
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    zelvor::dumpCrashes();
     QTextStream out(stdout);
     QTextStream err(stderr);
     // What needs no display is answered before one is looked for.
@@ -64,6 +63,8 @@ int main(int argc, char* argv[]) {
     }
 
     QApplication application(argc, argv);
+    // Not before: without a display Qt ends the program with its own words, which is no crash.
+    zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
     const zelvor::CommandLine line(QApplication::arguments().mid(1), kOptions);
     if (!line.optionWithoutValue().isEmpty()) {
