@@ -12,6 +12,7 @@
 #include <cstdio>
 
 #include "engine/command_table.h"
+#include "written_page.h"
 
 using namespace Qt::StringLiterals;
 
@@ -141,11 +142,6 @@ void addCommand(QTextStream& page, const Command& command, const QHash<QString, 
     page << "\n```\n" << example.script << "```\n";
 }
 
-QString fileText(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -154,7 +150,6 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "usage: command_reference [--check] FILE SCRIPTS_FOLDER\n");
         return 2;
     }
-    const QString path = QFile::decodeName(argv[argc - 2]);
     const QHash<QString, Example> examples = readExamples(QFile::decodeName(argv[argc - 1]));
     bool whole = true;
     QString text;
@@ -170,11 +165,6 @@ int main(int argc, char* argv[]) {
         }
     }
     page.flush();
-    if (!checkOnly && fileText(path) != text) {
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) file.write(text.toUtf8());
-    }
-    if (fileText(path) == text) return whole ? 0 : 1;
-    std::fprintf(stderr, "%s is not up to date: run command_reference on it\n", qPrintable(path));
-    return 1;
+    const bool upToDate = holdsOrWrites(argv[argc - 2], text.toStdString(), checkOnly, "command_reference");
+    return upToDate && whole ? 0 : 1;
 }

@@ -3,7 +3,6 @@
 //   formula_reference --check docs    writes nothing, and fails when one of them is not up to date
 
 #include <cstdio>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -13,6 +12,7 @@
 #include "expr/error_table.h"
 #include "expr/function_table.h"
 #include "expr/number_text.h"
+#include "written_page.h"
 
 namespace {
 
@@ -154,24 +154,6 @@ std::string waveSheet() {
     return sheet.str();
 }
 
-std::string fileText(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-// True when the file holds the text, after writing it unless only checking.
-bool settle(const std::string& path, const std::string& text, bool checkOnly) {
-    if (fileText(path) == text) return true;
-    if (!checkOnly) {
-        std::ofstream(path, std::ios::binary) << text;
-        if (fileText(path) == text) return true;
-    }
-    std::fprintf(stderr, "%s is not up to date: run formula_reference on its folder\n", path.c_str());
-    return false;
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -181,7 +163,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     const std::string folder = argv[argc - 1];
-    const bool page = settle(folder + "/formulas.md", referencePage(), checkOnly);
-    const bool sheet = settle(folder + "/waves.svg", waveSheet(), checkOnly);
+    const bool page = holdsOrWrites(folder + "/formulas.md", referencePage(), checkOnly, "formula_reference");
+    const bool sheet = holdsOrWrites(folder + "/waves.svg", waveSheet(), checkOnly, "formula_reference");
     return page && sheet ? 0 : 1;
 }
