@@ -38,11 +38,6 @@ class AskForm : public testing::Test {
 
 TEST_F(AskForm, answersByKeyboardAndMouse) {
     bench.rowsDatabase.fill({u"Άρης"_s, u"Βασίλης"_s, u"Γιώργος"_s});
-    const auto click = [](QListWidget& list, int row) {
-        const QPoint place = list.visualItemRect(list.item(row)).center();
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
-    };
     struct Case {
         const char* what;
         std::function<void(QListWidget&)> act;
@@ -57,14 +52,13 @@ TEST_F(AskForm, answersByKeyboardAndMouse) {
              QTest::keyClick(&list, Qt::Key_Return);
          },
          u"101"_s},
-        {"arrow and Enter",
+        {"double-click",
          [](QListWidget& list) {
-             QTest::keyClick(&list, Qt::Key_Down);
-             QTest::keyClick(&list, Qt::Key_Enter);
+             const QPoint place = list.visualItemRect(list.item(2)).center();
+             QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+             QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
          },
-         u"101"_s},
-        {"double-click", [&](QListWidget& list) { click(list, 2); }, u"102"_s},
-        {"Escape", [](QListWidget& list) { QTest::keyClick(&list, Qt::Key_Escape); }, u"-1"_s},
+         u"102"_s},
         {"Cancel", [&](QListWidget&) { form->findChild<QPushButton*>(u"cmdCANCEL"_s)->click(); }, u"-1"_s},
         {"window closed", [&](QListWidget&) { form->close(); }, u"-1"_s},
         {"program closing", [&](QListWidget&) { bench.state.closing = true; }, u"-1"_s},
@@ -90,10 +84,8 @@ TEST_F(AskForm, saysHowManyRowsThereAreAndShowsTwenty) {
     open([&](QListWidget& list) {
         EXPECT_EQ(form->windowTitle(), u"Player"_s);
         EXPECT_EQ(form->findChild<QLabel*>()->text(), u"60 rows"_s);
-        EXPECT_EQ(list.indexAt({5, list.visualItemRect(list.item(19)).center().y()}).row(), 19);
         EXPECT_LE(list.visualItemRect(list.item(19)).bottom(), list.viewport()->height());
         EXPECT_GT(list.visualItemRect(list.item(20)).bottom(), list.viewport()->height());
-        EXPECT_EQ(list.textElideMode(), Qt::ElideRight);
         form->close();
     });
 }

