@@ -6,9 +6,9 @@
 namespace zelvor {
 
 void NameIndex::insert(quint32 hash, int slot) {
-    constexpr size_t kFirstSize = 32;
+    constexpr size_t kFewestCells = 32;
     if (static_cast<size_t>(used_ + 1) * 3 > cells_.size() * 2) {
-        const std::vector<Cell> old = std::exchange(cells_, std::vector<Cell>(std::max(kFirstSize, cells_.size() * 2)));
+        const std::vector<Cell> old = std::exchange(cells_, std::vector<Cell>(std::max(kFewestCells, cells_.size() * 2)));
         for (const Cell& cell : old) {
             if (cell.slot != kNone) place(cell);
         }

@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <numeric>
 
+#include "expr/real.h"
+
 namespace zelvor::expr {
 
 namespace {
-
-using Real = long double;
 
 constexpr double kMaxExact = 9007199254740992.0;  // 2^53
 constexpr double kMaxFactorial = 170;

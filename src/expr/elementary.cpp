@@ -7,14 +7,13 @@
 #include <cstring>
 
 #include "expr/arguments.h"
+#include "expr/real.h"
 
 // Where the C library's double functions may be off by more than a unit in the last place, the long double ones are
 // taken and rounded once.
 namespace zelvor::expr {
 
 namespace {
-
-using Real = long double;
 
 // Figures of a whole number of 64 bits, more than the shortest form of any double.
 constexpr std::size_t kMaxFigures = 20;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "expr/guarded.h"
+#include "expr/real.h"
 
 // The power series inside half the unit interval. From there on the function is continued along the axis by Taylor
 // series of its differential equation, each a fixed part of the distance to the singular point at 1: unlike the
@@ -17,12 +18,9 @@ namespace zelvor::expr {
 
 namespace {
 
-using Real = long double;
-
 constexpr std::string_view kDivergent = "The hypergeometric series is divergent";
 constexpr std::string_view kCheckAccuracy = "Warning! You should check the accuracy";
 
-constexpr Real kEpsilon = std::numeric_limits<Real>::epsilon();
 constexpr Real kSeriesEnd = 0.5L;
 // How far one Taylor step goes, as a part of its radius of convergence.
 constexpr Real kStep = 0.5L;

@@ -9,16 +9,14 @@
 #include <numbers>
 
 #include "expr/guarded.h"
+#include "expr/real.h"
 
 namespace zelvor::expr {
 
 namespace {
 
-using Real = long double;
 using Complex = std::complex<Real>;
 
-constexpr Real kPi = std::numbers::pi_v<Real>;
-constexpr Real kEpsilon = std::numeric_limits<Real>::epsilon();
 constexpr int kMaxIterations = 10000;
 constexpr double kMaxOrder = 1e6;
 

@@ -3,12 +3,11 @@
 #include <cmath>
 
 #include "expr/arguments.h"
+#include "expr/real.h"
 
 namespace zelvor::expr {
 
 namespace {
-
-using Real = long double;
 
 constexpr double kMaxDegree = 1000;
 

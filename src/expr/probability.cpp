@@ -7,12 +7,11 @@
 #include <numbers>
 
 #include "expr/guarded.h"
+#include "expr/real.h"
 
 namespace zelvor::expr {
 
 namespace {
-
-using Real = long double;
 
 bool isCount(double k) {
     return k >= 0 && k == std::floor(k);

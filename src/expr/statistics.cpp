@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "expr/real.h"
+
 namespace zelvor::expr {
 
 namespace {
-
-using Real = long double;
 
 template <class Term>
 Real total(const Arguments& values, Term term) {

@@ -3,13 +3,11 @@
 #include <cmath>
 #include <numbers>
 
+#include "expr/real.h"
+
 namespace zelvor::expr {
 
 namespace {
-
-using Real = long double;
-
-constexpr Real kPi = std::numbers::pi_v<Real>;
 
 // Units in half a turn.
 Real halfTurn(Angle unit) {

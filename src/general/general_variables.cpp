@@ -10,7 +10,7 @@ namespace {
 
 using Tell = ErrorTrap::Tell;
 
-const QString kTitle = u"General Vars"_s;
+const QString kWindowTitle = u"General Vars"_s;
 constexpr qsizetype kShownRemarks = 20;
 
 QByteArray readWhole(const QString& path) {
@@ -56,7 +56,7 @@ void GeneralVariables::keepDamaged(const QByteArray& bytes, const GridReading& r
                        .arg(reading.damage)
                        .arg(reading.rows.size());
     if (kept) text += u"\r\nThe damaged file is kept as infodata.dat.bad."_s;
-    operator_.message(kTitle, text, Operator::Severity::Warning);
+    operator_.message(kWindowTitle, text, Operator::Severity::Warning);
 }
 
 bool GeneralVariables::addRow() {
@@ -71,7 +71,7 @@ bool GeneralVariables::addRow() {
         for (const Question& question :
              {Question{u"var", general_column::kVariable}, Question{u"title", general_column::kTitle},
               Question{u"help", general_column::kHelp}}) {
-            const std::optional<QString> answer = operator_.input(kTitle, question.prompt.toString(), {});
+            const std::optional<QString> answer = operator_.input(kWindowTitle, question.prompt.toString(), {});
             answered = answered && answer.has_value();
             if (!answered) return;
             row[question.column] = *answer;
@@ -91,7 +91,7 @@ void GeneralVariables::removeRows(const QList<int>& rows) {
     const QString what = rows.size() > 1 ? u"%1 rows"_s.arg(rows.size())
                                          : grid_.text(rows[0], general_column::kTitle) + u' ' +
                                                grid_.text(rows[0], general_column::kVariable);
-    if (!operator_.yesNo(kTitle, u"Remove "_s + what.trimmed() + u'?')) return;
+    if (!operator_.yesNo(kWindowTitle, u"Remove "_s + what.trimmed() + u'?')) return;
     for (const QPersistentModelIndex& row : chosen) {
         if (row.isValid()) grid_.removeRow(row.row());
     }
@@ -106,7 +106,7 @@ void GeneralVariables::importText() {
         QStringList shown = imported.remarks.mid(0, kShownRemarks);
         if (imported.remarks.size() > kShownRemarks)
             shown += u"and %1 more"_s.arg(imported.remarks.size() - kShownRemarks);
-        operator_.message(kTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
+        operator_.message(kWindowTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
     });
 }
 

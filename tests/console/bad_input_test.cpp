@@ -53,8 +53,6 @@ class RudeServer : public QTcpServer {
     }
 };
 
-}  // namespace
-
 TEST_F(BadInput, Servers) {
     constexpr qsizetype kFlood = qsizetype{10} * 1024 * 1024;
     QStringList lines;
@@ -180,5 +178,7 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
         }
     }
 }
+
+}  // namespace
 
 }  // namespace zelvor::test

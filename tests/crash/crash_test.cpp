@@ -55,8 +55,6 @@ class CrashDump : public testing::Test {
     QProcess process;
 };
 
-}  // namespace
-
 TEST_F(CrashDump, OfEveryProgramStandsInItsFolder) {
     const QString appFolder = temporary.path();
     const std::pair<QString, QStringList> programs[]{
@@ -92,5 +90,7 @@ TEST_F(CrashDump, NamesTheExceptionAndSurvivesAFullStack) {
     start(u"crashing"_s, {u"exception"_s});
     EXPECT_TRUE(dump(temporary.filePath(u"crashing.dmp"_s)).contains(u"nobody catches this"));
 }
+
+}  // namespace
 
 }  // namespace zelvor::test

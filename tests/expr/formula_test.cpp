@@ -6,6 +6,7 @@
 #include <new>
 #include <string>
 
+#include "evaluate.h"
 #include "expr/cls_formula.h"
 
 namespace {
@@ -31,13 +32,6 @@ namespace zelvor::expr {
 namespace {
 
 using namespace std::string_literals;
-
-double evaluate(clsFormula& formula, std::string_view text) {
-    EXPECT_TRUE(formula.StoreExpression(text)) << text << ": " << formula.ErrorDescription();
-    const double value = formula.Eval();
-    EXPECT_EQ(formula.ErrorID(), 0) << text << ": " << formula.ErrorDescription();
-    return value;
-}
 
 void expectError(clsFormula& formula, std::string_view text, int id, int position, std::string_view message) {
     formula.StoreExpression(text);

@@ -4,18 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "evaluate.h"
 #include "expr/cls_formula.h"
 #include "expr/constants.h"
 
 namespace zelvor::expr {
 namespace {
-
-double evaluate(clsFormula& formula, std::string_view text) {
-    EXPECT_TRUE(formula.StoreExpression(text)) << text << ": " << formula.ErrorDescription();
-    const double value = formula.Eval();
-    EXPECT_EQ(formula.ErrorID(), 0) << text << ": " << formula.ErrorDescription();
-    return value;
-}
 
 TEST(Functions, GiveTheirValues) {
     const struct {

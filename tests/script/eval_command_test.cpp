@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Row {
+struct Invocation {
     QStringList arguments;
     int status;
     QString out;
@@ -17,19 +17,19 @@ struct Row {
 
 TEST(EvalCommand, PrintsTheValueOrTheError) {
     const std::array rows{
-        Row{{u"7 mod 4"_s}, 0, u"3\n"_s, {}},
-        Row{{u"7"_s, u"mod"_s, u"4"_s}, 0, u"3\n"_s, {}},
-        Row{{u"--"_s, u"--5"_s}, 0, u"5\n"_s, {}},
-        Row{{u"-5"_s}, 0, u"-5\n"_s, {}},
-        Row{{u"Null"_s}, 0, u"Null\n"_s, {}},
-        Row{{u"Array(1,Null,'x')"_s}, 0, u"1, Null, x\n"_s, {}},
-        Row{{u"1 + (2"_s}, 1, {}, u"Error 1006: Expected ')'\nPosition 7\n"_s},
-        Row{{u"foo(1)"_s}, 1, {}, u"Error 13: Type mismatch: 'foo'\nPosition 1\n"_s},
-        Row{{}, 2, {}, u"usage: "_s},
-        Row{{u"--"_s}, 2, {}, u"usage: "_s},
-        Row{{u"--fast"_s, u"1"_s}, 2, {}, u"usage: "_s},
+        Invocation{{u"7 mod 4"_s}, 0, u"3\n"_s, {}},
+        Invocation{{u"7"_s, u"mod"_s, u"4"_s}, 0, u"3\n"_s, {}},
+        Invocation{{u"--"_s, u"--5"_s}, 0, u"5\n"_s, {}},
+        Invocation{{u"-5"_s}, 0, u"-5\n"_s, {}},
+        Invocation{{u"Null"_s}, 0, u"Null\n"_s, {}},
+        Invocation{{u"Array(1,Null,'x')"_s}, 0, u"1, Null, x\n"_s, {}},
+        Invocation{{u"1 + (2"_s}, 1, {}, u"Error 1006: Expected ')'\nPosition 7\n"_s},
+        Invocation{{u"foo(1)"_s}, 1, {}, u"Error 13: Type mismatch: 'foo'\nPosition 1\n"_s},
+        Invocation{{}, 2, {}, u"usage: "_s},
+        Invocation{{u"--"_s}, 2, {}, u"usage: "_s},
+        Invocation{{u"--fast"_s, u"1"_s}, 2, {}, u"usage: "_s},
     };
-    for (const Row& row : rows) {
+    for (const Invocation& row : rows) {
         QString out;
         QString err;
         QTextStream outStream(&out);

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 namespace {
-constexpr int kRows = 7;
+constexpr int kCardRows = 7;
 }
 
 CardGrid::CardGrid(const Mirrors& mirrors, const CardConsole& console) : console_(console), form_(mirrors.form()) {
@@ -18,9 +18,9 @@ CardGrid::CardGrid(const Mirrors& mirrors, const CardConsole& console) : console
     for (int i = 0; i < CardConsole::kCardButtons; ++i) {
         buttons_.at(i) = mirrors.cardButton(i);
         // Cards count down the columns, as the F-keys do in the packs.
-        grid->addWidget(buttons_.at(i), i % kRows, i / kRows);
-        grid->setColumnStretch(i / kRows, 1);
-        grid->setRowStretch(i % kRows, 1);
+        grid->addWidget(buttons_.at(i), i % kCardRows, i / kCardRows);
+        grid->setColumnStretch(i / kCardRows, 1);
+        grid->setRowStretch(i % kCardRows, 1);
     }
     connect(&console, &CardConsole::cardsChanged, this, &CardGrid::showFaces);
     connect(&form_, &FormModel::changed, this, [this](const Control* control) {

@@ -9,7 +9,7 @@ namespace zelvor {
 using theme::Role;
 
 namespace {
-constexpr int kRows = 12;
+constexpr int kPlayerRows = 12;
 constexpr int kPlayers = 24;
 constexpr int kProposals = 8;
 constexpr int kProposalColumns = 4;
@@ -48,9 +48,9 @@ QLayout* PlayersPanel::players(const Mirrors& mirrors, const QString& name) {
         TextLabel* label = mirrors.label(
             name, player, {12, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, Role::Cell, false, true});
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        grid->addWidget(label, player % kRows, player / kRows);
-        grid->setRowStretch(player % kRows, 1);
-        grid->setColumnStretch(player / kRows, 1);
+        grid->addWidget(label, player % kPlayerRows, player / kPlayerRows);
+        grid->setRowStretch(player % kPlayerRows, 1);
+        grid->setColumnStretch(player / kPlayerRows, 1);
     }
     return grid;
 }

@@ -82,7 +82,7 @@ void LOADFORM(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kAskQueryCommands{
     Command{u"RETURNASK", RETURNASK, Argument::Expanded, u"number", u"sets the answer of the last pick list"},
     Command{u"ASKFIELD", ASKFIELD, Argument::Expanded, u"field",
             u"opens a pick list; its answer becomes @RETURNKEY, Cancel ends the card", roles(Role::AskField)},
@@ -101,7 +101,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> askAndQuery() {
-    return kCommands;
+    return kAskQueryCommands;
 }
 
 }  // namespace zelvor::commands

@@ -77,7 +77,7 @@ void REPLACE(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kCalculationCommands{
     Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value",
             roles(Role::VariableName, Role::Expression)},
     Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value",
@@ -95,7 +95,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> calculations() {
-    return kCommands;
+    return kCalculationCommands;
 }
 
 }  // namespace zelvor::commands

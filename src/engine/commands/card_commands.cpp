@@ -89,7 +89,7 @@ void EXECUTE(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kCardCommands{
     Command{u"BUTTONTEXT", BUTTONTEXT, Argument::Expanded, u"button;text", u"labels a card button, counted from 0",
             roles(Role::Button)},
     Command{u"BUTTONCOLOR", BUTTONCOLOR, Argument::Expanded, u"button;colour",
@@ -114,7 +114,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> cards() {
-    return kCommands;
+    return kCardCommands;
 }
 
 }  // namespace zelvor::commands

@@ -118,7 +118,7 @@ void SCANPROPOSED(CardRun& run, const Arguments&) {
 
 using Argument = Command::Argument;
 
-constexpr std::array kCommands{
+constexpr std::array kFeedbackCommands{
     Command{u"LASTCARDTAG", LASTCARDTAG, Argument::Expanded, u"slot;key:answer##...",
             u"the tag of the card in a slot, and the automatic answers in it"},
     Command{u"LASTCARDONAIR", LASTCARDONAIR, Argument::Raw, u"row-column", u"this card is on air in that slot"},
@@ -136,7 +136,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> feedback() {
-    return kCommands;
+    return kFeedbackCommands;
 }
 
 }  // namespace zelvor::commands

@@ -84,7 +84,7 @@ void LOOPPAGE(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kFlowCommands{
     Command{u"INCLUDE", readEarlier, Argument::None, u"file", u"puts the lines of another script file here",
             roles(Role::Include)},
     Command{u"NORTXOUT", readEarlier, Argument::None, u"", u"no RTX output files at the end"},
@@ -104,7 +104,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> flow() {
-    return kCommands;
+    return kFlowCommands;
 }
 
 }  // namespace zelvor::commands

@@ -31,7 +31,7 @@ void WRITELOG(CardRun& run, const Arguments& args) {
 
 using Argument = Command::Argument;
 
-constexpr std::array kCommands{
+constexpr std::array kGraphicsCommands{
     Command{u"CSPSEND", CSPSEND, Argument::Expanded, u"command line", u"sends a line to the main graphics server"},
     Command{u"CSPSENDREMOTE", CSPSENDREMOTE, Argument::Expanded, u"command line",
             u"sends a line to the remote graphics server"},
@@ -41,7 +41,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> graphics() {
-    return kCommands;
+    return kGraphicsCommands;
 }
 
 }  // namespace zelvor::commands

@@ -70,7 +70,7 @@ void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kTemplateCommands{
     Command{u"CLEARDATA", CLEARDATA, Argument::None, u"", u"empties the template data and the history list"},
     Command{u"CLEARDATAREMOTE", CLEARDATAREMOTE, Argument::None, u"", u"empties the remote template data"},
     Command{u"SDATA", SDATA, Argument::Expanded, u"field;[animation;]value", u"sets a text field of the template"},
@@ -88,7 +88,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> templateData() {
-    return kCommands;
+    return kTemplateCommands;
 }
 
 }  // namespace zelvor::commands

@@ -94,7 +94,7 @@ void CFILE8(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kTextFileCommands{
     Command{u"LOADTXT", LOADTXT, Argument::Expanded, u"file;name",
             u"reads a comma-separated file into @name_LLL_CCC, @TEXTLINES and @TEXTCOLS",
             roles(Role::Text, Role::VariablePrefix)},
@@ -111,7 +111,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> textFiles() {
-    return kCommands;
+    return kTextFileCommands;
 }
 
 }  // namespace zelvor::commands

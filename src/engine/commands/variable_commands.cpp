@@ -35,7 +35,7 @@ void SPLIT(CardRun& run, const Arguments& args) {
 using Argument = Command::Argument;
 using Role = Command::Role;
 
-constexpr std::array kCommands{
+constexpr std::array kVariableCommands{
     Command{u"SETVAR", SETVAR, Argument::Expanded, u"variable;value", u"sets a variable", roles(Role::Variable)},
     Command{u"CHARCOUNT", CHARCOUNT, Argument::Expanded, u"name;text;character",
             u"@name becomes how often the character stands in the text", roles(Role::VariableName)},
@@ -46,7 +46,7 @@ constexpr std::array kCommands{
 }  // namespace
 
 std::span<const Command> variables() {
-    return kCommands;
+    return kVariableCommands;
 }
 
 }  // namespace zelvor::commands

@@ -17,7 +17,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr QSize kFirstSize{1060, 520};
+constexpr QSize kEditorSize{1060, 520};
 constexpr int kValueWidth = 240;
 constexpr int kTitleWidth = 200;
 constexpr int kVariableWidth = 160;
@@ -40,7 +40,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     setObjectName(u"frmGENERAL"_s);
     setWindowTitle(u"General Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(kFirstSize);
+    resize(kEditorSize);
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(u"Search"_s);
     search_->setToolTip(u"Shows the rows that hold this text"_s);

@@ -14,7 +14,7 @@ namespace zelvor {
 
 namespace {
 
-constexpr QSize kFirstSize{640, 520};
+constexpr QSize kBoxSize{640, 520};
 const QString kLineEnd = u"\r\n"_s;
 
 }  // namespace
@@ -23,7 +23,7 @@ VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit)
     setObjectName(u"frmVARS"_s);
     setWindowTitle(u"Display Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(kFirstSize);
+    resize(kBoxSize);
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(u"Search"_s);
     search_->setToolTip(u"Shows the lines that hold this text"_s);
