@@ -55,7 +55,7 @@ void makeXmlOf40Fields(benchmark::State& bench) {
 }
 BENCHMARK(makeXmlOf40Fields);
 
-class CountedGraphics : public Graphics {
+class CountedGraphics : public Graphics, public GraphicsNotes {
  public:
     void sendLine(LinkId, const QString& command) override { units += command.size(); }
     int state(LinkId) const override { return kConnected; }
@@ -71,16 +71,17 @@ class CountedGraphics : public Graphics {
 class OneCard {
  public:
     explicit OneCard(const QByteArray& script, Graphics* graphics = nullptr)
-        : engine_(state, form, folder, files, trap,
-                  Ports{unused_, unused_, graphics == nullptr ? counted_ : *graphics, unused_, unused_, clock}) {
+        : engine_(
+              state, form, program,
+              Ports{unused_, unused_, graphics == nullptr ? counted_ : *graphics, counted_, unused_, unused_, clock}) {
         QDir(onDisk_.path()).mkpath(u"MODULES/QRD_TT"_s);
         QFile file(onDisk_.filePath(u"MODULES/QRD_TT/card.csp"_s));
         if (!file.open(QIODevice::WriteOnly)) qFatal("no card");
         file.write(script);
         state.variables.SetVar(u"@LANGUAGE", u"TT"_s);
-        trap.setReporter([](const ErrorPlace&, const QString& message) { qFatal("%s", qPrintable(message)); });
+        program.trap.setReporter([](const ErrorPlace&, const QString& message) { qFatal("%s", qPrintable(message)); });
     }
-    void run() { engine_.SHOW_TVCARD(u"card.qrd"_s, false, false); }
+    void run() { engine_.SHOW_TVCARD(u"card.qrd"_s, false, false, {}); }
 
  private:
     QTemporaryDir onDisk_;
@@ -88,10 +89,8 @@ class OneCard {
  public:
     ShowState state;
     FormModel form;
-    AppFolder folder{onDisk_.path()};
-    TextFiles files;
-    ErrorTrap trap{onDisk_.filePath(u"errors.log"_s)};
-    SystemClock clock{state};
+    Program program{AppFolder(onDisk_.path()), {}, ErrorTrap(onDisk_.filePath(u"errors.log"_s))};
+    SystemClock clock{program.closing};
 
  private:
     Unused unused_;
@@ -160,13 +159,10 @@ void updateOf40FieldsWithReply(benchmark::State& bench) {
         script += QByteArrayLiteral("SDATA~f%1;value %1\n").replace("%1", QByteArray::number(i));
     script += "MAKEXML\nCSPSEND~CG 1-20 UPDATE 1 '{@CASPARXML}'\n";
     const QTemporaryDir folderOnDisk;
-    ShowState state;
     FormModel form;
-    const AppFolder folder(folderOnDisk.path());
-    const TextFiles files;
-    ErrorTrap trap(folderOnDisk.filePath(u"errors.log"_s));
-    SystemClock clock(state);
-    GraphicsLinks links(form, clock, trap, folder, files);
+    Program program{AppFolder(folderOnDisk.path()), {}, ErrorTrap(folderOnDisk.filePath(u"errors.log"_s))};
+    SystemClock clock(program.closing);
+    GraphicsLinks links(form, clock, program);
     OneCard card(script, &links);
     CasparLink& link = links.link(LinkId::Main);
     int replies = 0;

@@ -125,14 +125,12 @@ int main(int argc, char* argv[]) {
     }
     ShowState state;
     FormModel form;
-    const AppFolder folder(folderOnDisk.path());
-    const TextFiles files;
-    ErrorTrap trap(folderOnDisk.filePath(u"errors.log"_s));
-    SystemClock clock(state);
+    Program program{AppFolder(folderOnDisk.path()), {}, ErrorTrap(folderOnDisk.filePath(u"errors.log"_s))};
+    SystemClock clock(program.closing);
     Unused unused;
-    GraphicsLinks links(form, clock, trap, folder, files);
-    CardEngine engine(state, form, folder, files, trap, Ports{unused, unused, links, unused, unused, clock});
-    GameDesk desk(engine, trap);
+    GraphicsLinks links(form, clock, program);
+    CardEngine engine(state, form, program, Ports{unused, unused, links, links, unused, unused, clock});
+    GameDesk desk(engine);
     state.variables.SetVar(u"@LANGUAGE", u"TT"_s);
     state.switches.AutoTimeCard = u"clock.qrd"_s;
     state.switches.IsTimeCard = true;

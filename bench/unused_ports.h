@@ -7,16 +7,18 @@ namespace zelvor {
 // The ports that a measured card does not use. A message box ends the program: nothing was to go wrong.
 class Unused : public Operator, public AskDialog, public Database, public Desktop {
  public:
-    void message(const QString&, const QString& text, Severity) override { qFatal("%s", qPrintable(text)); }
-    bool yesNo(const QString&, const QString&) override { return true; }
-    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
-    void show() override {}
-    int RUN_QUERY(const QString&) override { return 0; }
-    int RUN_QUERY2(const QString&) override { return 0; }
+    void message(const Asker&, const QString&, const QString& text, Severity) override {
+        qFatal("%s", qPrintable(text));
+    }
+    bool yesNo(const Asker&, const QString&, const QString&) override { return true; }
+    std::optional<QString> input(const Asker&, const QString&, const QString&, const QString&) override { return {}; }
+    void show(const Asker&) override {}
+    int RUN_QUERY(const Asker&, const QString&) override { return 0; }
+    int RUN_QUERY2(const Asker&, const QString&) override { return 0; }
     void execute(const QString&) override {}
     NamedRows readGreek(const QString&) override { return {}; }
     void open(const QString&) override {}
-    void loadForm(const QString&) override {}
+    void loadForm(const Asker&, const QString&) override {}
 };
 
 }  // namespace zelvor

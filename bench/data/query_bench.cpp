@@ -29,11 +29,13 @@ const QString kQuery = u"select * from query_bench"_s;
 
 class NoOperator : public zelvor::Operator {
  public:
-    void message(const QString& title, const QString& text, Severity) override {
+    void message(const zelvor::Asker&, const QString& title, const QString& text, Severity) override {
         qFatal("%s", qPrintable(title + text));
     }
-    bool yesNo(const QString&, const QString&) override { return false; }
-    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
+    bool yesNo(const zelvor::Asker&, const QString&, const QString&) override { return false; }
+    std::optional<QString> input(const zelvor::Asker&, const QString&, const QString&, const QString&) override {
+        return {};
+    }
 };
 
 void makeTable(zelvor::Connections& database) {
@@ -94,10 +96,8 @@ int main(int argc, char* argv[]) {
     zelvor::ShowState state;
     state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
     NoOperator noOperator;
-    const zelvor::AppFolder folder(directory.path());
-    const zelvor::TextFiles files;
-    zelvor::ErrorTrap trap(directory.filePath(u"log"_s));
-    zelvor::Connections database(state, noOperator, folder, files, trap, {{}, 1}, [] {});
+    zelvor::Program program{zelvor::AppFolder(directory.path()), {}, zelvor::ErrorTrap(directory.filePath(u"log"_s))};
+    zelvor::Connections database(state, noOperator, program, {{}, 1});
     makeTable(database);
 
     zelvor::odbc::Handle environment(SQL_HANDLE_ENV, nullptr);
@@ -115,7 +115,7 @@ int main(int argc, char* argv[]) {
         plain.push_back(plainLoop(connection));
         QElapsedTimer timer;
         timer.start();
-        database.RUN_QUERY(kQuery);
+        database.RUN_QUERY({}, kQuery);
         query.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
         if (state.QUERY_RESULT.rowCount() != kRows) qFatal("RUN_QUERY: %d rows", state.QUERY_RESULT.rowCount());
     }

@@ -50,11 +50,13 @@ void readAskFields(const QStringList& lines, std::vector<AskField>& fields, int&
     }
 }
 
-void LOAD_ASK(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap) {
+void LOAD_ASK(ShowState& state, Program& program) {
     ErrorPlace place{u"mGLOBAL.LOAD_ASK"_s};
-    trap.run(place, ErrorTrap::Tell::Operator, [&] {
+    program.trap.run(place, ErrorTrap::Tell::Operator, [&] {
         state.ask.ASK_FIELDS.assign(AskState::kSmallestTable, {});
-        const QStringList lines = files.readLines(folder.resolve(folder.packFile(state.language(), u"ASKFIELDS.TXT")));
+        const AppFolder& folder = program.folder;
+        const QString path = folder.resolve(folder.packFile(state.language(), u"ASKFIELDS.TXT"));
+        const QStringList lines = program.files.readLines(path);
         try {
             readAskFields(lines, state.ask.ASK_FIELDS, place.line);
         } catch (const RunTimeError& error) {

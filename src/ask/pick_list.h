@@ -20,7 +20,7 @@ class PickList {
 
     // Reads the field's rows. An error (a field that does not exist, a query that fails or lacks a column, a key that
     // is no whole number) is reported by the trap and leaves the list empty.
-    PickList(ShowState& state, Database& database, ErrorTrap& trap);
+    PickList(ShowState& state, Database& database, ErrorTrap& trap, const Asker& asker);
 
     [[nodiscard]] const QString& title() const { return title_; }
     [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }

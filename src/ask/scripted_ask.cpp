@@ -24,8 +24,8 @@ QString keysOf(const PickList& list) {
 
 }  // namespace
 
-void ScriptedAsk::show() {
-    PickList list(state_, database_, trap_);
+void ScriptedAsk::show(const Asker& asker) {
+    PickList list(state_, database_, trap_, asker);
     const QString answer = answers_.isEmpty() ? QString() : answers_.takeFirst();
     const auto& rows = list.rows();
     const auto chosen =

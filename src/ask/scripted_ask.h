@@ -14,7 +14,7 @@ class ScriptedAsk : public AskDialog {
         : state_(state), database_(database), trap_(trap), answers_(std::move(answers)) {}
 
     // Throws 5, naming the field and the keys offered, when no answer is left or the list does not hold it.
-    void show() override;
+    void show(const Asker& asker) override;
 
  private:
     ShowState& state_;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 
+#include "base/asker.h"
 #include "base/run_time_error.h"
 
 namespace zelvor {
@@ -14,6 +15,7 @@ struct ErrorPlace {
     QString procedure;  // "mGLOBAL.SHOW_TVCARD"
     QString card = {};  // the card's script; empty outside of a card run
     int line = 0;       // the line of the script reached; 0 before the first
+    Asker asker = {};   // whose deed it was
 };
 
 // Wraps every named procedure: an error inside ends the procedure, is written to the error log and, where the

@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "console/theme.h"
 
@@ -95,38 +94,37 @@ void addSeverity(Box& box, Severity severity) {
 
 // The window that the operator is in: a box over another one would bring that one before it. Between two boxes no
 // window is active yet.
-QWidget* Boxes::over() {
-    if (state_.unattendedRuns > 0) return window_;
+QWidget* Boxes::over(const Asker& asker) {
+    if (!asker.isAttended()) return window_;
     QWidget* active = QApplication::activeWindow();
     while (active != nullptr && active->parentWidget() != nullptr) active = active->parentWidget()->window();
     if (active != nullptr) used_ = active;
     return used_ && used_->isVisible() ? used_ : window_;
 }
 
-bool Boxes::run(QDialog& box) {
-    if (state_.closing) return false;
-    open_.emplace_back(&box);
+bool Boxes::run(const Asker& asker, QDialog& box) {
+    if (closing_.hasBegun()) return false;
+    connect(&closing_, &Closing::begun, &box, &QDialog::reject);
     Q_EMIT opened(&box);
-    if (state_.unattendedRuns > 0) {
+    if (asker.isAttended()) {
+        box.setWindowModality(Qt::ApplicationModal);
+        box.exec();
+    } else {
         QEventLoop closed;
         connect(&box, &QDialog::finished, &closed, &QEventLoop::quit);
         box.setAttribute(Qt::WA_ShowWithoutActivating);
         box.show();
         closed.exec();
-    } else {
-        box.setWindowModality(Qt::ApplicationModal);
-        box.exec();
     }
-    std::erase_if(open_, [&](const QPointer<QDialog>& each) { return each == &box; });
-    return box.result() == QDialog::Accepted && !state_.closing;
+    return box.result() == QDialog::Accepted && !closing_.hasBegun();
 }
 
 // Neither the keyboard nor the timer waits for it. One at a time, so that a faulty card that runs ten times a second
 // does not fill the screen.
-void Boxes::showNotice(const QString& title, const QString& text, Severity severity) {
-    const QString card = state_.unattendedCard;
-    if (notice_ || state_.closing || quietCards_.contains(card)) return;
+void Boxes::showNotice(const QString& card, const QString& title, const QString& text, Severity severity) {
+    if (notice_ || closing_.hasBegun() || quietCards_.contains(card)) return;
     notice_ = new QDialog(window_);
+    connect(&closing_, &Closing::begun, notice_, &QDialog::close);
     notice_->setAttribute(Qt::WA_DeleteOnClose);
     notice_->setAttribute(Qt::WA_ShowWithoutActivating);
     Box box(*notice_, title, text, QDialogButtonBox::Ok);
@@ -142,27 +140,28 @@ void Boxes::showNotice(const QString& title, const QString& text, Severity sever
     Q_EMIT opened(notice_);
 }
 
-void Boxes::message(const QString& title, const QString& text, Severity severity) {
-    if (state_.unattendedRuns > 0) {
-        showNotice(title, text, severity);
+void Boxes::message(const Asker& asker, const QString& title, const QString& text, Severity severity) {
+    if (!asker.isAttended()) {
+        showNotice(asker.card, title, text, severity);
         return;
     }
-    QDialog dialog(over());
+    QDialog dialog(over(asker));
     Box box(dialog, title, text, QDialogButtonBox::Ok);
     addSeverity(box, severity);
     box.column->addWidget(box.buttons);
-    run(dialog);
+    run(asker, dialog);
 }
 
-bool Boxes::yesNo(const QString& title, const QString& text) {
-    QDialog dialog(over());
+bool Boxes::yesNo(const Asker& asker, const QString& title, const QString& text) {
+    QDialog dialog(over(asker));
     Box box(dialog, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
     box.column->addWidget(box.buttons);
-    return run(dialog);
+    return run(asker, dialog);
 }
 
-std::optional<QString> Boxes::input(const QString& title, const QString& prompt, const QString& proposed) {
-    QDialog dialog(over());
+std::optional<QString> Boxes::input(const Asker& asker, const QString& title, const QString& prompt,
+                                    const QString& proposed) {
+    QDialog dialog(over(asker));
     Box box(dialog, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* field = new QLineEdit(proposed);
     field->setObjectName(u"answer"_s);
@@ -171,16 +170,7 @@ std::optional<QString> Boxes::input(const QString& title, const QString& prompt,
     box.column->addWidget(box.buttons);
     field->selectAll();
     field->setFocus();
-    return run(dialog) ? std::optional(field->text()) : std::nullopt;
-}
-
-void Boxes::closeAll() {
-    if (notice_) notice_->close();
-    // From the newest to the oldest: each ends inside the one below it.
-    const std::deque<QPointer<QDialog>> newestFirst(open_.rbegin(), open_.rend());
-    for (const QPointer<QDialog>& box : newestFirst) {
-        if (box) box->reject();
-    }
+    return run(asker, dialog) ? std::optional(field->text()) : std::nullopt;
 }
 
 }  // namespace zelvor

@@ -12,17 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-Connections::Connections(ShowState& state, Operator& operatorDesk, const AppFolder& folder, const TextFiles& files,
-                         ErrorTrap& trap, Choice choice, std::function<void()> endProgram)
+Connections::Connections(ShowState& state, Operator& operatorDesk, Program& program, Choice choice)
     : state_(state),
       operator_(operatorDesk),
-      folder_(folder),
-      files_(files),
-      trap_(trap),
+      program_(program),
       choice_(std::move(choice)),
-      endProgram_(std::move(endProgram)),
-      utf8_(folder.path()),
-      greek_(folder.path()) {}
+      utf8_(program.folder.path()),
+      greek_(program.folder.path()) {}
 
 QString Connections::GET_CONNECTION_STRING() {
     auto number = static_cast<qint16>(leadingNumber(choice_.commandLine));
@@ -31,24 +27,26 @@ QString Connections::GET_CONNECTION_STRING() {
 }
 
 QString Connections::FIND_CONNECTION(qint16& ConnID) {
-    const QString path = folder_.resolve(folder_.packFile(state_.language(), u"CONNECTIONS.TXT"));
-    const ConnectionList list(files_.readLines(path));
+    const AppFolder& folder = program_.folder;
+    const QString path = folder.resolve(folder.packFile(state_.language(), u"CONNECTIONS.TXT"));
+    const ConnectionList list(program_.files.readLines(path));
     const std::optional<qint16> chosen = choice_.number ? choice_.number : askNumber(list.menuText(), ConnID);
     if (!chosen) return {};
     ConnID = *chosen;
     number_ = ConnID;
     QString found = list.find(ConnID);
     if (found.isEmpty()) {
-        operator_.message({}, u"Error find connection for ConnID:%1\r\nProgram stop!!!"_s.arg(ConnID),
+        operator_.message({}, {}, u"Error find connection for ConnID:%1\r\nProgram stop!!!"_s.arg(ConnID),
                           Operator::Severity::Critical);
-        endProgram_();
+        program_.closing.begin();
     }
     return found;
 }
 
 std::optional<qint16> Connections::askNumber(const QString& menu, qint16 proposed) {
-    while (!state_.closing) {
-        const std::optional<QString> answer = operator_.input(u"Επιλογή σύνδεσης"_s, menu, QString::number(proposed));
+    while (!program_.closing.hasBegun()) {
+        const std::optional<QString> answer =
+            operator_.input({}, u"Επιλογή σύνδεσης"_s, menu, QString::number(proposed));
         if (!answer) continue;
         try {
             return wholeNumber16(*answer);
@@ -61,7 +59,7 @@ std::optional<qint16> Connections::askNumber(const QString& menu, qint16 propose
 
 void Connections::CONNECTDATABASE() {
     if (choice_.number) return;
-    trap_.run({u"mDATABASE.CONNECTDATABASE"_s}, ErrorTrap::Tell::Operator, [&] {
+    program_.trap.run({u"mDATABASE.CONNECTDATABASE"_s}, ErrorTrap::Tell::Operator, [&] {
         const QString connectionString = GET_CONNECTION_STRING();
         if (connectionString.isEmpty()) return;
         setConnectionStrings(connectionString);
@@ -90,20 +88,19 @@ odbc::Rows Connections::run(Session& session, const QString& sql) {
     return session.run(sql);
 }
 
-int Connections::runIntoResult(Session& session, const QString& sql, const QString& procedure,
-                               const QString& errorTitle) {
+int Connections::runIntoResult(const Query& query, const Asker& asker, const QString& sql) {
     int count = 0;
-    trap_.run({procedure}, ErrorTrap::Tell::LogOnly, [&] {
+    program_.trap.run({query.procedure, {}, 0, asker}, ErrorTrap::Tell::LogOnly, [&] {
         try {
-            odbc::Rows rows = run(session, sql);
+            odbc::Rows rows = run(query.session, sql);
             count = rows.rowCount();
             if (count == 0) return;
             state_.QUERY_RESULT = QueryResult(count, static_cast<int>(rows.columns.size()), std::move(rows.cells));
             state_.variables.SetVar(u"@RECORDCOUNT", count);
         } catch (const RunTimeError& error) {
             // Who has just been told that the program ends needs no second message.
-            if (!state_.closing) {
-                operator_.message(errorTitle, error.text() + u"\r\n"_s + sql, Operator::Severity::Warning);
+            if (!program_.closing.hasBegun()) {
+                operator_.message(asker, query.errorTitle, error.text() + u"\r\n"_s + sql, Operator::Severity::Warning);
             }
             throw;  // for the error log
         }
@@ -112,14 +109,14 @@ int Connections::runIntoResult(Session& session, const QString& sql, const QStri
     return std::min<int>(count, std::numeric_limits<qint16>::max());
 }
 
-int Connections::RUN_QUERY(const QString& sql) {
+int Connections::RUN_QUERY(const Asker& asker, const QString& sql) {
     state_.variables.SetVar(u"@RECORDCOUNT", 0);
-    return runIntoResult(utf8_, sql, u"mDATABASE.RUN_QUERY"_s, u"Error in Query"_s);
+    return runIntoResult({utf8_, u"mDATABASE.RUN_QUERY"_s, u"Error in Query"_s}, asker, sql);
 }
 
-int Connections::RUN_QUERY2(const QString& sql) {
+int Connections::RUN_QUERY2(const Asker& asker, const QString& sql) {
     // @RECORDCOUNT is meant to keep the last query's count when this one finds nothing.
-    return runIntoResult(greek_, sql, u"mDATABASE.RUN_QUERY2"_s, u"Error in Query2"_s);
+    return runIntoResult({greek_, u"mDATABASE.RUN_QUERY2"_s, u"Error in Query2"_s}, asker, sql);
 }
 
 void Connections::execute(const QString& sql) {

@@ -1,12 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 #include <optional>
 
-#include "base/app_folder.h"
-#include "base/error_trap.h"
-#include "base/text_file.h"
+#include "base/program.h"
 #include "data/session.h"
 #include "engine/ports.h"
 #include "engine/show_state.h"
@@ -26,9 +23,8 @@ class Connections : public Database {
         std::optional<qint16> number;
     };
 
-    // endProgram: called when no connection has the chosen number, after the operator was told.
-    Connections(ShowState& state, Operator& operatorDesk, const AppFolder& folder, const TextFiles& files,
-                ErrorTrap& trap, Choice choice, std::function<void()> endProgram);
+    // When no connection has the chosen number, the operator is told and the program closes.
+    Connections(ShowState& state, Operator& operatorDesk, Program& program, Choice choice);
 
     // The connection string to use, empty when there is none. Throws RunTimeError when CONNECTIONS.TXT cannot be read.
     QString GET_CONNECTION_STRING();
@@ -39,8 +35,8 @@ class Connections : public Database {
     // Closes both connections; no statement opens them again.
     void close();
 
-    int RUN_QUERY(const QString& sql) override;
-    int RUN_QUERY2(const QString& sql) override;
+    int RUN_QUERY(const Asker& asker, const QString& sql) override;
+    int RUN_QUERY2(const Asker& asker, const QString& sql) override;
     void execute(const QString& sql) override;
     NamedRows readGreek(const QString& sql) override;
 
@@ -55,15 +51,17 @@ class Connections : public Database {
     void setConnectionStrings(const QString& connectionString);
     // Runs a statement, the connection being chosen first where that was left to the first query.
     odbc::Rows run(Session& session, const QString& sql);
-    int runIntoResult(Session& session, const QString& sql, const QString& procedure, const QString& errorTitle);
+    struct Query {
+        Session& session;
+        QString procedure;
+        QString errorTitle;
+    };
+    int runIntoResult(const Query& query, const Asker& asker, const QString& sql);
 
     ShowState& state_;
     Operator& operator_;
-    const AppFolder& folder_;
-    const TextFiles& files_;
-    ErrorTrap& trap_;
+    Program& program_;
     Choice choice_;
-    std::function<void()> endProgram_;
     Session utf8_;
     Session greek_;
     qint16 number_ = 0;

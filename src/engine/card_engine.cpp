@@ -8,15 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-CardEngine::CardEngine(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files,
-                       ErrorTrap& trap, const Ports& ports)
-    : state_(state),
-      form_(form),
-      folder_(folder),
-      files_(files),
-      trap_(trap),
-      ports_(ports),
-      calculator_(ports.clock) {}
+CardEngine::CardEngine(ShowState& state, FormModel& form, Program& program, const Ports& ports)
+    : state_(state), form_(form), program_(program), ports_(ports), calculator_(ports.clock) {}
 
 QString CardEngine::scriptName(const QString& cardFile) {
     QString name = cardFile;
@@ -24,26 +17,28 @@ QString CardEngine::scriptName(const QString& cardFile) {
     return name.replace(u".qrd"_s, u".csp"_s).replace(u".QRD"_s, u".csp"_s);
 }
 
-CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates) {
-    if (state_.closing) return Outcome::Closed;
+CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates,
+                                            const Asker& asker) {
+    const Closing& closing = program_.closing;
+    if (closing.hasBegun()) return Outcome::Closed;
     const QString name = scriptName(cardFile);
     const QString language = state_.language();
-    const QString shownPath = folder_.packFile(language, name);
+    const QString shownPath = program_.folder.packFile(language, name);
     std::shared_ptr<const CardScript> script = scripts_.current(shownPath);
-    const QString path = script ? QString() : folder_.resolve(shownPath);
+    const QString path = script ? QString() : program_.folder.resolve(shownPath);
     if (!script && !QFileInfo(path).isFile()) {
-        ports_.operatorDesk.message({}, u"Card Script file:\r\n"_s + shownPath + u"\r\n not exist."_s,
+        ports_.operatorDesk.message(asker, {}, u"Card Script file:\r\n"_s + shownPath + u"\r\n not exist."_s,
                                     Operator::Severity::Warning);
         return Outcome::NoScript;
     }
 
-    ErrorPlace place{u"mGLOBAL.SHOW_TVCARD"_s, name, 0};
+    ErrorPlace place{u"mGLOBAL.SHOW_TVCARD"_s, name, 0, asker};
     Outcome outcome = Outcome::Ran;
     ++depth_;
-    const bool ran = trap_.run(place, ErrorTrap::Tell::Operator, [&] {
+    const bool ran = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
         if (depth_ > kDeepestRun) throw RunTimeError(ErrorNumber::OutOfStackSpace, name);
         if (!script) {
-            script = std::make_shared<CardScript>(path, language, folder_, files_);
+            script = std::make_shared<CardScript>(path, language, program_.folder, program_.files);
             scripts_.keep(shownPath, script);
         }
         state_.ask.ASK_RESULT = u"0"_s;
@@ -53,7 +48,7 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
         } catch (const ProgramClosing&) {
             outcome = Outcome::Closed;
         } catch (const RunTimeError&) {
-            if (!state_.closing) throw;
+            if (!closing.hasBegun()) throw;
             outcome = Outcome::Closed;  // what failed was already told, with the program's end
         }
     });

@@ -2,9 +2,7 @@
 
 #include <QString>
 
-#include "base/app_folder.h"
-#include "base/error_trap.h"
-#include "base/text_file.h"
+#include "base/program.h"
 #include "engine/calculator.h"
 #include "engine/card_script.h"
 #include "engine/ports.h"
@@ -19,21 +17,19 @@ class CardEngine {
     // Runs inside runs (a card that fires proposals, a timer in a card's pause) beyond this end with 28.
     static constexpr int kDeepestRun = 50;
 
-    CardEngine(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
-               const Ports& ports);
+    CardEngine(ShowState& state, FormModel& form, Program& program, const Ports& ports);
 
     // How a run ended. A cancelled ask, no data and a failed query count as Ran.
     enum class Outcome { Ran, NoScript, Failed, Closed };
 
     // Runs the card's script to its end. cardFile: as the card table gives it, relative to the pack's folder.
     // autoRun: ask fields take their automatic answers. keepStates: ON, OFF and OFFALL are skipped. A missing script
-    // is one message; a run-time error ends the run with one message.
-    Outcome SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates);
+    // is one message; a run-time error ends the run with one message. asker: to whom boxes and messages belong.
+    Outcome SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates, const Asker& asker);
 
     [[nodiscard]] ShowState& state() { return state_; }
     [[nodiscard]] FormModel& form() { return form_; }
-    [[nodiscard]] const AppFolder& folder() const { return folder_; }
-    [[nodiscard]] const TextFiles& files() const { return files_; }
+    [[nodiscard]] Program& program() const { return program_; }
     [[nodiscard]] const Ports& ports() const { return ports_; }
     Calculator& calculator() { return calculator_; }
 
@@ -43,9 +39,7 @@ class CardEngine {
  private:
     ShowState& state_;
     FormModel& form_;
-    const AppFolder& folder_;
-    const TextFiles& files_;
-    ErrorTrap& trap_;
+    Program& program_;
     Ports ports_;
     Calculator calculator_;
     CardScriptCache scripts_;

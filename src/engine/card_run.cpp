@@ -13,7 +13,7 @@ CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, Q
       autoRun_(autoRun),
       keepStates_(keepStates),
       place_(place),
-      files_(engine.files()) {}
+      files_(engine.program().files) {}
 
 void CardRun::execute() {
     for (lineNo_ = 1; lineNo_ <= script_->lineCount(); ++lineNo_) {
@@ -55,13 +55,13 @@ void CardRun::abandon() {
 }
 
 void CardRun::goOnUnlessClosing() {
-    if (state().closing) throw ProgramClosing();
+    if (engine_.program().closing.hasBegun()) throw ProgramClosing();
 }
 
 void CardRun::finish() {
     if (script_->functionCard()) return;
     if (hasData_) {
-        SHOW_RTX(engine_.folder());
+        SHOW_RTX(engine_.program().folder);
         state().lastCard = cardFile_;
         if (!onAirLocked(form())) SHOW_ONAIR(state(), form(), cardFile_);
     } else {

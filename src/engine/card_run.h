@@ -29,6 +29,8 @@ class CardRun {
     OutputFiles& files() { return files_; }
     [[nodiscard]] const CardScript& script() const { return *script_; }
     [[nodiscard]] const QString& cardFile() const { return cardFile_; }
+    // Who asked for this run, also when another card of his has fired it.
+    [[nodiscard]] const Asker& asker() const { return place_.asker; }
     [[nodiscard]] bool autoRun() const { return autoRun_; }
     [[nodiscard]] bool keepStates() const { return keepStates_; }
     [[nodiscard]] int lineNo() const { return lineNo_; }
@@ -53,8 +55,7 @@ class CardRun {
         QString variable;
         double counter = 0;
     };
-    RecordLoop loop;      // the one active record loop
-    qint16 autoFeed = 0;  // set by AUTOFEED
+    RecordLoop loop;  // the one active record loop
 
  private:
     void executeLine(const ScriptLine& line);

@@ -19,16 +19,16 @@ auto timing(const TimedCard& timed) {
 
 }  // namespace
 
-Packs::Packs(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
-             Operator& operatorDesk)
-    : state_(state), form_(form), folder_(folder), files_(files), trap_(trap), operator_(operatorDesk) {}
+Packs::Packs(ShowState& state, FormModel& form, Program& program, Operator& operatorDesk)
+    : state_(state), form_(form), program_(program), operator_(operatorDesk) {}
 
 Packs::PackList Packs::readPacks() const {
     PackList packs;
-    for (const QString& line : files_.readLines(folder_.resolve(folder_.modulesFile(u"PACKS.TXT")))) {
+    const AppFolder& folder = program_.folder;
+    for (const QString& line : program_.files.readLines(folder.resolve(folder.modulesFile(u"PACKS.TXT")))) {
         if (line.trimmed().isEmpty()) continue;
         const QStringList fields = line.split(u';');
-        if (folder_.exists(folder_.packFolder(fields[0]))) {
+        if (folder.exists(folder.packFolder(fields[0]))) {
             packs.offered.push_back(fields);
         } else {
             packs.missing += fields[0];
@@ -44,13 +44,13 @@ QString Packs::firstPack() const {
 
 bool Packs::LOAD_PACKS() {
     bool chosen = false;
-    trap_.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator, [&] {
+    program_.trap.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator, [&] {
         const PackList packs = readPacks();
         chosen = !packs.offered.empty() && choosePack(packs);
-        if (packs.missing.isEmpty() || state_.closing) return;
+        if (packs.missing.isEmpty() || program_.closing.hasBegun()) return;
         QString warning = u"Warning!!! Missing folders for the following Pack(s):\r\n\r\n"_s;
         for (const QString& code : packs.missing) warning += u"\\MODULES\\QRD_"_s + code + u"\r\n"_s;
-        operator_.message(u"Missing folder(s)"_s, warning, Operator::Severity::Warning);
+        operator_.message({}, u"Missing folder(s)"_s, warning, Operator::Severity::Warning);
     });
     return chosen;
 }
@@ -62,8 +62,8 @@ bool Packs::choosePack(const PackList& packs) {
         prompt += QString::number(i + 1) + u". "_s + packs.offered[i].join(u'-') + u"\r\n"_s;
         languages += {packs.offered[i][0], static_cast<int>(i) + 1};
     }
-    while (!state_.closing) {
-        const QString answer = operator_.input(u"Project Pack Selection"_s, prompt, u"1"_s).value_or(QString());
+    while (!program_.closing.hasBegun()) {
+        const QString answer = operator_.input({}, u"Project Pack Selection"_s, prompt, u"1"_s).value_or(QString());
         bool isNumber = false;
         const int number = answer.trimmed().toInt(&isNumber);
         if (!isNumber || number < 1 || number > languages.size()) continue;
@@ -77,16 +77,17 @@ bool Packs::choosePack(const PackList& packs) {
 
 bool Packs::LOAD_CARDS() {
     if (state_.variables.find(u"@LANGUAGE") == nullptr) {
-        operator_.message({}, u"No default Pack found. Please select a pack in order to load Cards"_s,
+        operator_.message({}, {}, u"No default Pack found. Please select a pack in order to load Cards"_s,
                           Operator::Severity::Warning);
         return false;
     }
     ErrorPlace place{u"mGLOBAL.LOAD_CARDS"_s};
-    const bool read = trap_.run(place, ErrorTrap::Tell::Operator, [&] {
-        const QString path = folder_.resolve(folder_.packFile(state_.language(), u"CARDS.TXT"));
-        const QStringList lines = files_.readLines(path);
+    const bool read = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
+        const AppFolder& folder = program_.folder;
+        const QString path = folder.resolve(folder.packFile(state_.language(), u"CARDS.TXT"));
+        const QStringList lines = program_.files.readLines(path);
         const std::vector<TimedCard> before = std::exchange(state_.cards, {}).timedCards;
-        state_.lastFiredButton = -1;  // a button of the cards before
+        state_.console.lastFired.reset();  // a button of the cards before
         try {
             readCardTable(lines, state_.cards, place.line);
         } catch (const RunTimeError& error) {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "base/app_folder.h"
-#include "base/error_trap.h"
-#include "base/text_file.h"
+#include "base/program.h"
 #include "engine/ports.h"
 #include "engine/show_state.h"
 #include "form/form_model.h"
@@ -12,8 +10,7 @@ namespace zelvor {
 // The packs of the application folder and the card table of the chosen one.
 class Packs {
  public:
-    Packs(ShowState& state, FormModel& form, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
-          Operator& operatorDesk);
+    Packs(ShowState& state, FormModel& form, Program& program, Operator& operatorDesk);
 
     // Asks the operator for one of the packs of PACKS.TXT until the answer names one, sets @LANGUAGE and fills the
     // language list; warns of packs without a folder. False when there is none to choose.
@@ -36,9 +33,7 @@ class Packs {
 
     ShowState& state_;
     FormModel& form_;
-    const AppFolder& folder_;
-    const TextFiles& files_;
-    ErrorTrap& trap_;
+    Program& program_;
     Operator& operator_;
 };
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/asker.h"
 #include "base/value.h"
 
 namespace zelvor {
@@ -13,18 +14,21 @@ namespace zelvor {
 // What the card engine needs of the world around it, each a few functions in the words of the trade. The console, the
 // terminal tool and the tests give it theirs.
 
-// The person at the desk.
+// The person at the desk. asker: whose card or deed it is that speaks; what nobody at the desk has asked for does not
+// take the keyboard.
 class Operator {
  public:
     enum class Severity { Information, Warning, Critical };
 
     virtual ~Operator() = default;
     // A message box with one OK button. An empty title stands for the program's name.
-    virtual void message(const QString& title, const QString& text, Severity severity = Severity::Information) = 0;
+    virtual void message(const Asker& asker, const QString& title, const QString& text,
+                         Severity severity = Severity::Information) = 0;
     // A box with Yes and No; true for Yes. Closing the program answers No.
-    virtual bool yesNo(const QString& title, const QString& text) = 0;
+    virtual bool yesNo(const Asker& asker, const QString& title, const QString& text) = 0;
     // An input box; nullopt when it was cancelled.
-    virtual std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) = 0;
+    virtual std::optional<QString> input(const Asker& asker, const QString& title, const QString& prompt,
+                                         const QString& proposed) = 0;
 };
 
 // The pick list of the ask field in the ask state; reads and writes that state alone.
@@ -32,12 +36,12 @@ class AskDialog {
  public:
     virtual ~AskDialog() = default;
     // Shows the list for ASK_FIELD until it is answered: ASK_RESULT is the key chosen, or ASK_CANCELLED is -1.
-    virtual void show() = 0;
+    virtual void show(const Asker& asker) = 0;
 };
 
 enum class LinkId { Main, Remote };
 
-// The two connections to the graphics servers, their history list and log file.
+// The two connections to the graphics servers.
 class Graphics {
  public:
     // Socket states in which a line is sent.
@@ -48,6 +52,12 @@ class Graphics {
     // Sends one command line, or logs that it could not. Before a line that holds "PLAY" the event loop turns.
     virtual void sendLine(LinkId link, const QString& command) = 0;
     [[nodiscard]] virtual int state(LinkId link) const = 0;
+};
+
+// What is noted down beside the lines that are sent: the history list, the log file, the last template data.
+class GraphicsNotes {
+ public:
+    virtual ~GraphicsNotes() = default;
     [[nodiscard]] virtual bool logging() const = 0;
     // Writes a line to the log file; nothing when logging is off.
     virtual void writeLog(const QString& line) = 0;
@@ -70,8 +80,8 @@ class Database {
     virtual ~Database() = default;
     // Runs a query on CONN_UTF8 (CONN_GREEK for RUN_QUERY2) into QUERY_RESULT and @RECORDCOUNT. The record count, 0
     // when there was none or the query failed, which is shown to the operator here.
-    virtual int RUN_QUERY(const QString& sql) = 0;
-    virtual int RUN_QUERY2(const QString& sql) = 0;
+    virtual int RUN_QUERY(const Asker& asker, const QString& sql) = 0;
+    virtual int RUN_QUERY2(const Asker& asker, const QString& sql) = 0;
     // Runs a statement on CONN_UTF8 and ignores its result. Throws RunTimeError with the driver's text.
     virtual void execute(const QString& sql) = 0;
     // Reads a query's rows on CONN_GREEK. Throws RunTimeError with the driver's text.
@@ -85,7 +95,7 @@ class Desktop {
     // Asks the operating system to open a file, folder or address. Throws 53 when it cannot.
     virtual void open(const QString& target) = 0;
     // Shows a form of the system by its name, not modally. An unknown name throws 9.
-    virtual void loadForm(const QString& name) = 0;
+    virtual void loadForm(const Asker& asker, const QString& name) = 0;
 };
 
 // Time, and turns of the event loop.
@@ -107,6 +117,7 @@ struct Ports {
     Operator& operatorDesk;
     AskDialog& askDialog;
     Graphics& graphics;
+    GraphicsNotes& notes;
     Database& database;
     Desktop& desktop;
     Clock& clock;

@@ -3,6 +3,7 @@
 #include <QString>
 #include <array>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "engine/card_table.h"
@@ -57,6 +58,18 @@ class OnAirTable {
     std::map<int, std::array<QString, kColumns>> rows_;
 };
 
+// What the console remembers from one press to the next; no card sees it.
+struct ConsoleMemory {
+    // A card button: set 1 to 5, index from 0.
+    struct CardButton {
+        int set = 0;
+        int index = 0;
+        bool operator==(const CardButton&) const = default;
+    };
+    std::optional<CardButton> lastFired;
+    bool playerSelected = false;
+};
+
 // Everything process-wide that cards and rules share. Made by the composition root and passed by reference; two can
 // live side by side.
 struct ShowState {
@@ -69,17 +82,12 @@ struct ShowState {
     AskState ask;
     OnAirTable ONAIR_TABLE;
     QString QUERY_TEXT;
-    qint16 LOOP_ANSWER = 0;
 
     int currentSet = 1;
-    int lastFiredButton = -1;  // index of the card button fired last, -1 when none
-    QString lastCard;          // script of the card shown last, empty after no data
-    bool playerSelected = false;
+    QString lastCard;                // script of the card shown last, empty after no data
     bool scanningProposals = false;  // proposals are being fired; a scan inside one of them does nothing
-    int unattendedRuns = 0;          // runs under way of cards that a timer or the feed has fired
-    QString unattendedCard;          // the innermost of them
     bool preview = false;            // the program's command line holds "/PREVIEW"
-    bool closing = false;            // set once when the program ends; runs that wait then end at once
+    ConsoleMemory console;
 
     [[nodiscard]] QString language() const { return variables.text(u"@LANGUAGE"); }
 };

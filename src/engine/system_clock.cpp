@@ -11,8 +11,8 @@ QDateTime SystemClock::now() const {
 }
 
 bool SystemClock::turnEvents(int turns) {
-    for (int turn = 0; turn < turns && !state_.closing; ++turn) QCoreApplication::processEvents();
-    return !state_.closing;
+    for (int turn = 0; turn < turns && !closing_.hasBegun(); ++turn) QCoreApplication::processEvents();
+    return !closing_.hasBegun();
 }
 
 bool SystemClock::waitBriefly() {
@@ -20,7 +20,7 @@ bool SystemClock::waitBriefly() {
     QEventLoop loop;
     QTimer::singleShot(kLongestWait, &loop, &QEventLoop::quit);
     loop.processEvents(QEventLoop::WaitForMoreEvents);
-    return !state_.closing;
+    return !closing_.hasBegun();
 }
 
 }  // namespace zelvor

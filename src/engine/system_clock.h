@@ -2,16 +2,16 @@
 
 #include <QDeadlineTimer>
 
+#include "base/closing.h"
 #include "engine/ports.h"
-#include "engine/show_state.h"
 
 namespace zelvor {
 
 // The wall clock and the thread's own event loop.
 class SystemClock : public Clock {
  public:
-    // state: its `closing` ends every wait.
-    explicit SystemClock(const ShowState& state) : state_(state) {}
+    // closing: ends every wait.
+    explicit SystemClock(const Closing& closing) : closing_(closing) {}
 
     [[nodiscard]] QDateTime now() const override;
     [[nodiscard]] qint64 secondsSinceEpoch() const override { return QDateTime::currentSecsSinceEpoch(); }
@@ -20,7 +20,7 @@ class SystemClock : public Clock {
     bool waitBriefly() override;
 
  private:
-    const ShowState& state_;
+    const Closing& closing_;
 };
 
 }  // namespace zelvor

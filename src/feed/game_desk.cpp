@@ -2,16 +2,16 @@
 
 namespace zelvor {
 
-GameDesk::GameDesk(CardEngine& engine, ErrorTrap& trap)
-    : feed(engine, trap),
+GameDesk::GameDesk(CardEngine& engine)
+    : feed(engine),
       feedStatus(engine.state(), engine.form(), engine.ports().clock),
       feedSocket(feed, feedStatus),
-      localClock(engine, trap),
-      timedCards(engine, trap),
-      scoreboard(engine.form(), engine.state().variables, trap),
-      lineUps(engine.form(), engine.state().variables, trap),
-      players(engine.form(), engine.state(), trap),
-      proposals(engine, trap),
-      stopwatch(engine.form(), engine.ports().graphics, trap) {}
+      localClock(engine),
+      timedCards(engine),
+      scoreboard(engine.form(), engine.state().variables, engine.program().trap),
+      lineUps(engine.form(), engine.state().variables, engine.program().trap),
+      players(engine.form(), engine.state(), engine.program().trap),
+      proposals(engine),
+      stopwatch(engine.form(), engine.ports().graphics, engine.program().trap) {}
 
 }  // namespace zelvor

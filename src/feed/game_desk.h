@@ -13,7 +13,7 @@ namespace zelvor {
 
 // The rules of the running game, made and tied together: game feed, clocks, timed cards, scores, players, proposals.
 struct GameDesk {
-    GameDesk(CardEngine& engine, ErrorTrap& trap);
+    explicit GameDesk(CardEngine& engine);
 
     GameFeed feed;
     FeedStatus feedStatus;

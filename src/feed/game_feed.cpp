@@ -18,8 +18,8 @@ QString clockText(qint32 digits) {
 
 }  // namespace
 
-GameFeed::GameFeed(CardEngine& engine, ErrorTrap& trap)
-    : QuietRules(trap),
+GameFeed::GameFeed(CardEngine& engine)
+    : QuietRules(engine.program().trap),
       engine_(engine),
       extraAfter_(engine.form().at(u"chkEAFTER"_s)),
       threshold_(engine.form().at(u"txtEAFTER"_s)),
@@ -66,7 +66,10 @@ void GameFeed::apply(const QString& datagram) {
     time_.setText(gameText);
     extraTime_.setText(extraText);
     const CardSwitches& switches = engine_.state().switches;
-    if (switches.IsTimeCard) runUnattended(engine_, switches.AutoTimeCard);
+    if (!switches.IsTimeCard) return;
+    // By value: the card may arm another one.
+    const QString card = switches.AutoTimeCard;
+    engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::TimeCard, card});
 }
 
 }  // namespace zelvor

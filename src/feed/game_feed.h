@@ -12,7 +12,7 @@ class GameFeed : public QuietRules {
  public:
     enum class Outcome { Clock, Pause, Refused };
 
-    GameFeed(CardEngine& engine, ErrorTrap& trap);
+    explicit GameFeed(CardEngine& engine);
 
     // The clock is what stands between the first and the second "t", in minutes, ":" and two digits of seconds;
     // "pause" changes nothing. A message whose clock is missing or no number is refused, and so is every message

@@ -25,7 +25,7 @@ int secondsOfDay(QTime time) {
 
 }  // namespace
 
-LocalClock::LocalClock(CardEngine& engine, ErrorTrap& trap) : QuietRules(trap), engine_(engine), form_(engine.form()) {
+LocalClock::LocalClock(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine), form_(engine.form()) {
     timer_.setObjectName(u"tmrCLOCKS"_s);
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(kInterval);
@@ -79,7 +79,10 @@ void LocalClock::update() {
     }
     variables.SetVar(u"@LOCALTIME", nowText);
     const CardSwitches& switches = engine_.state().switches;
-    if (switches.IsClockCard) runUnattended(engine_, switches.AutoClockCard);
+    if (!switches.IsClockCard) return;
+    // By value: the card may arm another one.
+    const QString card = switches.AutoClockCard;
+    engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::ClockCard, card});
 }
 
 QString LocalClock::countdown(QTime now) const {

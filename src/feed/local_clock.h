@@ -13,7 +13,7 @@ class LocalClock : public QuietRules {
  public:
     static constexpr int kInterval = 1000;  // milliseconds
 
-    LocalClock(CardEngine& engine, ErrorTrap& trap);
+    explicit LocalClock(CardEngine& engine);
 
     // Starts or stops the clock.
     void cmdCLOCKS();

@@ -37,7 +37,7 @@ void PlayerLabels::choose(const QString& side, const QString& otherSide, int ind
     form_.at(u"lbl"_s + otherSide + u"TEAM"_s).setForeColour(colours::kWhite);
     // The second player of a card is its "O": "P" is taken by the one chosen with the left button.
     setAutoTags(state_.variables, chosen.tag(), right ? KeyChange{u"P", u"O"} : KeyChange{});
-    state_.playerSelected = true;
+    state_.console.playerSelected = true;
 }
 
 }  // namespace zelvor

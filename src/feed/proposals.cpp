@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-Proposals::Proposals(CardEngine& engine, ErrorTrap& trap) : QuietRules(trap), engine_(engine) {}
+Proposals::Proposals(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine) {}
 
 void Proposals::lblPROPOSED(int index) {
     quietly(u"lblPROPOSED_Click"_s, [&] { take(index); });
@@ -23,7 +23,7 @@ void Proposals::take(int index) {
     const QString id = fields[0].toString();
     const QString card = fields[2].toString();
     setAutoTags(engine_.state().variables, fields[3]);
-    if (engine_.SHOW_TVCARD(card, true, true) == CardEngine::Outcome::Closed) return;
+    if (engine_.SHOW_TVCARD(card, true, true, {Asker::Kind::Operator, card}) == CardEngine::Outcome::Closed) return;
     engine_.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id);
     label.setBackColour(colours::kUsedProposal);
 }
@@ -36,7 +36,7 @@ void Proposals::clearPlayers() {
             form.at(u"lbl"_s + side + u"PLAYERS"_s, player).setForeColour(colours::kWhite);
         form.at(u"lbl"_s + side + u"TEAM"_s).setForeColour(colours::kWhite);
     }
-    engine_.state().playerSelected = false;
+    engine_.state().console.playerSelected = false;
 }
 
 }  // namespace zelvor

@@ -9,7 +9,7 @@ class Proposals : public QuietRules {
     Q_OBJECT
 
  public:
-    Proposals(CardEngine& engine, ErrorTrap& trap);
+    explicit Proposals(CardEngine& engine);
 
     // index: 1 to 8. Unselects players, runs the label's card with the automatic answers of its tag
     // (id|used|card|key:answer##...), marks it used in the database and colours it. A tag with fewer fields, or an

@@ -29,9 +29,6 @@ class QuietRules : public QObject {
     using Handler = std::function<void(const Control& control)>;
     void onChange(Control& control, Control::Property property, const Handler& handler);
 
-    // Runs a card that nobody at the desk has just asked for: while it runs, boxes do not take the keyboard.
-    static void runUnattended(CardEngine& engine, const QString& card);
-
  private:
     ErrorTrap& trap_;
 };

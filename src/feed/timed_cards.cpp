@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-TimedCards::TimedCards(CardEngine& engine, ErrorTrap& trap) : QuietRules(trap), engine_(engine) {
+TimedCards::TimedCards(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine) {
     timer_.setObjectName(u"tmrCARD"_s);
     timer_.setInterval(kInterval);
     connect(&timer_, &QTimer::timeout, this, &TimedCards::tick);
@@ -24,7 +24,7 @@ void TimedCards::tick() {
     const bool runs = timer_.isActive();
     timer_.stop();
     quietly(u"tmrCARD_Timer"_s, [&] { count(); });
-    if (runs && !engine_.state().closing) timer_.start();
+    if (runs && !engine_.program().closing.hasBegun()) timer_.start();
 }
 
 void TimedCards::count() {
@@ -34,7 +34,8 @@ void TimedCards::count() {
         cards[i].ticks = wholeNumber16(cards[i].ticks + 1.0);
         if (cards[i].ticks != cards[i].interval) continue;
         cards[i].ticks = 0;
-        runUnattended(engine_, QString(cards[i].card));
+        const QString card = cards[i].card;
+        engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::TimedCard, card});
     }
 }
 

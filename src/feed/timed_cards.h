@@ -13,7 +13,7 @@ class TimedCards : public QuietRules {
  public:
     static constexpr int kInterval = 100;  // milliseconds
 
-    TimedCards(CardEngine& engine, ErrorTrap& trap);
+    explicit TimedCards(CardEngine& engine);
 
     // Switches tmrCARD on.
     void start();

@@ -24,18 +24,17 @@ QByteArray readWhole(const QString& path) {
 
 }  // namespace
 
-GeneralVariables::GeneralVariables(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
-                                   Operator& operatorDesk)
-    : state_(state), folder_(folder), files_(files), trap_(trap), operator_(operatorDesk) {}
+GeneralVariables::GeneralVariables(ShowState& state, Program& program, Operator& operatorDesk)
+    : state_(state), program_(program), operator_(operatorDesk) {}
 
 QString GeneralVariables::file(QStringView name) const {
-    return folder_.resolve(folder_.packFile(pack_, name));
+    return program_.folder.resolve(program_.folder.packFile(pack_, name));
 }
 
 void GeneralVariables::load() {
     pack_ = state_.language();
     std::vector<GeneralRow> rows;
-    trap_.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator, [&] {
+    program_.trap.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator, [&] {
         if (!QFile::exists(file(u"infodata.dat"))) return;
         const QByteArray bytes = readWhole(file(u"infodata.dat"));
         const GridReading reading = readGrid(bytes);
@@ -50,20 +49,20 @@ void GeneralVariables::load() {
 
 void GeneralVariables::keepDamaged(const QByteArray& bytes, const GridReading& reading) {
     // A copy: until the grid is saved, the file itself keeps what it holds.
-    const bool kept = trap_.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator,
-                                [&] { replaceFile(file(u"infodata.dat") + u".bad"_s, bytes); });
+    const bool kept = program_.trap.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator,
+                                        [&] { replaceFile(file(u"infodata.dat") + u".bad"_s, bytes); });
     QString text = u"infodata.dat is damaged in line %1 (%2).\r\nRows before it: %3."_s.arg(reading.damagedLine)
                        .arg(reading.damage)
                        .arg(reading.rows.size());
     if (kept) text += u"\r\nThe damaged file is kept as infodata.dat.bad."_s;
-    operator_.message(kWindowTitle, text, Operator::Severity::Warning);
+    operator_.message({}, kWindowTitle, text, Operator::Severity::Warning);
 }
 
 bool GeneralVariables::addRow() {
     GeneralRow row;
     const QString pack = pack_;
     bool answered = true;
-    trap_.run({u"frmGENERAL.cmdADDROW_Click"_s}, Tell::Operator, [&] {
+    program_.trap.run({u"frmGENERAL.cmdADDROW_Click"_s}, Tell::Operator, [&] {
         struct Question {
             QStringView prompt;
             int column;
@@ -71,7 +70,7 @@ bool GeneralVariables::addRow() {
         for (const Question& question :
              {Question{u"var", general_column::kVariable}, Question{u"title", general_column::kTitle},
               Question{u"help", general_column::kHelp}}) {
-            const std::optional<QString> answer = operator_.input(kWindowTitle, question.prompt.toString(), {});
+            const std::optional<QString> answer = operator_.input({}, kWindowTitle, question.prompt.toString(), {});
             answered = answered && answer.has_value();
             if (!answered) return;
             row[question.column] = *answer;
@@ -91,27 +90,27 @@ void GeneralVariables::removeRows(const QList<int>& rows) {
     const QString what = rows.size() > 1 ? u"%1 rows"_s.arg(rows.size())
                                          : grid_.text(rows[0], general_column::kTitle) + u' ' +
                                                grid_.text(rows[0], general_column::kVariable);
-    if (!operator_.yesNo(kWindowTitle, u"Remove "_s + what.trimmed() + u'?')) return;
+    if (!operator_.yesNo({}, kWindowTitle, u"Remove "_s + what.trimmed() + u'?')) return;
     for (const QPersistentModelIndex& row : chosen) {
         if (row.isValid()) grid_.removeRow(row.row());
     }
 }
 
 void GeneralVariables::importText() {
-    trap_.run({u"frmGENERAL.cmdIMPORT_Click"_s}, Tell::Operator, [&] {
-        const ImportedRows imported = importRows(files_.readLines(file(u"infodata.txt")));
+    program_.trap.run({u"frmGENERAL.cmdIMPORT_Click"_s}, Tell::Operator, [&] {
+        const ImportedRows imported = importRows(program_.files.readLines(file(u"infodata.txt")));
         grid_.append(imported.rows);
         save();
         if (imported.remarks.isEmpty()) return;
         QStringList shown = imported.remarks.mid(0, kShownRemarks);
         if (imported.remarks.size() > kShownRemarks)
             shown += u"and %1 more"_s.arg(imported.remarks.size() - kShownRemarks);
-        operator_.message(kWindowTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
+        operator_.message({}, kWindowTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
     });
 }
 
 bool GeneralVariables::save() {
-    return trap_.run({u"frmGENERAL.cmdSAVE_Click"_s}, Tell::Operator, [&] {
+    return program_.trap.run({u"frmGENERAL.cmdSAVE_Click"_s}, Tell::Operator, [&] {
         replaceFile(file(u"infodata.dat"), gridBytes(grid_.rows()));
         grid_.markSaved();
     });

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "base/app_folder.h"
-#include "base/error_trap.h"
-#include "base/text_file.h"
+#include "base/program.h"
 #include "engine/ports.h"
 #include "engine/show_state.h"
 #include "general_rules/general_grid.h"
@@ -13,8 +11,7 @@ namespace zelvor {
 // Failures are reported to the operator here.
 class GeneralVariables {
  public:
-    GeneralVariables(ShowState& state, const AppFolder& folder, const TextFiles& files, ErrorTrap& trap,
-                     Operator& operatorDesk);
+    GeneralVariables(ShowState& state, Program& program, Operator& operatorDesk);
 
     // Loads infodata.dat of the current pack. Without one the grid starts empty; a damaged one is reported with its
     // line, copied to infodata.dat.bad, and the rows before the damage are taken.
@@ -37,9 +34,7 @@ class GeneralVariables {
     void keepDamaged(const QByteArray& bytes, const GridReading& reading);
 
     ShowState& state_;
-    const AppFolder& folder_;
-    const TextFiles& files_;
-    ErrorTrap& trap_;
+    Program& program_;
     Operator& operator_;
     QString pack_;  // the one whose file was loaded: saving goes there, whatever cards do to @LANGUAGE meanwhile
     GeneralGrid grid_;

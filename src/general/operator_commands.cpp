@@ -1,7 +1,5 @@
 #include "general_rules/operator_commands.h"
 
-#include <QScopedValueRollback>
-
 #include "base/number.h"
 #include "engine/defaults.h"
 
@@ -23,13 +21,11 @@ QString effectSpeed(const QString& text) {
 
 }  // namespace
 
-OperatorCommands::OperatorCommands(CardEngine& engine, Packs& packs, GeneralVariables& general, OpenForms& forms,
-                                   ErrorTrap& trap)
+OperatorCommands::OperatorCommands(CardEngine& engine, Packs& packs, GeneralVariables& general, OpenForms& forms)
     : engine_(engine),
       packs_(packs),
       general_(general),
       forms_(forms),
-      trap_(trap),
       state_(engine.state()),
       form_(engine.form()),
       languages_(form_.at(u"cmbLANG"_s)) {
@@ -46,7 +42,7 @@ void OperatorCommands::chooseAgain(const Control& list) {
 void OperatorCommands::take(const Control& control, const QString& event) {
     ErrorPlace place;
     place.procedure = u"frmMAIN."_s + control.name() + event;
-    trap_.run(place, ErrorTrap::Tell::Operator, [&] {
+    engine_.program().trap.run(place, ErrorTrap::Tell::Operator, [&] {
         if (control.name() == u"cmbFADE") takeEffect(control);
         if (control.name() == u"cbQt") takePeriod(control);
         // Filling the list at the start is no change.
@@ -81,16 +77,16 @@ void OperatorCommands::mnSet43() {
 }
 
 void OperatorCommands::mnReloadVar() {
-    engine_.SHOW_TVCARD(kStartCard, false, false);
+    engine_.SHOW_TVCARD(kStartCard, false, false, {Asker::Kind::Operator, kStartCard});
 }
 
-void OperatorCommands::mnGeneralVars() {
+void OperatorCommands::mnGeneralVars(const Asker& asker) {
     // An open editor keeps what is being edited.
     if (!IsFormOpen(forms_, kGeneralForm)) general_.load();
-    if (state_.unattendedRuns == 0) {
+    if (asker.isAttended()) {
         forms_.bringToFront(kGeneralForm);
     } else {
-        forms_.show(kGeneralForm);  // a timed card's wish: the keyboard stays where it is
+        forms_.show(kGeneralForm);
     }
 }
 
@@ -102,8 +98,6 @@ void OperatorCommands::showGeneral() {
 }
 
 void OperatorCommands::changeLanguage(const QString& language) {
-    // Its cards run for the operator, also while a timed card waits below.
-    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     state_.variables.SetVar(u"@LANGUAGE", language);
     const bool wasOpen = IsFormOpen(forms_, kGeneralForm);
     if (wasOpen) forms_.close(kGeneralForm);
@@ -113,7 +107,7 @@ void OperatorCommands::changeLanguage(const QString& language) {
     general_.load();
     general_.apply();
     if (wasOpen) forms_.show(kGeneralForm);
-    engine_.SHOW_TVCARD(kStartCard, false, false);
+    engine_.SHOW_TVCARD(kStartCard, false, false, {Asker::Kind::Operator, kStartCard});
 }
 
 QString OperatorCommands::mnDisplayVars() const {

@@ -16,7 +16,7 @@ class OperatorCommands : public QObject {
 
  public:
     // All must outlive this object.
-    OperatorCommands(CardEngine& engine, Packs& packs, GeneralVariables& general, OpenForms& forms, ErrorTrap& trap);
+    OperatorCommands(CardEngine& engine, Packs& packs, GeneralVariables& general, OpenForms& forms);
 
     // Screen mode by button (0: 4:3, 1: 16:9) and by menu item. Meant: the menu leaves the buttons' colours alone and
     // the buttons the menu's check marks; @SCREEN_MODE holds the last choice of either.
@@ -26,7 +26,8 @@ class OperatorCommands : public QObject {
     // Runs "GetGame.csp".
     void mnReloadVar();
     // Opens the general variables as they were saved last; an open editor comes to the front as it is.
-    void mnGeneralVars();
+    // asker: for one who is not attended the keyboard stays where it is.
+    void mnGeneralVars(const Asker& asker);
     // The operator has chosen in a list what it shows already: its variable is written again, a language's cards are
     // read again.
     void chooseAgain(const Control& list);
@@ -52,7 +53,6 @@ class OperatorCommands : public QObject {
     Packs& packs_;
     GeneralVariables& general_;
     OpenForms& forms_;
-    ErrorTrap& trap_;
     ShowState& state_;
     FormModel& form_;
     Control& languages_;

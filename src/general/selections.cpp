@@ -34,19 +34,18 @@ void restorePosition(Control& box, const QString& line) {
 
 }  // namespace
 
-Selections::Selections(CardEngine& engine, ErrorTrap& trap)
-    : engine_(engine), trap_(trap), state_(engine.state()), form_(engine.form()) {
+Selections::Selections(CardEngine& engine) : program_(engine.program()), state_(engine.state()), form_(engine.form()) {
     connect(&form_, &FormModel::changed, this, [this](const Control* control, Control::Property property) {
         if (saving_ && property == Control::Property::Text && isKept(*control)) SaveSelections();
     });
 }
 
 QString Selections::path() const {
-    return engine_.folder().resolve(engine_.folder().modulesFile(u"SELECTIONS.TXT"));
+    return program_.folder.resolve(program_.folder.modulesFile(u"SELECTIONS.TXT"));
 }
 
 void Selections::SaveSelections() {
-    trap_.run({u"frmMAIN.SaveSelections"_s}, Tell::Operator, [&] {
+    program_.trap.run({u"frmMAIN.SaveSelections"_s}, Tell::Operator, [&] {
         QString text;
         // A card may have written several lines into a box.
         const auto addLine = [&text](QString line) {
@@ -57,15 +56,15 @@ void Selections::SaveSelections() {
         for (const QString& side : {u"txtS5H"_s, u"txtS5A"_s}) {
             for (const Control* box : form_.named(side)) addLine(box->text());
         }
-        replaceFile(path(), engine_.files().encode(text));
+        replaceFile(path(), program_.files.encode(text));
     });
 }
 
 void Selections::LoadSelections() {
     saving_ = false;
-    trap_.run({u"frmMAIN.LoadSelections"_s}, Tell::Operator, [&] {
-        if (!engine_.folder().exists(engine_.folder().modulesFile(u"SELECTIONS.TXT"))) return;
-        read(engine_.files().readLines(path()));
+    program_.trap.run({u"frmMAIN.LoadSelections"_s}, Tell::Operator, [&] {
+        if (!program_.folder.exists(program_.folder.modulesFile(u"SELECTIONS.TXT"))) return;
+        read(program_.files.readLines(path()));
     });
     saving_ = true;
 }

@@ -13,7 +13,7 @@ class Selections : public QObject {
  public:
     // All must outlive this object. From LoadSelections on, every change of one of the boxes is saved; before it the
     // boxes are being filled, which must not overwrite what was saved.
-    Selections(CardEngine& engine, ErrorTrap& trap);
+    explicit Selections(CardEngine& engine);
 
     // Writes the file, whole or not at all. A failure is reported.
     void SaveSelections();
@@ -25,8 +25,7 @@ class Selections : public QObject {
     [[nodiscard]] QString path() const;
     void read(const QStringList& lines);
 
-    CardEngine& engine_;
-    ErrorTrap& trap_;
+    Program& program_;
     ShowState& state_;
     FormModel& form_;
     bool saving_ = false;

@@ -13,14 +13,13 @@ bool tellsOfError(const QString& reply) {
 
 }  // namespace
 
-GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, ErrorTrap& trap, const AppFolder& folder,
-                             const TextFiles& files)
+GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
     : clock_(clock),
-      trap_(trap),
+      trap_(program.trap),
       logSwitch_(form.at(u"chkLOGFILE"_s)),
       logStatus_(form.at(u"lblLOG"_s)),
       lastTemplate_(form.at(u"lblLASTXML"_s)),
-      log_(folder, files) {
+      log_(program.folder, program.files) {
     // Only the main server's replies are shown; the remote one's are meant to be ignored.
     connect(&main_, &CasparLink::received, this, &GraphicsLinks::addResponse);
 }

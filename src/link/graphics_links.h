@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QString>
 
-#include "base/error_trap.h"
+#include "base/program.h"
 #include "engine/ports.h"
 #include "form/form_model.h"
 #include "link/caspar_link.h"
@@ -15,7 +15,7 @@ namespace zelvor {
 // The main and the remote link with what is kept of their traffic: the socket history, the responses of the main
 // server, the log file. The one way to put a line on air. Connecting is the operator's (LinkConsole) or the
 // program's, through link().
-class GraphicsLinks : public QObject, public Graphics {
+class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     Q_OBJECT
 
  public:
@@ -23,7 +23,7 @@ class GraphicsLinks : public QObject, public Graphics {
     static constexpr int kTurnsBeforePlay = 50000;
 
     // Logging is on while the form's chkLOGFILE is checked; startLog() and stopLog() open and close the file.
-    GraphicsLinks(FormModel& form, Clock& clock, ErrorTrap& trap, const AppFolder& folder, const TextFiles& files);
+    GraphicsLinks(FormModel& form, Clock& clock, Program& program);
 
     // Line breaks in the command become blanks. Neither this nor the following raise errors.
     void sendLine(LinkId link, const QString& command) override;

@@ -37,7 +37,7 @@ TEST(AskFields, areReadBlockByBlock) {
         EngineBench bench;
         if (c.file) bench.write(u"QRD_TT/ASKFIELDS.TXT"_s, *c.file);
         bench.state.ask.ASK_FIELDS.resize(50);
-        LOAD_ASK(bench.state, bench.folder, bench.files, bench.trap);
+        LOAD_ASK(bench.state, bench.program);
         const std::vector<AskField>& fields = bench.state.ask.ASK_FIELDS;
         ASSERT_EQ(static_cast<int>(fields.size()), c.tableSize);
         EXPECT_TRUE(fields[0].title.isEmpty());

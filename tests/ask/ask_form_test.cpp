@@ -25,9 +25,9 @@ class AskForm : public testing::Test {
             ASSERT_NE(form, nullptr);
             act(*form->findChild<QListWidget*>(u"lstASK"_s));
         });
-        AskFormDialog dialog(bench.state, bench.rowsDatabase, bench.trap);
+        AskFormDialog dialog(bench.state, bench.rowsDatabase, bench.program);
         dialog.setWindow(console);
-        dialog.show();
+        dialog.show({});
         EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);
     }
 
@@ -61,7 +61,7 @@ TEST_F(AskForm, answersByKeyboardAndMouse) {
          u"102"_s},
         {"Cancel", [&](QListWidget&) { form->findChild<QPushButton*>(u"cmdCANCEL"_s)->click(); }, u"-1"_s},
         {"window closed", [&](QListWidget&) { form->close(); }, u"-1"_s},
-        {"program closing", [&](QListWidget&) { bench.state.closing = true; }, u"-1"_s},
+        {"program closing", [&](QListWidget&) { bench.program.closing.begin(); }, u"-1"_s},
         {"program has closed", {}, u"-1"_s},
     };
     for (const Case& c : cases) {
@@ -70,7 +70,7 @@ TEST_F(AskForm, answersByKeyboardAndMouse) {
         if (c.act) {
             open(c.act);
         } else {
-            AskFormDialog(bench.state, bench.rowsDatabase, bench.trap).show();
+            AskFormDialog(bench.state, bench.rowsDatabase, bench.program).show({});
         }
         EXPECT_EQ(bench.state.ask.ASK_RESULT, c.result);
         EXPECT_EQ(bench.state.ask.ASK_CANCELLED, c.result == u"-1" ? -1 : 0);

@@ -21,7 +21,7 @@ TEST(PickList, asksWithThePreviousAnswer) {
     };
     for (const auto& [sql, expected] : cases) {
         bench.state.ask.ASK_FIELDS[2].sql = sql;
-        const PickList list(bench.state, bench.rowsDatabase, bench.trap);
+        const PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
         EXPECT_EQ(bench.rowsDatabase.statements.last(), expected);
         EXPECT_FALSE(bench.state.variables.find(u"@@"));
     }
@@ -47,7 +47,7 @@ TEST(PickList, isEmptyAfterOneMessageWhenItCannotBeRead) {
         AskBench bench;
         bench.rowsDatabase.fill({u"A"_s, u"B"_s});
         c.spoil(bench);
-        PickList list(bench.state, bench.rowsDatabase, bench.trap);
+        PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
         EXPECT_TRUE(list.rows().empty());
         ASSERT_EQ(bench.operatorDesk.shown.size(), 1);
         EXPECT_TRUE(bench.operatorDesk.shown[0].contains(c.says)) << bench.operatorDesk.shown[0].toStdString();
@@ -61,7 +61,7 @@ TEST(PickList, findsARowByItsFirstLetter) {
     AskBench bench;
     bench.rowsDatabase.fill(
         {u"Ωρίων"_s, u"Άγγελος"_s, u"Αλέξης"_s, u"Σίμος"_s, u"Żak"_s, u"zed"_s, u"7 Bob"_s, u"Éric"_s, u""_s});
-    const PickList list(bench.state, bench.rowsDatabase, bench.trap);
+    const PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
     const std::vector<std::pair<QString, int>> cases{
         {u"ω"_s, 0}, {u"Ώ"_s, 0}, {u"α"_s, 2}, {u"ά"_s, 1},  {u"ς"_s, 3},
         {u"Z"_s, 5}, {u"7"_s, 6}, {u"e"_s, 7}, {u"x"_s, -1}, {u"%"_s, -1},
@@ -72,8 +72,8 @@ TEST(PickList, findsARowByItsFirstLetter) {
 TEST(PickList, leavesTheOneBelowItOpen) {
     AskBench bench;
     bench.rowsDatabase.fill({u"A"_s, u"B"_s});
-    PickList below(bench.state, bench.rowsDatabase, bench.trap);
-    PickList above(bench.state, bench.rowsDatabase, bench.trap);
+    PickList below(bench.state, bench.rowsDatabase, bench.trap, {});
+    PickList above(bench.state, bench.rowsDatabase, bench.trap, {});
     above.cancel();
     EXPECT_EQ(bench.state.ask.ASK_OPEN, -1);
     EXPECT_EQ(bench.state.ask.ASK_RESULT, u"-1"_s);

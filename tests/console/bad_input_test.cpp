@@ -170,7 +170,7 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
             moment.fire(gallery);
             gallery.answer = answer;
             EXPECT_TRUE(done);
-            EXPECT_EQ(gallery.app->state().closing, !deed.goesOn);
+            EXPECT_EQ(gallery.app->program().closing.hasBegun(), !deed.goesOn);
             const QStringList expected = deed.before + (deed.goesOn ? QStringList{moment.after} : QStringList());
             EXPECT_TRUE(waitUntil([&] { return peer.lines.size() >= expected.size(); }));
             EXPECT_EQ(peer.lines, expected);

@@ -80,7 +80,7 @@ TEST_F(CardRules, ClearRunsTheClearCardAndResetsTheLastButton) {
     EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 0).state(), u"OFF");
     EXPECT_TRUE(set(1, 2).on) << "only the button fired last is reset";
     EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 1).backColour(), colours::kRed);
-    EXPECT_EQ(bench.state.lastFiredButton, -1);
+    EXPECT_FALSE(bench.state.console.lastFired);
 }
 
 TEST_F(CardRules, TabsShowOnePanelAndLeaveStartElevenAlone) {
@@ -96,17 +96,17 @@ TEST_F(CardRules, TabsShowOnePanelAndLeaveStartElevenAlone) {
 }
 
 TEST_F(CardRules, ClicksReachTheirRules) {
-    FormEvents events(bench.state, bench.trap);
+    FormEvents events(bench.trap);
     console.answer(events);
     bench.form.at(u"lblHPLAYERS"_s, 23).setForeColour(colours::kGreen);
     bench.form.at(u"lblATEAM"_s).setForeColour(colours::kRed);
-    bench.state.playerSelected = true;
+    bench.state.console.playerSelected = true;
     for (const QString& name : {u"cmdINVOKE"_s, u"cmdAUTO5ADA"_s, u"cmdCLEARTAG"_s, u"GradientButtonAIR"_s})
         events.click(bench.form.at(name));
     EXPECT_EQ(sent(), (QStringList{u"minvoke "_s, u"mauto5ada "_s, u"mclear "_s}));
     EXPECT_EQ(bench.form.at(u"lblHPLAYERS"_s, 23).foreColour(), std::nullopt);
     EXPECT_EQ(bench.form.at(u"lblATEAM"_s).foreColour(), std::nullopt);
-    EXPECT_FALSE(bench.state.playerSelected);
+    EXPECT_FALSE(bench.state.console.playerSelected);
     // An error in a handler ends there, with one message.
     events.onClick(u"cmdMenu"_s, [](int) { throw RunTimeError(ErrorNumber::TypeMismatch); });
     events.click(bench.form.at(u"cmdMenu"_s));
@@ -114,7 +114,7 @@ TEST_F(CardRules, ClicksReachTheirRules) {
 }
 
 TEST_F(CardRules, AutoCardTakesTheKeyOfThePickList) {
-    FormEvents events(bench.state, bench.trap);
+    FormEvents events(bench.trap);
     console.answer(events);
     const Control& button = bench.form.at(u"cmdAUTOCARD"_s);
     EXPECT_FALSE(button.enabled());
@@ -138,11 +138,11 @@ TEST_F(CardRules, SwitchesOfThePack) {
     EXPECT_FALSE(preview.enabled());
     // The players of a pack stay chosen while its cards are loaded again, not when another's are.
     for (const bool sameLanguage : {true, false}) {
-        bench.state.playerSelected = true;
+        bench.state.console.playerSelected = true;
         bench.form.at(u"lblHPLAYERS"_s, 3).setForeColour(colours::kGreen);
         if (!sameLanguage) bench.state.variables.SetVar(u"@LANGUAGE", u"XX"_s);
         console.showLoaded();
-        EXPECT_EQ(bench.state.playerSelected, sameLanguage);
+        EXPECT_EQ(bench.state.console.playerSelected, sameLanguage);
         EXPECT_EQ(bench.form.at(u"lblHPLAYERS"_s, 3).foreColour().has_value(), sameLanguage);
     }
     bench.state.cards.showPreview = false;
@@ -172,7 +172,7 @@ TEST_F(CardRules, StartUpOrder) {
         calls += u"selections"_s;
     };
     bench.state.currentSet = 3;
-    StartUp start(bench.engine, console, bench.trap, steps);
+    StartUp start(bench.engine, console, steps);
     start.run();
     const QStringList all{u"feed"_s, u"packs"_s,      u"database"_s, u"cards"_s,
                           u"ask"_s,  u"selections"_s, u"general"_s,  u"timed"_s};
@@ -185,8 +185,8 @@ TEST_F(CardRules, StartUpOrder) {
     // The preview instance has no feed; a program that closes during a question ends the sequence there.
     calls.clear();
     bench.state.preview = true;
-    steps.CONNECTDATABASE = [&] { bench.state.closing = true; };
-    StartUp preview(bench.engine, console, bench.trap, steps);
+    steps.CONNECTDATABASE = [&] { bench.program.closing.begin(); };
+    StartUp preview(bench.engine, console, steps);
     preview.run();
     EXPECT_EQ(calls, QStringList{u"packs"_s});
     EXPECT_TRUE(preview.caption().startsWith(u"Preview Zelvor Cards ("));

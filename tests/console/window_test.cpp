@@ -330,7 +330,7 @@ TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
 TEST_F(MainWindowTest, ClosesAtAQuestion) {
     gallery.answer = [&](QDialog&) { gallery.app->window().close(); };
     startWithCards();
-    EXPECT_TRUE(gallery.app->state().closing);
+    EXPECT_TRUE(gallery.app->program().closing.hasBegun());
     EXPECT_EQ(gallery.shown.size(), 1) << "no further question";
 }
 

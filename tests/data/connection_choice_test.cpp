@@ -44,7 +44,7 @@ TEST(ConnectionChoice, followsTheCommandLineAndTheOperator) {
         EXPECT_EQ(show.operatorDesk.asked, QStringList(c.boxes, box + c.proposed));
         const QString fatal = u"|Error find connection for ConnID:"_s + c.fatalNumber + u"\r\nProgram stop!!!"_s;
         EXPECT_EQ(show.operatorDesk.shown, c.fatalNumber.isEmpty() ? QStringList() : QStringList(fatal));
-        EXPECT_EQ(show.ended, c.fatalNumber.isEmpty() ? 0 : 1);
+        EXPECT_EQ(show.program.closing.hasBegun(), c.found.isEmpty());
     }
 }
 
@@ -70,7 +70,7 @@ TEST(ConnectionChoice, reportsWhatCannotBeOpened) {
         const QString shown = show.operatorDesk.shown.join(u'\n');
         EXPECT_EQ(show.operatorDesk.shown.size(), c.begins.isEmpty() ? 0 : 1);
         EXPECT_TRUE(shown.startsWith(c.begins)) << shown.toStdString();
-        EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), c.begins.isEmpty() ? 1 : 0);
+        EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), c.begins.isEmpty() ? 1 : 0);
     }
 }
 
@@ -79,10 +79,10 @@ TEST(ConnectionChoice, leavesAFixedNumberToTheFirstQuery) {
     show.make();
     show.connections->CONNECTDATABASE();
     EXPECT_EQ(show.connections->connectionState(), Connections::State::NotTried);
-    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 0);
+    EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 0);
     EXPECT_EQ(show.connections->connectionState(), Connections::State::Failed) << "no CONNECTIONS.TXT";
     show.writeConnections("1==x==Driver=SQLite3;Database=x.db");
-    EXPECT_EQ(show.connections->RUN_QUERY2(u"select 1"_s), 1);
+    EXPECT_EQ(show.connections->RUN_QUERY2({}, u"select 1"_s), 1);
     EXPECT_TRUE(show.operatorDesk.asked.isEmpty());
     // A relative database lies in the application folder, whatever the working folder is.
     EXPECT_TRUE(QFile::exists(show.directory.filePath(u"x.db"_s)));

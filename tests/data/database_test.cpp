@@ -79,7 +79,7 @@ TEST_P(OnEachDatabase, valuesKeepTheirKind) {
     makeTable(declarations.join(u','), {literals.join(u',')});
     for (const bool greek : {false, true}) {
         const QString all = u"select t.*, count(*), 'x' from t group by c0"_s;
-        ASSERT_EQ(greek ? database->RUN_QUERY2(all) : database->RUN_QUERY(all), 1);
+        ASSERT_EQ(greek ? database->RUN_QUERY2({}, all) : database->RUN_QUERY({}, all), 1);
         ASSERT_EQ(show.state.QUERY_RESULT.fieldCount(), static_cast<int>(columns.size()) + 2);
         for (size_t i = 0; i < columns.size(); ++i) {
             const Value& value = show.state.QUERY_RESULT.cell(1, static_cast<int>(i));
@@ -92,49 +92,49 @@ TEST_P(OnEachDatabase, valuesKeepTheirKind) {
 
 TEST_P(OnEachDatabase, countsAreExact) {
     makeTable(u"a integer, b varchar(9)"_s, {u"1,'x'"_s, u"2,'y'"_s, u"3,null"_s});
-    EXPECT_EQ(database->RUN_QUERY(u"select b, a from t order by a"_s), 3);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select b, a from t order by a"_s), 3);
     EXPECT_EQ(show.recordCount(), u"3"_s);
     EXPECT_EQ(show.cell(3, 1), u"3"_s);
     // Nothing found: the table stays; @RECORDCOUNT is reset by the first procedure alone.
-    EXPECT_EQ(database->RUN_QUERY2(u"select a from t where a > 9"_s), 0);
+    EXPECT_EQ(database->RUN_QUERY2({}, u"select a from t where a > 9"_s), 0);
     EXPECT_EQ(show.recordCount(), u"3"_s);
-    EXPECT_EQ(database->RUN_QUERY(u"select a from t where a > 9"_s), 0);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select a from t where a > 9"_s), 0);
     EXPECT_EQ(show.recordCount(), u"0"_s);
     EXPECT_EQ(show.state.QUERY_RESULT.rowCount(), 3);
     for (const QString& change : {u"update t set b = 'z' where a = 9"_s, u"delete from t where a = 2"_s})
-        EXPECT_EQ(database->RUN_QUERY(change), 0) << change.toStdString();
+        EXPECT_EQ(database->RUN_QUERY({}, change), 0) << change.toStdString();
     EXPECT_TRUE(show.operatorDesk.shown.isEmpty()) << show.operatorDesk.shown.join(u'\n').toStdString();
-    EXPECT_EQ(database->RUN_QUERY2(u"select b from t order by a"_s), 2);
+    EXPECT_EQ(database->RUN_QUERY2({}, u"select b from t order by a"_s), 2);
 
     // The procedures' own count is a 16-bit number.
     QStringList rows;
     for (int i = 0; i < 200; ++i) rows += QString::number(i);
     makeTable(u"a integer"_s, {rows.join(u"),("_s)});
-    EXPECT_EQ(database->RUN_QUERY(u"select x.a * 200 + y.a from t x, t y order by 1"_s), 32767);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select x.a * 200 + y.a from t x, t y order by 1"_s), 32767);
     EXPECT_EQ(show.cell(40000, 0), u"39999"_s);
 }
 
 TEST_P(OnEachDatabase, greekIsRightOnBothConnections) {
     const QString name = u"Άγγελος Παπαδόπουλος-Ώντ «ΐΰ»"_s;
     makeTable(u"n varchar(60)"_s, {u'\'' + name + u'\''});
-    EXPECT_EQ(database->RUN_QUERY2(u"insert into t values ('"_s + name + u"')"_s), 0);
+    EXPECT_EQ(database->RUN_QUERY2({}, u"insert into t values ('"_s + name + u"')"_s), 0);
     const QString same = u"select n, length(n) from t where n = '"_s + name + u'\'';
-    EXPECT_EQ(database->RUN_QUERY(same), 2);
+    EXPECT_EQ(database->RUN_QUERY({}, same), 2);
     EXPECT_EQ(show.cell(1, 0), name);
     EXPECT_EQ(show.cell(1, 1), show.cell(2, 1));
-    EXPECT_EQ(database->RUN_QUERY2(same), 2);
+    EXPECT_EQ(database->RUN_QUERY2({}, same), 2);
     EXPECT_EQ(show.cell(2, 0), name);
     EXPECT_EQ(database->readGreek(u"select 'Έξι' as αριθμός from t"_s).columns, QStringList(u"αριθμός"_s));
 }
 
 TEST_P(OnEachDatabase, errorsAreShownAndNothingChanges) {
     makeTable(u"a integer"_s, {u"1"_s, u"2"_s});
-    ASSERT_EQ(database->RUN_QUERY(u"select a from t"_s), 2);
-    EXPECT_EQ(database->RUN_QUERY2(u"select a from nowhere"_s), 0);
+    ASSERT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 2);
+    EXPECT_EQ(database->RUN_QUERY2({}, u"select a from nowhere"_s), 0);
     EXPECT_EQ(show.recordCount(), u"2"_s);
-    EXPECT_EQ(database->RUN_QUERY(u"selekt"_s), 0);
+    EXPECT_EQ(database->RUN_QUERY({}, u"selekt"_s), 0);
     EXPECT_EQ(show.recordCount(), u"0"_s);
-    EXPECT_EQ(database->RUN_QUERY(u"  "_s), 0);
+    EXPECT_EQ(database->RUN_QUERY({}, u"  "_s), 0);
     EXPECT_EQ(show.state.QUERY_RESULT.rowCount(), 2);
     ASSERT_EQ(show.operatorDesk.shown.size(), 3);
     EXPECT_TRUE(show.operatorDesk.shown[0].startsWith(u"Error in Query2|["_s));
@@ -144,7 +144,7 @@ TEST_P(OnEachDatabase, errorsAreShownAndNothingChanges) {
     EXPECT_THROW(database->execute(u"insert into nowhere values (1)"_s), RunTimeError);
     EXPECT_THROW(database->readGreek(u"select nothing from t"_s), RunTimeError);
     EXPECT_EQ(show.operatorDesk.shown.size(), 3);
-    EXPECT_EQ(database->RUN_QUERY(u"select a from t"_s), 2);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 2);
 }
 
 TEST_P(OnEachDatabase, longResultsAreWhole) {
@@ -158,7 +158,8 @@ TEST_P(OnEachDatabase, longResultsAreWhole) {
     }
     const QString all = u"select * from t order by a"_s;
     for (const bool greek : {false, true}) {
-        ASSERT_EQ(greek ? database->RUN_QUERY2(all) : database->RUN_QUERY(all), static_cast<int>(lengths.size()));
+        ASSERT_EQ(greek ? database->RUN_QUERY2({}, all) : database->RUN_QUERY({}, all),
+                  static_cast<int>(lengths.size()));
         for (int row = 1; row <= static_cast<int>(lengths.size()); ++row) {
             const int length = lengths[row - 1];
             EXPECT_EQ(show.cell(row, 0), QString::number(length));

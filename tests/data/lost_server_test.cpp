@@ -19,7 +19,9 @@ class LostServer : public testing::Test {
         ASSERT_EQ(queries(), 2);
     }
     // How many of the two connections answer.
-    int queries() { return show.connections->RUN_QUERY(u"select 1"_s) + show.connections->RUN_QUERY2(u"select 1"_s); }
+    int queries() {
+        return show.connections->RUN_QUERY({}, u"select 1"_s) + show.connections->RUN_QUERY2({}, u"select 1"_s);
+    }
 
     MariaDbServer server;
     Show show;
@@ -27,7 +29,7 @@ class LostServer : public testing::Test {
 
 TEST_F(LostServer, isFoundAgainAsSoonAsItIsBack) {
     server.kill();
-    EXPECT_EQ(show.connections->RUN_QUERY(u"insert into t values (1)"_s), 0);
+    EXPECT_EQ(show.connections->RUN_QUERY({}, u"insert into t values (1)"_s), 0);
     EXPECT_EQ(show.operatorDesk.shown.size(), 1);
     EXPECT_EQ(show.connections->connectionState(), Connections::State::Failed);
     EXPECT_EQ(queries(), 0);
@@ -36,8 +38,8 @@ TEST_F(LostServer, isFoundAgainAsSoonAsItIsBack) {
     server.start();
     EXPECT_EQ(queries(), 2);
     EXPECT_EQ(show.connections->connectionState(), Connections::State::Open);
-    show.connections->RUN_QUERY(u"insert into t values (2)"_s);
-    show.connections->RUN_QUERY(u"select a from t"_s);
+    show.connections->RUN_QUERY({}, u"insert into t values (2)"_s);
+    show.connections->RUN_QUERY({}, u"select a from t"_s);
     EXPECT_EQ(show.recordCount(), u"1"_s);  // the insert that failed was not repeated
     EXPECT_EQ(show.cell(1, 0), u"2"_s);
 
@@ -52,10 +54,10 @@ TEST_F(LostServer, keepsNobodyWaitingWhenItSaysNothing) {
     server.freeze(true);
     QElapsedTimer waited;
     waited.start();
-    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 0);
+    EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 0);
     EXPECT_LT(waited.restart(), 8000);
     // Once it is known to be silent, nobody waits.
-    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 0);
+    EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 0);
     EXPECT_LT(waited.elapsed(), 2000);
     EXPECT_TRUE(show.operatorDesk.shown.value(1).contains(u"has not answered since"_s));
     server.freeze(false);
@@ -63,7 +65,7 @@ TEST_F(LostServer, keepsNobodyWaitingWhenItSaysNothing) {
     EXPECT_TRUE(show.operatorDesk.shown[0].contains(u"within 5 seconds"_s)) << show.operatorDesk.shown[0].toStdString();
     // Its own connection comes back as soon as the server does.
     waited.restart();
-    while (show.connections->RUN_QUERY(u"select 1"_s) == 0 && waited.elapsed() < 20'000) QThread::msleep(20);
+    while (show.connections->RUN_QUERY({}, u"select 1"_s) == 0 && waited.elapsed() < 20'000) QThread::msleep(20);
     EXPECT_EQ(queries(), 2);
 }
 
@@ -71,16 +73,16 @@ TEST(EndlessStatement, isCancelled) {
     Show show;
     show.writeConnections("1==test==Driver=SQLite3;Database=show.db");
     show.make();
-    ASSERT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 1);
+    ASSERT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 1);
     const auto threads = [] { return QDir(u"/proc/self/task"_s).count(); };
     const auto before = threads();
     const QString endless = u"with recursive n(i) as (select 1 union all select i + 1 from n) select max(i) from n"_s;
-    EXPECT_EQ(show.connections->RUN_QUERY(endless), 0);
+    EXPECT_EQ(show.connections->RUN_QUERY({}, endless), 0);
     QElapsedTimer waited;
     waited.start();
     while (threads() > before && waited.elapsed() < 20'000) QThread::msleep(20);
     EXPECT_LE(threads(), before);
-    EXPECT_EQ(show.connections->RUN_QUERY(u"select 1"_s), 1);
+    EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 1);
 }
 
 }  // namespace

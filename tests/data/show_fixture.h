@@ -14,14 +14,17 @@ namespace zelvor::test {
 // the program is closing.
 class ScriptedOperator : public Operator {
  public:
-    explicit ScriptedOperator(bool& closing) : closing_(closing) {}
+    explicit ScriptedOperator(Closing& closing) : closing_(closing) {}
 
-    void message(const QString& title, const QString& text, Severity) override { shown += title + u'|' + text; }
-    bool yesNo(const QString&, const QString&) override { return true; }
-    std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) override {
+    void message(const Asker&, const QString& title, const QString& text, Severity) override {
+        shown += title + u'|' + text;
+    }
+    bool yesNo(const Asker&, const QString&, const QString&) override { return true; }
+    std::optional<QString> input(const Asker&, const QString& title, const QString& prompt,
+                                 const QString& proposed) override {
         asked += title + u'|' + prompt + u'|' + proposed;
         if (answers.empty()) {
-            closing_ = true;
+            closing_.begin();
             return std::nullopt;
         }
         const std::optional<QString> answer = answers.front();
@@ -34,24 +37,21 @@ class ScriptedOperator : public Operator {
     std::vector<std::optional<QString>> answers;
 
  private:
-    bool& closing_;
+    Closing& closing_;
 };
 
 // A show with one pack of its own in a temporary application folder, and the Connections under test.
 struct Show {
     QTemporaryDir directory;
-    AppFolder folder{directory.path()};
-    TextFiles files;
-    ErrorTrap trap{directory.filePath(QStringLiteral("error.log"))};
+    Program program{AppFolder(directory.path()), {}, ErrorTrap(directory.filePath(QStringLiteral("error.log")))};
     ShowState state;
-    ScriptedOperator operatorDesk{state.closing};
-    int ended = 0;
+    ScriptedOperator operatorDesk{program.closing};
     std::unique_ptr<Connections> connections;
 
     Show() {
         state.variables.SetVar(u"@LANGUAGE", QStringLiteral("EN"));
         QDir(directory.path()).mkpath(QStringLiteral("MODULES/QRD_EN"));
-        trap.setReporter([this](const ErrorPlace&, const QString& text) { operatorDesk.shown += text; });
+        program.trap.setReporter([this](const ErrorPlace&, const QString& text) { operatorDesk.shown += text; });
     }
 
     void writeConnections(const QByteArray& text) {
@@ -67,8 +67,7 @@ struct Show {
         } else {
             choice.number = 1;
         }
-        connections =
-            std::make_unique<Connections>(state, operatorDesk, folder, files, trap, choice, [this] { ++ended; });
+        connections = std::make_unique<Connections>(state, operatorDesk, program, choice);
     }
     QString cell(int row, int field) const {
         const Value* found = state.QUERY_RESULT.find(row, field);

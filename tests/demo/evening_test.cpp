@@ -42,15 +42,15 @@ class Evening : public testing::TestWithParam<const char*> {
  protected:
     void SetUp() override {
         ASSERT_TRUE(folderOnDisk_.isMade());
-        trap_.setReporter([this](const ErrorPlace&, const QString& message) { operator_.shown += message; });
-        writeAllDefaults(state_, form_, folder_);
+        program_.trap.setReporter([this](const ErrorPlace&, const QString& message) { operator_.shown += message; });
+        writeAllDefaults(state_, form_, program_.folder);
         switchTo(QString::fromLatin1(GetParam()));
     }
     // What the console does when the operator chooses a pack.
     void switchTo(const QString& pack) {
         state_.variables.SetVar(u"@LANGUAGE", pack);
         ASSERT_TRUE(packs_.LOAD_CARDS());
-        LOAD_ASK(state_, folder_, files_, trap_);
+        LOAD_ASK(state_, program_);
         fire(u"GetGame.csp"_s);
     }
     void TearDown() override {
@@ -60,7 +60,7 @@ class Evening : public testing::TestWithParam<const char*> {
 
     // Fires a card as its button does and lets a second pass. A card that puts something on is the last one shown.
     void fire(const QString& card) {
-        EXPECT_EQ(CardEngine::Outcome::Ran, engine_.SHOW_TVCARD(card, state_.playerSelected, false))
+        EXPECT_EQ(CardEngine::Outcome::Ran, engine_.SHOW_TVCARD(card, state_.console.playerSelected, false, {}))
             << qPrintable(card);
         if (!folderOnDisk_.script(state_.language(), card).contains(u"FUNCTIONCARD"_s)) {
             EXPECT_EQ(card.toStdString(), state_.lastCard.toStdString());
@@ -78,7 +78,7 @@ class Evening : public testing::TestWithParam<const char*> {
     QString lastLine() const { return graphics_.sent.value(graphics_.sent.size() - 1); }
     QString label(const QString& name, int index = -1) const { return form_.at(name, index).text(); }
     QString fromDatabase(const QString& sql) {
-        EXPECT_GT(database_.RUN_QUERY(sql), 0);
+        EXPECT_GT(database_.RUN_QUERY({}, sql), 0);
         const Value* cell = state_.QUERY_RESULT.find(1, 0);
         return cell == nullptr ? QString() : cell->text();
     }
@@ -87,30 +87,28 @@ class Evening : public testing::TestWithParam<const char*> {
     // Answers each pick list with the choice for its number.
     struct Chooser : AskDialog {
         explicit Chooser(Evening& evening) : evening_(evening) {}
-        void show() override {
-            ScriptedAsk(evening_.state_, evening_.database_, evening_.trap_,
+        void show(const Asker& asker) override {
+            ScriptedAsk(evening_.state_, evening_.database_, evening_.program_.trap,
                         {test::kChoices[evening_.state_.ask.ASK_FIELD]})
-                .show();
+                .show(asker);
         }
         Evening& evening_;
     };
 
     DemoFolder folderOnDisk_;
-    AppFolder folder_{folderOnDisk_.path()};
-    TextFiles files_;
-    ErrorTrap trap_{folderOnDisk_.path() + u"/errors.log"_s};
+    Program program_{AppFolder(folderOnDisk_.path()), {}, ErrorTrap(folderOnDisk_.path() + u"/errors.log"_s)};
     ShowState state_;
     FormModel form_;
     test::FakeOperator operator_;
     AirGraphics graphics_;
     test::FakeClock clock_;
     test::FakeDesktop desktop_;
-    Connections database_{state_, operator_, folder_, files_, trap_, {{}, 1}, [] {}};
+    Connections database_{state_, operator_, program_, {{}, 1}};
     Chooser chooser_{*this};
-    Packs packs_{state_, form_, folder_, files_, trap_, operator_};
-    CardEngine engine_{state_, form_, folder_,
-                       files_, trap_, Ports{operator_, chooser_, graphics_, database_, desktop_, clock_}};
-    GameDesk game_{engine_, trap_};
+    Packs packs_{state_, form_, program_, operator_};
+    CardEngine engine_{state_, form_, program_,
+                       Ports{operator_, chooser_, graphics_, graphics_, database_, desktop_, clock_}};
+    GameDesk game_{engine_};
 };
 
 TEST_P(Evening, EveryCardInAnyOrderPleasesTheServerAndKeepsTheButtonsTrue) {

@@ -14,8 +14,8 @@ class CardRuns : public testing::Test, public test::EngineBench {};
 
 TEST_F(CardRuns, NameTheirScriptAndReportAMissingOne) {
     EXPECT_EQ(u"a.csp b.csp c.Qrd d.csp"_s, CardEngine::scriptName(u"a.qrd b.QRD c.Qrd d.csp"_s));
-    EXPECT_EQ(Outcome::NoScript, engine.SHOW_TVCARD(u"none.qrd"_s, false, false));
-    EXPECT_EQ(Outcome::NoScript, engine.SHOW_TVCARD(QString(), false, false));
+    EXPECT_EQ(Outcome::NoScript, engine.SHOW_TVCARD(u"none.qrd"_s, false, false, {}));
+    EXPECT_EQ(Outcome::NoScript, engine.SHOW_TVCARD(QString(), false, false, {}));
     EXPECT_EQ(u"|Card Script file:\r\n"_s + folder.packFile(u"TT", u"none.csp") + u"\r\n not exist."_s,
               operatorDesk.shown[0]);
     EXPECT_TRUE(state.lastCard.isEmpty());
@@ -69,19 +69,19 @@ TEST_F(CardRuns, DelayWaitsPastMidnightWhateverTheClockSays) {
 }
 
 TEST_F(CardRuns, EndAtOnceWhenTheProgramCloses) {
-    const auto close = [this] { state.closing = true; };
-    clock.whileWaiting = graphics.whileSending = operatorDesk.whileAsked = close;
     for (const char* waiting : {"DELAY~1000", "CSPSEND~PLAY", "BREAK~?"}) {
-        state.closing = false;
-        EXPECT_EQ(Outcome::Closed, run(QByteArray(waiting) + "\nSETVAR~@AFTER;1\n")) << waiting;
+        EngineBench bench;
+        const auto close = [&bench] { bench.program.closing.begin(); };
+        bench.clock.whileWaiting = bench.graphics.whileSending = bench.operatorDesk.whileAsked = close;
+        EXPECT_EQ(Outcome::Closed, bench.run(QByteArray(waiting) + "\nSETVAR~@AFTER;1\n")) << waiting;
+        EXPECT_EQ(Outcome::Closed, bench.run("SETVAR~@AFTER;1\n"));
+        EXPECT_EQ(nullptr, bench.state.variables.find(u"@AFTER"));
+        EXPECT_TRUE(bench.form.at(u"lblONAIR"_s).text().isEmpty());
     }
-    EXPECT_EQ(nullptr, state.variables.find(u"@AFTER"));
-    EXPECT_TRUE(form.at(u"lblONAIR"_s).text().isEmpty());
-    EXPECT_EQ(Outcome::Closed, run("SETVAR~@AFTER;1\n"));
 }
 
 TEST_F(CardRuns, InsideOneAnotherEndWhenTooDeep) {
-    graphics.whileSending = [this] { engine.SHOW_TVCARD(u"card.qrd"_s, false, false); };
+    graphics.whileSending = [this] { engine.SHOW_TVCARD(u"card.qrd"_s, false, false, {}); };
     run("CSPSEND~x\n");
     EXPECT_EQ(CardEngine::kDeepestRun, graphics.sent.size());
     ASSERT_EQ(1, operatorDesk.shown.size());

@@ -85,20 +85,22 @@ TEST(TimedCards, RunEachAtItsInterval) {
 
 TEST(TimedCards, SwitchTheirTimerOffMeanwhile) {
     Studio studio;
-    studio.writeCard("card.csp", "x");
+    studio.write(u"QRD_TT/card.csp"_s, "FUNCTIONCARD\nCSPSEND~x\nDELAY~soon\n");
     studio.state.cards.timedCards = {{u"card.csp"_s, 1}, {u"card.csp"_s, 1}};
     auto* timer = studio.desk.timedCards.findChild<QTimer*>(u"tmrCARD"_s);
     studio.desk.timedCards.start();
     // Another card table is loaded while the first card waits.
     studio.graphics.whileSending = [&] {
         EXPECT_FALSE(timer->isActive());
-        EXPECT_EQ(studio.state.unattendedRuns, 1);
         studio.desk.timedCards.tick();
         studio.state.cards.timedCards.clear();
     };
     studio.desk.timedCards.tick();
     EXPECT_EQ(studio.graphics.sent.size(), 1);
     EXPECT_TRUE(timer->isActive());
+    ASSERT_EQ(studio.operatorDesk.askers.size(), 1);
+    EXPECT_EQ(studio.operatorDesk.askers[0].kind, Asker::Kind::TimedCard) << "whose error it is";
+    EXPECT_EQ(studio.operatorDesk.askers[0].card, u"card.csp");
 }
 
 TEST(StopwatchSender, SendsFractionsOfASixtieth) {

@@ -98,22 +98,22 @@ TEST(PlayerLabels, MarkThePlayerAndSetHisAnswers) {
         studio.at(own, 23).setText(u"9 Jones"_s);
         studio.at(own, 23).setTag(u"P:9:8##broken##N:Jones"_s);
         (studio.desk.players.*press)(0, Qt::LeftButton);
-        EXPECT_FALSE(studio.state.playerSelected) << "no player there";
+        EXPECT_FALSE(studio.state.console.playerSelected) << "no player there";
 
         (studio.desk.players.*press)(3, Qt::LeftButton);
         EXPECT_EQ(inColour(studio, own, colours::kGreen), u"3"_s);
         EXPECT_EQ(inColour(studio, other, colours::kWhite).split(u' ').size(), 24);
         EXPECT_EQ(studio.at(away ? "lblATEAM" : "lblHTEAM").foreColour(), colours::kGreen);
         EXPECT_EQ(studio.variablesText({u"AUTOTAG_P"_s, u"AUTOTAG_O"_s, u"AUTOTAG_N"_s}), u"12|-|Smith"_s);
-        EXPECT_TRUE(studio.state.playerSelected);
+        EXPECT_TRUE(studio.state.console.playerSelected);
 
         // The right button marks a second one; what his tag holds before its fault is set.
-        studio.state.playerSelected = false;
+        studio.state.console.playerSelected = false;
         (studio.desk.players.*press)(23, Qt::RightButton);
         EXPECT_EQ(inColour(studio, own, colours::kGreen), u"3"_s);
         EXPECT_EQ(inColour(studio, own, colours::kRed), u"23"_s);
         EXPECT_EQ(studio.variablesText({u"AUTOTAG_P"_s, u"AUTOTAG_O"_s, u"AUTOTAG_N"_s}), u"12|9|Smith"_s);
-        EXPECT_FALSE(studio.state.playerSelected);
+        EXPECT_FALSE(studio.state.console.playerSelected);
         EXPECT_EQ(studio.operatorDesk.shown, QStringList());
     }
 }
@@ -133,7 +133,7 @@ TEST(Proposals, RunTheCardAndMarkItUsed) {
     for (const Case& each : cases) {
         Studio studio;
         studio.write(u"QRD_TT/stats.csp"_s, "ON~2\nCSPSEND~stats\n");
-        studio.state.playerSelected = true;
+        studio.state.console.playerSelected = true;
         studio.at("lblPROPOSED", 8).setTag(each.tag);
         studio.desk.proposals.lblPROPOSED(8);
         SCOPED_TRACE(each.tag.toStdString());
@@ -142,7 +142,7 @@ TEST(Proposals, RunTheCardAndMarkItUsed) {
         EXPECT_EQ(studio.at("lblPROPOSED", 8).backColour().has_value(), each.taken);
         EXPECT_EQ(studio.variablesText({u"AUTOTAG_P"_s, u"AUTOTAG_T"_s}), each.answers);
         EXPECT_NE(studio.at("cmbCARD", 2).state(), u"ON"_s) << "card buttons keep their states";
-        EXPECT_FALSE(studio.state.playerSelected);
+        EXPECT_FALSE(studio.state.console.playerSelected);
         EXPECT_EQ(studio.operatorDesk.shown, QStringList());
     }
 }

@@ -35,7 +35,7 @@ struct Studio : EngineBench {
     }
     qint64 taken() const { return desk.feedStatus.handledCount() + desk.feedStatus.refusedCount(); }
 
-    GameDesk desk{engine, trap};
+    GameDesk desk{engine};
     QUdpSocket sender;
 };
 

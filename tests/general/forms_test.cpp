@@ -50,11 +50,11 @@ class GeneralFormTest : public testing::Test {
     QString variable(QStringView name) { return bench.state.variables.text(name); }
 
     test::EngineBench bench;
-    GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
-    Pickers pickers;
-    GeneralForm form{general, bench.operatorDesk, pickers, bench.state};
+    GeneralVariables general{bench.state, bench.program, bench.operatorDesk};
+    Pickers pickers{bench.program.closing};
+    GeneralForm form{general, bench.operatorDesk, pickers};
     QWidget console;
-    FormList forms{console};
+    FormList forms{console, bench.program.closing};
     QTableView* view = find<QTableView>("vsDATA");
 };
 
@@ -104,7 +104,7 @@ TEST_F(GeneralFormTest, FoldersAndFilesArePicked) {
     QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(general.grid().text(3, 0), u"[file]/pictures/a b.png");
 
-    QTimer::singleShot(0, &form, [this] { pickers.cancel(); });
+    QTimer::singleShot(0, &form, [this] { bench.program.closing.begin(); });
     EXPECT_EQ(pickers.SelectFolder(&form), u"");
 }
 
@@ -171,7 +171,8 @@ TEST(FormList, StandsBesideTheConsoleWhereThereIsRoom) {
     for (const QRect& taken : {screen.adjusted(0, 0, -200, 0), screen.adjusted(200, 0, 0, 0), screen}) {
         console.setGeometry(taken);
         console.show();
-        FormList forms{console};
+        Closing closing;
+        FormList forms{console, closing};
         forms.add(form);
         form.setAttribute(Qt::WA_Moved, false);
         forms.show(u"form"_s);
@@ -181,7 +182,8 @@ TEST(FormList, StandsBesideTheConsoleWhereThereIsRoom) {
         forms.close(u"form"_s);
         forms.show(u"form"_s);
         EXPECT_EQ(form.pos(), screen.topLeft()) << "where it was moved to";
-        forms.closeAll();
+        closing.begin();
+        EXPECT_FALSE(form.isVisible());
     }
 }
 

@@ -22,7 +22,7 @@ class GeneralVariablesTest : public testing::Test {
     }
 
     EngineBench bench;
-    GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
+    GeneralVariables general{bench.state, bench.program, bench.operatorDesk};
 };
 
 TEST(GeneralCell, ShowsItsValueAndKeepsItsMarkerOrList) {

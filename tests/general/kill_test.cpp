@@ -66,7 +66,7 @@ void killWhileSaving(const QString& path, Save save) {
 
 TEST(Kill, SelectionsAreTheOldOrTheNew) {
     EngineBench bench;
-    Selections selections(bench.engine, bench.trap);
+    Selections selections(bench.engine);
     killWhileSaving(bench.folderOnDisk.filePath(u"MODULES/SELECTIONS.TXT"_s), [&](int state) {
         bench.form.at(u"txtS5H"_s, 0).setText(QString(state * 200'000, u'7'));
         selections.SaveSelections();
@@ -75,7 +75,7 @@ TEST(Kill, SelectionsAreTheOldOrTheNew) {
 
 TEST(Kill, GeneralVariablesAreTheOldOrTheNew) {
     EngineBench bench;
-    GeneralVariables general(bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk);
+    GeneralVariables general(bench.state, bench.program, bench.operatorDesk);
     general.load();
     general.grid().append(std::vector<GeneralRow>(2000, {u"a"_s, u"Title"_s, u"@NAME"_s, u"Help"_s}));
     killWhileSaving(bench.folderOnDisk.filePath(u"MODULES/QRD_TT/infodata.dat"_s), [&](int state) {

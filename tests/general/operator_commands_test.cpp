@@ -53,8 +53,8 @@ class OperatorCommandsTest : public testing::Test {
     test::EngineBench bench;
     FormModel& form = bench.form;
     FakeForms forms{bench};
-    GeneralVariables general{bench.state, bench.folder, bench.files, bench.trap, bench.operatorDesk};
-    OperatorCommands commands{bench.engine, bench.packs, general, forms, bench.trap};
+    GeneralVariables general{bench.state, bench.program, bench.operatorDesk};
+    OperatorCommands commands{bench.engine, bench.packs, general, forms};
 };
 
 TEST_F(OperatorCommandsTest, TheScreenModeMenuLeavesTheButtonsAlone) {
@@ -91,9 +91,9 @@ TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
     bench.packs.LOAD_CARDS();
     commands.showGeneral();
     QObject::connect(&commands, &OperatorCommands::cardsLoaded, &commands, [this] { forms.calls += u"cards"_s; });
-    bench.state.lastFiredButton = 3;
+    bench.state.console.lastFired = {1, 3};
     form.at(u"cmbLANG"_s).setPosition(1);
-    EXPECT_EQ(bench.state.lastFiredButton, -1) << "a button of the cards before";
+    EXPECT_FALSE(bench.state.console.lastFired) << "a button of the cards before";
     EXPECT_EQ(forms.calls, (QStringList{u"show frmGENERAL TT Old "_s, u"close frmGENERAL EN Old "_s, u"cards"_s,
                                         u"show frmGENERAL EN New hello"_s}));
     EXPECT_EQ(form.at(u"lblFKEYTITLE"_s, 0).text(), u"New key");
@@ -101,12 +101,12 @@ TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
 
     forms.open.clear();
     forms.calls.clear();
-    bench.state.lastFiredButton = 3;
+    bench.state.console.lastFired = {1, 3};
     form.at(u"cmbLANG"_s).setPosition(2);
     EXPECT_EQ(forms.calls, QStringList{u"cards"_s}) << "an editor that was closed stays closed";
     EXPECT_EQ(variable(u"@LANGUAGE"), u"XX");
     EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"New") << "without a folder the cards stay";
-    EXPECT_EQ(bench.state.lastFiredButton, 3);
+    EXPECT_TRUE(bench.state.console.lastFired);
     EXPECT_EQ(bench.operatorDesk.shown.size(), 2) << "card table and start card are missing";
 }
 
@@ -115,25 +115,22 @@ TEST_F(OperatorCommandsTest, ChoosingTheLanguageAgainReadsTheCardsAgain) {
     commands.chooseAgain(form.at(u"cmbLANG"_s));
     EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"Old");
     bench.write(u"QRD_TT/CARDS.TXT"_s, cardTable("Edited"));
-    // A timed card waits below: what the operator has chosen is told as his own.
-    bench.state.unattendedRuns = 1;
     bench.write(u"QRD_TT/GetGame.csp"_s, "SETVAR~@GREETING;again\n");
     commands.chooseAgain(form.at(u"cmbLANG"_s));
     EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"Edited");
     EXPECT_EQ(variable(u"@GREETING"), u"again");
-    EXPECT_EQ(bench.state.unattendedRuns, 1);
 }
 
 TEST_F(OperatorCommandsTest, GeneralVarsOpensWhatWasSavedAndKeepsAnOpenEditor) {
     bench.state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
-    commands.mnGeneralVars();
+    commands.mnGeneralVars({});
     EXPECT_EQ(variable(u"@GREETING"), u"") << "opening does not apply";
     EXPECT_EQ(forms.calls, QStringList{u"front frmGENERAL EN  "_s});
     general.grid().setValue(0, u"edited"_s);
-    commands.mnGeneralVars();
+    commands.mnGeneralVars({});
     EXPECT_EQ(general.grid().cell(0).value(), u"edited");
     forms.open.clear();
-    commands.mnGeneralVars();
+    commands.mnGeneralVars({});
     EXPECT_EQ(general.grid().cell(0).value(), u"hello");
 }
 

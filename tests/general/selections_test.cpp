@@ -34,7 +34,7 @@ struct Desk : EngineBench {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
     }
 
-    Selections selections{engine, trap};
+    Selections selections{engine};
 };
 
 TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {

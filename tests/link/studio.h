@@ -43,7 +43,7 @@ class Server : public QTcpServer {
 struct Studio {
     explicit Studio(bool withModules = true) {
         if (withModules) QDir(folder.path()).mkdir(QStringLiteral("MODULES"));
-        trap.setReporter([this](const ErrorPlace&, const QString& message) { told += message; });
+        program.trap.setReporter([this](const ErrorPlace&, const QString& message) { told += message; });
     }
     bool isIn(LinkId id, int state) const {
         return waitUntil([&] { return links.state(id) == state; });
@@ -62,9 +62,9 @@ struct Studio {
     FormModel form;
     StudioClock clock;
     QStringList told;
-    ErrorTrap trap{folder.filePath(QStringLiteral("errors.log"))};
-    GraphicsLinks links{form, clock, trap, AppFolder(folder.path()), TextFiles()};
-    LinkConsole console{form, links, clock, trap, [](const QString& text) { return text; }};
+    Program program{AppFolder(folder.path()), {}, ErrorTrap(folder.filePath(QStringLiteral("errors.log")))};
+    GraphicsLinks links{form, clock, program};
+    LinkConsole console{form, links, clock, program.trap, [](const QString& text) { return text; }};
 };
 
 }  // namespace zelvor::test

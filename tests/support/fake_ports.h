@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 #include <functional>
 
-#include "base/error_trap.h"
 #include "engine/card_engine.h"
 #include "engine/packs.h"
 
@@ -14,25 +13,29 @@ namespace zelvor::test {
 // An operator who answers from lists and remembers what was shown.
 class FakeOperator : public Operator {
  public:
-    void message(const QString& title, const QString& text, Severity) override { shown += title + u'|' + text; }
-    bool yesNo(const QString& title, const QString& text) override {
+    void message(const Asker& asker, const QString& title, const QString& text, Severity) override {
+        shown += title + u'|' + text;
+        askers.push_back(asker);
+    }
+    bool yesNo(const Asker&, const QString& title, const QString& text) override {
         shown += title + u'|' + text;
         if (whileAsked) whileAsked();
         return answerYes;
     }
-    std::optional<QString> input(const QString& title, const QString& prompt, const QString&) override {
+    std::optional<QString> input(const Asker&, const QString& title, const QString& prompt, const QString&) override {
         shown += title + u'|' + prompt;
         if (answers.isEmpty()) throw RunTimeError(ErrorNumber::InputPastEndOfFile);
         return answers.takeFirst();
     }
 
     QStringList shown;
+    std::vector<Asker> askers;  // of the messages
     QStringList answers;
     bool answerYes = true;
     std::function<void()> whileAsked;
 };
 
-class FakeGraphics : public Graphics {
+class FakeGraphics : public Graphics, public GraphicsNotes {
  public:
     void sendLine(LinkId link, const QString& command) override {
         sent += (link == LinkId::Main ? u'm' : u'r') + command;
@@ -80,11 +83,11 @@ class FakeClock : public Clock {
 
 class FakeDatabase : public Database {
  public:
-    int RUN_QUERY(const QString& sql) override {
+    int RUN_QUERY(const Asker&, const QString& sql) override {
         statements += sql;
         return 0;
     }
-    int RUN_QUERY2(const QString& sql) override { return RUN_QUERY(sql); }
+    int RUN_QUERY2(const Asker& asker, const QString& sql) override { return RUN_QUERY(asker, sql); }
     void execute(const QString& sql) override { statements += sql; }
     NamedRows readGreek(const QString& sql) override {
         statements += sql;
@@ -97,19 +100,22 @@ class FakeDatabase : public Database {
 class FakeDesktop : public Desktop {
  public:
     void open(const QString&) override {}
-    void loadForm(const QString&) override {}
+    void loadForm(const Asker&, const QString&) override {}
 };
 
 class FakeAskDialog : public AskDialog {
  public:
-    void show() override {}
+    void show(const Asker&) override {}
 };
 
 // An engine over a temporary application folder with one pack, "TT", and everything around it faked.
 class EngineBench {
  public:
     EngineBench() {
-        trap.setReporter([this](const ErrorPlace&, const QString& message) { operatorDesk.shown += message; });
+        trap.setReporter([this](const ErrorPlace& place, const QString& message) {
+            operatorDesk.shown += message;
+            operatorDesk.askers.push_back(place.asker);
+        });
         QDir(folderOnDisk.path()).mkpath(QStringLiteral("MODULES/QRD_TT"));
         state.variables.SetVar(u"@LANGUAGE", QStringLiteral("TT"));
     }
@@ -121,13 +127,14 @@ class EngineBench {
     }
     CardEngine::Outcome run(const QByteArray& script) {
         write(QStringLiteral("QRD_TT/card.csp"), script);
-        return engine.SHOW_TVCARD(QStringLiteral("card.qrd"), false, false);
+        return engine.SHOW_TVCARD(QStringLiteral("card.qrd"), false, false, {});
     }
 
     QTemporaryDir folderOnDisk;
-    AppFolder folder{folderOnDisk.path()};
-    TextFiles files;
-    ErrorTrap trap{folderOnDisk.filePath(QStringLiteral("errors.log"))};
+    Program program{AppFolder(folderOnDisk.path()), {}, ErrorTrap(folderOnDisk.filePath(QStringLiteral("errors.log")))};
+    AppFolder& folder = program.folder;
+    TextFiles& files = program.files;
+    ErrorTrap& trap = program.trap;
     ShowState state;
     FormModel form;
     FakeOperator operatorDesk;
@@ -136,9 +143,9 @@ class EngineBench {
     FakeDatabase database;
     FakeDesktop desktop;
     FakeAskDialog askDialog;
-    Packs packs{state, form, folder, files, trap, operatorDesk};
-    CardEngine engine{state, form, folder,
-                      files, trap, Ports{operatorDesk, askDialog, graphics, database, desktop, clock}};
+    Packs packs{state, form, program, operatorDesk};
+    CardEngine engine{state, form, program,
+                      Ports{operatorDesk, askDialog, graphics, graphics, database, desktop, clock}};
 };
 
 }  // namespace zelvor::test

@@ -12,34 +12,31 @@ namespace zelvor {
 
 CardsApp::CardsApp(const Options& options)
     : feedPort_(options.feedPort),
-      folder_(options.appFolder),
-      files_(options.files),
-      trap_(options.errorLog),
-      database_(state_, boxes_, folder_, files_, trap_, {options.commandLine, std::nullopt},
-                [this] { window_.close(); }),
-      linkConsole_(form_, links_, clock_, trap_,
+      program_{AppFolder(options.appFolder), options.files, ErrorTrap(options.errorLog)},
+      database_(state_, boxes_, program_, {options.commandLine, std::nullopt}),
+      linkConsole_(form_, links_, clock_, program_.trap,
                    [this](const QString& text) { return EXPAND_VARS(text, state_.variables, state_.QUERY_RESULT); }),
-      startUp_(engine_, cards_, trap_, steps()) {
+      startUp_(engine_, cards_, steps()) {
     state_.preview = isPreview(options.commandLine);
     boxes_.setWindow(window_);
     ask_.setWindow(window_);
-    trap_.setReporter([this](const ErrorPlace&, const QString& message) { tell(message); });
+    program_.trap.setReporter([this](const ErrorPlace& place, const QString& message) { tell(place, message); });
     cards_.answer(events_);
     answerLinks();
     settings_.answer(events_, desktop_);
-    desktop_.addForm(u"frmMAIN"_s, [this] {
+    desktop_.addForm(u"frmMAIN"_s, [this](const Asker& asker) {
         window_.show();
         window_.raise();
-        if (state_.unattendedRuns == 0) window_.activateWindow();
+        if (asker.isAttended()) window_.activateWindow();
     });
     answerDesk();
     form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
-    connect(&window_, &MainWindow::functionKey, this, [this](int number) {
-        const QScopedValueRollback attended(state_.unattendedRuns, 0);
-        cards_.functionKey(number);
-    });
+    connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
-    connect(&window_, &MainWindow::closed, this, &CardsApp::close);
+    // The last lines are handed over before boxes end and runs that wait are told so.
+    connect(&program_.closing, &Closing::begun, this, &CardsApp::release);
+    connect(&program_.closing, &Closing::begun, &window_, &QWidget::close);
+    connect(&window_, &MainWindow::closed, &program_.closing, &Closing::begin);
 }
 
 void CardsApp::answerLinks() {
@@ -81,7 +78,7 @@ StartUp::Steps CardsApp::steps() {
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
     steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
-    steps.LOAD_ASK = [this] { LOAD_ASK(state_, folder_, files_, trap_); };
+    steps.LOAD_ASK = [this] { LOAD_ASK(state_, program_); };
     steps.LoadSelections = [this] { settings_.LoadSelections(); };
     steps.showGeneral = [this] { settings_.showGeneral(); };
     steps.startTimedCards = [this] { desk_.timedCards.start(); };
@@ -94,10 +91,10 @@ void CardsApp::start() {
 }
 
 // One message at a time: while it is open further errors stand in the log alone.
-void CardsApp::tell(const QString& message) {
+void CardsApp::tell(const ErrorPlace& place, const QString& message) {
     if (telling_) return;
     const QScopedValueRollback telling(telling_, true);
-    boxes_.message({}, message, Operator::Severity::Critical);
+    boxes_.message(place.asker, {}, message, Operator::Severity::Critical);
 }
 
 void CardsApp::connectDatabase() {
@@ -109,12 +106,9 @@ void CardsApp::connectDatabase() {
     form_.at(u"lblDATABASE"_s).setText(words);
 }
 
-void CardsApp::close() {
-    state_.closing = true;
+void CardsApp::release() {
     links_.finishSending();
     database_.close();
-    settings_.close();
-    boxes_.closeAll();
 }
 
 }  // namespace zelvor

@@ -3,9 +3,7 @@
 #include "app_cards/settings_desk.h"
 #include "app_cards/system_desktop.h"
 #include "ask_dialog/ask_form.h"
-#include "base/app_folder.h"
-#include "base/error_trap.h"
-#include "base/text_file.h"
+#include "base/program.h"
 #include "console/boxes.h"
 #include "console/main_window.h"
 #include "console_rules/card_console.h"
@@ -41,6 +39,7 @@ class CardsApp : public QObject {
 
     MainWindow& window() { return window_; }
     ShowState& state() { return state_; }
+    Program& program() { return program_; }
     FormModel& form() { return form_; }
     Boxes& boxes() { return boxes_; }
     GraphicsLinks& links() { return links_; }
@@ -51,30 +50,28 @@ class CardsApp : public QObject {
     StartUp::Steps steps();
     void answerLinks();
     void answerDesk();
-    void tell(const QString& message);
+    void tell(const ErrorPlace& place, const QString& message);
     void connectDatabase();
-    void close();
+    void release();
 
     quint16 feedPort_;
     ShowState state_;
     FormModel form_;
-    AppFolder folder_;
-    TextFiles files_;
-    ErrorTrap trap_;
-    SystemClock clock_{state_};
-    Boxes boxes_{state_};
-    GraphicsLinks links_{form_, clock_, trap_, folder_, files_};
+    Program program_;
+    SystemClock clock_{program_.closing};
+    Boxes boxes_{program_.closing};
+    GraphicsLinks links_{form_, clock_, program_};
     Connections database_;
-    AskFormDialog ask_{state_, database_, trap_};
-    SystemDesktop desktop_{folder_};
-    CardEngine engine_{state_, form_, folder_, files_, trap_, {boxes_, ask_, links_, database_, desktop_, clock_}};
-    Packs packs_{state_, form_, folder_, files_, trap_, boxes_};
-    FormEvents events_{state_, trap_};
+    AskFormDialog ask_{state_, database_, program_};
+    SystemDesktop desktop_{program_.folder};
+    CardEngine engine_{state_, form_, program_, {boxes_, ask_, links_, links_, database_, desktop_, clock_}};
+    Packs packs_{state_, form_, program_, boxes_};
+    FormEvents events_{program_.trap};
     CardConsole cards_{engine_};
-    GameDesk desk_{engine_, trap_};
+    GameDesk desk_{engine_};
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
-    SettingsDesk settings_{engine_, packs_, cards_, boxes_, trap_, window_};
+    SettingsDesk settings_{engine_, packs_, cards_, boxes_, window_};
     StartUp startUp_;
     bool telling_ = false;
 };

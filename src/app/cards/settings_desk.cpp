@@ -1,23 +1,21 @@
 #include "app_cards/settings_desk.h"
 
 #include <QCursor>
-#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, ErrorTrap& trap,
-                           MainWindow& window)
+SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, MainWindow& window)
     : cards_(cards),
       window_(window),
-      state_(engine.state()),
       form_(engine.form()),
-      general_(state_, engine.folder(), engine.files(), trap, boxes),
-      generalForm_(general_, boxes, pickers_, state_),
-      forms_(window),
-      commands_(engine, packs, general_, forms_, trap),
-      selections_(engine, trap),
+      general_(engine.state(), engine.program(), boxes),
+      pickers_(engine.program().closing),
+      generalForm_(general_, boxes, pickers_),
+      forms_(window, engine.program().closing),
+      commands_(engine, packs, general_, forms_),
+      selections_(engine),
       menu_(engine.form(), &window) {
     forms_.add(generalForm_);
     forms_.add(variablesBox_);
@@ -32,18 +30,16 @@ void SettingsDesk::answer(FormEvents& events, SystemDesktop& desktop) {
     events.onClick(u"cmdMenu"_s, [this](int) { menu_.popup(QCursor::pos()); });
     for (const QString& list : {u"cmbFADE"_s, u"cbQt"_s, u"cmbLANG"_s})
         events.onClick(list, [this, list](int index) { commands_.chooseAgain(form_.at(list, index)); });
-    desktop.addForm(generalForm_.objectName(), [this] { commands_.mnGeneralVars(); });
+    desktop.addForm(generalForm_.objectName(), [this](const Asker& asker) { commands_.mnGeneralVars(asker); });
 }
 
 void SettingsDesk::choose(const QString& item) {
-    // What the operator chooses is told as his own, also while a timed card waits below it.
-    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     if (item == u"mnReloadVar") commands_.mnReloadVar();
     if (item == u"mnDisplayVars") {
         variablesBox_.setText(commands_.mnDisplayVars());
         forms_.bringToFront(variablesBox_.objectName());
     }
-    if (item == u"mnGeneralVars") commands_.mnGeneralVars();
+    if (item == u"mnGeneralVars") commands_.mnGeneralVars({});
     if (item == u"mnSet169") commands_.mnSet169();
     if (item == u"mnSet43") commands_.mnSet43();
 }
@@ -51,11 +47,6 @@ void SettingsDesk::choose(const QString& item) {
 void SettingsDesk::showGeneral() {
     commands_.showGeneral();
     window_.activateWindow();
-}
-
-void SettingsDesk::close() {
-    pickers_.cancel();
-    forms_.closeAll();
 }
 
 }  // namespace zelvor

@@ -20,8 +20,7 @@ class SettingsDesk : public QObject {
 
  public:
     // All must outlive the desk. window: the console's.
-    SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, ErrorTrap& trap,
-                 MainWindow& window);
+    SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, MainWindow& window);
 
     // Takes the clicks of its controls, and the forms that cards may show.
     void answer(FormEvents& events, SystemDesktop& desktop);
@@ -29,8 +28,6 @@ class SettingsDesk : public QObject {
     void LoadSelections() { selections_.LoadSelections(); }
     // Opens the general variables and gives the keys back to the console.
     void showGeneral();
-    // Closes every form and question without asking anything.
-    void close();
 
     Pickers& pickers() { return pickers_; }
 
@@ -39,7 +36,6 @@ class SettingsDesk : public QObject {
 
     CardConsole& cards_;
     MainWindow& window_;
-    ShowState& state_;
     FormModel& form_;
     GeneralVariables general_;
     Pickers pickers_;

@@ -13,10 +13,10 @@ void SystemDesktop::open(const QString& target) {
     if (!QDesktopServices::openUrl(url)) throw RunTimeError(ErrorNumber::FileNotFound, target);
 }
 
-void SystemDesktop::loadForm(const QString& name) {
+void SystemDesktop::loadForm(const Asker& asker, const QString& name) {
     const auto form = forms_.find(name);
     if (form == forms_.end()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, name);
-    form->second();
+    form->second(asker);
 }
 
 }  // namespace zelvor

@@ -15,13 +15,14 @@ class SystemDesktop : public Desktop {
     explicit SystemDesktop(const AppFolder& folder) : folder_(folder) {}
 
     void open(const QString& target) override;
-    void loadForm(const QString& name) override;
+    void loadForm(const Asker& asker, const QString& name) override;
 
-    void addForm(const QString& name, std::function<void()> show) { forms_[name] = std::move(show); }
+    using Show = std::function<void(const Asker& asker)>;
+    void addForm(const QString& name, Show show) { forms_[name] = std::move(show); }
 
  private:
     const AppFolder& folder_;
-    std::map<QString, std::function<void()>> forms_;
+    std::map<QString, Show> forms_;
 };
 
 }  // namespace zelvor

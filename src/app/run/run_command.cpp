@@ -26,21 +26,19 @@ class TerminalRun {
  public:
     TerminalRun(const RunOptions& options, QTextStream& out, QTextStream& err)
         : options_(options), out_(out), err_(err), operator_(err, options.yes), desktop_(out) {
-        trap_.setReporter([this](const ErrorPlace&, const QString& message) {
+        program_.trap.setReporter([this](const ErrorPlace& place, const QString& message) {
             // Who has just been told that the program ends needs no second message.
-            if (!state_.closing) operator_.message({}, message, Operator::Severity::Critical);
+            if (!program_.closing.hasBegun()) operator_.message(place.asker, {}, message, Operator::Severity::Critical);
         });
         state_.preview = options.preview;
     }
 
     RunStatus run() {
-        writeAllDefaults(state_, form_, folder_);
+        writeAllDefaults(state_, form_, program_.folder);
         if (!choosePack()) return RunStatus::NoScript;
-        if (folder_.exists(folder_.packFile(state_.language(), u"CARDS.TXT"))) packs_.LOAD_CARDS();
-        if (folder_.exists(folder_.packFile(state_.language(), u"ASKFIELDS.TXT"))) {
-            LOAD_ASK(state_, folder_, options_.files, trap_);
-        }
-        GeneralVariables general(state_, folder_, options_.files, trap_, operator_);
+        if (packHas(u"CARDS.TXT")) packs_.LOAD_CARDS();
+        if (packHas(u"ASKFIELDS.TXT")) LOAD_ASK(state_, program_);
+        GeneralVariables general(state_, program_, operator_);
         general.load();
         general.apply();
         for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
@@ -49,7 +47,8 @@ class TerminalRun {
         QObject::connect(&form_, &FormModel::changed, &form_, [this](Control* control, Control::Property property) {
             printFormChange(out_, *control, property);
         });
-        const CardEngine::Outcome outcome = engine_.SHOW_TVCARD(options_.card, options_.autoRun, options_.keepStates);
+        const CardEngine::Outcome outcome = engine_.SHOW_TVCARD(options_.card, options_.autoRun, options_.keepStates,
+                                                                {Asker::Kind::Operator, options_.card});
         graphics_.finishSending(clock_);
         if (options_.printVariables) printVariables();
         if (database_.connectionState() == Connections::State::Failed) return RunStatus::NotReached;
@@ -67,10 +66,15 @@ class TerminalRun {
     }
 
  private:
+    [[nodiscard]] bool packHas(QStringView file) const {
+        return program_.folder.exists(program_.folder.packFile(state_.language(), file));
+    }
+
     bool choosePack() {
         QString language = options_.language;
         if (language.isEmpty()) {
-            trap_.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator, [&] { language = packs_.firstPack(); });
+            program_.trap.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator,
+                              [&] { language = packs_.firstPack(); });
         }
         if (language.isEmpty()) {
             err_ << "zelvor run: no pack to run the card from; name one with --language\n";
@@ -91,26 +95,21 @@ class TerminalRun {
     const RunOptions& options_;
     QTextStream& out_;
     QTextStream& err_;
-    AppFolder folder_{options_.appFolder};
-    ErrorTrap trap_{errorLogPath(QCoreApplication::applicationFilePath(), folder_.path())};
+    Program program_{
+        AppFolder(options_.appFolder), options_.files,
+        ErrorTrap(errorLogPath(QCoreApplication::applicationFilePath(), AppFolder(options_.appFolder).path()))};
     ShowState state_;
     FormModel form_;
-    SystemClock clock_{state_};
+    SystemClock clock_{program_.closing};
     TerminalOperator operator_;
     TerminalDesktop desktop_;
-    Connections database_{state_,
-                          operator_,
-                          folder_,
-                          options_.files,
-                          trap_,
-                          {{}, options_.connection},
-                          [this] { state_.closing = true; }};
-    ScriptedAsk askDialog_{state_, database_, trap_, options_.answers};
-    GraphicsLinks links_{form_, clock_, trap_, folder_, options_.files};
+    Connections database_{state_, operator_, program_, {{}, options_.connection}};
+    ScriptedAsk askDialog_{state_, database_, program_.trap, options_.answers};
+    GraphicsLinks links_{form_, clock_, program_};
     RunGraphics graphics_{links_, options_, out_};
-    Packs packs_{state_, form_, folder_, options_.files, trap_, operator_};
-    CardEngine engine_{state_,         form_, folder_,
-                       options_.files, trap_, Ports{operator_, askDialog_, graphics_, database_, desktop_, clock_}};
+    Packs packs_{state_, form_, program_, operator_};
+    CardEngine engine_{state_, form_, program_,
+                       Ports{operator_, askDialog_, graphics_, graphics_, database_, desktop_, clock_}};
 };
 
 }  // namespace

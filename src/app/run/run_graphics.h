@@ -9,7 +9,7 @@ namespace zelvor {
 
 // The links of a terminal run: a link whose server is named is real, any other counts as connected and its lines are
 // only printed.
-class RunGraphics : public Graphics {
+class RunGraphics : public Graphics, public GraphicsNotes {
  public:
     RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextStream& out);
 

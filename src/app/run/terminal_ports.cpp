@@ -47,16 +47,17 @@ ShownProperty shownProperty(const Control& control, Control::Property property) 
 
 }  // namespace
 
-void TerminalOperator::message(const QString& title, const QString& text, Severity) {
+void TerminalOperator::message(const Asker&, const QString& title, const QString& text, Severity) {
     print(title, text, {});
 }
 
-bool TerminalOperator::yesNo(const QString& title, const QString& text) {
+bool TerminalOperator::yesNo(const Asker&, const QString& title, const QString& text) {
     print(title, text, yes_ ? u"Yes"_s : u"No"_s);
     return yes_;
 }
 
-std::optional<QString> TerminalOperator::input(const QString& title, const QString& prompt, const QString& proposed) {
+std::optional<QString> TerminalOperator::input(const Asker&, const QString& title, const QString& prompt,
+                                               const QString& proposed) {
     print(title, prompt, proposed);
     return proposed;
 }
@@ -73,7 +74,7 @@ void TerminalDesktop::open(const QString& target) {
     out_.flush();
 }
 
-void TerminalDesktop::loadForm(const QString& name) {
+void TerminalDesktop::loadForm(const Asker&, const QString& name) {
     out_ << "console > LOADFORM " << name << '\n';
     out_.flush();
 }

@@ -16,9 +16,10 @@ class TerminalOperator : public Operator {
  public:
     TerminalOperator(QTextStream& err, bool yes) : err_(err), yes_(yes) {}
 
-    void message(const QString& title, const QString& text, Severity severity) override;
-    bool yesNo(const QString& title, const QString& text) override;
-    std::optional<QString> input(const QString& title, const QString& prompt, const QString& proposed) override;
+    void message(const Asker& asker, const QString& title, const QString& text, Severity severity) override;
+    bool yesNo(const Asker& asker, const QString& title, const QString& text) override;
+    std::optional<QString> input(const Asker& asker, const QString& title, const QString& prompt,
+                                 const QString& proposed) override;
 
  private:
     void print(const QString& title, const QString& text, const QString& answer);
@@ -32,7 +33,7 @@ class TerminalDesktop : public Desktop {
     explicit TerminalDesktop(QTextStream& out) : out_(out) {}
 
     void open(const QString& target) override;
-    void loadForm(const QString& name) override;
+    void loadForm(const Asker& asker, const QString& name) override;
 
  private:
     QTextStream& out_;

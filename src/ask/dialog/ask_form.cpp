@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -17,8 +16,7 @@ namespace zelvor {
 namespace {
 
 constexpr int kRowsShown = 20;
-constexpr int kWidth = 460;        // pixels
-constexpr int kClosingCheck = 50;  // milliseconds
+constexpr int kWidth = 460;  // pixels
 
 QString countText(size_t rows) {
     return rows == 1 ? u"1 row"_s : u"%1 rows"_s.arg(rows);
@@ -26,12 +24,12 @@ QString countText(size_t rows) {
 
 }  // namespace
 
-AskForm::AskForm(PickList& list, const ShowState& state, QWidget* parent)
-    : QDialog(parent), list_(list), unattended_(state.unattendedRuns > 0) {
+AskForm::AskForm(PickList& list, bool attended, const Closing& closing, QWidget* parent)
+    : QDialog(parent), list_(list), attended_(attended) {
     setObjectName(u"frmASK"_s);
     setWindowTitle(list.title());
-    setModal(!unattended_);
-    setAttribute(Qt::WA_ShowWithoutActivating, unattended_);
+    setModal(attended_);
+    setAttribute(Qt::WA_ShowWithoutActivating, !attended_);
 
     auto* header = new QLabel(countText(list.rows().size()), this);
     header->setObjectName(u"lblASKCOUNT"_s);
@@ -47,11 +45,7 @@ AskForm::AskForm(PickList& list, const ShowState& state, QWidget* parent)
 
     connect(view, &PickListView::chosen, this, &AskForm::choose);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* closingCheck = new QTimer(this);
-    connect(closingCheck, &QTimer::timeout, this, [this, &state] {
-        if (state.closing) reject();
-    });
-    closingCheck->start(kClosingCheck);
+    connect(&closing, &Closing::begun, this, &QDialog::reject);
 
     view->setFocus();
     const int listHeight = view->heightForRows(kRowsShown);
@@ -68,13 +62,13 @@ void AskForm::choose(int row) {
 }
 
 void AskForm::answer() {
-    if (unattended_) {
+    if (attended_) {
+        exec();
+    } else {
         QEventLoop closed;
         connect(this, &QDialog::finished, &closed, &QEventLoop::quit);
         QDialog::show();
         closed.exec();
-    } else {
-        exec();
     }
     if (result() == QDialog::Accepted) {
         list_.choose(chosenRow_);
@@ -83,13 +77,13 @@ void AskForm::answer() {
     }
 }
 
-void AskFormDialog::show() {
-    PickList list(state_, database_, trap_);
-    if (state_.closing) {
+void AskFormDialog::show(const Asker& asker) {
+    PickList list(state_, database_, program_.trap, asker);
+    if (program_.closing.hasBegun()) {
         list.cancel();
         return;
     }
-    AskForm(list, state_, window_).answer();
+    AskForm(list, asker.isAttended(), program_.closing, window_).answer();
 }
 
 }  // namespace zelvor

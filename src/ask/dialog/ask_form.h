@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include "ask/pick_list.h"
+#include "base/program.h"
 
 namespace zelvor {
 
@@ -12,8 +13,8 @@ class AskForm : public QDialog {
     Q_OBJECT
 
  public:
-    // list: outlives this form.
-    AskForm(PickList& list, const ShowState& state, QWidget* parent);
+    // list: outlives this form. attended: whether the form may take the keyboard.
+    AskForm(PickList& list, bool attended, const Closing& closing, QWidget* parent);
 
     // Shows the form until it is closed and only then answers the list: a timed card that runs in the same moment
     // would overwrite an answer given earlier.
@@ -23,25 +24,25 @@ class AskForm : public QDialog {
     void choose(int row);
 
     PickList& list_;
-    bool unattended_;  // a timer or the feed fired the card: the keyboard stays where it is
+    bool attended_;
     int chosenRow_ = -1;
 };
 
 // Shows an AskForm, centred on the console, for each pick list.
 class AskFormDialog : public AskDialog {
  public:
-    AskFormDialog(ShowState& state, Database& database, ErrorTrap& trap)
-        : state_(state), database_(database), trap_(trap) {}
+    AskFormDialog(ShowState& state, Database& database, Program& program)
+        : state_(state), database_(database), program_(program) {}
 
     // The console's window; without one the list is centred on the screen.
     void setWindow(QWidget& window) { window_ = &window; }
 
-    void show() override;
+    void show(const Asker& asker) override;
 
  private:
     ShowState& state_;
     Database& database_;
-    ErrorTrap& trap_;
+    Program& program_;
     QWidget* window_ = nullptr;
 };
 

@@ -42,7 +42,7 @@ void CardConsole::answer(FormEvents& events) {
 }
 
 void CardConsole::pressCard(int index) {
-    fire(index, state_.playerSelected);
+    fire(index, state_.console.playerSelected);
 }
 
 void CardConsole::pressCardBox(int index) {
@@ -55,16 +55,15 @@ void CardConsole::fire(int index, bool tagged) {
     state_.variables.SetVar(u"@CARD_BUTTON_INDEX", index);
     // The set and the script are taken now: a card that waits must not make this one fire from another set.
     const QString script = state_.cards.entry(state_.currentSet, index + 1).script;
-    lastFiredSet_ = state_.currentSet;
-    state_.lastFiredButton = index;
+    state_.console.lastFired = {state_.currentSet, index};
     Q_EMIT cardsChanged();
     run(script, tagged);
     engine_.ports().clock.turnEvents(1);
 }
 
 void CardConsole::run(const QString& script, bool tagged) {
-    engine_.SHOW_TVCARD(script, tagged, false);
-    if (state_.closing) return;
+    engine_.SHOW_TVCARD(script, tagged, false, {Asker::Kind::Operator, script});
+    if (engine_.program().closing.hasBegun()) return;
     showSwitches();
     Q_EMIT cardsChanged();
 }
@@ -78,17 +77,16 @@ void CardConsole::selectBox(int selector) {
 
 void CardConsole::CLEAR_TV() {
     run(state_.cards.clearCard);
-    if (state_.closing) return;
+    if (engine_.program().closing.hasBegun()) return;
     showClear(form_);
     form_.at(u"GradientButtonAIR"_s).setText(u"CLEAR"_s);
-    if (state_.lastFiredButton >= 0) {
-        state_.cards.entry(lastFiredSet_, state_.lastFiredButton + 1).on = false;
-        if (lastFiredSet_ == state_.currentSet) {
-            Control& button = form_.at(u"cmbCARD"_s, state_.lastFiredButton);
+    if (const auto fired = std::exchange(state_.console.lastFired, std::nullopt)) {
+        state_.cards.entry(fired->set, fired->index + 1).on = false;
+        if (fired->set == state_.currentSet) {
+            Control& button = form_.at(u"cmbCARD"_s, fired->index);
             button.setState(u"OFF"_s);
             button.setBackColour(std::nullopt);
         }
-        state_.lastFiredButton = -1;
     }
     Q_EMIT cardsChanged();
 }
@@ -113,7 +111,7 @@ void CardConsole::clearTag() {
             label->setBackColour(std::nullopt);
         }
     }
-    state_.playerSelected = false;
+    state_.console.playerSelected = false;
 }
 
 void CardConsole::SHOW_AUTO_CARD() {
@@ -139,7 +137,7 @@ void CardConsole::showSwitches() {
 }
 
 bool CardConsole::isLastFired(int index) const {
-    return state_.lastFiredButton == index && lastFiredSet_ == state_.currentSet;
+    return state_.console.lastFired == ConsoleMemory::CardButton{state_.currentSet, index};
 }
 
 const CardEntry& CardConsole::card(int index) const {

@@ -65,7 +65,6 @@ class CardConsole : public QObject {
     FormModel& form_;
     QTimer switchTimer_{this};
     QString shownLanguage_;
-    int lastFiredSet_ = 0;
 };
 
 }  // namespace zelvor

@@ -1,7 +1,5 @@
 #include "console_rules/form_events.h"
 
-#include <QScopedValueRollback>
-
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -22,8 +20,6 @@ template <class Body>
 void FormEvents::run(const Control& control, const QString& event, Tell tell, Body&& body) const {
     ErrorPlace place;
     place.procedure = u"frmMAIN."_s + control.name() + event;
-    // What the operator fires is told as the operator's own, also while a timed card waits below it.
-    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     trap_.run(place, tell, std::forward<Body>(body));
 }
 

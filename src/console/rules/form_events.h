@@ -5,7 +5,6 @@
 #include <map>
 
 #include "base/error_trap.h"
-#include "engine/show_state.h"
 #include "form/control.h"
 
 namespace zelvor {
@@ -18,7 +17,7 @@ class FormEvents {
     using Click = std::function<void(int index)>;
     using MouseDown = std::function<void(int index, Qt::MouseButton button)>;
 
-    FormEvents(ShowState& state, ErrorTrap& trap) : state_(state), trap_(trap) {}
+    explicit FormEvents(ErrorTrap& trap) : trap_(trap) {}
 
     // One handler a control name; a second one replaces the first.
     void onClick(const QString& name, Click handler, Tell tell = Tell::Operator);
@@ -40,7 +39,6 @@ class FormEvents {
     template <class Body>
     void run(const Control& control, const QString& event, Tell tell, Body&& body) const;
 
-    ShowState& state_;
     ErrorTrap& trap_;
     std::map<QString, Entry<Click>> clicks_;
     std::map<QString, Entry<MouseDown>> mouseDowns_;

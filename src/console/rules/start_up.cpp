@@ -22,13 +22,8 @@ QList<Control::Item> numbers(int last) {
 
 }  // namespace
 
-StartUp::StartUp(CardEngine& engine, CardConsole& console, ErrorTrap& trap, Steps steps)
-    : engine_(engine),
-      console_(console),
-      trap_(trap),
-      steps_(std::move(steps)),
-      state_(engine.state()),
-      form_(engine.form()) {}
+StartUp::StartUp(CardEngine& engine, CardConsole& console, Steps steps)
+    : engine_(engine), console_(console), steps_(std::move(steps)), state_(engine.state()), form_(engine.form()) {}
 
 QString StartUp::caption() const {
     const QString name = u"Zelvor Cards (" ZELVOR_VERSION ")"_s;
@@ -37,9 +32,10 @@ QString StartUp::caption() const {
 
 // False as soon as the program is closing: the sequence ends there.
 bool StartUp::step(const QString& name, const std::function<void()>& body) {
-    if (state_.closing) return false;
-    if (body) trap_.run({u"frmMAIN."_s + name}, ErrorTrap::Tell::Operator, body);
-    return !state_.closing;
+    Program& program = engine_.program();
+    if (program.closing.hasBegun()) return false;
+    if (body) program.trap.run({u"frmMAIN."_s + name, {}, 0, {Asker::Kind::StartUp}}, ErrorTrap::Tell::Operator, body);
+    return !program.closing.hasBegun();
 }
 
 void StartUp::layOut() {
@@ -73,7 +69,7 @@ void StartUp::showTeams() {
 void StartUp::run() {
     Clock& clock = engine_.ports().clock;
     step(u"Form_Load"_s, [&] {
-        writeAppPath(state_, engine_.folder());
+        writeAppPath(state_, engine_.program().folder);
         layOut();
     });
     if (!state_.preview) step(u"wsT"_s, steps_.bindFeed);
@@ -91,7 +87,10 @@ void StartUp::run() {
         fillEffects();
         console_.showLoaded();
     });
-    step(u"Form_Load"_s, [&] { engine_.SHOW_TVCARD(u"GetGame.csp"_s, false, false); });
+    step(u"Form_Load"_s, [&] {
+        const QString card = u"GetGame.csp"_s;
+        engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::StartUp, card});
+    });
     step(u"Form_Load"_s, [&] {
         showTeams();
         clock.turnEvents(1);

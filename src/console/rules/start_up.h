@@ -22,7 +22,7 @@ class StartUp {
         std::function<void()> startTimedCards;
     };
 
-    StartUp(CardEngine& engine, CardConsole& console, ErrorTrap& trap, Steps steps);
+    StartUp(CardEngine& engine, CardConsole& console, Steps steps);
 
     // The window's title: the program's name and version, "Preview " before it in the preview instance.
     [[nodiscard]] QString caption() const;
@@ -38,7 +38,6 @@ class StartUp {
 
     CardEngine& engine_;
     CardConsole& console_;
-    ErrorTrap& trap_;
     Steps steps_;
     ShowState& state_;
     FormModel& form_;

@@ -28,7 +28,7 @@ void ASKFIELD(CardRun& run, const Arguments& args) {
     ask.ASK_RESULT = u"0"_s;
     ask.ASK_FIELD = field;
     ask.ASK_CANCELLED = 0;
-    run.ports().askDialog.show();
+    run.ports().askDialog.show(run.asker());
     run.goOnUnlessClosing();
     if (ask.ASK_CANCELLED == AskState::kYes) {
         run.abandon();
@@ -52,15 +52,15 @@ void goOnWith(CardRun& run, int recordCount) {
 }
 
 void EXECSQL(CardRun& run, const Arguments&) {
-    goOnWith(run, run.ports().database.RUN_QUERY(run.expand(run.state().QUERY_TEXT)));
+    goOnWith(run, run.ports().database.RUN_QUERY(run.asker(), run.expand(run.state().QUERY_TEXT)));
 }
 
 void SQL(CardRun& run, const Arguments& args) {
-    goOnWith(run, run.ports().database.RUN_QUERY(args.text()));
+    goOnWith(run, run.ports().database.RUN_QUERY(run.asker(), args.text()));
 }
 
 void SQL2(CardRun& run, const Arguments& args) {
-    goOnWith(run, run.ports().database.RUN_QUERY2(args.text()));
+    goOnWith(run, run.ports().database.RUN_QUERY2(run.asker(), args.text()));
 }
 
 void SQLU(CardRun& run, const Arguments& args) {
@@ -76,7 +76,7 @@ void LOADFORM(CardRun& run, const Arguments& args) {
     const auto form =
         std::ranges::find_if(kForms, [&](QStringView known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
     if (form == kForms.end()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"form "_s + name);
-    run.ports().desktop.loadForm(form->toString());
+    run.ports().desktop.loadForm(run.asker(), form->toString());
 }
 
 using Argument = Command::Argument;

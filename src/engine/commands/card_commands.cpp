@@ -78,8 +78,9 @@ void DISABLEPREVIEW(CardRun& run, const Arguments& args) {
     if (saysYes(args)) run.state().switches.PreviewDisabled = true;
 }
 
-void AUTOFEED(CardRun& run, const Arguments& args) {
-    run.autoFeed = wholeNumber16(Val(args.text()));
+void AUTOFEED(CardRun&, const Arguments& args) {
+    // Nothing reads the number; one that does not fit is still the error that packs know.
+    wholeNumber16(Val(args.text()));
 }
 
 void EXECUTE(CardRun& run, const Arguments& args) {

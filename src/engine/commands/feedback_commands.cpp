@@ -88,7 +88,7 @@ bool isDue(const Pieces& proposal, const QString& onAir, const QString& tag) {
 }
 
 void fireProposal(CardRun& run, Control& label, QStringView id, const QString& card) {
-    run.engine().SHOW_TVCARD(card, true, true);
+    run.engine().SHOW_TVCARD(card, true, true, run.asker());
     run.goOnUnlessClosing();
     run.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id);
     label.setBackColour(colours::kUsedProposal);

@@ -57,26 +57,23 @@ void DELAY(CardRun& run, const Arguments& args) {
 }
 
 void BREAK(CardRun& run, const Arguments& args) {
-    const bool goOn = run.ports().operatorDesk.yesNo(u"Break"_s, args.text());
+    const bool goOn = run.ports().operatorDesk.yesNo(run.asker(), u"Break"_s, args.text());
     run.goOnUnlessClosing();
     if (!goOn) {
         run.abandon();
         return;
     }
-    SHOW_RTX(run.engine().folder());
+    SHOW_RTX(run.engine().program().folder);
     if (!onAirLocked(run.form())) SHOW_ONAIR(run.state(), run.form(), run.cardFile());
 }
 
 void LOOPPAGE(CardRun& run, const Arguments& args) {
     constexpr qint16 kYes = 6;
     constexpr qint16 kNo = 7;
-    const auto answer = [&run](qint16 value) {
-        run.state().LOOP_ANSWER = value;
-        run.variables().SetVar(u"@LOOP_ANSWER", value);
-    };
+    const auto answer = [&run](qint16 value) { run.variables().SetVar(u"@LOOP_ANSWER", value); };
     run.ports().clock.turnEvents(1);
     answer(kNo);
-    if (run.ports().operatorDesk.yesNo(u"Loop Run"_s, args.text())) answer(kYes);
+    if (run.ports().operatorDesk.yesNo(run.asker(), u"Loop Run"_s, args.text())) answer(kYes);
     run.ports().clock.turnEvents(1);
     run.goOnUnlessClosing();
 }

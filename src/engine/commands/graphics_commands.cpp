@@ -26,7 +26,7 @@ void CSPSENDREMOTE(CardRun& run, const Arguments& args) {
 }
 
 void WRITELOG(CardRun& run, const Arguments& args) {
-    if (run.ports().graphics.logging()) run.ports().graphics.writeLog(u"-CARDLOG-:"_s + args.text());
+    if (run.ports().notes.logging()) run.ports().notes.writeLog(u"-CARDLOG-:"_s + args.text());
 }
 
 using Argument = Command::Argument;

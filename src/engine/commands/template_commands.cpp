@@ -20,7 +20,7 @@ Field parseField(QChar type, const Arguments& args) {
 }
 
 void setField(CardRun& run, QStringView command, const Field& field) {
-    run.ports().graphics.appendHistory(u" > "_s + command + u'~' + field.key + u" = "_s + field.value);
+    run.ports().notes.appendHistory(u" > "_s + command + u'~' + field.key + u" = "_s + field.value);
     run.state().templateData.SetVar(field.key, field.value);
 }
 
@@ -43,8 +43,8 @@ void SIMAGEREMOTE(CardRun& run, const Arguments& args) {
 
 void CLEARDATA(CardRun& run, const Arguments&) {
     run.state().templateData.clear();
-    run.ports().graphics.clearHistory();
-    run.ports().graphics.appendHistory(u" > CLEAR-DATA"_s);
+    run.ports().notes.clearHistory();
+    run.ports().notes.appendHistory(u" > CLEAR-DATA"_s);
 }
 
 void CLEARDATAREMOTE(CardRun& run, const Arguments&) {
@@ -59,8 +59,8 @@ void MAKEXML(CardRun& run, const Arguments& args) {
     const QString variable = targetVariable(args, u"@CASPARXML"_s);
     const QString xml = makeXml(run.state().templateData);
     run.variables().SetVar(variable, xml);
-    run.ports().graphics.appendHistory(u" > MAKEXML~"_s + variable);
-    run.ports().graphics.showLastTemplate(xml);
+    run.ports().notes.appendHistory(u" > MAKEXML~"_s + variable);
+    run.ports().notes.showLastTemplate(xml);
 }
 
 void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {

@@ -18,7 +18,7 @@ QStringList readTable(CardRun& run, const QString& name) {
     QString path = name;
     path.replace(u"{@APP_PATH}"_s, run.variables().text(u"@APP_PATH"));
     path.replace(u"{@SCREEN_MODE}"_s, run.variables().text(u"@SCREEN_MODE"));
-    return run.engine().files().readLines(run.engine().folder().resolve(path));
+    return run.engine().program().files.readLines(run.engine().program().folder.resolve(path));
 }
 
 void storeFields(CardRun& run, const QString& prefix, const Pieces& fields) {
@@ -71,7 +71,7 @@ void LOADTXTLINE(CardRun& run, const Arguments& args) {
 }
 
 void OFILE(CardRun& run, const Arguments& args) {
-    run.files().open(run.engine().folder().resolve(args.rawPieces()[0].toString()));
+    run.files().open(run.engine().program().folder.resolve(args.rawPieces()[0].toString()));
 }
 void WFILE(CardRun& run, const Arguments& args) {
     run.files().writeLine(args.text());
@@ -88,7 +88,7 @@ void WFILE8(CardRun& run, const Arguments& args) {
     run.files().appendText(args.text());
 }
 void CFILE8(CardRun& run, const Arguments& args) {
-    run.files().saveText(run.engine().folder().resolve(args.rawPieces()[0].toString()));
+    run.files().saveText(run.engine().program().folder.resolve(args.rawPieces()[0].toString()));
 }
 
 using Argument = Command::Argument;

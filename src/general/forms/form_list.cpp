@@ -29,6 +29,7 @@ QPoint placeBeside(const QWidget& console, QSize content) {
 
 void FormList::add(QWidget& form) {
     form.setAttribute(Qt::WA_ShowWithoutActivating);
+    QObject::connect(&closing_, &Closing::begun, &form, &QWidget::hide);
     forms_.push_back(&form);
 }
 
@@ -66,10 +67,6 @@ void FormList::bringToFront(const QString& name) {
 void FormList::close(const QString& name) {
     // Hidden, not closed: closing would ask about what is not saved.
     if (QWidget* form = find(name)) form->hide();
-}
-
-void FormList::closeAll() {
-    for (QWidget* form : forms_) form->hide();
 }
 
 }  // namespace zelvor

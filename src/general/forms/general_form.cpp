@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -28,11 +27,10 @@ QString countOf(int rows, const QString& words) {
 
 }  // namespace
 
-GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, ShowState& state)
+GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers)
     : general_(general),
       operator_(operatorDesk),
       pickers_(pickers),
-      state_(state),
       search_(new QLineEdit),
       view_(new QTableView),
       help_(new QLabel),
@@ -105,8 +103,6 @@ QWidget* GeneralForm::buttonRow() {
         button->setObjectName(name);
         button->setToolTip(hint);
         connect(button, &QPushButton::clicked, this, [this, action] {
-            // What the operator does is told as his own, also while a timed card waits below it.
-            const QScopedValueRollback attended(state_.unattendedRuns, 0);
             endEditing();
             action();
         });
@@ -187,10 +183,10 @@ void GeneralForm::keyPressEvent(QKeyEvent* event) {
 }
 
 void GeneralForm::closeEvent(QCloseEvent* event) {
-    const QScopedValueRollback attended(state_.unattendedRuns, 0);
     endEditing();
-    const bool leave = !general_.grid().hasUnsaved() ||
-                       operator_.yesNo(windowTitle(), u"There are changes that are not saved. Close without them?"_s);
+    const bool leave =
+        !general_.grid().hasUnsaved() ||
+        operator_.yesNo({}, windowTitle(), u"There are changes that are not saved. Close without them?"_s);
     event->setAccepted(leave);
 }
 

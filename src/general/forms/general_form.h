@@ -21,7 +21,7 @@ class GeneralForm : public QWidget {
 
  public:
     // All must outlive the form.
-    GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers, ShowState& state);
+    GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pickers& pickers);
 
  protected:
     void closeEvent(QCloseEvent* event) override;
@@ -40,7 +40,6 @@ class GeneralForm : public QWidget {
     GeneralVariables& general_;
     Operator& operator_;
     Pickers& pickers_;
-    ShowState& state_;
     QSortFilterProxyModel shown_;
     ValueDelegate delegate_;
     QLineEdit* search_;

@@ -32,12 +32,8 @@ QString Pickers::ask(QFileDialog& dialog, const QString& from) {
     const bool known = !from.isEmpty() && start.exists();
     dialog.setDirectory(!known ? QDir::rootPath() : start.isDir() ? start.filePath() : start.path());
     if (known && start.isFile()) dialog.selectFile(start.fileName());
-    open_ = &dialog;
+    QObject::connect(&closing_, &Closing::begun, &dialog, &QDialog::reject);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
-
-void Pickers::cancel() {
-    if (open_) open_->reject();
 }
 
 }  // namespace zelvor
