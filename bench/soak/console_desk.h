@@ -29,7 +29,7 @@ class ConsoleDesk : public QObject {
 
     [[nodiscard]] CardsApp& app() const { return *app_; }
     [[nodiscard]] Control& at(const char* name, int index = -1) const {
-        return app_->form().at(QString::fromLatin1(name), index);
+        return *app_->form().find(QString::fromLatin1(name), index);
     }
     // A press and a release in the middle of the widget.
     void click(const char* name, int index = -1, Qt::MouseButton button = Qt::LeftButton) const;

@@ -14,8 +14,8 @@ MainMenu::MainMenu(FormModel& form, QWidget* parent) : QMenu(u"Main"_s, parent) 
     addAction(u"Reload &Cards"_s)->setObjectName(u"mnReloadCards"_s);
     QMenu* modes = addMenu(u"&Screen mode"_s);
     modes->setObjectName(u"mnScreenMode"_s);
-    addMode(*modes, u"mnSet169"_s, u"Mode &16:9"_s, form);
-    addMode(*modes, u"mnSet43"_s, u"Mode &4:3"_s, form);
+    addMode(*modes, controls.mnSet169, u"Mode &16:9"_s, form);
+    addMode(*modes, controls.mnSet43, u"Mode &4:3"_s, form);
 }
 
 void MainMenu::addItem(QMenu& menu, const QString& name, const QString& caption) {
@@ -24,13 +24,13 @@ void MainMenu::addItem(QMenu& menu, const QString& name, const QString& caption)
     connect(item, &QAction::triggered, this, [this, name] { Q_EMIT chosen(name); });
 }
 
-void MainMenu::addMode(QMenu& menu, const QString& name, const QString& caption, FormModel& form) {
-    addItem(menu, name, caption);
+void MainMenu::addMode(QMenu& menu, const ControlRow& mode, const QString& caption, FormModel& form) {
+    addItem(menu, mode.name.toString(), caption);
     QAction* item = menu.actions().last();
     item->setCheckable(true);
-    const auto show = [item, &mode = form.at(name)] { item->setChecked(mode.checked()); };
+    const auto show = [item, &control = form.at(mode)] { item->setChecked(control.checked()); };
     show();
-    connect(&form.at(name), &Control::changed, item, show);
+    connect(&form.at(mode), &Control::changed, item, show);
     // Choosing what is chosen already must not take the mark away.
     connect(item, &QAction::triggered, item, show);
 }

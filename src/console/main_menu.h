@@ -21,7 +21,7 @@ class MainMenu : public QMenu {
 
  private:
     void addItem(QMenu& menu, const QString& name, const QString& caption);
-    void addMode(QMenu& menu, const QString& name, const QString& caption, FormModel& form);
+    void addMode(QMenu& menu, const ControlRow& mode, const QString& caption, FormModel& form);
 };
 
 }  // namespace zelvor

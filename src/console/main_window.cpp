@@ -70,7 +70,7 @@ QWidget* MainWindow::leftSide(const CardConsole& console, QAbstractItemModel& hi
     selectors->setSpacing(6);
     for (int i = 0; i < CardConsole::kSelectors; ++i) {
         ConsoleButton* selector = mirrors_.button(
-            u"GradientButtonS"_s, i, {14, false, theme::Role::Bar, theme::Role::Line, theme::Role::Text, true});
+            controls.GradientButtonS, i, {14, false, theme::Role::Bar, theme::Role::Line, theme::Role::Text, true});
         selector->setFixedHeight(32);
         selectors->addWidget(selector, 1);
     }
@@ -90,14 +90,14 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     column->setSpacing(9);
 
     // Tabs and panels are one block: the cover lies over both.
-    auto* controls = new QWidget;
-    auto* block = new QVBoxLayout(controls);
+    auto* covered = new QWidget;
+    auto* block = new QVBoxLayout(covered);
     block->setContentsMargins(0, 0, 0, 0);
     block->setSpacing(9);
     auto* tabs = new QHBoxLayout;
     tabs->setSpacing(4);
     for (int i = 0; i < CardConsole::kTabs; ++i) {
-        ConsoleButton* tab = mirrors_.button(u"cmdTAB"_s, i, {13});
+        ConsoleButton* tab = mirrors_.button(controls.cmdTAB, i, {13});
         tab->setFixedHeight(30);
         tab->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         tabs->addWidget(tab, 1);
@@ -119,10 +119,10 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
 
     auto* stack = new QGridLayout;
     stack->setContentsMargins(0, 0, 0, 0);
-    stack->addWidget(controls, 0, 0);
+    stack->addWidget(covered, 0, 0);
     auto* cover = new QWidget;
     cover->setAutoFillBackground(true);
-    mirrors_.panel(cover, u"picHideControls"_s);
+    mirrors_.panel(cover, controls.picHideControls);
     stack->addWidget(cover, 0, 0);
     column->addLayout(stack);
     column->addWidget(new PlayersPanel(mirrors_), 1);

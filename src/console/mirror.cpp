@@ -4,8 +4,6 @@
 #include <QWheelEvent>
 #include <utility>
 
-#include "console/hints.h"
-
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -32,7 +30,7 @@ void applyCommon(const Control& control, QWidget* widget, Property property) {
     if (property == Property::Visible) widget->setVisible(control.visible());
     if (property == Property::Enabled) widget->setEnabled(control.enabled());
     if (property == Property::Text) {
-        const QString hint = hintFor(control);
+        const QString hint = control.hint();
         widget->setAccessibleName(control.text().isEmpty() ? hint : hint + u": "_s + control.text());
     }
 }
@@ -43,18 +41,18 @@ bool isColour(Property property) {
 
 }  // namespace
 
-Control& Mirrors::begin(QWidget* widget, const QString& name, int index) const {
-    Control& control = form_.at(name, index);
-    widget->setObjectName(name);
+Control& Mirrors::begin(QWidget* widget, const ControlRow& row, int index) const {
+    Control& control = form_.at(row, index);
+    widget->setObjectName(control.name());
     widget->setProperty("index", index);
-    widget->setToolTip(hintFor(control));
+    widget->setToolTip(control.hint());
     return control;
 }
 
-TextLabel* Mirrors::label(const QString& name, int index, const TextLabel::Look& look) const {
+TextLabel* Mirrors::label(const ControlRow& row, int index, const TextLabel::Look& look) const {
     auto* widget = new TextLabel(look);
-    Control& control = begin(widget, name, index);
-    widget->setHint(hintFor(control));
+    Control& control = begin(widget, row, index);
+    widget->setHint(control.hint());
     follow(control, widget, [&control, widget](Property property) {
         applyCommon(control, widget, property);
         if (property == Property::Text) widget->setText(control.text());
@@ -67,11 +65,11 @@ TextLabel* Mirrors::label(const QString& name, int index, const TextLabel::Look&
     return widget;
 }
 
-TextLabel* Mirrors::copy(const QString& name, const QString& objectName, const TextLabel::Look& look) const {
+TextLabel* Mirrors::copy(const ControlRow& row, const QString& objectName, const TextLabel::Look& look) const {
     auto* widget = new TextLabel(look);
-    Control& control = form_.at(name);
+    Control& control = form_.at(row);
     widget->setObjectName(objectName);
-    widget->setHint(hintFor(control));
+    widget->setHint(control.hint());
     follow(control, widget, [&control, widget](Property property) {
         applyCommon(control, widget, property);
         if (property == Property::Text) widget->setText(control.text());
@@ -80,7 +78,7 @@ TextLabel* Mirrors::copy(const QString& name, const QString& objectName, const T
 }
 
 void Mirrors::bindButton(ConsoleButton* button, Control& control) const {
-    button->setHint(hintFor(control));
+    button->setHint(control.hint());
     follow(control, button, [&control, button](Property property) {
         applyCommon(control, button, property);
         if (property == Property::Text) button->setCaption(control.text());
@@ -91,23 +89,23 @@ void Mirrors::bindButton(ConsoleButton* button, Control& control) const {
                      [&events = events_, &control] { events.click(control); });
 }
 
-ConsoleButton* Mirrors::button(const QString& name, int index, const ConsoleButton::Look& look) const {
+ConsoleButton* Mirrors::button(const ControlRow& row, int index, const ConsoleButton::Look& look) const {
     auto* widget = new ConsoleButton(look);
-    bindButton(widget, begin(widget, name, index));
+    bindButton(widget, begin(widget, row, index));
     return widget;
 }
 
 CardButton* Mirrors::cardButton(int index) const {
     const ConsoleButton::Look flat{12,    false, theme::Role::ButtonHover, theme::Role::Line, theme::Role::Muted,
                                    false, true};
-    auto* widget = new CardButton(button(u"cmdCARDBOX"_s, index, flat));
-    bindButton(widget, begin(widget, u"cmbCARD"_s, index));
+    auto* widget = new CardButton(button(controls.cmdCARDBOX, index, flat));
+    bindButton(widget, begin(widget, controls.cmbCARD, index));
     return widget;
 }
 
-QLineEdit* Mirrors::textBox(const QString& name, int index) const {
+QLineEdit* Mirrors::textBox(const ControlRow& row, int index) const {
     auto* widget = new QLineEdit;
-    Control& control = begin(widget, name, index);
+    Control& control = begin(widget, row, index);
     follow(control, widget, [&control, widget](Property property) {
         applyCommon(control, widget, property);
         if (property == Property::Enabled) {
@@ -144,14 +142,14 @@ Button* bindCheckable(Button* widget, Control& control) {
 
 }  // namespace
 
-QCheckBox* Mirrors::checkBox(const QString& name) const {
+QCheckBox* Mirrors::checkBox(const ControlRow& row) const {
     auto* widget = new QCheckBox;
-    return bindCheckable(widget, begin(widget, name, -1));
+    return bindCheckable(widget, begin(widget, row, -1));
 }
 
-QRadioButton* Mirrors::optionButton(const QString& name, int index) const {
+QRadioButton* Mirrors::optionButton(const ControlRow& row, int index) const {
     auto* widget = new QRadioButton;
-    return bindCheckable(widget, begin(widget, name, index));
+    return bindCheckable(widget, begin(widget, row, index));
 }
 
 namespace {
@@ -173,13 +171,13 @@ class ListBox : public QComboBox {
 
 }  // namespace
 
-QComboBox* Mirrors::list(const QString& name, int index, bool editable) const {
+QComboBox* Mirrors::list(const ControlRow& row, int index, bool editable) const {
     auto* widget = new ListBox;
     widget->setFocusPolicy(Qt::StrongFocus);
     widget->setEditable(editable);
     widget->setInsertPolicy(QComboBox::NoInsert);
     widget->setMaxVisibleItems(12);
-    Control& control = begin(widget, name, index);
+    Control& control = begin(widget, row, index);
     follow(control, widget, [&control, widget, editable](Property property) {
         applyCommon(control, widget, property);
         const QSignalBlocker quiet(widget);
@@ -207,8 +205,8 @@ QComboBox* Mirrors::list(const QString& name, int index, bool editable) const {
     return widget;
 }
 
-void Mirrors::panel(QWidget* widget, const QString& name) const {
-    Control& control = begin(widget, name, -1);
+void Mirrors::panel(QWidget* widget, const ControlRow& row) const {
+    Control& control = begin(widget, row, -1);
     follow(control, widget, [&control, widget](Property property) { applyCommon(control, widget, property); });
 }
 

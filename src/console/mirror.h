@@ -20,25 +20,25 @@ class Mirrors {
  public:
     Mirrors(FormModel& form, FormEvents& events) : form_(form), events_(events) {}
 
-    [[nodiscard]] TextLabel* label(const QString& name, int index = -1, const TextLabel::Look& look = {}) const;
+    [[nodiscard]] TextLabel* label(const ControlRow& row, int index = -1, const TextLabel::Look& look = {}) const;
     // A second view of a label's text, in the look's colours.
-    [[nodiscard]] TextLabel* copy(const QString& name, const QString& objectName, const TextLabel::Look& look) const;
-    [[nodiscard]] ConsoleButton* button(const QString& name, int index = -1,
+    [[nodiscard]] TextLabel* copy(const ControlRow& row, const QString& objectName, const TextLabel::Look& look) const;
+    [[nodiscard]] ConsoleButton* button(const ControlRow& row, int index = -1,
                                         const ConsoleButton::Look& look = {}) const;
     // With its "L" button inside.
     [[nodiscard]] CardButton* cardButton(int index) const;
-    [[nodiscard]] QLineEdit* textBox(const QString& name, int index = -1) const;
-    [[nodiscard]] QCheckBox* checkBox(const QString& name) const;
-    [[nodiscard]] QRadioButton* optionButton(const QString& name, int index) const;
+    [[nodiscard]] QLineEdit* textBox(const ControlRow& row, int index = -1) const;
+    [[nodiscard]] QCheckBox* checkBox(const ControlRow& row) const;
+    [[nodiscard]] QRadioButton* optionButton(const ControlRow& row, int index) const;
     // editable: the operator may type a text that is not in the list.
-    [[nodiscard]] QComboBox* list(const QString& name, int index = -1, bool editable = false) const;
+    [[nodiscard]] QComboBox* list(const ControlRow& row, int index = -1, bool editable = false) const;
     // A widget of the panel's own making; its visibility follows the control.
-    void panel(QWidget* widget, const QString& name) const;
+    void panel(QWidget* widget, const ControlRow& row) const;
 
     [[nodiscard]] FormModel& form() const { return form_; }
 
  private:
-    Control& begin(QWidget* widget, const QString& name, int index) const;
+    Control& begin(QWidget* widget, const ControlRow& row, int index) const;
     void bindButton(ConsoleButton* button, Control& control) const;
 
     FormModel& form_;

@@ -14,7 +14,7 @@ void writeGameDefaults(ShowState& state, FormModel& form) {
                                    u"@GREENSCOREA", u"@GREENSCOREB"}) {
         variables.SetVar(name, u"0"_s);
     }
-    form.at(u"lblTime"_s).setText(u"0:00"_s);
+    form.at(controls.lblTime).setText(u"0:00"_s);
     variables.SetVar(u"@TIMER", u"0:00"_s);
     for (int player = 1; player <= 5; ++player) {
         variables.SetVar(u"@S5H%1"_s.arg(player), u"0"_s);
@@ -36,8 +36,8 @@ void writeEffectDefaults(ShowState& state) {
 }
 
 void paintScreenMode(FormModel& form, bool wide) {
-    form.at(u"cmdSCREENMODE"_s, 0).setBackColour(wide ? colours::kScreenModeOff : colours::kScreenModeOn);
-    form.at(u"cmdSCREENMODE"_s, 1).setBackColour(wide ? colours::kScreenModeOn : colours::kScreenModeOff);
+    form.at(controls.cmdSCREENMODE, 0).setBackColour(wide ? colours::kScreenModeOff : colours::kScreenModeOn);
+    form.at(controls.cmdSCREENMODE, 1).setBackColour(wide ? colours::kScreenModeOn : colours::kScreenModeOff);
 }
 
 void writeAllDefaults(ShowState& state, FormModel& form, const AppFolder& folder) {

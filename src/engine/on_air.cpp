@@ -12,10 +12,10 @@ constexpr Colour kOnAir = colours::kRed;
 constexpr Colour kNoData = rgb(255, 200, 0);
 
 void showOnAirLine(FormModel& form, const QString& text, Colour colour, const QString& card) {
-    form.at(u"lblONAIR"_s).setText(text);
-    form.at(u"lblONAIR"_s).setForeColour(colour);
-    form.at(u"lblONAIRLAMP"_s).setBackColour(colour);
-    form.at(u"lblONAIRCARD"_s).setText(card);
+    form.at(controls.lblONAIR).setText(text);
+    form.at(controls.lblONAIR).setForeColour(colour);
+    form.at(controls.lblONAIRLAMP).setBackColour(colour);
+    form.at(controls.lblONAIRCARD).setText(card);
 }
 
 // The caption of the first card that runs this script, in the current set before the others; else the script's name.
@@ -48,7 +48,7 @@ void showClear(FormModel& form) {
 }
 
 bool onAirLocked(const FormModel& form) {
-    return form.at(u"chkONAIRLOCK"_s).checked();
+    return form.at(controls.chkONAIRLOCK).checked();
 }
 
 bool SHOW_RTX(const AppFolder& folder) {
@@ -59,13 +59,13 @@ void showCurrentSet(const ShowState& state, FormModel& form) {
     const CardTable::Set& set = state.cards.sets[state.currentSet];
     for (int i = 0; i < CardTable::kCards; ++i) {
         const CardEntry& entry = set[i + 1];
-        Control& button = form.at(u"cmbCARD"_s, i);
+        Control& button = form.at(controls.cmbCARD, i);
         button.setText(entry.shownCaption());
         button.setState(entry.on ? u"ON"_s : u"OFF"_s);
         button.setBackColour(std::nullopt);
     }
     for (int i = 0; i < CardTable::kSets - 1; ++i) {
-        form.at(u"GradientButtonS"_s, i).setText(state.cards.sets[i + 1][0].caption);
+        form.at(controls.GradientButtonS, i).setText(state.cards.sets[i + 1][0].caption);
     }
 }
 

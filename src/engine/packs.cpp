@@ -68,8 +68,8 @@ bool Packs::choosePack(const PackList& packs) {
         const int number = answer.trimmed().toInt(&isNumber);
         if (!isNumber || number < 1 || number > languages.size()) continue;
         state_.variables.SetVar(u"@LANGUAGE", languages[number - 1].text);
-        form_.at(u"cmbLANG"_s).setItems(languages);
-        form_.at(u"cmbLANG"_s).setPosition(number - 1);
+        form_.at(controls.cmbLANG).setItems(languages);
+        form_.at(controls.cmbLANG).setPosition(number - 1);
         return true;
     }
     return false;
@@ -104,7 +104,7 @@ void LoadFkeys(const ShowState& state, FormModel& form) {
     constexpr int kLabels = 5;
     for (int key = 1; key <= kLabels; ++key) {
         const QString& title = state.cards.functionKeys[key].title;
-        Control& label = form.at(u"lblFKEYTITLE"_s, key - 1);
+        Control& label = form.at(controls.lblFKEYTITLE, key - 1);
         label.setText(title);
         label.setVisible(!title.isEmpty());
     }

@@ -15,9 +15,9 @@ QString timeOfDay(const QDateTime& when) {
 FeedStatus::FeedStatus(const ShowState& state, FormModel& form, Clock& clock)
     : state_(state),
       clock_(clock),
-      status_(form.at(u"lblFEED"_s)),
-      detail_(form.at(u"lblFEEDDETAIL"_s)),
-      time_(form.at(u"lblTime"_s)) {
+      status_(form.at(controls.lblFEED)),
+      detail_(form.at(controls.lblFEEDDETAIL)),
+      time_(form.at(controls.lblTime)) {
     timer_.setObjectName(u"tmrFEED"_s);
     timer_.setInterval(kCheckInterval);
     connect(&timer_, &QTimer::timeout, this, &FeedStatus::check);

@@ -21,10 +21,10 @@ QString clockText(qint32 digits) {
 GameFeed::GameFeed(CardEngine& engine)
     : QuietRules(engine.program().trap),
       engine_(engine),
-      extraAfter_(engine.form().at(u"chkEAFTER"_s)),
-      threshold_(engine.form().at(u"txtEAFTER"_s)),
-      time_(engine.form().at(u"lblTime"_s)),
-      extraTime_(engine.form().at(u"lblETime"_s)) {}
+      extraAfter_(engine.form().at(controls.chkEAFTER)),
+      threshold_(engine.form().at(controls.txtEAFTER)),
+      time_(engine.form().at(controls.lblTime)),
+      extraTime_(engine.form().at(controls.lblETime)) {}
 
 GameFeed::Outcome GameFeed::handle(const QString& datagram) {
     if (datagram == u"pause") return Outcome::Pause;

@@ -39,7 +39,7 @@ LocalClock::LocalClock(CardEngine& engine) : QuietRules(engine.program().trap), 
 }
 
 void LocalClock::cmdCLOCKS() {
-    Control& button = form_.at(u"cmdCLOCKS"_s);
+    Control& button = form_.at(controls.cmdCLOCKS);
     if (button.text() == u"Start") {
         button.setText(u"Stop"_s);
         timer_.start();
@@ -71,10 +71,10 @@ void LocalClock::update() {
     VariableStore& variables = engine_.state().variables;
     const QTime now = engine_.ports().clock.now().time();
     const QString nowText = now.toString(kTimeOfDay);
-    const bool counts = form_.at(u"optTIMERS"_s, 1).checked();
-    if (counts || form_.at(u"optTIMERS"_s, 0).checked()) {
+    const bool counts = form_.at(controls.optTIMERS, 1).checked();
+    if (counts || form_.at(controls.optTIMERS, 0).checked()) {
         const QString shown = counts ? countdown(now) : nowText;
-        form_.at(u"lblCLOCK"_s).setText(shown);
+        form_.at(controls.lblCLOCK).setText(shown);
         variables.SetVar(u"@CLOCKS", shown);
     }
     variables.SetVar(u"@LOCALTIME", nowText);
@@ -86,7 +86,7 @@ void LocalClock::update() {
 }
 
 QString LocalClock::countdown(QTime now) const {
-    const int left = secondsOfDay(timeOfDay(form_.at(u"txtCOUNTDOWNTIME"_s).text())) - secondsOfDay(now);
+    const int left = secondsOfDay(timeOfDay(form_.at(controls.txtCOUNTDOWNTIME).text())) - secondsOfDay(now);
     // Past the target it goes on from 23:59:59: meant.
     return QTime(0, 0).addSecs(left).toString(kTimeOfDay);
 }

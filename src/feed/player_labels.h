@@ -17,7 +17,7 @@ class PlayerLabels : public QuietRules {
     void lblHPLAYERS(int index, Qt::MouseButton button);
 
  private:
-    void choose(const QString& side, const QString& otherSide, int index, Qt::MouseButton button);
+    void choose(const TeamControls& own, const TeamControls& other, int index, Qt::MouseButton button);
 
     FormModel& form_;
     ShowState& state_;

@@ -15,7 +15,7 @@ void Proposals::lblPROPOSED(int index) {
 
 void Proposals::take(int index) {
     clearPlayers();
-    Control& label = engine_.form().at(u"lblPROPOSED"_s, index);
+    Control& label = engine_.form().at(controls.lblPROPOSED, index);
     // A copy: the card may propose anew.
     const QString record = label.tag();
     if (record.isEmpty()) return;
@@ -31,10 +31,9 @@ void Proposals::take(int index) {
 void Proposals::clearPlayers() {
     constexpr int kCleared = 18;  // of the 24 labels: meant
     const FormModel& form = engine_.form();
-    for (const QString& side : {u"H"_s, u"A"_s}) {
-        for (int player = 0; player < kCleared; ++player)
-            form.at(u"lbl"_s + side + u"PLAYERS"_s, player).setForeColour(colours::kWhite);
-        form.at(u"lbl"_s + side + u"TEAM"_s).setForeColour(colours::kWhite);
+    for (const TeamControls& team : {kHomeControls, kAwayControls}) {
+        for (int player = 0; player < kCleared; ++player) form.at(team.players, player).setForeColour(colours::kWhite);
+        form.at(team.team).setForeColour(colours::kWhite);
     }
     engine_.state().console.playerSelected = false;
 }

@@ -14,14 +14,14 @@ Scoreboard::Scoreboard(FormModel& form, VariableStore& variables, ErrorTrap& tra
     : QuietRules(trap),
       form_(form),
       variables_(variables),
-      a_(sideOf(u"A"_s)),
-      b_(sideOf(u"B"_s)),
-      manualSwitch_(form.at(u"chkMANUAL"_s)),
-      lamp_(form.at(u"lblLIVEBLINK"_s)) {
+      a_(sideOf(kHomeControls)),
+      b_(sideOf(kAwayControls)),
+      manualSwitch_(form.at(controls.chkMANUAL)),
+      lamp_(form.at(controls.lblLIVEBLINK)) {
     follow(a_);
     follow(b_);
     onChange(manualSwitch_, Property::Checked, [this](const Control&) { setMode(); });
-    onChange(form.at(u"txtEXTRATIME"_s), Property::Text,
+    onChange(form.at(controls.txtEXTRATIME), Property::Text,
              [this](const Control& box) { variables_.SetVar(u"@EXTRATIME", box.text()); });
     blinkTimer_.setObjectName(u"tmrBlink"_s);
     blinkTimer_.setInterval(kBlinkInterval);
@@ -29,9 +29,8 @@ Scoreboard::Scoreboard(FormModel& form, VariableStore& variables, ErrorTrap& tra
     blinkTimer_.start();
 }
 
-Scoreboard::Side Scoreboard::sideOf(const QString& letter) {
-    return {letter, form_.at(u"lblScore"_s + letter), form_.at(u"lblAutoScore"_s + letter),
-            form_.at(u"mnSCORE"_s + letter)};
+Scoreboard::Side Scoreboard::sideOf(const TeamControls& team) {
+    return {team.scoreLetter, form_.at(team.score), form_.at(team.autoScore), form_.at(team.manualScore)};
 }
 
 void Scoreboard::follow(Side& side) {
@@ -58,7 +57,7 @@ void Scoreboard::setMode() {
         blinkTimer_.start();
     }
     lamp_.setVisible(!manual);
-    for (Control* label : {&a_.automatic, &b_.automatic, &form_.at(u"Label1"_s)})
+    for (Control* label : {&a_.automatic, &b_.automatic, &form_.at(controls.Label1)})
         label->setForeColour(manual ? colours::kRed : colours::kGreen);
 }
 

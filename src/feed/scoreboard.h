@@ -29,7 +29,7 @@ class Scoreboard : public QuietRules {
         Control& automatic;
         Control& manual;
     };
-    Side sideOf(const QString& letter);
+    Side sideOf(const TeamControls& team);
     void follow(Side& side);
     void setMode();
     [[nodiscard]] bool manualMode() const { return manualSwitch_.checked(); }

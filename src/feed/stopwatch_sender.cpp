@@ -5,7 +5,7 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 StopwatchSender::StopwatchSender(FormModel& form, Graphics& graphics, ErrorTrap& trap)
-    : QuietRules(trap), button_(form.at(u"Command1"_s)), graphics_(graphics) {
+    : QuietRules(trap), button_(form.at(controls.Command1)), graphics_(graphics) {
     timer_.setObjectName(u"tmrTEST"_s);
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(kInterval);

@@ -6,10 +6,35 @@
 
 namespace zelvor {
 
-Control::Control(Kind kind, QString name, int index) : kind_(kind), name_(std::move(name)), index_(index) {}
+namespace {
+
+// An element's own text where the row has one for each.
+QString elementText(QStringView texts, int place) {
+    return texts.contains(u'|') ? texts.split(u'|').at(place).toString() : texts.toString();
+}
+
+}  // namespace
+
+Control::Control(const ControlRow& row, int index)
+    : row_(row),
+      name_(row.name.toString()),
+      index_(index),
+      text_(elementText(row.state.text, index - row.elements.first)),
+      tag_(row.state.tag.toString()),
+      foreColour_(row.state.foreColour),
+      visible_(row.state.visible),
+      enabled_(row.state.enabled),
+      checked_(row.state.checked && index == row.elements.first),
+      role_(row.state.role) {}
 
 QString Control::displayName() const {
     return index_ < 0 ? name_ : name_ + u'(' + QString::number(index_) + u')';
+}
+
+QString Control::hint() const {
+    const int place = index_ - row_.elements.first;
+    const QString text = elementText(row_.hint, place);
+    return text.contains(u"%1") ? text.arg(place + 1) : text;
 }
 
 template <class T>
@@ -20,7 +45,7 @@ void Control::change(T& member, const T& value, Property property) {
 }
 
 void Control::setText(const QString& text) {
-    if (kind_ == Kind::List && !(position_ >= 0 && items_[position_].text == text)) {
+    if (kind() == Kind::List && !(position_ >= 0 && items_[position_].text == text)) {
         const auto item =
             std::find_if(items_.begin(), items_.end(), [&](const Item& each) { return each.text == text; });
         position_ = item == items_.end() ? -1 : static_cast<int>(item - items_.begin());
@@ -47,6 +72,9 @@ void Control::setChecked(bool checked) {
 }
 void Control::setState(const QString& state) {
     change(state_, state, Property::State);
+}
+void Control::setRole(Role role) {
+    change(role_, role, Property::Role);
 }
 
 void Control::setItems(const QList<Item>& items) {

@@ -4,7 +4,7 @@
 #include <QString>
 #include <optional>
 
-#include "form/colour.h"
+#include "form/control_row.h"
 
 namespace zelvor {
 
@@ -14,17 +14,24 @@ class Control : public QObject {
     Q_OBJECT
 
  public:
-    enum class Kind { Label, TextBox, Button, CheckBox, OptionButton, List, Panel };
-    enum class Property { Text, Tag, BackColour, ForeColour, Visible, Enabled, Checked, State, Items };
+    using Kind = ControlKind;
+    using Role = ControlRole;
+    enum class Property { Text, Tag, BackColour, ForeColour, Visible, Enabled, Checked, State, Role, Items };
 
-    // index: the element's number in its control array, -1 for a control of its own.
-    Control(Kind kind, QString name, int index);
+    // row: stays while the control lives. index: the element's number in its control array, -1 for a control of its
+    // own.
+    Control(const ControlRow& row, int index);
 
-    [[nodiscard]] Kind kind() const { return kind_; }
+    // Whether it is the control, or an element of the array, of that row.
+    [[nodiscard]] bool is(const ControlRow& row) const { return row_.name == row.name; }
+    [[nodiscard]] Kind kind() const { return row_.kind; }
     [[nodiscard]] const QString& name() const { return name_; }
     [[nodiscard]] int index() const { return index_; }
     // "lblTime", "cmbCARD(3)": as messages and the terminal name it.
     [[nodiscard]] QString displayName() const;
+
+    // What it is for, in the operator's words: its tool tip and, before its text, its name for screen readers.
+    [[nodiscard]] QString hint() const;
 
     // The caption of a label or button, the text of a text box or of a list's selected item.
     [[nodiscard]] const QString& text() const { return text_; }
@@ -37,6 +44,7 @@ class Control : public QObject {
     [[nodiscard]] bool checked() const { return checked_; }
     // A word for what is shown besides the text: "ON" or "OFF" of a card button.
     [[nodiscard]] const QString& state() const { return state_; }
+    [[nodiscard]] Role role() const { return role_; }
 
     // On a list the item of that text becomes the selected one; none when there is no such item.
     void setText(const QString& text);
@@ -47,6 +55,7 @@ class Control : public QObject {
     void setEnabled(bool enabled);
     void setChecked(bool checked);
     void setState(const QString& state);
+    void setRole(Role role);
 
     // Lists: items with the whole number attached to each, and the selected position, -1 when none is.
     struct Item {
@@ -68,7 +77,7 @@ class Control : public QObject {
     template <class T>
     void change(T& member, const T& value, Property property);
 
-    Kind kind_;
+    const ControlRow& row_;
     QString name_;
     int index_;
     QString text_;
@@ -81,6 +90,7 @@ class Control : public QObject {
     bool visible_ = true;
     bool enabled_ = true;
     bool checked_ = false;
+    Role role_ = Role::Plain;
 };
 
 }  // namespace zelvor

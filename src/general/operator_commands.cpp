@@ -28,7 +28,7 @@ OperatorCommands::OperatorCommands(CardEngine& engine, Packs& packs, GeneralVari
       forms_(forms),
       state_(engine.state()),
       form_(engine.form()),
-      languages_(form_.at(u"cmbLANG"_s)) {
+      languages_(form_.at(controls.cmbLANG)) {
     languages_.setEnabled(false);
     connect(&form_, &FormModel::changed, this, [this](const Control* control, Control::Property property) {
         if (property == Control::Property::Text) take(*control, u"_Change"_s);
@@ -43,8 +43,8 @@ void OperatorCommands::take(const Control& control, const QString& event) {
     ErrorPlace place;
     place.procedure = u"frmMAIN."_s + control.name() + event;
     engine_.program().trap.run(place, ErrorTrap::Tell::Operator, [&] {
-        if (control.name() == u"cmbFADE") takeEffect(control);
-        if (control.name() == u"cbQt") takePeriod(control);
+        if (control.is(controls.cmbFADE)) takeEffect(control);
+        if (control.is(controls.cbQt)) takePeriod(control);
         // Filling the list at the start is no change.
         if (&control == &languages_ && control.enabled() && control.position() >= 0) changeLanguage(control.text());
     });
@@ -66,14 +66,14 @@ void OperatorCommands::cmdSCREENMODE(int button) {
 
 void OperatorCommands::mnSet169() {
     state_.variables.SetVar(u"@SCREEN_MODE", u"16_9"_s);
-    form_.at(u"mnSet169"_s).setChecked(true);
-    form_.at(u"mnSet43"_s).setChecked(false);
+    form_.at(controls.mnSet169).setChecked(true);
+    form_.at(controls.mnSet43).setChecked(false);
 }
 
 void OperatorCommands::mnSet43() {
     state_.variables.SetVar(u"@SCREEN_MODE", u"4_3"_s);
-    form_.at(u"mnSet169"_s).setChecked(false);
-    form_.at(u"mnSet43"_s).setChecked(true);
+    form_.at(controls.mnSet169).setChecked(false);
+    form_.at(controls.mnSet43).setChecked(true);
 }
 
 void OperatorCommands::mnReloadVar() {

@@ -14,8 +14,8 @@ using Tell = ErrorTrap::Tell;
 constexpr int kFive = 5;
 
 bool isKept(const Control& control) {
-    return control.name() == u"cbQt" || control.name() == u"cmbFADE" || control.name() == u"txtS5H" ||
-           control.name() == u"txtS5A";
+    return control.is(controls.cbQt) || control.is(controls.cmbFADE) || control.is(kHomeControls.startFive) ||
+           control.is(kAwayControls.startFive);
 }
 
 // What stands for an effect box whose text is none of its list, before that text: the position alone would lose it.
@@ -51,10 +51,10 @@ void Selections::SaveSelections() {
         const auto addLine = [&text](QString line) {
             text += line.replace(u'\r', u' ').replace(u'\n', u' ') + u"\r\n"_s;
         };
-        addLine(QString::number(form_.at(u"cbQt"_s).position()));
-        for (const Control* box : form_.named(u"cmbFADE"_s)) addLine(savedEffect(*box));
-        for (const QString& side : {u"txtS5H"_s, u"txtS5A"_s}) {
-            for (const Control* box : form_.named(side)) addLine(box->text());
+        addLine(QString::number(form_.at(controls.cbQt).position()));
+        for (const Control* box : form_.named(controls.cmbFADE)) addLine(savedEffect(*box));
+        for (const TeamControls& team : {kHomeControls, kAwayControls}) {
+            for (const Control* box : form_.named(team.startFive)) addLine(box->text());
         }
         replaceFile(path(), program_.files.encode(text));
     });
@@ -75,11 +75,11 @@ void Selections::read(const QStringList& lines) {
         if (at == lines.size()) throw RunTimeError(ErrorNumber::InputPastEndOfFile, u"SELECTIONS.TXT"_s);
         return lines[at++];
     };
-    Control& period = form_.at(u"cbQt"_s);
+    Control& period = form_.at(controls.cbQt);
     restorePosition(period, next());
     state_.variables.SetVar(u"@GAMEPERIOD", Val(period.text()));
     for (int i = 0; i < static_cast<int>(kEffectVariables.size()); ++i) {
-        Control& box = form_.at(u"cmbFADE"_s, i);
+        Control& box = form_.at(controls.cmbFADE, i);
         const QString line = next();
         if (line.startsWith(kOwnText)) {
             // Its variable is written as it was when the operator typed the text: by the change of the box.
@@ -89,11 +89,11 @@ void Selections::read(const QStringList& lines) {
             state_.variables.SetVar(kEffectVariables.at(i), box.text());
         }
     }
-    for (const QString& side : {u"H"_s, u"A"_s}) {
+    for (const TeamControls& team : {kHomeControls, kAwayControls}) {
         for (int player = 0; player < kFive; ++player) {
             const double number = Val(next());
-            form_.at(u"txtS5"_s + side, player).setText(numberText(number));
-            state_.variables.SetVar(u"@S5%1%2"_s.arg(side).arg(player + 1), number);
+            form_.at(team.startFive, player).setText(numberText(number));
+            state_.variables.SetVar(u"@S5%1%2"_s.arg(team.letter).arg(player + 1), number);
         }
     }
 }

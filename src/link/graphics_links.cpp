@@ -16,9 +16,9 @@ bool tellsOfError(const QString& reply) {
 GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
     : clock_(clock),
       trap_(program.trap),
-      logSwitch_(form.at(u"chkLOGFILE"_s)),
-      logStatus_(form.at(u"lblLOG"_s)),
-      lastTemplate_(form.at(u"lblLASTXML"_s)),
+      logSwitch_(form.at(controls.chkLOGFILE)),
+      logStatus_(form.at(controls.lblLOG)),
+      lastTemplate_(form.at(controls.lblLASTXML)),
       log_(program.folder, program.files) {
     // Only the main server's replies are shown; the remote one's are meant to be ignored.
     connect(&main_, &CasparLink::received, this, &GraphicsLinks::addResponse);

@@ -35,13 +35,13 @@ LinkConsole::LinkConsole(FormModel& form, GraphicsLinks& links, Clock& clock, Er
       remoteWatch_(LinkId::Remote, links.link(LinkId::Remote), form, clock, trap) {
     mainWatch_.setParent(this);
     remoteWatch_.setParent(this);
-    Control& list = form_.at(u"cmbCASPARREMOTELIST"_s);
+    Control& list = form_.at(controls.cmbCASPARREMOTELIST);
     QList<Control::Item> items;
     for (const Preset& preset : presets()) items += {preset.name, static_cast<int>(items.size())};
     list.setItems(items);
     list.setPosition(0);
     connect(&list, &Control::changed, this, &LinkConsole::choosePreset);
-    connect(&form_.at(u"chkLOGFILE"_s), &Control::changed, this, [this](Control*, Control::Property property) {
+    connect(&form_.at(controls.chkLOGFILE), &Control::changed, this, [this](Control*, Control::Property property) {
         if (property == Control::Property::Checked) switchLog();
     });
 }
@@ -63,25 +63,25 @@ void LinkConsole::cmdGASPARCONNECTREMOTE() {
 }
 
 void LinkConsole::cmdVIEWGASPHISTORY() {
-    trapped(u"cmdVIEWGASPHISTORY"_s, [&] { form_.at(u"fraGASPHISTORY"_s).setVisible(true); });
+    trapped(u"cmdVIEWGASPHISTORY"_s, [&] { form_.at(controls.fraGASPHISTORY).setVisible(true); });
 }
 
 void LinkConsole::cmdGASPHISTCLOSE() {
-    trapped(u"cmdGASPHISTCLOSE"_s, [&] { form_.at(u"fraGASPHISTORY"_s).setVisible(false); });
+    trapped(u"cmdGASPHISTCLOSE"_s, [&] { form_.at(controls.fraGASPHISTORY).setVisible(false); });
 }
 
 void LinkConsole::cmdLASTXML() {
     trapped(u"cmdLASTXML"_s, [&] {
-        Control& history = form_.at(u"lstGASPARHISTORY"_s);
+        Control& history = form_.at(controls.lstGASPARHISTORY);
         const bool shows = !history.visible();
         history.setVisible(shows);
-        form_.at(u"cmdLASTXML"_s).setText(shows ? u"Show Last XML"_s : u"Show Last CG"_s);
+        form_.at(controls.cmdLASTXML).setText(shows ? u"Show Last XML"_s : u"Show Last CG"_s);
     });
 }
 
 void LinkConsole::cmdMANUALSEND() {
     trapped(u"cmdMANUALSEND"_s, [&] {
-        const QString typed = form_.at(u"txtMANUALCASPAR"_s).text();
+        const QString typed = form_.at(controls.txtMANUALCASPAR).text();
         manualLines_.add(typed);
         links_.sendLine(LinkId::Main, expand_(typed).replace(u'\'', u'"'));
     });
@@ -89,23 +89,23 @@ void LinkConsole::cmdMANUALSEND() {
 
 void LinkConsole::recallOlder() {
     trapped(u"txtMANUALCASPAR"_s, [&] {
-        Control& box = form_.at(u"txtMANUALCASPAR"_s);
+        Control& box = form_.at(controls.txtMANUALCASPAR);
         box.setText(manualLines_.older(box.text()));
     });
 }
 
 void LinkConsole::recallNewer() {
     trapped(u"txtMANUALCASPAR"_s, [&] {
-        Control& box = form_.at(u"txtMANUALCASPAR"_s);
+        Control& box = form_.at(controls.txtMANUALCASPAR);
         box.setText(manualLines_.newer(box.text()));
     });
 }
 
 void LinkConsole::choosePreset() {
     trapped(u"cmbCASPARREMOTELIST"_s, [&] {
-        const int position = form_.at(u"cmbCASPARREMOTELIST"_s).position();
+        const int position = form_.at(controls.cmbCASPARREMOTELIST).position();
         const QString address = position > 0 ? presets().at(static_cast<size_t>(position)).address : QString();
-        Control& field = form_.at(u"txtGASPARIPREMOTE"_s);
+        Control& field = form_.at(controls.txtGASPARIPREMOTE);
         if (!address.isEmpty()) field.setText(address);
         field.setEnabled(address.isEmpty());
     });

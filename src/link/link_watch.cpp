@@ -8,7 +8,11 @@ namespace {
 
 const QString kConnectTag = u"connect"_s;
 
-// Control names of the remote link end in this.
+const LinkControls& controlsOf(LinkId id) {
+    return id == LinkId::Main ? kMainLinkControls : kRemoteLinkControls;
+}
+
+// Timer names of the remote link end in this.
 QString suffix(LinkId id) {
     return id == LinkId::Main ? QString() : u"REMOTE"_s;
 }
@@ -23,12 +27,12 @@ LinkWatch::LinkWatch(LinkId id, CasparLink& link, FormModel& form, Clock& clock,
     : link_(link),
       clock_(clock),
       name_(id == LinkId::Main ? u"main"_s : u"remote"_s),
-      address_(form.at(u"txtGASPARIP"_s + suffix(id))),
-      port_(form.at(u"txtGASPARPORT"_s + suffix(id))),
-      button_(form.at(u"cmdGASPARCONNECT"_s + suffix(id))),
-      tab_(form.at(u"cmdTAB"_s, id == LinkId::Main ? 4 : 3)),
-      reconnect_(form.at(u"chkRECONNECT"_s + suffix(id))),
-      status_(form.at(id == LinkId::Main ? u"lblLINKMAIN"_s : u"lblLINKREMOTE"_s)) {
+      address_(form.at(controlsOf(id).address)),
+      port_(form.at(controlsOf(id).port)),
+      button_(form.at(controlsOf(id).connect)),
+      tab_(form.at(controls.cmdTAB, controlsOf(id).tab)),
+      reconnect_(form.at(controlsOf(id).reconnect)),
+      status_(form.at(controlsOf(id).status)) {
     const auto onTimer = [&](QTimer& timer, const QString& timerName, int interval, void (LinkWatch::*tick)()) {
         timer.setParent(this);
         timer.setObjectName(timerName);

@@ -100,7 +100,7 @@ class Gallery {
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus != nullptr ? focus : &app->window(), key);
     }
-    Control& at(const char* name, int index = -1) const { return app->form().at(QString::fromLatin1(name), index); }
+    Control& at(const char* name, int index = -1) const { return *app->form().find(QString::fromLatin1(name), index); }
 
     void connectMain(const LinePeer& peer) const {
         at("txtGASPARPORT").setText(QString::number(peer.serverPort()));

@@ -2,7 +2,6 @@
 
 #include <QFontMetrics>
 
-#include "console/hints.h"
 #include "console/panels/history_panel.h"
 #include "console/text_label.h"
 #include "console/theme.h"
@@ -70,7 +69,7 @@ TEST(Window, MirrorsEveryControl) {
         const QByteArray name = control->name().toLatin1();
         const QWidget* widget = gallery.find<QWidget>(name.constData(), control->index());
         ASSERT_NE(widget, nullptr) << control->displayName().toStdString();
-        EXPECT_FALSE(hintFor(*control).isEmpty()) << name.constData();
+        EXPECT_FALSE(control->hint().isEmpty()) << name.constData();
         EXPECT_FALSE(widget->toolTip().isEmpty()) << name.constData();
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << name.constData();
     }

@@ -37,8 +37,8 @@ TEST_F(CardRules, ButtonsFireTheRowOfTheCurrentSet) {
     EXPECT_TRUE(console.isLastFired(0));
 
     console.selectBox(1);
-    EXPECT_TRUE(bench.form.at(u"GradientButtonS"_s, 1).checked());
-    EXPECT_FALSE(bench.form.at(u"GradientButtonS"_s, 0).checked());
+    EXPECT_TRUE(bench.form.at(controls.GradientButtonS, 1).checked());
+    EXPECT_FALSE(bench.form.at(controls.GradientButtonS, 0).checked());
     EXPECT_FALSE(console.isLastFired(0)) << "fired in another set";
     console.pressCardBox(20);
     EXPECT_EQ(sent(), QStringList{u"mtwo 20"_s});
@@ -54,12 +54,12 @@ TEST_F(CardRules, FunctionKeysOneToTen) {
     console.functionKey(10);
     EXPECT_EQ(sent(), QStringList{u"mkey "_s});
     console.showLoaded();
-    EXPECT_TRUE(bench.form.at(u"lblFKEYTITLE"_s, 2).visible());
-    EXPECT_FALSE(bench.form.at(u"lblFKEYTITLE"_s, 1).visible());
+    EXPECT_TRUE(bench.form.at(controls.lblFKEYTITLE, 2).visible());
+    EXPECT_FALSE(bench.form.at(controls.lblFKEYTITLE, 1).visible());
 }
 
 TEST_F(CardRules, ClearRunsTheClearCardAndResetsTheLastButton) {
-    Control& onAir = bench.form.at(u"lblONAIR"_s);
+    Control& onAir = bench.form.at(controls.lblONAIR);
     console.CLEAR_TV();
     EXPECT_EQ(sent(), QStringList{u"mclear "_s});
     EXPECT_EQ(onAir.text(), u"");
@@ -67,56 +67,56 @@ TEST_F(CardRules, ClearRunsTheClearCardAndResetsTheLastButton) {
     console.pressCard(0);
     set(1, 1).on = true;
     set(1, 2).on = true;
-    bench.form.at(u"cmbCARD"_s, 0).setState(u"ON"_s);
-    bench.form.at(u"cmbCARD"_s, 1).setBackColour(colours::kRed);
+    bench.form.at(controls.cmbCARD, 0).setState(u"ON"_s);
+    bench.form.at(controls.cmbCARD, 1).setBackColour(colours::kRed);
     EXPECT_EQ(onAir.text(), u"ON AIR");
-    EXPECT_EQ(bench.form.at(u"lblONAIRCARD"_s).text(), u"One");
-    bench.form.at(u"GradientButtonAIR"_s).setText(u"x"_s);
+    EXPECT_EQ(bench.form.at(controls.lblONAIRCARD).text(), u"One");
+    bench.form.at(controls.GradientButtonAIR).setText(u"x"_s);
     console.CLEAR_TV();
-    EXPECT_EQ(bench.form.at(u"lblONAIRCARD"_s).text(), u"");
-    EXPECT_EQ(bench.form.at(u"lblONAIRLAMP"_s).backColour(), colours::kGreen);
-    EXPECT_EQ(bench.form.at(u"GradientButtonAIR"_s).text(), u"CLEAR");
+    EXPECT_EQ(bench.form.at(controls.lblONAIRCARD).text(), u"");
+    EXPECT_EQ(bench.form.at(controls.lblONAIRLAMP).backColour(), colours::kGreen);
+    EXPECT_EQ(bench.form.at(controls.GradientButtonAIR).text(), u"CLEAR");
     EXPECT_FALSE(set(1, 1).on);
-    EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 0).state(), u"OFF");
+    EXPECT_EQ(bench.form.at(controls.cmbCARD, 0).state(), u"OFF");
     EXPECT_TRUE(set(1, 2).on) << "only the button fired last is reset";
-    EXPECT_EQ(bench.form.at(u"cmbCARD"_s, 1).backColour(), colours::kRed);
+    EXPECT_EQ(bench.form.at(controls.cmbCARD, 1).backColour(), colours::kRed);
     EXPECT_FALSE(bench.state.console.lastFired);
 }
 
 TEST_F(CardRules, TabsShowOnePanelAndLeaveStartElevenAlone) {
-    bench.form.at(u"Frame6"_s).setVisible(true);
+    bench.form.at(controls.Frame6).setVisible(true);
     const std::array panels{1, 2, 3, 4, 5, 7};
     for (int tab = 0; tab < 6; ++tab) {
         console.showTab(tab);
         for (const int panel : panels) {
-            EXPECT_EQ(bench.form.at(u"Frame%1"_s.arg(panel)).visible(), panel == panels.at(tab)) << tab << panel;
+            EXPECT_EQ(bench.form.find(u"Frame%1"_s.arg(panel))->visible(), panel == panels.at(tab)) << tab << panel;
         }
-        EXPECT_TRUE(bench.form.at(u"Frame6"_s).visible());
+        EXPECT_TRUE(bench.form.at(controls.Frame6).visible());
     }
 }
 
 TEST_F(CardRules, ClicksReachTheirRules) {
     FormEvents events(bench.trap);
     console.answer(events);
-    bench.form.at(u"lblHPLAYERS"_s, 23).setForeColour(colours::kGreen);
-    bench.form.at(u"lblATEAM"_s).setForeColour(colours::kRed);
+    bench.form.at(controls.lblHPLAYERS, 23).setForeColour(colours::kGreen);
+    bench.form.at(controls.lblATEAM).setForeColour(colours::kRed);
     bench.state.console.playerSelected = true;
     for (const QString& name : {u"cmdINVOKE"_s, u"cmdAUTO5ADA"_s, u"cmdCLEARTAG"_s, u"GradientButtonAIR"_s})
-        events.click(bench.form.at(name));
+        events.click(*bench.form.find(name));
     EXPECT_EQ(sent(), (QStringList{u"minvoke "_s, u"mauto5ada "_s, u"mclear "_s}));
-    EXPECT_EQ(bench.form.at(u"lblHPLAYERS"_s, 23).foreColour(), std::nullopt);
-    EXPECT_EQ(bench.form.at(u"lblATEAM"_s).foreColour(), std::nullopt);
+    EXPECT_EQ(bench.form.at(controls.lblHPLAYERS, 23).foreColour(), std::nullopt);
+    EXPECT_EQ(bench.form.at(controls.lblATEAM).foreColour(), std::nullopt);
     EXPECT_FALSE(bench.state.console.playerSelected);
     // An error in a handler ends there, with one message.
-    events.onClick(u"cmdMenu"_s, [](int) { throw RunTimeError(ErrorNumber::TypeMismatch); });
-    events.click(bench.form.at(u"cmdMenu"_s));
+    events.onClick(controls.cmdMenu, [](int) { throw RunTimeError(ErrorNumber::TypeMismatch); });
+    events.click(bench.form.at(controls.cmdMenu));
     EXPECT_TRUE(bench.operatorDesk.shown.last().contains(u"Location: ZELVOR_BASKET.frmMAIN.cmdMenu_Click"));
 }
 
 TEST_F(CardRules, AutoCardTakesTheKeyOfThePickList) {
     FormEvents events(bench.trap);
     console.answer(events);
-    const Control& button = bench.form.at(u"cmdAUTOCARD"_s);
+    const Control& button = bench.form.at(controls.cmdAUTOCARD);
     EXPECT_FALSE(button.enabled());
     bench.state.ask.lastItemData = u"17"_s;
     // As a timed card may do.
@@ -128,22 +128,22 @@ TEST_F(CardRules, AutoCardTakesTheKeyOfThePickList) {
 }
 
 TEST_F(CardRules, SwitchesOfThePack) {
-    Control& preview = bench.form.at(u"lblPREVIEW"_s);
+    Control& preview = bench.form.at(controls.lblPREVIEW);
     bench.state.preview = true;
     bench.state.cards.showControls = false;
     bench.state.switches.PreviewDisabled = true;
     console.showLoaded();
-    EXPECT_TRUE(bench.form.at(u"picHideControls"_s).visible());
+    EXPECT_TRUE(bench.form.at(controls.picHideControls).visible());
     EXPECT_TRUE(preview.visible());
     EXPECT_FALSE(preview.enabled());
     // The players of a pack stay chosen while its cards are loaded again, not when another's are.
     for (const bool sameLanguage : {true, false}) {
         bench.state.console.playerSelected = true;
-        bench.form.at(u"lblHPLAYERS"_s, 3).setForeColour(colours::kGreen);
+        bench.form.at(controls.lblHPLAYERS, 3).setForeColour(colours::kGreen);
         if (!sameLanguage) bench.state.variables.SetVar(u"@LANGUAGE", u"XX"_s);
         console.showLoaded();
         EXPECT_EQ(bench.state.console.playerSelected, sameLanguage);
-        EXPECT_EQ(bench.form.at(u"lblHPLAYERS"_s, 3).foreColour().has_value(), sameLanguage);
+        EXPECT_EQ(bench.form.at(controls.lblHPLAYERS, 3).foreColour().has_value(), sameLanguage);
     }
     bench.state.cards.showPreview = false;
     console.showLoaded();
@@ -167,8 +167,8 @@ TEST_F(CardRules, StartUpOrder) {
         calls += u"ask"_s;
     };
     steps.LoadSelections = [&] {
-        EXPECT_EQ(bench.form.at(u"lblHTEAM"_s).text(), u"Harbour City");
-        EXPECT_EQ(bench.form.at(u"lblONAIR"_s).text(), u"");
+        EXPECT_EQ(bench.form.at(controls.lblHTEAM).text(), u"Harbour City");
+        EXPECT_EQ(bench.form.at(controls.lblONAIR).text(), u"");
         calls += u"selections"_s;
     };
     bench.state.currentSet = 3;
@@ -180,7 +180,7 @@ TEST_F(CardRules, StartUpOrder) {
     EXPECT_EQ(sent(), QStringList{u"mgame 10 4"_s});
     EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
     EXPECT_EQ(bench.state.currentSet, 1);
-    EXPECT_TRUE(bench.form.at(u"Frame5"_s).visible());
+    EXPECT_TRUE(bench.form.at(controls.Frame5).visible());
 
     // The preview instance has no feed; a program that closes during a question ends the sequence there.
     calls.clear();

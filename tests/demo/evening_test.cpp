@@ -76,7 +76,7 @@ class Evening : public testing::TestWithParam<const char*> {
         return scripts;
     }
     QString lastLine() const { return graphics_.sent.value(graphics_.sent.size() - 1); }
-    QString label(const QString& name, int index = -1) const { return form_.at(name, index).text(); }
+    QString label(const QString& name, int index = -1) const { return form_.find(name, index)->text(); }
     QString fromDatabase(const QString& sql) {
         EXPECT_GT(database_.RUN_QUERY({}, sql), 0);
         const Value* cell = state_.QUERY_RESULT.find(1, 0);
@@ -148,7 +148,7 @@ TEST_P(Evening, GameComesFromTheDatabase) {
     EXPECT_EQ("74", state_.variables.text(u"@GREENSCOREB").toStdString());
     EXPECT_EQ(english() ? "18 Vance" : "18 Βανς", label(u"lblHPLAYERS"_s, 2).toStdString());
     EXPECT_EQ("P:244##N:" + std::string(english() ? "Renn" : "Ρεν") + "##T:2",
-              form_.at(u"lblAPLAYERS"_s, 11).tag().toStdString());
+              form_.at(controls.lblAPLAYERS, 11).tag().toStdString());
 
     fire(u"player.csp"_s);
     EXPECT_TRUE(lastLine().contains(english() ? u"Tyler Vance"_s : u"Τάιλερ Βανς"_s)) << qPrintable(lastLine());
@@ -162,7 +162,7 @@ TEST_P(Evening, GameComesFromTheDatabase) {
 }
 
 TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
-    const Control& first = form_.at(u"lblPROPOSED"_s, 1);
+    const Control& first = form_.at(controls.lblPROPOSED, 1);
     EXPECT_EQ("1|N|player.csp|T:1##P:132", first.tag().toStdString());
     game_.proposals.lblPROPOSED(1);
     EXPECT_TRUE(lastLine().contains(english() ? u"Karas"_s : u"Καράς"_s)) << qPrintable(lastLine());
@@ -172,7 +172,7 @@ TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
     fire(u"player.csp"_s);
     fire(u"scan.csp"_s);
     EXPECT_EQ("Y", fromDatabase(u"select pc_used from proposedcard where pc_id = 2"_s).toStdString());
-    EXPECT_EQ("2|Y|player.csp|T:2##P:212", form_.at(u"lblPROPOSED"_s, 2).tag().toStdString());
+    EXPECT_EQ("2|Y|player.csp|T:2##P:212", form_.at(controls.lblPROPOSED, 2).tag().toStdString());
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-21 UPDATE"_s)) << "what is on air does not come on again";
     EXPECT_EQ("N", fromDatabase(u"select pc_used from proposedcard where pc_id = 4"_s).toStdString());
 }
@@ -183,7 +183,7 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     game_.feed.handle(u"t2:41t"_s);
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-20 UPDATE"_s) && lastLine().contains(u"2:41"_s))
         << qPrintable(lastLine());
-    form_.at(u"lblAutoScoreA"_s).setText(u"81"_s);
+    form_.at(controls.lblAutoScoreA).setText(u"81"_s);
     for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
     EXPECT_TRUE(lastLine().contains(u"SCOREA\\\"><data type=\\\"txt\\\" ani=\\\"0\\\" value=\\\"81"_s))
         << qPrintable(lastLine());

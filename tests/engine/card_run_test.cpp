@@ -41,14 +41,14 @@ TEST_F(CardRuns, HistoryAndLogTellWhatACardDid) {
 
 TEST_F(CardRuns, FinishUnlessLocked) {
     run("AUTOTIMECARD~t\nISTIME~Yes\nDISABLEPREVIEW~yes\n");
-    EXPECT_EQ(u"ON AIR"_s, form.at(u"lblONAIR"_s).text());
+    EXPECT_EQ(u"ON AIR"_s, form.at(controls.lblONAIR).text());
     EXPECT_EQ(u"card.csp"_s, state.lastCard);
     EXPECT_TRUE(state.switches.IsTimeCard && state.switches.PreviewDisabled);
-    form.at(u"lblONAIR"_s).setText({});
-    form.at(u"chkONAIRLOCK"_s).setChecked(true);
+    form.at(controls.lblONAIR).setText({});
+    form.at(controls.chkONAIRLOCK).setChecked(true);
     state.lastCard.clear();
     run("ISTIME~no\n");
-    EXPECT_TRUE(form.at(u"lblONAIR"_s).text().isEmpty());
+    EXPECT_TRUE(form.at(controls.lblONAIR).text().isEmpty());
     EXPECT_EQ(u"card.csp"_s, state.lastCard);
     EXPECT_FALSE(state.switches.IsTimeCard || state.switches.PreviewDisabled);
 }
@@ -76,7 +76,7 @@ TEST_F(CardRuns, EndAtOnceWhenTheProgramCloses) {
         EXPECT_EQ(Outcome::Closed, bench.run(QByteArray(waiting) + "\nSETVAR~@AFTER;1\n")) << waiting;
         EXPECT_EQ(Outcome::Closed, bench.run("SETVAR~@AFTER;1\n"));
         EXPECT_EQ(nullptr, bench.state.variables.find(u"@AFTER"));
-        EXPECT_TRUE(bench.form.at(u"lblONAIR"_s).text().isEmpty());
+        EXPECT_TRUE(bench.form.at(controls.lblONAIR).text().isEmpty());
     }
 }
 

@@ -37,7 +37,7 @@ TEST_F(PackFiles, ThePackIsAskedForUntilItExists) {
         u"Missing folder(s)|Warning!!! Missing folders for the following Pack(s):\r\n\r\n"
         "\\MODULES\\QRD_XX\r\n\\MODULES\\QRD_YY\r\n"_s,
         operatorDesk.shown[4]);
-    EXPECT_EQ(u"TT"_s, form.at(u"cmbLANG"_s).text());
+    EXPECT_EQ(u"TT"_s, form.at(controls.cmbLANG).text());
 }
 
 TEST_F(PackFiles, WithoutAPackNothingIsAsked) {
@@ -64,8 +64,8 @@ TEST_F(PackFiles, TheCardTableIsRead) {
     QStringList game;
     for (int i = 1; i <= 4; ++i) game += cards.sets[1][i].script + (cards.sets[1][i].flag ? u"!"_s : u""_s);
     EXPECT_EQ(u"score.qrd!,,clock.qrd,x.qrd"_s, game.join(u','));
-    EXPECT_EQ(u"Score"_s, form.at(u"cmbCARD"_s, 0).text());
-    EXPECT_EQ(u"Last"_s, form.at(u"GradientButtonS"_s, 4).text());
+    EXPECT_EQ(u"Score"_s, form.at(controls.cmbCARD, 0).text());
+    EXPECT_EQ(u"Last"_s, form.at(controls.GradientButtonS, 4).text());
     state.cards.timedCards[0].ticks = 7;
     ASSERT_TRUE(packs.LOAD_CARDS());
     EXPECT_EQ(7, state.cards.timedCards[0].ticks) << "an unchanged list goes on counting";

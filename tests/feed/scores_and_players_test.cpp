@@ -38,7 +38,7 @@ TEST(Scoreboard, FollowsTheScoresInBothModes) {
     for (const Case& each : cases) {
         Studio studio;
         studio.at("chkMANUAL").setChecked(each.manual);
-        studio.form.at(QString::fromLatin1(each.control)).setText(each.text);
+        studio.at(each.control).setText(each.text);
         SCOPED_TRACE(each.left.toStdString());
         EXPECT_EQ(QString(studio.at("lblScoreA").text() + u'|' + studio.at("lblScoreB").text() + u'|' +
                           studio.variablesText(

@@ -11,7 +11,7 @@ namespace zelvor::test {
 
 // The game desk over an engine with everything around it faked.
 struct Studio : EngineBench {
-    Control& at(const char* name, int index = -1) const { return form.at(QString::fromLatin1(name), index); }
+    Control& at(const char* name, int index = -1) const { return *form.find(QString::fromLatin1(name), index); }
     QString variable(const char* name) const { return state.variables.text(QString::fromLatin1(name)); }
     // The variables' texts, "|" between; "-" for one that does not exist.
     QString variablesText(const QStringList& names) const {

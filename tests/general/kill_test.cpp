@@ -68,7 +68,7 @@ TEST(Kill, SelectionsAreTheOldOrTheNew) {
     EngineBench bench;
     Selections selections(bench.engine);
     killWhileSaving(bench.folderOnDisk.filePath(u"MODULES/SELECTIONS.TXT"_s), [&](int state) {
-        bench.form.at(u"txtS5H"_s, 0).setText(QString(state * 200'000, u'7'));
+        bench.form.at(controls.txtS5H, 0).setText(QString(state * 200'000, u'7'));
         selections.SaveSelections();
     });
 }

@@ -31,7 +31,7 @@ class FakeForms : public OpenForms {
  private:
     void note(const QString& call, const QStringList& openAfterwards) {
         open = openAfterwards;
-        calls += call + u' ' + bench_.state.language() + u' ' + bench_.form.at(u"cmbCARD"_s, 0).text() + u' ' +
+        calls += call + u' ' + bench_.state.language() + u' ' + bench_.form.at(controls.cmbCARD, 0).text() + u' ' +
                  bench_.state.variables.text(u"@GREETING");
     }
     test::EngineBench& bench_;
@@ -45,8 +45,8 @@ class OperatorCommandsTest : public testing::Test {
         bench.write(u"QRD_EN/CARDS.TXT"_s, cardTable("New"));
         bench.write(u"QRD_EN/GetGame.csp"_s, "SETVAR~@GREETING;game\n");
         bench.write(u"QRD_EN/infodata.dat"_s, "zelvor-grid 1\nhello\t\t@GREETING\t\n");
-        form.at(u"cmbLANG"_s).setItems({{u"TT"_s, 1}, {u"EN"_s, 2}, {u"XX"_s, 3}});
-        form.at(u"cmbLANG"_s).setPosition(0);
+        form.at(controls.cmbLANG).setItems({{u"TT"_s, 1}, {u"EN"_s, 2}, {u"XX"_s, 3}});
+        form.at(controls.cmbLANG).setPosition(0);
     }
     QString variable(QStringView name) { return bench.state.variables.text(name); }
 
@@ -61,8 +61,8 @@ TEST_F(OperatorCommandsTest, TheScreenModeMenuLeavesTheButtonsAlone) {
     commands.cmdSCREENMODE(1);
     commands.mnSet43();
     EXPECT_EQ(variable(u"@SCREEN_MODE"), u"4_3");
-    EXPECT_EQ(form.at(u"cmdSCREENMODE"_s, 1).backColour(), colours::kScreenModeOn);
-    EXPECT_NE(form.at(u"cmdSCREENMODE"_s, 0).backColour(), colours::kScreenModeOn);
+    EXPECT_EQ(form.at(controls.cmdSCREENMODE, 1).backColour(), colours::kScreenModeOn);
+    EXPECT_NE(form.at(controls.cmdSCREENMODE, 0).backColour(), colours::kScreenModeOn);
 }
 
 TEST_F(OperatorCommandsTest, EffectsAndPeriodFollowTheirBoxesAlsoWhenChosenAgain) {
@@ -70,54 +70,54 @@ TEST_F(OperatorCommandsTest, EffectsAndPeriodFollowTheirBoxesAlsoWhenChosenAgain
         {u"Off"_s, u"1"_s}, {u"off"_s, u"off"_s}, {u"25"_s, u"25"_s}, {u"Fast"_s, u"0"_s}};
     for (int box = 0; box < 4; ++box) {
         for (const auto& [text, stored] : cases) {
-            form.at(u"cmbFADE"_s, box).setText(text);
+            form.at(controls.cmbFADE, box).setText(text);
             EXPECT_EQ(variable(kEffectVariables.at(box)), stored) << text.toStdString();
         }
     }
-    form.at(u"cbQt"_s).setItems({{u"1"_s, 1}, {u"2"_s, 2}});
-    form.at(u"cbQt"_s).setPosition(1);
+    form.at(controls.cbQt).setItems({{u"1"_s, 1}, {u"2"_s, 2}});
+    form.at(controls.cbQt).setPosition(1);
     EXPECT_EQ(*bench.state.variables.find(u"@GAMEPERIOD"), Value(2.0));
     for (const QStringView name : {u"@GAMEPERIOD", u"@ROLL_SPEED"}) bench.state.variables.SetVar(name, u"card's"_s);
-    commands.chooseAgain(form.at(u"cbQt"_s));
-    commands.chooseAgain(form.at(u"cmbFADE"_s, 2));
+    commands.chooseAgain(form.at(controls.cbQt));
+    commands.chooseAgain(form.at(controls.cmbFADE, 2));
     EXPECT_EQ(variable(u"@GAMEPERIOD"), u"2");
     EXPECT_EQ(variable(u"@ROLL_SPEED"), u"0");
 }
 
 TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
-    form.at(u"cmbLANG"_s).setPosition(1);
+    form.at(controls.cmbLANG).setPosition(1);
     EXPECT_EQ(variable(u"@LANGUAGE"), u"TT") << "filling the list is no change";
-    form.at(u"cmbLANG"_s).setPosition(0);
+    form.at(controls.cmbLANG).setPosition(0);
     bench.packs.LOAD_CARDS();
     commands.showGeneral();
     QObject::connect(&commands, &OperatorCommands::cardsLoaded, &commands, [this] { forms.calls += u"cards"_s; });
     bench.state.console.lastFired = {1, 3};
-    form.at(u"cmbLANG"_s).setPosition(1);
+    form.at(controls.cmbLANG).setPosition(1);
     EXPECT_FALSE(bench.state.console.lastFired) << "a button of the cards before";
     EXPECT_EQ(forms.calls, (QStringList{u"show frmGENERAL TT Old "_s, u"close frmGENERAL EN Old "_s, u"cards"_s,
                                         u"show frmGENERAL EN New hello"_s}));
-    EXPECT_EQ(form.at(u"lblFKEYTITLE"_s, 0).text(), u"New key");
+    EXPECT_EQ(form.at(controls.lblFKEYTITLE, 0).text(), u"New key");
     EXPECT_EQ(variable(u"@GREETING"), u"game") << "the start card runs last";
 
     forms.open.clear();
     forms.calls.clear();
     bench.state.console.lastFired = {1, 3};
-    form.at(u"cmbLANG"_s).setPosition(2);
+    form.at(controls.cmbLANG).setPosition(2);
     EXPECT_EQ(forms.calls, QStringList{u"cards"_s}) << "an editor that was closed stays closed";
     EXPECT_EQ(variable(u"@LANGUAGE"), u"XX");
-    EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"New") << "without a folder the cards stay";
+    EXPECT_EQ(form.at(controls.cmbCARD, 0).text(), u"New") << "without a folder the cards stay";
     EXPECT_TRUE(bench.state.console.lastFired);
     EXPECT_EQ(bench.operatorDesk.shown.size(), 2) << "card table and start card are missing";
 }
 
 TEST_F(OperatorCommandsTest, ChoosingTheLanguageAgainReadsTheCardsAgain) {
     commands.showGeneral();
-    commands.chooseAgain(form.at(u"cmbLANG"_s));
-    EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"Old");
+    commands.chooseAgain(form.at(controls.cmbLANG));
+    EXPECT_EQ(form.at(controls.cmbCARD, 0).text(), u"Old");
     bench.write(u"QRD_TT/CARDS.TXT"_s, cardTable("Edited"));
     bench.write(u"QRD_TT/GetGame.csp"_s, "SETVAR~@GREETING;again\n");
-    commands.chooseAgain(form.at(u"cmbLANG"_s));
-    EXPECT_EQ(form.at(u"cmbCARD"_s, 0).text(), u"Edited");
+    commands.chooseAgain(form.at(controls.cmbLANG));
+    EXPECT_EQ(form.at(controls.cmbCARD, 0).text(), u"Edited");
     EXPECT_EQ(variable(u"@GREETING"), u"again");
 }
 

@@ -21,9 +21,9 @@ struct Desk : EngineBench {
             for (int number = 1; number <= last; ++number) items += {QString::number(number), number};
             return items;
         };
-        form.at(u"cbQt"_s).setItems(numbers(9));
-        form.at(u"cbQt"_s).setPosition(0);
-        for (Control* box : form.named(u"cmbFADE"_s)) {
+        form.at(controls.cbQt).setItems(numbers(9));
+        form.at(controls.cbQt).setPosition(0);
+        for (Control* box : form.named(controls.cmbFADE)) {
             box->setItems(numbers(100));
             box->setPosition(9);
         }
@@ -41,14 +41,14 @@ TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
     Desk desk;
     desk.selections.LoadSelections();
     EXPECT_EQ(desk.saved(), "(none)") << "neither filling the boxes nor loading saves";
-    desk.form.at(u"cbQt"_s).setPosition(2);
-    desk.form.at(u"cmbFADE"_s, 0).setText(u"25"_s);
-    desk.form.at(u"cmbFADE"_s, 1).setText({});
-    desk.form.at(u"cmbFADE"_s, 2).setText(u"Off"_s);
-    desk.form.at(u"cmbFADE"_s, 3).setText(u"2;x\r\ny"_s);
-    desk.form.at(u"txtS5H"_s, 0).setText(u"12a"_s);
-    desk.form.at(u"txtS5H"_s, 1).setText(u"07"_s);
-    desk.form.at(u"txtS5A"_s, 4).setText(u"x"_s);
+    desk.form.at(controls.cbQt).setPosition(2);
+    desk.form.at(controls.cmbFADE, 0).setText(u"25"_s);
+    desk.form.at(controls.cmbFADE, 1).setText({});
+    desk.form.at(controls.cmbFADE, 2).setText(u"Off"_s);
+    desk.form.at(controls.cmbFADE, 3).setText(u"2;x\r\ny"_s);
+    desk.form.at(controls.txtS5H, 0).setText(u"12a"_s);
+    desk.form.at(controls.txtS5H, 1).setText(u"07"_s);
+    desk.form.at(controls.txtS5A, 4).setText(u"x"_s);
     EXPECT_EQ(desk.saved(),
               "2\r\n24\r\n-1\r\n-1;Off\r\n-1;2;x  y\r\n12a\r\n07\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\nx\r\n");
 
@@ -58,8 +58,8 @@ TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
     EXPECT_EQ(next.saved(), desk.saved()) << "loading does not save";
     const VariableStore& variables = next.state.variables;
     EXPECT_EQ(variables.text(u"@FADE_OUT"), u"10") << "an empty box was saved: the default stays";
-    EXPECT_EQ(next.form.at(u"cmbFADE"_s, 3).text(), u"2;x  y");
-    EXPECT_EQ(next.form.at(u"txtS5H"_s, 0).text(), u"12");
+    EXPECT_EQ(next.form.at(controls.cmbFADE, 3).text(), u"2;x  y");
+    EXPECT_EQ(next.form.at(controls.txtS5H, 0).text(), u"12");
     EXPECT_EQ(*variables.find(u"@S5H2"), Value(7.0));
     EXPECT_TRUE(next.operatorDesk.shown.isEmpty());
 }
@@ -85,9 +85,9 @@ TEST(Selections, ABrokenFileIsOneMessageAndWhatWasReadStays) {
         ASSERT_EQ(desk.operatorDesk.shown.size(), 1);
         EXPECT_TRUE(desk.operatorDesk.shown[0].startsWith(u"Error "_s + each.error + u"\r\n"))
             << desk.operatorDesk.shown[0].toStdString();
-        EXPECT_EQ(desk.form.at(u"cbQt"_s).position(), each.period);
-        EXPECT_EQ(desk.form.at(u"cmbFADE"_s, 1).position(), each.fadeOut);
-        EXPECT_EQ(desk.form.at(u"txtS5A"_s, 4).text(), u"0");
+        EXPECT_EQ(desk.form.at(controls.cbQt).position(), each.period);
+        EXPECT_EQ(desk.form.at(controls.cmbFADE, 1).position(), each.fadeOut);
+        EXPECT_EQ(desk.form.at(controls.txtS5A, 4).text(), u"0");
     }
 }
 

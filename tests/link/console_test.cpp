@@ -14,13 +14,14 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         const auto press = isMain ? &LinkConsole::cmdGASPARCONNECT : &LinkConsole::cmdGASPARCONNECTREMOTE;
         Studio studio;
         Server server;
-        const Control& button = studio.form.at(u"cmdGASPARCONNECT"_s + suffix);
+        const LinkControls& link = isMain ? kMainLinkControls : kRemoteLinkControls;
+        const Control& button = studio.form.at(link.connect);
         Control& tab = studio.at("cmdTAB", isMain ? 4 : 3);
         Control& status = studio.at(isMain ? "lblLINKMAIN" : "lblLINKREMOTE");
         auto* timer = studio.console.findChild<QTimer*>(u"tmrWS"_s + suffix);
         const auto tick = [watch = qobject_cast<LinkWatch*>(timer->parent())] { watch->watch(); };
-        studio.form.at(u"txtGASPARIP"_s + suffix).setText(u"127.0.0.1"_s);
-        studio.form.at(u"txtGASPARPORT"_s + suffix).setText(server.port());
+        studio.form.at(link.address).setText(u"127.0.0.1"_s);
+        studio.form.at(link.port).setText(server.port());
         const QString target = name + u"127.0.0.1:"_s + server.port() + u' ';
         EXPECT_EQ(status.text(), name + u"not connected"_s);
         EXPECT_FALSE(timer->isActive());

@@ -52,7 +52,7 @@ struct Studio {
         links.link(id).connectTo(QStringLiteral("127.0.0.1"), server.port());
         waitUntil([&] { return links.state(id) == Graphics::kConnected && server.peer != nullptr; });
     }
-    Control& at(const char* control, int index = -1) const { return form.at(QString::fromLatin1(control), index); }
+    Control& at(const char* control, int index = -1) const { return *form.find(QString::fromLatin1(control), index); }
     QByteArray logFile() const {
         QFile file(folder.filePath(QStringLiteral("MODULES/CASPAROUT.TXT")));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");

@@ -30,7 +30,7 @@ CardsApp::CardsApp(const Options& options)
         if (asker.isAttended()) window_.activateWindow();
     });
     answerDesk();
-    form_.at(u"lblDATABASE"_s).setText(u"database none"_s);
+    form_.at(controls.lblDATABASE).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     // The last lines are handed over before boxes end and runs that wait are told so.
@@ -40,36 +40,37 @@ CardsApp::CardsApp(const Options& options)
 }
 
 void CardsApp::answerLinks() {
-    events_.onClick(u"cmdGASPARCONNECT"_s, [this](int) { linkConsole_.cmdGASPARCONNECT(); });
-    events_.onClick(u"cmdGASPARCONNECTREMOTE"_s, [this](int) { linkConsole_.cmdGASPARCONNECTREMOTE(); });
-    events_.onClick(u"cmdVIEWGASPHISTORY"_s, [this](int) { linkConsole_.cmdVIEWGASPHISTORY(); });
-    events_.onClick(u"cmdGASPHISTCLOSE"_s, [this](int) { linkConsole_.cmdGASPHISTCLOSE(); });
-    events_.onClick(u"cmdLASTXML"_s, [this](int) { linkConsole_.cmdLASTXML(); });
-    events_.onClick(u"cmdMANUALSEND"_s, [this](int) { linkConsole_.cmdMANUALSEND(); });
-    for (const QString& box : {u"txtGASPARIP"_s, u"txtGASPARPORT"_s}) {
+    events_.onClick(controls.cmdGASPARCONNECT, [this](int) { linkConsole_.cmdGASPARCONNECT(); });
+    events_.onClick(controls.cmdGASPARCONNECTREMOTE, [this](int) { linkConsole_.cmdGASPARCONNECTREMOTE(); });
+    events_.onClick(controls.cmdVIEWGASPHISTORY, [this](int) { linkConsole_.cmdVIEWGASPHISTORY(); });
+    events_.onClick(controls.cmdGASPHISTCLOSE, [this](int) { linkConsole_.cmdGASPHISTCLOSE(); });
+    events_.onClick(controls.cmdLASTXML, [this](int) { linkConsole_.cmdLASTXML(); });
+    events_.onClick(controls.cmdMANUALSEND, [this](int) { linkConsole_.cmdMANUALSEND(); });
+    const auto connectOnEnter = [this](const LinkControls& link, auto connects) {
         // Enter connects; it never drops a link that is on air.
-        events_.onEnter(box, [this](int) {
-            if (form_.at(u"cmdGASPARCONNECT"_s).tag() == u"connect") linkConsole_.cmdGASPARCONNECT();
-        });
-        events_.onEnter(box + u"REMOTE"_s, [this](int) {
-            if (form_.at(u"cmdGASPARCONNECTREMOTE"_s).tag() == u"connect") linkConsole_.cmdGASPARCONNECTREMOTE();
-        });
-    }
-    events_.onEnter(u"txtMANUALCASPAR"_s, [this](int) { linkConsole_.cmdMANUALSEND(); });
+        const auto enter = [this, &link, connects](int) {
+            if (form_.at(link.connect).tag() == u"connect") (linkConsole_.*connects)();
+        };
+        events_.onEnter(link.address, enter);
+        events_.onEnter(link.port, enter);
+    };
+    connectOnEnter(kMainLinkControls, &LinkConsole::cmdGASPARCONNECT);
+    connectOnEnter(kRemoteLinkControls, &LinkConsole::cmdGASPARCONNECTREMOTE);
+    events_.onEnter(controls.txtMANUALCASPAR, [this](int) { linkConsole_.cmdMANUALSEND(); });
     connect(&window_, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);
     connect(&window_, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
 }
 
 void CardsApp::answerDesk() {
-    events_.onClick(u"cmdCLOCKS"_s, [this](int) { desk_.localClock.cmdCLOCKS(); });
-    events_.onClick(u"Command1"_s, [this](int) { desk_.stopwatch.Command1(); });
-    events_.onClick(u"cmdMANSCORE"_s, [this](int index) { desk_.scoreboard.cmdMANSCORE(index); });
-    events_.onClick(u"lblPROPOSED"_s, [this](int index) { desk_.proposals.lblPROPOSED(index); });
+    events_.onClick(controls.cmdCLOCKS, [this](int) { desk_.localClock.cmdCLOCKS(); });
+    events_.onClick(controls.Command1, [this](int) { desk_.stopwatch.Command1(); });
+    events_.onClick(controls.cmdMANSCORE, [this](int index) { desk_.scoreboard.cmdMANSCORE(index); });
+    events_.onClick(controls.lblPROPOSED, [this](int index) { desk_.proposals.lblPROPOSED(index); });
     const auto players = [this](auto handler) {
         return [this, handler](int index, Qt::MouseButton button) { (desk_.players.*handler)(index, button); };
     };
-    events_.onMouseDown(u"lblAPLAYERS"_s, players(&PlayerLabels::lblAPLAYERS));
-    events_.onMouseDown(u"lblHPLAYERS"_s, players(&PlayerLabels::lblHPLAYERS));
+    events_.onMouseDown(controls.lblAPLAYERS, players(&PlayerLabels::lblAPLAYERS));
+    events_.onMouseDown(controls.lblHPLAYERS, players(&PlayerLabels::lblHPLAYERS));
 }
 
 StartUp::Steps CardsApp::steps() {
@@ -103,7 +104,7 @@ void CardsApp::connectDatabase() {
     QString words = u"database none"_s;
     if (database_.connectionState() == Connections::State::Open) words = number + u"connected"_s;
     if (database_.connectionState() == Connections::State::Failed) words = number + u"failed"_s;
-    form_.at(u"lblDATABASE"_s).setText(words);
+    form_.at(controls.lblDATABASE).setText(words);
 }
 
 void CardsApp::release() {

@@ -26,10 +26,10 @@ SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards,
 }
 
 void SettingsDesk::answer(FormEvents& events, SystemDesktop& desktop) {
-    events.onClick(u"cmdSCREENMODE"_s, [this](int button) { commands_.cmdSCREENMODE(button); });
-    events.onClick(u"cmdMenu"_s, [this](int) { menu_.popup(QCursor::pos()); });
-    for (const QString& list : {u"cmbFADE"_s, u"cbQt"_s, u"cmbLANG"_s})
-        events.onClick(list, [this, list](int index) { commands_.chooseAgain(form_.at(list, index)); });
+    events.onClick(controls.cmdSCREENMODE, [this](int button) { commands_.cmdSCREENMODE(button); });
+    events.onClick(controls.cmdMenu, [this](int) { menu_.popup(QCursor::pos()); });
+    for (const ControlRow* list : {&controls.cmbFADE, &controls.cbQt, &controls.cmbLANG})
+        events.onClick(*list, [this, list](int index) { commands_.chooseAgain(form_.at(*list, index)); });
     desktop.addForm(generalForm_.objectName(), [this](const Asker& asker) { commands_.mnGeneralVars(asker); });
 }
 
@@ -40,8 +40,8 @@ void SettingsDesk::choose(const QString& item) {
         forms_.bringToFront(variablesBox_.objectName());
     }
     if (item == u"mnGeneralVars") commands_.mnGeneralVars({});
-    if (item == u"mnSet169") commands_.mnSet169();
-    if (item == u"mnSet43") commands_.mnSet43();
+    if (item == controls.mnSet169.name) commands_.mnSet169();
+    if (item == controls.mnSet43.name) commands_.mnSet43();
 }
 
 void SettingsDesk::showGeneral() {

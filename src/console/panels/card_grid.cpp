@@ -24,7 +24,7 @@ CardGrid::CardGrid(const Mirrors& mirrors, const CardConsole& console) : console
     }
     connect(&console, &CardConsole::cardsChanged, this, &CardGrid::showFaces);
     connect(&form_, &FormModel::changed, this, [this](const Control* control) {
-        if (control->name() == u"cmbCARD") showFaces();
+        if (control->is(controls.cmbCARD)) showFaces();
     });
     showFaces();
 }
@@ -33,7 +33,7 @@ void CardGrid::showFaces() {
     for (int i = 0; i < CardConsole::kCardButtons; ++i) {
         const CardEntry& card = console_.card(i);
         CardButton::Face face;
-        face.on = form_.at(u"cmbCARD"_s, i).state() == u"ON";
+        face.on = form_.at(controls.cmbCARD, i).state() == u"ON";
         face.quiet = card.script.isEmpty() && card.shownCaption().isEmpty();
         face.flagged = card.flag;
         face.lastFired = console_.isLastFired(i);

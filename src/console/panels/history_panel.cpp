@@ -6,7 +6,6 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-#include "console/hints.h"
 #include "console/line_view.h"
 
 using namespace Qt::StringLiterals;
@@ -14,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
-    : PanelFrame(mirrors, u"fraGASPHISTORY"_s),
-      template_(mirrors.form().at(u"lblLASTXML"_s)),
+    : PanelFrame(mirrors, controls.fraGASPHISTORY),
+      template_(mirrors.form().at(controls.lblLASTXML)),
       view_(new QPlainTextEdit),
       raw_(new ConsoleButton({})) {
     auto* column = new QVBoxLayout(this);
@@ -29,19 +28,19 @@ HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
     raw_->setHint(u"Shows the template data as it was sent"_s);
     raw_->setAccessibleName(u"Template data as it was sent"_s);
     head->addWidget(raw_);
-    head->addWidget(mirrors.button(u"cmdLASTXML"_s));
-    head->addWidget(mirrors.button(u"cmdGASPHISTCLOSE"_s));
+    head->addWidget(mirrors.button(controls.cmdLASTXML));
+    head->addWidget(mirrors.button(controls.cmdGASPHISTCLOSE));
     column->addLayout(head);
 
     auto* lines = new LineView(history, LineView::Newest::AtBottom);
-    mirrors.panel(lines, u"lstGASPARHISTORY"_s);
+    mirrors.panel(lines, controls.lstGASPARHISTORY);
     column->addWidget(lines, 1);
     view_->setObjectName(template_.name());
     view_->setProperty("index", -1);
     view_->setReadOnly(true);
     view_->setFont(theme::font(12));
-    view_->setToolTip(hintFor(template_));
-    view_->setAccessibleName(hintFor(template_));
+    view_->setToolTip(template_.hint());
+    view_->setAccessibleName(template_.hint());
     column->addWidget(view_, 1);
 
     connect(lines, &LineView::lineClicked, this,
@@ -52,7 +51,7 @@ HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
     });
     connect(&template_, &Control::changed, this, &HistoryPanel::showTemplate);
     // The view lies beneath the list: it shows where the list is hidden.
-    const Control& list = mirrors.form().at(u"lstGASPARHISTORY"_s);
+    const Control& list = mirrors.form().at(controls.lstGASPARHISTORY);
     const auto follow = [this, &list] {
         view_->setVisible(!list.visible());
         raw_->setVisible(!list.visible());

@@ -20,15 +20,15 @@ class KeyChip : public QWidget {
         auto* row = new QHBoxLayout(this);
         row->setContentsMargins(4, 3, 4, 3);
         row->setSpacing(2);
-        TextLabel* key = mirrors.label(u"lblFKEY"_s, index,
+        TextLabel* key = mirrors.label(controls.lblFKEY, index,
                                        {11, true, Qt::AlignCenter, Role::Text, Role::ButtonHover, false, false, 5});
         row->addWidget(key);
         TextLabel* title =
-            mirrors.label(u"lblFKEYTITLE"_s, index,
+            mirrors.label(controls.lblFKEYTITLE, index,
                           {14, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, std::nullopt, false, false, 4});
         title->setCursor(Qt::PointingHandCursor);
         row->addWidget(title);
-        const Control& control = mirrors.form().at(u"lblFKEYTITLE"_s, index);
+        const Control& control = mirrors.form().at(controls.lblFKEYTITLE, index);
         const auto follow = [this, &control] { setVisible(control.visible() && !control.text().isEmpty()); };
         connect(&control, &Control::changed, this, follow);
         follow();
@@ -60,10 +60,11 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     row->setSpacing(6);
     for (int i = 0; i < kShownKeys; ++i) row->addWidget(new KeyChip(mirrors, i));
     row->addStretch(1);
-    for (const QString& name : {u"lblFEED"_s, u"lblLINKMAIN"_s, u"lblLINKREMOTE"_s, u"lblDATABASE"_s}) {
+    for (const ControlRow* name :
+         {&controls.lblFEED, &controls.lblLINKMAIN, &controls.lblLINKREMOTE, &controls.lblDATABASE}) {
         TextLabel* words =
-            mirrors.label(name, -1, {13, false, Qt::AlignRight | Qt::AlignVCenter, Role::Muted, {}, false, false, 4});
-        const Control& control = mirrors.form().at(name);
+            mirrors.label(*name, -1, {13, false, Qt::AlignRight | Qt::AlignVCenter, Role::Muted, {}, false, false, 4});
+        const Control& control = mirrors.form().at(*name);
         const auto follow = [words, &control] { words->setTextRole(newsRole(control.text())); };
         connect(&control, &Control::changed, words, follow);
         follow();

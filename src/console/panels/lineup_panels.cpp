@@ -6,48 +6,49 @@ namespace zelvor {
 
 namespace {
 
-// A row of number boxes for home above one for away: `name` + "H" and `name` + "A".
-QGridLayout* lineUps(const Mirrors& mirrors, const QString& name, int players) {
+// A row of number boxes for home above one for away.
+QGridLayout* lineUps(const Mirrors& mirrors, const ControlRow& home, const ControlRow& away) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(6);
+    const int players = home.elements.last + 1;
     for (int player = 0; player < players; ++player) {
         grid->addWidget(PanelFrame::word(QString::number(player + 1)), 0, player + 1, Qt::AlignHCenter);
         grid->setColumnStretch(player + 1, 1);
     }
-    int row = 1;
-    for (const QString& side : {u"H"_s, u"A"_s}) {
-        grid->addWidget(PanelFrame::word(side == u"H" ? u"Home"_s : u"Away"_s), row, 0);
+    const auto addSide = [&](int row, const QString& side, const ControlRow& boxes) {
+        grid->addWidget(PanelFrame::word(side), row, 0);
         for (int player = 0; player < players; ++player) {
-            QLineEdit* number = mirrors.textBox(name + side, player);
+            QLineEdit* number = mirrors.textBox(boxes, player);
             number->setAlignment(Qt::AlignCenter);
             number->setMinimumWidth(30);
             grid->addWidget(number, row, player + 1);
         }
-        ++row;
-    }
+    };
+    addSide(1, u"Home"_s, home);
+    addSide(2, u"Away"_s, away);
     return grid;
 }
 
 }  // namespace
 
-StartFivePanel::StartFivePanel(const Mirrors& mirrors) : PanelFrame(mirrors, u"Frame2"_s) {
+StartFivePanel::StartFivePanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.Frame2) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(12, 12, 12, 12);
-    column->addLayout(lineUps(mirrors, u"txtS5"_s, 5));
+    column->addLayout(lineUps(mirrors, kHomeControls.startFive, kAwayControls.startFive));
     column->addStretch(1);
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(mirrors.button(u"cmdAUTO5ADA"_s));
-    buttons->addWidget(mirrors.button(u"cmdINVOKE"_s));
-    buttons->addWidget(mirrors.button(u"cmdAUTOCARD"_s));
+    buttons->addWidget(mirrors.button(controls.cmdAUTO5ADA));
+    buttons->addWidget(mirrors.button(controls.cmdINVOKE));
+    buttons->addWidget(mirrors.button(controls.cmdAUTOCARD));
     buttons->addStretch(1);
     column->addLayout(buttons);
 }
 
-StartElevenPanel::StartElevenPanel(const Mirrors& mirrors) : PanelFrame(mirrors, u"Frame6"_s) {
+StartElevenPanel::StartElevenPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.Frame6) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(12, 12, 12, 12);
-    column->addLayout(lineUps(mirrors, u"txtS11"_s, 11));
+    column->addLayout(lineUps(mirrors, kHomeControls.startEleven, kAwayControls.startEleven));
     column->addStretch(1);
 }
 

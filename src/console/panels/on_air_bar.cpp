@@ -61,21 +61,21 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     row->setContentsMargins(12, 8, 12, 8);
     row->setSpacing(10);
 
-    ConsoleButton* menu = mirrors.button(u"cmdMenu"_s);
+    ConsoleButton* menu = mirrors.button(controls.cmdMenu);
     menu->setMinimumWidth(76);
     row->addWidget(menu);
-    QComboBox* language = mirrors.list(u"cmbLANG"_s);
+    QComboBox* language = mirrors.list(controls.cmbLANG);
     language->setMinimumWidth(64);
     language->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     row->addWidget(language);
     auto* modes = new QHBoxLayout;
     modes->setSpacing(0);
     for (int mode = 0; mode < 2; ++mode) {
-        ConsoleButton* button = mirrors.button(u"cmdSCREENMODE"_s, mode, {13, true});
+        ConsoleButton* button = mirrors.button(controls.cmdSCREENMODE, mode, {13, true});
         button->setFixedWidth(50);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
         // The mode that is on has a frame as well: its colour is not all that tells it.
-        const Control& control = form_.at(u"cmdSCREENMODE"_s, mode);
+        const Control& control = form_.at(controls.cmdSCREENMODE, mode);
         const auto frame = [button, &control] {
             const bool on = control.backColour() == colours::kScreenModeOn;
             button->setSelected(on);
@@ -87,38 +87,38 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     }
     row->addLayout(modes);
     TextLabel::Look mark{13, true, Qt::AlignCenter, Role::Wait, Role::Panel};
-    row->addWidget(mirrors.label(u"lblPREVIEW"_s, -1, mark));
+    row->addWidget(mirrors.label(controls.lblPREVIEW, -1, mark));
 
-    line_ = new AirLine(form_.at(u"lblONAIR"_s));
+    line_ = new AirLine(form_.at(controls.lblONAIR));
     auto* words = new QHBoxLayout(line_);
     words->setContentsMargins(10, 0, 8, 0);
     words->setSpacing(4);
-    auto* lamp = new Lamp(form_.at(u"lblONAIRLAMP"_s));
-    mirrors.panel(lamp, u"lblONAIRLAMP"_s);
+    auto* lamp = new Lamp(form_.at(controls.lblONAIRLAMP));
+    mirrors.panel(lamp, controls.lblONAIRLAMP);
     words->addWidget(lamp);
-    TextLabel* state = mirrors.label(u"lblONAIR"_s, -1, {15, true, Qt::AlignLeft | Qt::AlignVCenter});
+    TextLabel* state = mirrors.label(controls.lblONAIR, -1, {15, true, Qt::AlignLeft | Qt::AlignVCenter});
     words->addWidget(state);
-    TextLabel* card = mirrors.label(u"lblONAIRCARD"_s, -1, {15, false, Qt::AlignLeft | Qt::AlignVCenter});
+    TextLabel* card = mirrors.label(controls.lblONAIRCARD, -1, {15, false, Qt::AlignLeft | Qt::AlignVCenter});
     card->setPlaceholder(u"Nothing on air"_s);
     card->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     words->addWidget(card, 1);
-    words->addWidget(mirrors.checkBox(u"chkONAIRLOCK"_s));
+    words->addWidget(mirrors.checkBox(controls.chkONAIRLOCK));
     row->addWidget(line_, 1);
 
     ConsoleButton* clear =
-        mirrors.button(u"GradientButtonAIR"_s, -1, {15, true, Role::AirFill, Role::AirLine, Role::Text});
+        mirrors.button(controls.GradientButtonAIR, -1, {15, true, Role::AirFill, Role::AirLine, Role::Text});
     clear->setFixedWidth(150);
     clear->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     row->addWidget(clear);
 
-    for (const QString& name : {u"lblONAIR"_s, u"lblONAIRLAMP"_s})
-        connect(&form_.at(name), &Control::changed, this, &OnAirBar::showFrame);
+    for (const ControlRow* part : {&controls.lblONAIR, &controls.lblONAIRLAMP})
+        connect(&form_.at(*part), &Control::changed, this, &OnAirBar::showFrame);
     showFrame();
 }
 
 void OnAirBar::showFrame() {
-    const bool empty = form_.at(u"lblONAIR"_s).text().isEmpty();
-    line_->findChild<TextLabel*>(u"lblONAIR"_s)->setMaximumWidth(empty ? 0 : QWIDGETSIZE_MAX);
+    const bool empty = form_.at(controls.lblONAIR).text().isEmpty();
+    line_->findChild<TextLabel*>(controls.lblONAIR.name.toString())->setMaximumWidth(empty ? 0 : QWIDGETSIZE_MAX);
     line_->update();
     for (QWidget* part : line_->findChildren<QWidget*>()) part->update();
 }

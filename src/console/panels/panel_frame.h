@@ -14,7 +14,7 @@ class PanelFrame : public QWidget {
     Q_OBJECT
 
  public:
-    PanelFrame(const Mirrors& mirrors, const QString& name) { mirrors.panel(this, name); }
+    PanelFrame(const Mirrors& mirrors, const ControlRow& row) { mirrors.panel(this, row); }
 
     // A fixed word of the panel, muted.
     static QLabel* word(const QString& text) {

@@ -21,32 +21,32 @@ PlayersPanel::PlayersPanel(const Mirrors& mirrors) {
     column->setSpacing(3);
     auto* heads = new QHBoxLayout;
     heads->setSpacing(6);
-    heads->addWidget(teamName(mirrors, u"lblHTEAM"_s, u"Home"_s), 1);
-    ConsoleButton* clear = mirrors.button(u"cmdCLEARTAG"_s, -1, {12, false});
+    heads->addWidget(teamName(mirrors, controls.lblHTEAM, u"Home"_s), 1);
+    ConsoleButton* clear = mirrors.button(controls.cmdCLEARTAG, -1, {12, false});
     clear->setFixedHeight(24);
     heads->addWidget(clear);
-    heads->addWidget(teamName(mirrors, u"lblATEAM"_s, u"Away"_s), 1);
+    heads->addWidget(teamName(mirrors, controls.lblATEAM, u"Away"_s), 1);
     column->addLayout(heads);
     auto* teams = new QHBoxLayout;
     teams->setSpacing(8);
-    teams->addLayout(players(mirrors, u"lblHPLAYERS"_s), 1);
-    teams->addLayout(players(mirrors, u"lblAPLAYERS"_s), 1);
+    teams->addLayout(players(mirrors, controls.lblHPLAYERS), 1);
+    teams->addLayout(players(mirrors, controls.lblAPLAYERS), 1);
     column->addLayout(teams, 1);
 }
 
-TextLabel* PlayersPanel::teamName(const Mirrors& mirrors, const QString& name, const QString& nobody) {
-    TextLabel* label = mirrors.label(name, -1, {14, true, Qt::AlignCenter, Role::Text, Role::Cell});
+TextLabel* PlayersPanel::teamName(const Mirrors& mirrors, const ControlRow& team, const QString& nobody) {
+    TextLabel* label = mirrors.label(team, -1, {14, true, Qt::AlignCenter, Role::Text, Role::Cell});
     label->setPlaceholder(nobody);
     label->setFixedHeight(24);
     return label;
 }
 
-QLayout* PlayersPanel::players(const Mirrors& mirrors, const QString& name) {
+QLayout* PlayersPanel::players(const Mirrors& mirrors, const ControlRow& row) {
     auto* grid = new QGridLayout;
     grid->setSpacing(3);
     for (int player = 0; player < kPlayers; ++player) {
         TextLabel* label = mirrors.label(
-            name, player, {12, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, Role::Cell, false, true});
+            row, player, {12, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, Role::Cell, false, true});
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         grid->addWidget(label, player % kPlayerRows, player / kPlayerRows);
         grid->setRowStretch(player % kPlayerRows, 1);
@@ -60,7 +60,7 @@ ProposalsPanel::ProposalsPanel(const Mirrors& mirrors) {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(6);
     for (int i = 0; i < kProposals; ++i) {
-        TextLabel* label = mirrors.label(u"lblPROPOSED"_s, i + 1,
+        TextLabel* label = mirrors.label(controls.lblPROPOSED, i + 1,
                                          {12, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, Role::Cell, true});
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         label->setFixedHeight(42);

@@ -14,8 +14,8 @@ class PlayersPanel : public QWidget {
     explicit PlayersPanel(const Mirrors& mirrors);
 
  private:
-    static TextLabel* teamName(const Mirrors& mirrors, const QString& name, const QString& nobody);
-    static QLayout* players(const Mirrors& mirrors, const QString& name);
+    static TextLabel* teamName(const Mirrors& mirrors, const ControlRow& team, const QString& nobody);
+    static QLayout* players(const Mirrors& mirrors, const ControlRow& row);
 };
 
 // The eight proposals, four in a row.

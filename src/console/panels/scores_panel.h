@@ -12,9 +12,9 @@ class ScoresPanel : public PanelFrame {
     explicit ScoresPanel(const Mirrors& mirrors);
 
  private:
-    static void addSide(const Mirrors& mirrors, QGridLayout* grid, int column, const QString& team, const QString& side,
-                        int firstStep);
-    static QLayout* manualScore(const Mirrors& mirrors, const QString& side, int firstStep);
+    static void addSide(const Mirrors& mirrors, QGridLayout* grid, int column, const TeamControls& team,
+                        const QString& nobody, int firstStep);
+    static QLayout* manualScore(const Mirrors& mirrors, const ControlRow& box, int firstStep);
     static QLayout* times(const Mirrors& mirrors);
 };
 

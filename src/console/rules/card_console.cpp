@@ -13,12 +13,9 @@ namespace zelvor {
 namespace {
 
 // Frame6 ("Start 11") is meant to be missing: no tab shows or hides it.
-constexpr std::array kTabPanels{1, 2, 3, 4, 5, 7};
+constexpr std::array kTabPanels{&controls.Frame1, &controls.Frame2, &controls.Frame3,
+                                &controls.Frame4, &controls.Frame5, &controls.Frame7};
 static_assert(kTabPanels.size() == CardConsole::kTabs);
-
-QString panelName(int number) {
-    return u"Frame%1"_s.arg(number);
-}
 
 }  // namespace
 
@@ -29,16 +26,16 @@ CardConsole::CardConsole(CardEngine& engine) : engine_(engine), state_(engine.st
 }
 
 void CardConsole::answer(FormEvents& events) {
-    events.onClick(u"cmbCARD"_s, [this](int index) { pressCard(index); });
-    events.onClick(u"cmdCARDBOX"_s, [this](int index) { pressCardBox(index); });
-    events.onClick(u"GradientButtonS"_s, [this](int index) { selectBox(index); });
-    events.onClick(u"GradientButtonAIR"_s, [this](int) { CLEAR_TV(); });
-    events.onClick(u"cmdTAB"_s, [this](int index) { showTab(index); });
-    events.onClick(u"cmdINVOKE"_s, [this](int) { run(u"invoke.csp"_s); });
-    events.onClick(u"cmdAUTO5ADA"_s, [this](int) { run(u"auto5ada.csp"_s); });
-    events.onClick(u"cmdAUTOCARD"_s, [this](int) { SHOW_AUTO_CARD(); });
-    events.onClick(u"cmdCLEARTAG"_s, [this](int) { clearTag(); });
-    events.onClick(u"lblFKEYTITLE"_s, [this](int index) { functionKey(index + 1); });
+    events.onClick(controls.cmbCARD, [this](int index) { pressCard(index); });
+    events.onClick(controls.cmdCARDBOX, [this](int index) { pressCardBox(index); });
+    events.onClick(controls.GradientButtonS, [this](int index) { selectBox(index); });
+    events.onClick(controls.GradientButtonAIR, [this](int) { CLEAR_TV(); });
+    events.onClick(controls.cmdTAB, [this](int index) { showTab(index); });
+    events.onClick(controls.cmdINVOKE, [this](int) { run(u"invoke.csp"_s); });
+    events.onClick(controls.cmdAUTO5ADA, [this](int) { run(u"auto5ada.csp"_s); });
+    events.onClick(controls.cmdAUTOCARD, [this](int) { SHOW_AUTO_CARD(); });
+    events.onClick(controls.cmdCLEARTAG, [this](int) { clearTag(); });
+    events.onClick(controls.lblFKEYTITLE, [this](int index) { functionKey(index + 1); });
 }
 
 void CardConsole::pressCard(int index) {
@@ -70,7 +67,7 @@ void CardConsole::run(const QString& script, bool tagged) {
 
 void CardConsole::selectBox(int selector) {
     state_.currentSet = selector + 1;
-    for (int i = 0; i < kSelectors; ++i) form_.at(u"GradientButtonS"_s, i).setChecked(i == selector);
+    for (int i = 0; i < kSelectors; ++i) form_.at(controls.GradientButtonS, i).setChecked(i == selector);
     showCurrentSet(state_, form_);
     Q_EMIT cardsChanged();
 }
@@ -79,11 +76,11 @@ void CardConsole::CLEAR_TV() {
     run(state_.cards.clearCard);
     if (engine_.program().closing.hasBegun()) return;
     showClear(form_);
-    form_.at(u"GradientButtonAIR"_s).setText(u"CLEAR"_s);
+    form_.at(controls.GradientButtonAIR).setText(u"CLEAR"_s);
     if (const auto fired = std::exchange(state_.console.lastFired, std::nullopt)) {
         state_.cards.entry(fired->set, fired->index + 1).on = false;
         if (fired->set == state_.currentSet) {
-            Control& button = form_.at(u"cmbCARD"_s, fired->index);
+            Control& button = form_.at(controls.cmbCARD, fired->index);
             button.setState(u"OFF"_s);
             button.setBackColour(std::nullopt);
         }
@@ -99,14 +96,15 @@ void CardConsole::functionKey(int number) {
 
 void CardConsole::showTab(int tab) {
     for (int i = 0; i < kTabs; ++i) {
-        form_.at(panelName(kTabPanels[i])).setVisible(i == tab);
-        form_.at(u"cmdTAB"_s, i).setChecked(i == tab);
+        form_.at(*kTabPanels[i]).setVisible(i == tab);
+        form_.at(controls.cmdTAB, i).setChecked(i == tab);
     }
 }
 
 void CardConsole::clearTag() {
-    for (const QString& name : {u"lblHPLAYERS"_s, u"lblAPLAYERS"_s, u"lblHTEAM"_s, u"lblATEAM"_s}) {
-        for (Control* label : form_.named(name)) {
+    for (const ControlRow* row :
+         {&controls.lblHPLAYERS, &controls.lblAPLAYERS, &controls.lblHTEAM, &controls.lblATEAM}) {
+        for (Control* label : form_.named(*row)) {
             label->setForeColour(std::nullopt);
             label->setBackColour(std::nullopt);
         }
@@ -129,11 +127,11 @@ void CardConsole::showLoaded() {
 }
 
 void CardConsole::showSwitches() {
-    form_.at(u"picHideControls"_s).setVisible(!state_.cards.showControls);
-    Control& preview = form_.at(u"lblPREVIEW"_s);
+    form_.at(controls.picHideControls).setVisible(!state_.cards.showControls);
+    Control& preview = form_.at(controls.lblPREVIEW);
     preview.setVisible(state_.preview && state_.cards.showPreview);
     preview.setEnabled(!state_.switches.PreviewDisabled);
-    form_.at(u"cmdAUTOCARD"_s).setEnabled(!state_.variables.text(u"@AUTOCARD").isEmpty());
+    form_.at(controls.cmdAUTOCARD).setEnabled(!state_.variables.text(u"@AUTOCARD").isEmpty());
 }
 
 bool CardConsole::isLastFired(int index) const {

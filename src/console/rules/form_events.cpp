@@ -4,16 +4,16 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-void FormEvents::onClick(const QString& name, Click handler, Tell tell) {
-    clicks_.insert_or_assign(name, Entry<Click>{std::move(handler), tell});
+void FormEvents::onClick(const ControlRow& row, Click handler, Tell tell) {
+    clicks_.insert_or_assign(row.name.toString(), Entry<Click>{std::move(handler), tell});
 }
 
-void FormEvents::onMouseDown(const QString& name, MouseDown handler, Tell tell) {
-    mouseDowns_.insert_or_assign(name, Entry<MouseDown>{std::move(handler), tell});
+void FormEvents::onMouseDown(const ControlRow& row, MouseDown handler, Tell tell) {
+    mouseDowns_.insert_or_assign(row.name.toString(), Entry<MouseDown>{std::move(handler), tell});
 }
 
-void FormEvents::onEnter(const QString& name, Click handler, Tell tell) {
-    enters_.insert_or_assign(name, Entry<Click>{std::move(handler), tell});
+void FormEvents::onEnter(const ControlRow& row, Click handler, Tell tell) {
+    enters_.insert_or_assign(row.name.toString(), Entry<Click>{std::move(handler), tell});
 }
 
 template <class Body>

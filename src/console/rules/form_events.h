@@ -19,10 +19,10 @@ class FormEvents {
 
     explicit FormEvents(ErrorTrap& trap) : trap_(trap) {}
 
-    // One handler a control name; a second one replaces the first.
-    void onClick(const QString& name, Click handler, Tell tell = Tell::Operator);
-    void onMouseDown(const QString& name, MouseDown handler, Tell tell = Tell::LogOnly);
-    void onEnter(const QString& name, Click handler, Tell tell = Tell::Operator);
+    // One handler a control, or array of them; a second one replaces the first.
+    void onClick(const ControlRow& row, Click handler, Tell tell = Tell::Operator);
+    void onMouseDown(const ControlRow& row, MouseDown handler, Tell tell = Tell::LogOnly);
+    void onEnter(const ControlRow& row, Click handler, Tell tell = Tell::Operator);
 
     // A control without a handler is left alone.
     void click(const Control& control) const;

@@ -40,21 +40,21 @@ bool StartUp::step(const QString& name, const std::function<void()>& body) {
 
 void StartUp::layOut() {
     console_.showTab(kCasparTab);
-    form_.at(u"Frame6"_s).setVisible(false);
-    form_.at(u"fraGASPHISTORY"_s).setVisible(false);
-    Control& period = form_.at(u"cbQt"_s);
+    form_.at(controls.Frame6).setVisible(false);
+    form_.at(controls.fraGASPHISTORY).setVisible(false);
+    Control& period = form_.at(controls.cbQt);
     period.setItems(numbers(kPeriods));
     period.setPosition(0);
-    for (Control* proposal : form_.named(u"lblPROPOSED"_s)) {
+    for (Control* proposal : form_.named(controls.lblPROPOSED)) {
         proposal->setBackColour(colours::kOpenProposal);
         proposal->setText({});
         proposal->setTag({});
     }
-    form_.at(u"lblPREVIEW"_s).setVisible(state_.preview);
+    form_.at(controls.lblPREVIEW).setVisible(state_.preview);
 }
 
 void StartUp::fillEffects() {
-    for (Control* box : form_.named(u"cmbFADE"_s)) {
+    for (Control* box : form_.named(controls.cmbFADE)) {
         box->setItems(numbers(kEffectSpeeds));
         box->setPosition(kFirstEffectSpeed);
     }
@@ -62,8 +62,8 @@ void StartUp::fillEffects() {
 }
 
 void StartUp::showTeams() {
-    form_.at(u"lblHTEAM"_s).setText(state_.variables.GetVar(u"@HTLNAMEEN").text());
-    form_.at(u"lblATEAM"_s).setText(state_.variables.GetVar(u"@ATLNAMEEN").text());
+    form_.at(controls.lblHTEAM).setText(state_.variables.GetVar(u"@HTLNAMEEN").text());
+    form_.at(controls.lblATEAM).setText(state_.variables.GetVar(u"@ATLNAMEEN").text());
 }
 
 void StartUp::run() {

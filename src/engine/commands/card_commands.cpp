@@ -22,18 +22,18 @@ void BUTTONTEXT(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     const int button = buttonNumber(pieces[0]);
     const QString text = pieces[1].toString();
-    run.form().at(u"cmbCARD"_s, button).setText(text);
+    run.form().at(controls.cmbCARD, button).setText(text);
     run.state().cards.entry(run.state().currentSet, button + 1).text = text;
 }
 
 void BUTTONCOLOR(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    run.form().at(u"cmbCARD"_s, buttonNumber(pieces[0])).setBackColour(parseColour(pieces[1]));
+    run.form().at(controls.cmbCARD, buttonNumber(pieces[0])).setBackColour(parseColour(pieces[1]));
 }
 
 void switchCard(CardRun& run, int button, bool on) {
     run.state().cards.entry(run.state().currentSet, button + 1).on = on;
-    Control& control = run.form().at(u"cmbCARD"_s, button);
+    Control& control = run.form().at(controls.cmbCARD, button);
     control.setBackColour(std::nullopt);
     control.setState(on ? u"ON"_s : u"OFF"_s);
 }

@@ -75,7 +75,7 @@ void ADD2LABELARRAY(CardRun& run, const Arguments& args) {
 
 void PROPOSE(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    Control& label = run.form().at(u"lblPROPOSED"_s, wholeNumber32(pieces[0]));
+    Control& label = run.form().at(controls.lblPROPOSED, wholeNumber32(pieces[0]));
     label.setTag(pieces[1].toString());
     label.setText(pieces[2].toString().replace(u"[VBCRLF]"_s, u"\r\n"_s));
     label.setBackColour(pieces[3] == u"Y" ? colours::kAcceptedProposal : colours::kOpenProposal);
@@ -113,7 +113,7 @@ void SCANPROPOSED(CardRun& run, const Arguments&) {
     // A proposal stays open while its card runs: a card that scans itself would fire it again without end.
     if (run.state().scanningProposals) return;
     const QScopedValueRollback scanning(run.state().scanningProposals, true);
-    for (Control* label : run.form().named(u"lblPROPOSED"_s)) scanProposal(run, *label);
+    for (Control* label : run.form().named(controls.lblPROPOSED)) scanProposal(run, *label);
 }
 
 using Argument = Command::Argument;
