@@ -20,7 +20,7 @@ std::optional<QColor> shown(std::optional<Colour> colour) {
 template <class Apply>
 void follow(Control& control, QWidget* widget, Apply apply) {
     for (const Property property : {Property::Items, Property::Text, Property::BackColour, Property::Visible,
-                                    Property::Enabled, Property::Checked, Property::State})
+                                    Property::Enabled, Property::Checked, Property::State, Property::Role})
         apply(property);
     QObject::connect(&control, &Control::changed, widget, [apply](Control*, Property property) { apply(property); });
 }
@@ -33,6 +33,23 @@ void applyCommon(const Control& control, QWidget* widget, Property property) {
         const QString hint = control.hint();
         widget->setAccessibleName(control.text().isEmpty() ? hint : hint + u": "_s + control.text());
     }
+}
+
+// The colour of a label's text: good news are green, bad news red, waiting is amber; its words say the same.
+theme::Role textRole(const Control& control, theme::Role plain) {
+    switch (control.role()) {
+        case Control::Role::Plain:
+            return plain;
+        case Control::Role::Good:
+            return theme::Role::Good;
+        case Control::Role::Waiting:
+            return theme::Role::Wait;
+        case Control::Role::Bad:
+            return theme::Role::Bad;
+        case Control::Role::Off:
+            return theme::Role::Muted;
+    }
+    Q_UNREACHABLE();
 }
 
 bool isColour(Property property) {
@@ -53,9 +70,10 @@ TextLabel* Mirrors::label(const ControlRow& row, int index, const TextLabel::Loo
     auto* widget = new TextLabel(look);
     Control& control = begin(widget, row, index);
     widget->setHint(control.hint());
-    follow(control, widget, [&control, widget](Property property) {
+    follow(control, widget, [&control, widget, plain = look.text](Property property) {
         applyCommon(control, widget, property);
         if (property == Property::Text) widget->setText(control.text());
+        if (property == Property::Role) widget->setTextRole(textRole(control, plain));
         if (isColour(property)) widget->setColours(shown(control.backColour()), shown(control.foreColour()));
     });
     QObject::connect(widget, &TextLabel::mousePressed, widget, [&events = events_, &control](Qt::MouseButton button) {

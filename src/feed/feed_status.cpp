@@ -68,19 +68,22 @@ void FeedStatus::setSilent(bool silent) {
     showDetail();
 }
 
-QString FeedStatus::words() const {
-    if (binding_.isEmpty()) return u"off"_s;
-    if (!reason_.isEmpty()) return u"not bound: "_s + reason_;
-    if (!lastHeard_.isValid()) return u"bound, nothing heard"_s;
-    if (silent_) return u"silent since "_s + timeOfDay(lastHeard_);
+FeedStatus::Status FeedStatus::status() const {
+    using Role = Control::Role;
+    if (binding_.isEmpty()) return {u"off"_s, Role::Off};
+    if (!reason_.isEmpty()) return {u"not bound: "_s + reason_, Role::Bad};
+    if (!lastHeard_.isValid()) return {u"bound, nothing heard"_s, Role::Waiting};
+    if (silent_) return {u"silent since "_s + timeOfDay(lastHeard_), Role::Bad};
     const QString refused = refused_ > 0 ? QString(u", "_s + QString::number(refused_) + u" refused"_s) : QString();
-    if (paused_) return u"paused"_s + refused;
+    if (paused_) return {u"paused"_s + refused, Role::Waiting};
     const QString clock = state_.variables.text(u"@FULLTIMER");
-    return (clock.isEmpty() ? u"without a clock"_s : clock) + refused;
+    return {(clock.isEmpty() ? u"without a clock"_s : clock) + refused, Role::Good};
 }
 
 void FeedStatus::show() {
-    status_.setText(u"feed "_s + words());
+    const auto [words, role] = status();
+    status_.setText(u"feed "_s + words);
+    status_.setRole(role);
 }
 
 void FeedStatus::showDetail() {

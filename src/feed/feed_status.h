@@ -35,10 +35,15 @@ class FeedStatus : public QObject {
     [[nodiscard]] bool silent() const { return silent_; }
 
  private:
+    struct Status {
+        QString words;
+        Control::Role role;
+    };
+
     void setSilent(bool silent);
     void show();
     void showDetail();
-    [[nodiscard]] QString words() const;
+    [[nodiscard]] Status status() const;
 
     const ShowState& state_;
     Clock& clock_;

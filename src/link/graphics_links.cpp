@@ -91,7 +91,7 @@ void GraphicsLinks::stopLog() {
 // The box stays ticked whether the file can be written or not: the words beside it tell.
 void GraphicsLinks::showLogWritten(bool written) {
     logStatus_.setText(written ? u"writing"_s : u"cannot be written"_s);
-    logStatus_.setForeColour(written ? std::nullopt : std::optional(colours::kRed));
+    logStatus_.setRole(written ? Control::Role::Plain : Control::Role::Bad);
 }
 
 void GraphicsLinks::addResponse(const QString& text) {

@@ -126,18 +126,21 @@ void LinkWatch::updateRetrying() {
 }
 
 void LinkWatch::showStatus() {
-    status_.setText(name_ + u' ' + statusText());
+    const auto [words, role] = status();
+    status_.setText(name_ + u' ' + words);
+    status_.setRole(role);
 }
 
-QString LinkWatch::statusText() const {
+LinkWatch::Status LinkWatch::status() const {
+    using Role = Control::Role;
     const QString target = host_ + u':' + hostPort_ + u' ';
-    if (link_.state() == LinkState::Connected) return target + u"connected"_s;
-    if (!wanted()) return u"not connected"_s;
+    if (link_.state() == LinkState::Connected) return {target + u"connected"_s, Role::Good};
+    if (!wanted()) return {u"not connected"_s, Role::Off};
     const QString again = retryTimer_.isActive() ? u", trying again"_s : QString();
-    if (!lostAt_.isEmpty()) return target + u"lost at "_s + lostAt_ + again;
-    if (!isDown(link_.state())) return target + u"connecting"_s;
+    if (!lostAt_.isEmpty()) return {target + u"lost at "_s + lostAt_ + again, Role::Bad};
+    if (!isDown(link_.state())) return {target + u"connecting"_s, Role::Waiting};
     const QString reason = link_.errorText().isEmpty() ? QString() : QString(u" ("_s + link_.errorText() + u')');
-    return target + u"not connected"_s + reason + again;
+    return {target + u"not connected"_s + reason + again, Role::Bad};
 }
 
 }  // namespace zelvor

@@ -11,7 +11,7 @@
 
 namespace zelvor {
 
-// One link as the operator handles it: connect button, blinking tab, the words of the status line, and the
+// One link as the operator handles it: connect button, blinking tab, its part of the status line, and the
 // "Reconnect" box. One class for both links; they differ in their controls.
 class LinkWatch : public QObject {
     Q_OBJECT
@@ -31,12 +31,17 @@ class LinkWatch : public QObject {
     void retry();
 
  private:
+    struct Status {
+        QString words;
+        Control::Role role;
+    };
+
     void connectLink();
     void disconnectLink();
     void followLink(LinkState state);
     void updateRetrying();
     void showStatus();
-    [[nodiscard]] QString statusText() const;
+    [[nodiscard]] Status status() const;
     [[nodiscard]] bool wanted() const;
 
     CasparLink& link_;

@@ -58,6 +58,24 @@ TEST(HistoryPanel, TemplateDataReadable) {
     EXPECT_EQ(readableXml(u"<a c=\\\"1\\\">"_s), u"<a c=\\\"1\\\">");
 }
 
+TEST(Window, StatusLineTakesItsColourFromTheRoleAlone) {
+    Gallery gallery;
+    gallery.writePack({});
+    gallery.start();
+    using Role = Control::Role;
+    for (const char* name : {"lblFEED", "lblLINKMAIN", "lblLINKREMOTE", "lblDATABASE"}) {
+        gallery.at(name).setText(u"main failover:5250 not connected, lost"_s);
+        const auto* label = gallery.find<TextLabel>(name);
+        for (const auto& [role, colour] : {std::pair{Role::Good, theme::Role::Good},
+                                           {Role::Waiting, theme::Role::Wait},
+                                           {Role::Bad, theme::Role::Bad},
+                                           {Role::Off, theme::Role::Muted}}) {
+            gallery.at(name).setRole(role);
+            EXPECT_EQ(label->textColour(), theme::colour(colour)) << name;
+        }
+    }
+}
+
 // Every control of the form is in the window once, under its name and number, and can be told by a screen reader.
 TEST(Window, MirrorsEveryControl) {
     Gallery gallery;

@@ -65,14 +65,17 @@ TEST(GameFeed, SetsTheGameTimeAndSplitsExtraTime) {
 TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     Studio studio;
     const Control& words = studio.at("lblFEED");
+    EXPECT_EQ(words.role(), Control::Role::Off);
     ASSERT_TRUE(studio.desk.feedSocket.bind(0));
     studio.desk.feedStatus.check();
+    EXPECT_EQ(words.role(), Control::Role::Waiting);
     EXPECT_EQ(words.text(), u"feed bound, nothing heard"_s);
     studio.clock.time.setTime(QTime(20, 31, 7));
     const QByteArray large = "t" + QByteArray(65000, '1') + "t";
     studio.sendToFeed({"", large, QByteArray("\0t\xff\x80t", 5), "t2:42t", "pause", "t2:41t"});
     EXPECT_TRUE(waitUntil([&] { return studio.taken() == 6; }));
     EXPECT_EQ(words.text(), u"feed 2:41, 3 refused"_s);
+    EXPECT_EQ(words.role(), Control::Role::Good);
     studio.clock.time = studio.clock.time.addMSecs(FeedStatus::kSilence - 1);
     studio.desk.feedStatus.check();
     studio.clock.set(3'600'000);
@@ -82,6 +85,7 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     studio.clock.time = studio.clock.time.addMSecs(1);
     studio.desk.feedStatus.check();
     EXPECT_EQ(words.text(), u"feed silent since 20:31:07"_s);
+    EXPECT_EQ(words.role(), Control::Role::Bad);
     EXPECT_EQ(studio.at("lblTime").foreColour(), colours::kRed);
     studio.sendToFeed({"pause"});
     EXPECT_TRUE(waitUntil([&] { return studio.taken() == 7; }));

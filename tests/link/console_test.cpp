@@ -24,6 +24,7 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         studio.form.at(link.port).setText(server.port());
         const QString target = name + u"127.0.0.1:"_s + server.port() + u' ';
         EXPECT_EQ(status.text(), name + u"not connected"_s);
+        EXPECT_EQ(status.role(), Control::Role::Off);
         EXPECT_FALSE(timer->isActive());
 
         (studio.console.*press)();
@@ -31,6 +32,7 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         EXPECT_TRUE(timer->isActive());
         EXPECT_EQ(studio.links.responses().text(0), isMain ? u"Connected"_s : QString());
         EXPECT_EQ(status.text(), target + u"connecting"_s);
+        EXPECT_EQ(status.role(), Control::Role::Waiting);
 
         // The blinking goes on where the connection interrupted it.
         tick();
@@ -42,9 +44,11 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         EXPECT_EQ(tab.backColour(), colours::kRed);
         tick();
         EXPECT_EQ(status.text(), target + u"connected"_s);
+        EXPECT_EQ(status.role(), Control::Role::Good);
         server.stop();
         EXPECT_TRUE(studio.isIn(id, 8));
         EXPECT_EQ(status.text(), target + u"lost at 20:31:07"_s);
+        EXPECT_EQ(status.role(), Control::Role::Bad);
         tick();
         tick();
         EXPECT_EQ(tab.backColour(), colours::kRed);
@@ -55,6 +59,13 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         EXPECT_EQ(studio.links.state(id), 0);
         EXPECT_EQ(studio.links.responses().text(0), isMain ? u"Disconnected"_s : QString());
         EXPECT_EQ(status.text(), name + u"not connected"_s);
+        EXPECT_EQ(status.role(), Control::Role::Off);
+
+        // Refused, it is wanted still: not to be taken for a link that nobody wants.
+        (studio.console.*press)();
+        EXPECT_TRUE(studio.isIn(id, 9));
+        EXPECT_TRUE(status.text().startsWith(target + u"not connected ("_s));
+        EXPECT_EQ(status.role(), Control::Role::Bad);
     }
 }
 

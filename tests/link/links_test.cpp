@@ -93,10 +93,12 @@ TEST(GraphicsLinks, TellsOfALogThatCannotBeOpened) {
     ASSERT_EQ(studio.told.size(), 1);
     EXPECT_TRUE(studio.told.first().startsWith(u"Error 76\r\nPath not found"_s)) << studio.told.first().toStdString();
     EXPECT_EQ(studio.at("lblLOG").text(), u"cannot be written"_s);
+    EXPECT_EQ(studio.at("lblLOG").role(), Control::Role::Bad);
     studio.at("chkLOGFILE").setChecked(false);
     QDir(studio.folder.path()).mkdir(u"MODULES"_s);
     studio.at("chkLOGFILE").setChecked(true);
     EXPECT_EQ(studio.at("lblLOG").text(), u"writing"_s);
+    EXPECT_EQ(studio.at("lblLOG").role(), Control::Role::Plain);
 }
 
 TEST(GraphicsLinks, ShowsResponsesOfTheMainServerAlone) {

@@ -102,9 +102,17 @@ void CardsApp::connectDatabase() {
     database_.CONNECTDATABASE();
     const QString number = u"database %1 "_s.arg(database_.connectionNumber());
     QString words = u"database none"_s;
-    if (database_.connectionState() == Connections::State::Open) words = number + u"connected"_s;
-    if (database_.connectionState() == Connections::State::Failed) words = number + u"failed"_s;
+    auto role = Control::Role::Off;
+    if (database_.connectionState() == Connections::State::Open) {
+        words = number + u"connected"_s;
+        role = Control::Role::Good;
+    }
+    if (database_.connectionState() == Connections::State::Failed) {
+        words = number + u"failed"_s;
+        role = Control::Role::Bad;
+    }
     form_.at(controls.lblDATABASE).setText(words);
+    form_.at(controls.lblDATABASE).setRole(role);
 }
 
 void CardsApp::release() {

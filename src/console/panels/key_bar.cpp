@@ -41,16 +41,6 @@ class KeyChip : public QWidget {
     }
 };
 
-// Good news are green, bad news red, waiting is amber; the words say the same.
-Role newsRole(const QString& words) {
-    if (words.contains(u"not connected")) return Role::Muted;
-    if (words.endsWith(u"connected")) return Role::Good;
-    for (const QStringView bad : {u"lost", u"fail", u"error", u"not bound", u"silent"}) {
-        if (words.contains(bad)) return Role::Bad;
-    }
-    return words.contains(u"connecting") ? Role::Wait : Role::Muted;
-}
-
 }  // namespace
 
 KeyBar::KeyBar(const Mirrors& mirrors) {
@@ -60,15 +50,10 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     row->setSpacing(6);
     for (int i = 0; i < kShownKeys; ++i) row->addWidget(new KeyChip(mirrors, i));
     row->addStretch(1);
-    for (const ControlRow* name :
+    for (const ControlRow* words :
          {&controls.lblFEED, &controls.lblLINKMAIN, &controls.lblLINKREMOTE, &controls.lblDATABASE}) {
-        TextLabel* words =
-            mirrors.label(*name, -1, {13, false, Qt::AlignRight | Qt::AlignVCenter, Role::Muted, {}, false, false, 4});
-        const Control& control = mirrors.form().at(*name);
-        const auto follow = [words, &control] { words->setTextRole(newsRole(control.text())); };
-        connect(&control, &Control::changed, words, follow);
-        follow();
-        row->addWidget(words);
+        row->addWidget(
+            mirrors.label(*words, -1, {13, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 4}));
     }
 }
 
