@@ -89,8 +89,8 @@ std::span<const TextPair> textPairs() {
         TextPair{Role::OnText, Role::CardOn},    TextPair{Role::OnText, Role::Panel},
         TextPair{Role::AirText, Role::AirFill},  TextPair{Role::Good, Role::Bar},
         TextPair{Role::Bad, Role::Bar},          TextPair{Role::Bad, Role::Field},
-        TextPair{Role::Wait, Role::Bar},         TextPair{Role::Wait, Role::Panel},
-        TextPair{Role::Accent, Role::Card},
+        TextPair{Role::Bad, Role::Panel},        TextPair{Role::Wait, Role::Bar},
+        TextPair{Role::Wait, Role::Panel},       TextPair{Role::Accent, Role::Card},
     };
     return kPairs;
 }
