@@ -1,18 +1,19 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
-#include <deque>
+#include <list>
 #include <map>
 #include <optional>
+#include <unordered_map>
 
 #include "base/value.h"
-#include "engine/name_index.h"
 
 namespace zelvor {
 
 // An insertion-ordered table from name to value. Names are compared exactly. Setting a name that exists moves it to
-// the end of the order. Get, set and remove do not depend on how many names there
-// are, but for names that come and go once prefixes have been removed: those cost the logarithm of it.
+// the end of the order. Get, set and remove do not depend on how many names there are, but for names that come and go
+// once prefixes have been removed: those cost the logarithm of it.
 class VariableStore {
  public:
     VariableStore() = default;
@@ -33,41 +34,32 @@ class VariableStore {
     void RemoveVarsWithPrefix(QStringView prefix);
     void clear();
 
-    [[nodiscard]] qsizetype size() const { return index_.size(); }
+    [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(entries_.size()); }
 
     // Calls visit(const QString& name, const Value& value) for each name in order. The visitor must not change the
     // store.
     template <class Visitor>
     void forEach(Visitor&& visit) const {
-        for (int at = first_; at != kNone; at = entries_[at].next) visit(entries_[at].name, entries_[at].value);
+        for (const Entry& entry : entries_) visit(entry.name, entry.value);
     }
 
  private:
-    static constexpr int kNone = NameIndex::kNone;
-
     struct Entry {
         QString name;
         Value value;
-        int previous = kNone;
-        int next = kNone;
-        quint32 hash = 0;
+    };
+    using Entries = std::list<Entry>;
+    struct Hash {
+        size_t operator()(QStringView name) const { return qHash(name); }
     };
 
-    [[nodiscard]] int slotOf(QStringView name, quint32 hash) const;
-    int add(QStringView name, quint32 hash, Value value);
-    void removeSlot(int slot);
-    void unlink(int slot);
-    void linkLast(int slot);
+    Entries::iterator add(QStringView name, Value value);
+    void removeEntry(Entries::iterator entry);
 
-    // Entries keep their place; the order is a linked list through them, free places are used again.
-    std::deque<Entry> entries_;
-    std::vector<int> free_;
-    NameIndex index_;
-    int first_ = kNone;
-    int last_ = kNone;
-    // The names in sorted order (views of the entries' own), made when prefixes are first removed and kept from then
-    // on.
-    std::optional<std::map<QStringView, int>> sorted_;
+    Entries entries_;  // in the order of the table; an entry keeps its place in memory
+    std::unordered_map<QStringView, Entries::iterator, Hash> index_;  // the names are views of the entries' own
+    // The names in sorted order, made when prefixes are first removed and kept from then on.
+    std::optional<std::map<QStringView, Entries::iterator>> sorted_;
 };
 
 }  // namespace zelvor
