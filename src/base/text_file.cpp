@@ -29,13 +29,17 @@ std::optional<TextFiles> TextFiles::withCodePage(const QString& name) {
     return files;
 }
 
-QString TextFiles::read(const QString& path) const {
+QByteArray readWholeFile(const QString& path) {
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
-    const QByteArray bytes = file.read(kLargestFile + 1);
-    if (bytes.size() > kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
+    QByteArray bytes = file.read(TextFiles::kLargestFile + 1);
+    if (bytes.size() > TextFiles::kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
     if (file.error() != QFileDevice::NoError) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
-    return decode(bytes);
+    return bytes;
+}
+
+QString TextFiles::read(const QString& path) const {
+    return decode(readWholeFile(path));
 }
 
 QStringList TextFiles::readLines(const QString& path) const {

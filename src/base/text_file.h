@@ -19,7 +19,7 @@ class TextFiles {
     // nullopt when no such code page is known, e.g. "windows-1253", "ISO-8859-7", "UTF-8".
     static std::optional<TextFiles> withCodePage(const QString& name);
 
-    // The whole file. Throws 53, 70, 75 or 76 with the path when it cannot be read.
+    // The whole file. Throws as readWholeFile() does.
     [[nodiscard]] QString read(const QString& path) const;
     // The file's lines without their ends (CR LF, LF). A last line without an end counts, an empty rest does not.
     [[nodiscard]] QStringList readLines(const QString& path) const;
@@ -31,6 +31,9 @@ class TextFiles {
     QByteArray readingCodePage_ = "windows-1253";
     QByteArray writingCodePage_ = "UTF-8";
 };
+
+// The bytes of a file. Throws 53, 70, 75 or 76 with the path when it cannot be read, 7 when it is too large.
+QByteArray readWholeFile(const QString& path);
 
 // Splits at LF, a CR before it dropped; an empty rest behind the last line end is no line.
 QStringList splitLines(const QString& text);

@@ -17,6 +17,9 @@ class CardEngine {
     // Runs inside runs (a card that fires proposals, a timer in a card's pause) beyond this end with 28.
     static constexpr int kDeepestRun = 50;
 
+    // The card of the start-up, which the operator can run again.
+    inline static const QString kStartCard = QStringLiteral("GetGame.csp");
+
     CardEngine(ShowState& state, FormModel& form, Program& program, const Ports& ports);
 
     // How a run ended. A cancelled ask, no data and a failed query count as Ran.

@@ -2,6 +2,7 @@
 
 #include "engine/arguments.h"
 #include "engine/auto_tags.h"
+#include "engine/used_proposal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +25,7 @@ void Proposals::take(int index) {
     const QString card = fields[2].toString();
     setAutoTags(engine_.state().variables, fields[3]);
     if (engine_.SHOW_TVCARD(card, true, true, {Asker::Kind::Operator, card}) == CardEngine::Outcome::Closed) return;
-    engine_.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id);
-    label.setBackColour(colours::kUsedProposal);
+    markProposalUsed(engine_.ports().database, id, label);
 }
 
 void Proposals::clearPlayers() {

@@ -13,15 +13,6 @@ using Tell = ErrorTrap::Tell;
 const QString kWindowTitle = u"General Vars"_s;
 constexpr qsizetype kShownRemarks = 20;
 
-QByteArray readWhole(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
-    QByteArray bytes = file.read(TextFiles::kLargestFile + 1);
-    if (bytes.size() > TextFiles::kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
-    if (file.error() != QFileDevice::NoError) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
-    return bytes;
-}
-
 }  // namespace
 
 GeneralVariables::GeneralVariables(ShowState& state, Program& program, Operator& operatorDesk)
@@ -36,7 +27,7 @@ void GeneralVariables::load() {
     std::vector<GeneralRow> rows;
     program_.trap.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator, [&] {
         if (!QFile::exists(file(u"infodata.dat"))) return;
-        const QByteArray bytes = readWhole(file(u"infodata.dat"));
+        const QByteArray bytes = readWholeFile(file(u"infodata.dat"));
         const GridReading reading = readGrid(bytes);
         rows = reading.rows;
         if (reading.damagedLine > 0) keepDamaged(bytes, reading);

@@ -10,7 +10,6 @@ namespace zelvor {
 namespace {
 
 const QString kGeneralForm = u"frmGENERAL"_s;
-const QString kStartCard = u"GetGame.csp"_s;
 
 // Meant, though it looks crossed: "Off" is the shortest effect, "Fast" none at all.
 QString effectSpeed(const QString& text) {
@@ -77,7 +76,7 @@ void OperatorCommands::mnSet43() {
 }
 
 void OperatorCommands::mnReloadVar() {
-    engine_.SHOW_TVCARD(kStartCard, false, false, {Asker::Kind::Operator, kStartCard});
+    engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::Operator, CardEngine::kStartCard});
 }
 
 void OperatorCommands::mnGeneralVars(const Asker& asker) {
@@ -107,7 +106,7 @@ void OperatorCommands::changeLanguage(const QString& language) {
     general_.load();
     general_.apply();
     if (wasOpen) forms_.show(kGeneralForm);
-    engine_.SHOW_TVCARD(kStartCard, false, false, {Asker::Kind::Operator, kStartCard});
+    engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::Operator, CardEngine::kStartCard});
 }
 
 QString OperatorCommands::mnDisplayVars() const {

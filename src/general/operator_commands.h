@@ -23,7 +23,7 @@ class OperatorCommands : public QObject {
     void cmdSCREENMODE(int button);
     void mnSet169();
     void mnSet43();
-    // Runs "GetGame.csp".
+    // Runs the card of the start-up again.
     void mnReloadVar();
     // Opens the general variables as they were saved last; an open editor comes to the front as it is.
     // asker: for one who is not attended the keyboard stays where it is.

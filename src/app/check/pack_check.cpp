@@ -1,11 +1,10 @@
 #include "app_check/pack_check.h"
 
-#include <QFile>
-
 #include "app_check/ask_field_check.h"
 #include "app_check/card_table_check.h"
 #include "app_check/script_check.h"
 #include "base/run_time_error.h"
+#include "engine/card_engine.h"
 #include "general_rules/grid_file.h"
 
 using namespace Qt::StringLiterals;
@@ -14,11 +13,15 @@ namespace zelvor {
 
 namespace {
 
-void readGeneralVariables(const PackFiles& files, VariableUse& variables, Findings& findings) {
+void readGeneralVariables(PackFiles& files, VariableUse& variables, Findings& findings) {
     const QString path = files.path(u"infodata.dat");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return;  // a pack need not have any
-    const GridReading reading = readGrid(file.readAll());
+    if (!files.exists(u"infodata.dat")) return;  // a pack need not have any
+    GridReading reading;
+    try {
+        reading = readGrid(readWholeFile(path));
+    } catch (const RunTimeError& error) {
+        findings.error(files.place(path), error.text());
+    }
     for (const GeneralRow& row : reading.rows) variables.set(row[general_column::kVariable]);
     if (reading.damagedLine > 0) findings.error(files.place(path, reading.damagedLine), reading.damage);
 }
@@ -29,9 +32,9 @@ void checkPack(const AppFolder& folder, const QString& code, Findings& findings)
     PackFiles files(folder, code);
     VariableUse variables;
     checkCardTable(files, findings);
-    const QString startScript = u"GetGame.csp"_s;
-    if (!files.exists(startScript)) {
-        findings.warning(files.place(files.path(startScript)), u"the script of the start-up does not exist"_s);
+    if (!files.exists(CardEngine::kStartCard)) {
+        findings.warning(files.place(files.path(CardEngine::kStartCard)),
+                         u"the script of the start-up does not exist"_s);
     }
     readGeneralVariables(files, variables, findings);
     const QSet<int> askFields = checkAskFields(files, variables, findings);

@@ -88,8 +88,7 @@ void StartUp::run() {
         console_.showLoaded();
     });
     step(u"Form_Load"_s, [&] {
-        const QString card = u"GetGame.csp"_s;
-        engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::StartUp, card});
+        engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::StartUp, CardEngine::kStartCard});
     });
     step(u"Form_Load"_s, [&] {
         showTeams();

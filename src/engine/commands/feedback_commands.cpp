@@ -5,6 +5,7 @@
 #include "base/number.h"
 #include "engine/auto_tags.h"
 #include "engine/card_run.h"
+#include "engine/used_proposal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -90,8 +91,7 @@ bool isDue(const Pieces& proposal, const QString& onAir, const QString& tag) {
 void fireProposal(CardRun& run, Control& label, QStringView id, const QString& card) {
     run.engine().SHOW_TVCARD(card, true, true, run.asker());
     run.goOnUnlessClosing();
-    run.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id);
-    label.setBackColour(colours::kUsedProposal);
+    markProposalUsed(run.ports().database, id, label);
 }
 
 void scanProposal(CardRun& run, Control& label) {
