@@ -11,7 +11,7 @@
 #include "expr/constants.h"
 #include "expr/error_table.h"
 #include "expr/function_table.h"
-#include "expr/number_text.h"
+#include "plain/number.h"
 #include "written_page.h"
 
 namespace {
@@ -97,7 +97,8 @@ std::string referencePage() {
     addFunctions(page);
     page << "\n## Constants\n\nNames are case-sensitive.\n\n| Constant | Value | |\n|---|---|---|\n";
     for (const Constant& constant : constants()) {
-        page << "| `" << constant.name << "` | " << numberText(constant.value) << " | " << constant.meaning << " |\n";
+        page << "| `" << constant.name << "` | " << zelvor::plain::numberText(constant.value) << " | "
+             << constant.meaning << " |\n";
     }
     page << "\n## Errors\n\nEach `$` stands for a detail: a name, values, or a place in the formula, counted from 1.\n"
             "\n| Id | Message |\n|---|---|\n";
@@ -130,7 +131,7 @@ std::string curve(std::string_view text) {
     std::ostringstream points;
     for (int i = 0; i <= kPlotWidth; ++i) {
         const double value = formula.Eval1(static_cast<double>(i) * kPeriods / kPlotWidth);
-        points << (i == 0 ? "" : " ") << i << ',' << numberText(-value * kUnit, 3);
+        points << (i == 0 ? "" : " ") << i << ',' << zelvor::plain::numberText(-value * kUnit, 3);
     }
     return points.str();
 }

@@ -2,18 +2,15 @@
 
 #include <QVarLengthArray>
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cmath>
 #include <limits>
 
 #include "base/run_time_error.h"
+#include "plain/number.h"
 
 namespace zelvor {
 
 namespace {
-
-constexpr int kSignificantDigits = 15;
 
 bool isBlank(QChar c) {
     return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
@@ -92,7 +89,7 @@ double decimalNumber(Ascii& ascii, const char*& end) {
 
 template <class Whole>
 Whole wholeNumber(double number) {
-    const double rounded = roundHalfEven(number);
+    const double rounded = plain::roundHalfEven(number);
     if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max())) {
         throw RunTimeError(ErrorNumber::Overflow);
     }
@@ -109,14 +106,7 @@ Whole wholeNumber(QStringView text) {
 }  // namespace
 
 QString numberText(double number) {
-    if (number == 0) return QStringLiteral("0");
-    std::array<char, 32> buffer{};
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                            std::chars_format::general, kSignificantDigits);
-    for (char* c = buffer.data(); c != end; ++c) {
-        if (*c == 'e') *c = 'E';
-    }
-    return QString::fromLatin1(buffer.data(), end - buffer.data());
+    return QString::fromStdString(plain::numberText(number));
 }
 
 double Val(QStringView text) {
@@ -158,14 +148,6 @@ qint16 wholeNumber16(double number) {
 }
 qint32 wholeNumber32(double number) {
     return wholeNumber<qint32>(number);
-}
-
-double roundHalfEven(double number) {
-    const double below = std::floor(number);
-    const double part = number - below;
-    if (part < 0.5) return below;
-    if (part > 0.5) return below + 1;
-    return std::fmod(below, 2) == 0 ? below : below + 1;
 }
 
 }  // namespace zelvor

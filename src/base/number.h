@@ -21,7 +21,4 @@ qint32 wholeNumber32(QStringView text);
 qint16 wholeNumber16(double number);
 qint32 wholeNumber32(double number);
 
-// Rounds to the nearest whole number, halves to the even neighbour, whatever the floating-point environment says.
-double roundHalfEven(double number);
-
 }  // namespace zelvor

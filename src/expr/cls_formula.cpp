@@ -6,7 +6,7 @@
 #include <random>
 
 #include "expr/elementary.h"
-#include "expr/number_text.h"
+#include "plain/number.h"
 
 namespace zelvor::expr {
 
@@ -282,8 +282,8 @@ void clsFormula::evaluationError(const Row& row) {
     const std::string_view name = operationName(row);
     const std::string position = std::to_string(characterPosition(expression_, row.position));
     if (row.argumentCount == 2) {
-        const std::string first = numberText(values[0]);
-        const std::string second = numberText(values[1]);
+        const std::string first = plain::numberText(values[0]);
+        const std::string second = plain::numberText(values[1]);
         if (row.function != nullptr) {
             return setError(ErrorCode::EvaluationTwoArguments, row.position, {name, first, second, position});
         }
@@ -292,7 +292,7 @@ void clsFormula::evaluationError(const Row& row) {
     std::string list;
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (i > 0) list += ", ";
-        list += numberText(values[i]);
+        list += plain::numberText(values[i]);
     }
     const ErrorCode code =
         row.argumentCount == 1 ? ErrorCode::EvaluationOneArgument : ErrorCode::EvaluationManyArguments;

@@ -8,6 +8,7 @@
 
 #include "expr/arguments.h"
 #include "expr/real.h"
+#include "plain/number.h"
 
 // Where the C library's double functions may be off by more than a unit in the last place, the long double ones are
 // taken and rounded once.
@@ -55,14 +56,6 @@ double squareRoot(double x) {
     return x >= 0 ? std::sqrt(x) : kFailed;
 }
 
-double roundHalfEven(double x) {
-    const double below = std::floor(x);
-    const double part = x - below;
-    if (part < 0.5) return below;
-    if (part > 0.5) return below + 1;
-    return std::fmod(below, 2) == 0 ? below : below + 1;
-}
-
 double roundToDigits(double x, double digits) {
     if (digits != std::floor(digits)) return kFailed;
     // The shortest decimal form, d.ddddde+xx, is what the writer of the number saw: 2.675 is a half at two digits.
@@ -103,8 +96,8 @@ double remainderOf(double a, double b) {
 }
 
 double integerQuotient(double a, double b) {
-    const double dividend = roundHalfEven(a);
-    const double divisor = roundHalfEven(b);
+    const double dividend = plain::roundHalfEven(a);
+    const double divisor = plain::roundHalfEven(b);
     if (divisor == 0) return kFailed;
     return (dividend - std::fmod(dividend, divisor)) / divisor;
 }

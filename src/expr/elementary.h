@@ -13,7 +13,6 @@ double squareRoot(double x);
 
 // Rounded as the number reads in decimals, halves to the even neighbour; negative digits round before the point.
 double roundToDigits(double x, double digits);
-double roundHalfEven(double x);
 
 // Remainder with the sign of a.
 double remainderOf(double a, double b);

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "expr/evaluation_table.h"
-#include "expr/number_text.h"
+#include "plain/number.h"
 
 namespace zelvor::expr {
 
@@ -25,7 +25,7 @@ void describeArgument(const EvaluationTable& table, std::uint32_t slot, std::str
     } else {
         cells[1] = std::string("(number)");
     }
-    if (!std::isnan(table.slots[slot])) cells[2] = numberText(table.slots[slot]);
+    if (!std::isnan(table.slots[slot])) cells[2] = plain::numberText(table.slots[slot]);
 }
 
 Line describeRow(const EvaluationTable& table, std::size_t index, std::string_view formula) {
@@ -35,7 +35,7 @@ Line describeRow(const EvaluationTable& table, std::size_t index, std::string_vi
     line[1] = std::to_string(row.argumentCount);
     if (row.argumentCount > 0) describeArgument(table, row.first, &line[2]);
     if (row.argumentCount > 1) describeArgument(table, row.second, &line[5]);
-    line[10] = numberText(table.slots[row.result]);
+    line[10] = plain::numberText(table.slots[row.result]);
     line[11] = std::to_string(row.priority);
     line[12] = std::to_string(characterPosition(formula, row.position));
     line[13] = std::to_string(index + 1);

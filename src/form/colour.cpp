@@ -5,6 +5,7 @@
 
 #include "base/number.h"
 #include "base/run_time_error.h"
+#include "plain/number.h"
 
 namespace zelvor {
 
@@ -45,7 +46,7 @@ Colour parseColour(QStringView text) {
     } else if (!readNumber(trimmed, number)) {
         throw RunTimeError(ErrorNumber::TypeMismatch, trimmed.toString());
     }
-    number = roundHalfEven(number);
+    number = plain::roundHalfEven(number);
     if (!(number >= 0 && number <= 0xFFFFFF)) throw RunTimeError(ErrorNumber::InvalidPropertyValue, trimmed.toString());
     return static_cast<Colour>(number);
 }

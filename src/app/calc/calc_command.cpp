@@ -97,7 +97,7 @@ int evaluate(const CalcOptions& options, std::ostream& out, std::ostream& err) {
     if (options.dump) out << formula.ET_Dump();
     if (!formula.Warning().empty()) err << formula.Warning() << '\n';
     if (formula.ErrorID() != 0) return printError(formula, err);
-    out << expr::numberText(value, options.digits) << '\n';
+    out << plain::numberText(value, options.digits) << '\n';
     return kOk;
 }
 

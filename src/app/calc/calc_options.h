@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "expr/number_text.h"
+#include "plain/number.h"
 
 namespace zelvor {
 
@@ -16,7 +16,7 @@ struct CalcOptions {
     bool degrees = false;
     bool units = false;
     bool assignExplicit = false;
-    int digits = expr::kSignificantDigits;
+    int digits = plain::kSignificantDigits;
     bool dump = false;
     bool list = false;
     bool help = false;

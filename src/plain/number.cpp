@@ -1,10 +1,11 @@
-#include "expr/number_text.h"
+#include "plain/number.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
-namespace zelvor::expr {
+namespace zelvor::plain {
 
 std::string numberText(double number, int digits) {
     if (number == 0) return "0";
@@ -16,4 +17,12 @@ std::string numberText(double number, int digits) {
     return {first, end};
 }
 
-}  // namespace zelvor::expr
+double roundHalfEven(double number) {
+    const double below = std::floor(number);
+    const double part = number - below;
+    if (part < 0.5) return below;
+    if (part > 0.5) return below + 1;
+    return std::fmod(below, 2) == 0 ? below : below + 1;
+}
+
+}  // namespace zelvor::plain

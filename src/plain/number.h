@@ -2,11 +2,14 @@
 
 #include <string>
 
-namespace zelvor::expr {
+namespace zelvor::plain {
 
 inline constexpr int kSignificantDigits = 15;
 
 // A number as text: at most `digits` significant digits (1 to 17), "." as decimal sign, exponents as "1E+15", "1E-07".
 std::string numberText(double number, int digits = kSignificantDigits);
 
-}  // namespace zelvor::expr
+// Rounds to the nearest whole number, halves to the even neighbour, whatever the floating-point environment says.
+double roundHalfEven(double number);
+
+}  // namespace zelvor::plain
