@@ -20,15 +20,6 @@ void throwOpenError(const QString& path, QFileDevice::FileError error, Opening o
     throw RunTimeError(ErrorNumber::FileNotFound, path);
 }
 
-std::optional<TextFiles> TextFiles::withCodePage(const QString& name) {
-    const QByteArray codePage = name.toLatin1();
-    if (!QStringDecoder(codePage.constData()).isValid()) return std::nullopt;
-    TextFiles files;
-    files.readingCodePage_ = codePage;
-    files.writingCodePage_ = codePage;
-    return files;
-}
-
 QByteArray readWholeFile(const QString& path) {
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());

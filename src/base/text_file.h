@@ -4,7 +4,6 @@
 #include <QFileDevice>
 #include <QString>
 #include <QStringList>
-#include <optional>
 
 namespace zelvor {
 
@@ -16,8 +15,8 @@ class TextFiles {
     static constexpr qint64 kLargestFile = qint64{64} * 1024 * 1024;
 
     TextFiles() = default;
-    // nullopt when no such code page is known, e.g. "windows-1253", "ISO-8859-7", "UTF-8".
-    static std::optional<TextFiles> withCodePage(const QString& name);
+    // Reads and writes in a code page that Qt knows, e.g. "windows-1253", "ISO-8859-7", "UTF-8".
+    explicit TextFiles(const QByteArray& codePage) : readingCodePage_(codePage), writingCodePage_(codePage) {}
 
     // The whole file. Throws as readWholeFile() does.
     [[nodiscard]] QString read(const QString& path) const;

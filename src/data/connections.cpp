@@ -4,13 +4,22 @@
 #include <iterator>
 #include <limits>
 
-#include "base/command_line.h"
 #include "base/number.h"
 #include "data/connection_list.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
+
+namespace {
+
+// The number that the text begins with, read behind a "0": 0 for an empty text or one that begins with anything else.
+qint16 leadingNumber(const QString& commandLine) {
+    const double number = Val(QString(u'0' + commandLine));
+    return number >= 1 && number <= INT16_MAX ? static_cast<qint16>(number) : qint16{0};
+}
+
+}  // namespace
 
 Connections::Connections(ShowState& state, Operator& operatorDesk, Program& program, Choice choice)
     : state_(state),
@@ -21,7 +30,7 @@ Connections::Connections(ShowState& state, Operator& operatorDesk, Program& prog
       greek_(program.folder.path()) {}
 
 QString Connections::GET_CONNECTION_STRING() {
-    auto number = static_cast<qint16>(leadingNumber(choice_.commandLine));
+    qint16 number = leadingNumber(choice_.commandLine);
     if (number == 0) number = 1;
     return FIND_CONNECTION(number);
 }

@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <cstdio>
 
+#include "command_line/command_line.h"
 #include "crash/crash_dump.h"
 #include "rehearsal/options.h"
 #include "rehearsal/page_server.h"
@@ -12,7 +13,6 @@ using namespace zelvor::rehearsal;
 namespace {
 
 constexpr int kExitFailure = 1;
-constexpr int kExitUsage = 2;
 
 void print(std::FILE* stream, const QString& text) {
     std::fputs(qPrintable(text), stream);
@@ -33,14 +33,16 @@ int reportPort(const QHostAddress& address, quint16 port, const QString& reason,
 int main(int argc, char** argv) {
     zelvor::dumpCrashes();
     const QCoreApplication application(argc, argv);
-    const Options options = parseOptions(QCoreApplication::arguments());
+    Options options;
+    try {
+        options = readOptions(QCoreApplication::arguments().mid(1));
+    } catch (const zelvor::UsageError& error) {
+        print(stderr, error.line(u"zelvor-rehearsal"_s));
+        return zelvor::UsageError::kExitStatus;
+    }
     if (!options.wantedText.isEmpty()) {
         print(stdout, options.wantedText);
         return 0;
-    }
-    if (!options.fault.isEmpty()) {
-        print(stderr, u"zelvor-rehearsal: %1 --help shows all options.\n"_s.arg(options.fault));
-        return kExitUsage;
     }
 
     const Termination termination;

@@ -1,9 +1,11 @@
 #include "rehearsal/options.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <array>
+
+#include "command_line/command_line.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,19 +13,33 @@ namespace zelvor::rehearsal {
 
 namespace {
 
-// The option's value as a number from LOWEST to HIGHEST; another text becomes the fault, unless there already is one.
-int number(const QCommandLineParser& parser, const QCommandLineOption& option, int lowest, int highest,
-           QString& fault) {
-    bool isNumber = false;
-    const int value = parser.value(option).toInt(&isNumber);
-    if ((!isNumber || value < lowest || value > highest) && fault.isEmpty()) {
-        fault = u"--%1 takes a number from %2 to %3, not \"%4\"."_s.arg(option.names().first())
-                    .arg(lowest)
-                    .arg(highest)
-                    .arg(parser.value(option));
-    }
-    return value;
-}
+const std::array kOptions{
+    CommandLine::Option{u"--amcp"_s, true},
+    CommandLine::Option{u"--http"_s, true},
+    CommandLine::Option{u"--bind"_s, true},
+    CommandLine::Option{u"--channels"_s, true},
+    CommandLine::Option{u"--templates"_s, true},
+    CommandLine::Option{u"--help"_s},
+    CommandLine::Option{u"-h"_s},
+    CommandLine::Option{u"--version"_s},
+    CommandLine::Option{u"-v"_s},
+};
+
+const QString kHelp =
+    uR"(Usage: zelvor-rehearsal [options]
+A graphics server for rehearsals: takes AMCP lines and shows the graphics on a page in a browser.
+
+Options:
+  --amcp <PORT>      Listen for AMCP on this port (5250); 0 takes a free one.
+  --http <PORT>      Serve the page on this port (8250); 0 takes a free one.
+  --bind <ADDRESS>   Listen on this address (127.0.0.1); 0.0.0.0 opens both
+                     ports to the network.
+  --channels <N>     Offer this many channels (2), 1 to 16.
+  --templates <DIR>  Take HTML templates and pictures from this folder (the
+                     demo's).
+  -h, --help         Show this help.
+  -v, --version      Show the version.
+)"_s;
 
 // The demo's templates: of the checkout, beside the program, or installed.
 QString demoTemplates() {
@@ -35,56 +51,33 @@ QString demoTemplates() {
     return u"demo/templates"_s;
 }
 
+std::optional<QHostAddress> ipAddress(const QString& text) {
+    const QHostAddress address(text);
+    return address.isNull() ? std::nullopt : std::optional(address);
+}
+
 }  // namespace
 
-Options parseOptions(const QStringList& arguments) {
-    constexpr int kMaxPort = 65535;
+Options readOptions(const QStringList& arguments) {
+    const CommandLine line(arguments, kOptions);
     Options options;
-    const QCommandLineOption amcp(u"amcp"_s,
-                                  u"Listen for AMCP on this port (%1); 0 takes a free one."_s.arg(Options::kAmcpPort),
-                                  u"PORT"_s, QString::number(Options::kAmcpPort));
-    const QCommandLineOption http(u"http"_s,
-                                  u"Serve the page on this port (%1); 0 takes a free one."_s.arg(Options::kHttpPort),
-                                  u"PORT"_s, QString::number(Options::kHttpPort));
-    const QCommandLineOption bind(u"bind"_s,
-                                  u"Listen on this address (127.0.0.1); 0.0.0.0 opens both ports to the network."_s,
-                                  u"ADDRESS"_s, u"127.0.0.1"_s);
-    const QCommandLineOption channels(
-        u"channels"_s, u"Offer this many channels (2), 1 to %1."_s.arg(Options::kMaxChannels), u"N"_s, u"2"_s);
-    const QCommandLineOption templates(u"templates"_s,
-                                       u"Take HTML templates and pictures from this folder (the demo's)."_s, u"DIR"_s,
-                                       demoTemplates());
-    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
-    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Show the version."_s);
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"A graphics server for rehearsals: takes AMCP lines and shows the graphics on a page in a browser."_s);
-    parser.addOptions({amcp, http, bind, channels, templates, help, version});
-    if (!parser.parse(arguments)) {
-        options.fault = parser.errorText();
-    } else if (!parser.positionalArguments().isEmpty()) {
-        options.fault = u"\"%1\" is no option."_s.arg(parser.positionalArguments().first());
-    } else if (parser.isSet(help)) {
-        options.wantedText = parser.helpText();
-    } else if (parser.isSet(version)) {
+    if (line.has(u"--help") || line.has(u"-h")) {
+        options.wantedText = kHelp;
+    } else if (line.has(u"--version") || line.has(u"-v")) {
         options.wantedText = u"zelvor-rehearsal " ZELVOR_VERSION "\n"_s;
     }
-    if (!options.fault.isEmpty() || !options.wantedText.isEmpty()) {
-        return options;
-    }
+    if (!options.wantedText.isEmpty()) return options;
+    line.check();
+    if (!line.rest().isEmpty()) throw UsageError{u"not understood: "_s + line.rest().constFirst()};
 
-    options.amcpPort = static_cast<quint16>(number(parser, amcp, 0, kMaxPort, options.fault));
-    options.httpPort = static_cast<quint16>(number(parser, http, 0, kMaxPort, options.fault));
-    options.channels = number(parser, channels, 1, Options::kMaxChannels, options.fault);
-    options.bind = QHostAddress(parser.value(bind));
-    options.templates = parser.value(templates);
-    if (options.fault.isEmpty() && options.bind.isNull()) {
-        options.fault = u"--bind takes an IP address, not \"%1\"."_s.arg(parser.value(bind));
-    }
-    if (options.fault.isEmpty() && !QFileInfo(options.templates).isDir()) {
-        options.fault = u"There is no folder \"%1\". Name the folder of the templates with --templates DIR."_s.arg(
-            options.templates);
+    options.amcpPort = line.port(u"--amcp").value_or(options.amcpPort);
+    options.httpPort = line.port(u"--http").value_or(options.httpPort);
+    options.channels = line.number(u"--channels", 1, Options::kMaxChannels).value_or(options.channels);
+    options.bind = line.read(u"--bind", u"an IP address"_s, ipAddress).value_or(options.bind);
+    options.templates = line.value(u"--templates").value_or(demoTemplates());
+    if (!QFileInfo(options.templates).isDir()) {
+        throw UsageError{u"there is no folder \"%1\"; name the folder of the templates with --templates DIR"_s.arg(
+            options.templates)};
     }
     return options;
 }

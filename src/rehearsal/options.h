@@ -17,13 +17,11 @@ struct Options {
     int channels = 2;  // 1..kMaxChannels
     QString templates;
 
-    // What is wrong with the command line, for the user; empty when all is well.
-    QString fault;
     // The text asked for by --help or --version, empty otherwise.
     QString wantedText;
 };
 
-// ARGUMENTS: with the program's name in front.
-Options parseOptions(const QStringList& arguments);
+// arguments: without the program's name. Throws UsageError.
+Options readOptions(const QStringList& arguments);
 
 }  // namespace zelvor::rehearsal

@@ -6,7 +6,6 @@
 #include <array>
 
 #include "base/app_folder.h"
-#include "base/command_line.h"
 #include "base/error_trap.h"
 #include "base/text_file.h"
 
@@ -40,11 +39,9 @@ TEST_F(Files, AreReadAsUtf8OrInTheCodePage) {
     EXPECT_EQ((QStringList{u"Γιώργος"_s, u""_s, u"b"_s}), files.readLines(write(u"a"_s, "\xEF\xBB\xBFΓιώργος\r\n\nb")));
     // Ά is 0xA2 in windows-1253 and 0xB6 in ISO-8859-7.
     EXPECT_EQ(u"Άλφα"_s, files.read(write(u"b"_s, "\xA2\xEB\xF6\xE1")));
-    const auto greek = TextFiles::withCodePage(u"ISO-8859-7"_s);
-    ASSERT_TRUE(greek);
-    EXPECT_EQ(u"Άλφα"_s, greek->read(write(u"c"_s, "\xB6\xEB\xF6\xE1")));
-    EXPECT_EQ("\xB6\xEB\xF6\xE1", greek->encode(u"Άλφα"_s));
-    EXPECT_FALSE(TextFiles::withCodePage(u"no-such-page"_s));
+    const TextFiles greek("ISO-8859-7");
+    EXPECT_EQ(u"Άλφα"_s, greek.read(write(u"c"_s, "\xB6\xEB\xF6\xE1")));
+    EXPECT_EQ("\xB6\xEB\xF6\xE1", greek.encode(u"Άλφα"_s));
 }
 
 TEST_F(Files, ThatCannotBeReadSayWhy) {
@@ -64,23 +61,6 @@ TEST_F(Files, AreFoundInAnySpelling) {
     EXPECT_EQ(score, folder.resolve(folder.packFile(u"EN", u"Score.csp")));
     EXPECT_EQ(folder_.path() + u"/Modules/new.TXT"_s, folder.resolve(folder.modulesFile(u"new.TXT")));
     EXPECT_FALSE(folder.exists(u"MODULES\\none"_s));
-}
-
-TEST(CommandLines, GiveTheirOptionsAndWhatIsLeft) {
-    const std::array options{CommandLine::Option{u"--app-folder"_s, true}, CommandLine::Option{u"--set"_s, true},
-                             CommandLine::Option{u"--yes"_s}, CommandLine::Option{u"--no"_s}};
-    const CommandLine line({u"3"_s, u"--app-folder"_s, u"/preview"_s, u"--set=A=1"_s, u"--yes"_s, u"--no"_s, u"--set"_s,
-                            u"B"_s, u"--odd"_s, u"--"_s, u"--yes"_s},
-                           options);
-    EXPECT_EQ(u"/preview"_s, line.value(u"--app-folder"));
-    EXPECT_EQ((QStringList{u"A=1"_s, u"B"_s}), line.values(u"--set"));
-    EXPECT_EQ(u"--no"_s, line.lastOf(std::array<QStringView, 2>{u"--yes", u"--no"}));
-    EXPECT_EQ(u"--odd"_s, line.unknownOption());
-    EXPECT_EQ(u"3 --odd --yes"_s, line.restText());
-    EXPECT_EQ(3, leadingNumber(line.restText()));
-    EXPECT_EQ(u"--set"_s, CommandLine({u"--set"_s}, options).optionWithoutValue());
-    EXPECT_TRUE(isPreview(u"x/Preview 3"_s));
-    EXPECT_EQ(0, leadingNumber(u"99999"_s));
 }
 
 TEST_F(Files, TrappedErrorsAreLoggedAndToldOnlyWhereWanted) {

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "app_check/check_command.h"
+#include "command_line/command_line.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +19,12 @@ struct CheckRun {
     explicit CheckRun(const QStringList& arguments) {
         QTextStream outStream(&out);
         QTextStream errStream(&err);
-        status = zelvor::runCheck(arguments, outStream, errStream);
+        try {
+            status = zelvor::runCheck(arguments, outStream, errStream);
+        } catch (const zelvor::UsageError& error) {
+            err = error.text;
+            status = zelvor::UsageError::kExitStatus;
+        }
     }
 
     QString out;

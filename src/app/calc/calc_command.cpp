@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kOk = 0;
 constexpr int kFormulaError = 1;
-constexpr int kWrongUsage = 2;
 
 // Characters of a long formula that are shown around the place of an error.
 constexpr int kExcerpt = 72;
@@ -85,7 +84,7 @@ int evaluate(const CalcOptions& options, std::ostream& out, std::ostream& err) {
     formula.OpDMSConv(options.degrees);
     formula.OpUnitConv(options.units);
     formula.OpAssignExplicit(options.assignExplicit);
-    if (!formula.StoreExpression(*options.formula)) return printError(formula, err);
+    if (!formula.StoreExpression(options.formula)) return printError(formula, err);
     for (const auto& [name, value] : options.variables) {
         formula.VarSymb(name, value);
         if (formula.ErrorID() != 0) {
@@ -103,22 +102,17 @@ int evaluate(const CalcOptions& options, std::ostream& out, std::ostream& err) {
 
 }  // namespace
 
-int runCalc(std::span<const std::string> arguments, std::ostream& out, std::ostream& err) {
-    std::string problem;
-    const auto options = readCalcOptions(arguments, problem);
-    if (!options) {
-        err << "zelvor calc: " << problem << '\n' << kUsage;
-        return kWrongUsage;
-    }
-    if (options->help) {
+int runCalc(const QStringList& arguments, std::ostream& out, std::ostream& err) {
+    const CalcOptions options = readCalcOptions(arguments);
+    if (options.help) {
         out << kUsage << kHelp;
         return kOk;
     }
-    if (options->list) {
+    if (options.list) {
         printList(out);
         return kOk;
     }
-    return evaluate(*options, out, err);
+    return evaluate(options, out, err);
 }
 
 }  // namespace zelvor

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <optional>
-#include <span>
+#include <QStringList>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,10 +19,10 @@ struct CalcOptions {
     bool dump = false;
     bool list = false;
     bool help = false;
-    std::optional<std::string> formula;
+    std::string formula;
 };
 
-// The options that the arguments give; on wrong ones nothing, with `problem` saying why.
-std::optional<CalcOptions> readCalcOptions(std::span<const std::string> arguments, std::string& problem);
+// Throws UsageError.
+CalcOptions readCalcOptions(const QStringList& arguments);
 
 }  // namespace zelvor

@@ -3,7 +3,7 @@
 #include <QScopedValueRollback>
 
 #include "ask/ask_fields.h"
-#include "base/command_line.h"
+#include "command_line/command_line.h"
 #include "engine/placeholders.h"
 
 using namespace Qt::StringLiterals;

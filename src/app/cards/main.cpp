@@ -10,7 +10,7 @@
 
 #include "app_cards/cards_app.h"
 #include "app_cards/user_folder.h"
-#include "base/command_line.h"
+#include "command_line/command_line.h"
 #include "console/theme.h"
 #include "crash/crash_dump.h"
 
@@ -19,7 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNoFolder = 1;
-constexpr int kUsageError = 2;
 
 const std::array kOptions{zelvor::CommandLine::Option{u"--app-folder"_s, true},
                           zelvor::CommandLine::Option{u"--user-folder"_s},
@@ -44,6 +43,20 @@ Fires the cards of a pack on the air, from one window.
   CONNECTION         a number: the database connection to propose; 1 without
 )"_s;
 
+// All but where the error log stands. Throws UsageError.
+zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
+    line.check();
+    if (line.has(u"--user-folder") && line.has(u"--app-folder")) {
+        throw zelvor::UsageError{u"--app-folder or --user-folder, not both"_s};
+    }
+    zelvor::CardsApp::Options wanted;
+    wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
+    if (const auto codePage = line.codePage(u"--codepage")) wanted.files = zelvor::TextFiles(*codePage);
+    wanted.feedPort = line.port(u"--feed-port").value_or(wanted.feedPort);
+    wanted.commandLine = line.restText();
+    return wanted;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -67,32 +80,13 @@ int main(int argc, char* argv[]) {
     zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
     const zelvor::CommandLine line(QApplication::arguments().mid(1), kOptions);
-    if (!line.optionWithoutValue().isEmpty()) {
-        err << "zelvor-cards: " << line.optionWithoutValue() << " needs a value\n";
-        return kUsageError;
-    }
     zelvor::CardsApp::Options wanted;
-    if (const auto codePage = line.value(u"--codepage")) {
-        const auto files = zelvor::TextFiles::withCodePage(*codePage);
-        if (!files) {
-            err << "zelvor-cards: no such code page: " << *codePage << '\n';
-            return kUsageError;
-        }
-        wanted.files = *files;
+    try {
+        wanted = readOptions(line);
+    } catch (const zelvor::UsageError& error) {
+        err << error.line(u"zelvor-cards"_s);
+        return zelvor::UsageError::kExitStatus;
     }
-    if (const auto port = line.value(u"--feed-port")) {
-        bool isPort = false;
-        wanted.feedPort = port->toUShort(&isPort);
-        if (!isPort) {
-            err << "zelvor-cards: --feed-port takes a number from 0 to 65535, not " << *port << '\n';
-            return kUsageError;
-        }
-    }
-    if (line.has(u"--user-folder") && line.has(u"--app-folder")) {
-        err << "zelvor-cards: --app-folder or --user-folder, not both\n";
-        return kUsageError;
-    }
-    wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
     if (line.has(u"--user-folder")) {
         wanted.appFolder = zelvor::userFolder();
         const QString fault =
@@ -104,7 +98,6 @@ int main(int argc, char* argv[]) {
         }
     }
     zelvor::dumpCrashes(QFile::encodeName(wanted.appFolder).toStdString());
-    wanted.commandLine = line.restText();
     wanted.errorLog = zelvor::errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 
     zelvor::theme::apply(application);

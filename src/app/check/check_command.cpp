@@ -5,7 +5,7 @@
 #include <array>
 
 #include "app_check/pack_check.h"
-#include "base/command_line.h"
+#include "command_line/command_line.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +15,6 @@ namespace {
 
 constexpr int kClean = 0;
 constexpr int kErrors = 1;
-constexpr int kWrongUsage = 2;
 
 const QString kUsage =
     uR"(usage: zelvor check [--app-folder DIR] [CODE]
@@ -29,7 +28,7 @@ A line each: FILE:LINE: error|warning: TEXT; then the counts. Exit status 1 when
 
 }  // namespace
 
-int runCheck(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+int runCheck(const QStringList& arguments, QTextStream& out, QTextStream&) {
     static const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true}, CommandLine::Option{u"--help"_s},
                                      CommandLine::Option{u"-h"_s}};
     const CommandLine line(arguments, kOptions);
@@ -37,22 +36,17 @@ int runCheck(const QStringList& arguments, QTextStream& out, QTextStream& err) {
         out << kUsage;
         return kClean;
     }
-    const auto refuse = [&err](const QString& reason) {
-        err << reason << "\n\n" << kUsage;
-        return kWrongUsage;
-    };
-    if (!line.unknownOption().isEmpty()) return refuse(u"unknown option "_s + line.unknownOption());
-    if (!line.optionWithoutValue().isEmpty()) return refuse(line.optionWithoutValue() + u" takes a value"_s);
-    if (line.rest().size() > 1) return refuse(u"one pack at a time, or all"_s);
+    line.check();
+    if (line.rest().size() > 1) throw UsageError{u"one pack at a time, or all"_s};
 
     const AppFolder folder(line.value(u"--app-folder").value_or(QCoreApplication::applicationDirPath()));
-    if (!QFileInfo(folder.path()).isDir()) return refuse(u"no such folder: "_s + folder.path());
+    if (!QFileInfo(folder.path()).isDir()) throw UsageError{u"no such folder: "_s + folder.path()};
     Findings findings;
     if (line.rest().isEmpty()) {
         checkPacks(folder, findings);
     } else {
         const QString& code = line.rest().first();
-        if (!folder.exists(folder.packFolder(code))) return refuse(u"no such pack: "_s + code);
+        if (!folder.exists(folder.packFolder(code))) throw UsageError{u"no such pack: "_s + code};
         checkPack(folder, code, findings);
     }
     return findings.print(out) > 0 ? kErrors : kClean;

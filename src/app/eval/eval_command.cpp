@@ -1,6 +1,9 @@
 #include "app_eval/eval_command.h"
 
+#include <array>
+
 #include "base/run_time_error.h"
+#include "command_line/command_line.h"
 #include "script/evaluator.h"
 
 using namespace Qt::StringLiterals;
@@ -11,7 +14,6 @@ namespace {
 
 constexpr int kEvaluated = 0;
 constexpr int kFailed = 1;
-constexpr int kWrongUsage = 2;
 
 QString usage() {
     return uR"(usage: zelvor eval [--] EXPRESSION
@@ -36,21 +38,16 @@ QString shown(const Value& value) {
 }  // namespace
 
 int runEval(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-    const QString first = arguments.value(0);
-    if (first == u"--help" || first == u"-h") {
+    static const std::array kOptions{CommandLine::Option{u"--help"_s}, CommandLine::Option{u"-h"_s}};
+    const CommandLine line(arguments, kOptions);
+    if (line.has(u"--help") || line.has(u"-h")) {
         out << usage();
         return kEvaluated;
     }
-    const bool optionsEnded = first == u"--";
-    const QStringList words = optionsEnded ? arguments.mid(1) : arguments;
-    // A number may be negative, an option is none of ours.
-    const bool unknownOption = !optionsEnded && first.startsWith(u"--") && first.size() > 2 && first[2].isLetter();
-    if (words.isEmpty() || unknownOption) {
-        err << usage();
-        return kWrongUsage;
-    }
+    line.check();
+    if (line.rest().isEmpty()) throw UsageError{u"no expression"_s};
     try {
-        out << shown(script::Evaluator().evaluate(words.join(u' '))) << '\n';
+        out << shown(script::Evaluator().evaluate(line.restText())) << '\n';
         return kEvaluated;
     } catch (const RunTimeError& error) {
         err << "Error " << error.number() << ": " << error.text() << "\nPosition " << error.position() << '\n';

@@ -54,7 +54,7 @@ void ClockSender::schedule() {
 }
 
 void ClockSender::send(const QString& datagram) {
-    socket_.writeDatagram(datagram.toLatin1(), host_, options_.port);
+    socket_.writeDatagram(datagram.toLatin1(), host_, options_.to.port);
     ++sent_;
     Q_EMIT shown(datagram);
 }

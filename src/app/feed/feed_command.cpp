@@ -12,24 +12,21 @@ namespace zelvor {
 
 int runFeed(const QStringList& arguments, QTextStream& out, QTextStream& err) {
     constexpr int kUnknownHost = 1;
-    constexpr int kWrongUsage = 2;
-    const auto options = parseFeedOptions(arguments, err);
-    if (!options) return kWrongUsage;
-    if (options->help) {
+    const FeedOptions options = readFeedOptions(arguments);
+    if (options.help) {
         out << feedHelp();
         return 0;
     }
-    const QHostInfo host = QHostInfo::fromName(options->host);
+    const QHostInfo host = QHostInfo::fromName(options.to.host);
     if (host.addresses().isEmpty()) {
-        err << "zelvor feed: " << options->host << ": " << host.errorString() << '\n';
+        err << "zelvor feed: " << options.to.host << ": " << host.errorString() << '\n';
         return kUnknownHost;
     }
 
     QEventLoop loop;
-    ClockSender sender(*options, host.addresses().constFirst());
+    ClockSender sender(options, host.addresses().constFirst());
     TerminalKeys keys;
-    const QString target = options->host + u':' + QString::number(options->port);
-    out << "sending " << clockText(options->from) << " to " << clockText(options->last()) << " to " << target
+    out << "sending " << clockText(options.from) << " to " << clockText(options.last()) << " to " << options.to.text()
         << (keys.available() ? "; space stops and starts the clock, q ends\n" : "\n");
     out.flush();
     if (keys.available()) {

@@ -3,7 +3,7 @@
 #include <QRegularExpression>
 #include <array>
 
-#include "base/command_line.h"
+#include "command_line/command_line.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,49 +27,28 @@ std::optional<int> clockSeconds(const QString& text) {
     return seconds <= FeedOptions::kLastSecond ? std::optional(seconds) : std::nullopt;
 }
 
-// What is wrong with the command line beyond its option names; empty when nothing is.
-QString readValues(const CommandLine& line, FeedOptions& options) {
-    const QString to = line.value(u"--to").value_or(u"127.0.0.1:7699"_s);
-    const qsizetype colon = to.lastIndexOf(u':');
+std::optional<double> gameSpeed(const QString& text) {
     bool isNumber = false;
-    options.host = to.left(colon);
-    options.port = to.mid(colon + 1).toUShort(&isNumber);
-    if (colon < 1 || !isNumber || options.port == 0) return u"--to takes HOST:PORT, not "_s + to;
-
-    options.up = line.lastOf(std::array<QStringView, 2>{u"--down", u"--up"}) == u"--up";
-    const QString from = line.value(u"--from").value_or(options.up ? u"0:00"_s : u"10:00"_s);
-    const std::optional<int> seconds = clockSeconds(from);
-    if (!seconds) return u"--from takes a clock from 0:00 to 60:00, not "_s + from;
-    options.from = *seconds;
-
-    const QString speed = line.value(u"--speed").value_or(u"1"_s);
-    options.speed = speed.toDouble(&isNumber);
-    if (!isNumber || !(options.speed > 0 && options.speed <= FeedOptions::kTopSpeed))
-        return u"--speed takes a number above 0, up to 1000, not "_s + speed;
-    options.jitter = line.has(u"--jitter");
-    return {};
+    const double speed = text.toDouble(&isNumber);
+    return isNumber && speed > 0 && speed <= FeedOptions::kTopSpeed ? std::optional(speed) : std::nullopt;
 }
 
 }  // namespace
 
-std::optional<FeedOptions> parseFeedOptions(const QStringList& arguments, QTextStream& err) {
+FeedOptions readFeedOptions(const QStringList& arguments) {
     const CommandLine line(arguments, kOptions);
     FeedOptions options;
     options.help = line.has(u"--help");
     if (options.help) return options;
-    QString fault;
-    if (!line.unknownOption().isEmpty()) {
-        fault = u"no such option: "_s + line.unknownOption();
-    } else if (!line.optionWithoutValue().isEmpty()) {
-        fault = line.optionWithoutValue() + u" needs a value"_s;
-    } else if (!line.rest().isEmpty()) {
-        fault = u"not understood: "_s + line.rest().constFirst();
-    } else {
-        fault = readValues(line, options);
-    }
-    if (fault.isEmpty()) return options;
-    err << "zelvor feed: " << fault << '\n';
-    return std::nullopt;
+    line.check();
+    if (!line.rest().isEmpty()) throw UsageError{u"not understood: "_s + line.rest().constFirst()};
+
+    options.to = line.hostPort(u"--to").value_or(options.to);
+    options.up = line.lastOf(std::array<QStringView, 2>{u"--down", u"--up"}) == u"--up";
+    options.from = line.read(u"--from", u"a clock from 0:00 to 60:00"_s, clockSeconds).value_or(options.up ? 0 : 600);
+    options.speed = line.read(u"--speed", u"a number above 0, up to 1000"_s, gameSpeed).value_or(options.speed);
+    options.jitter = line.has(u"--jitter");
+    return options;
 }
 
 QString feedHelp() {

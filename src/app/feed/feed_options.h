@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QStringList>
-#include <QTextStream>
-#include <optional>
+
+#include "command_line/host_port.h"
 
 namespace zelvor {
 
@@ -11,8 +11,7 @@ struct FeedOptions {
     static constexpr int kLastSecond = 60 * 60;  // where a clock that counts up ends
     static constexpr double kTopSpeed = 1000;
 
-    QString host;
-    quint16 port = 0;
+    HostPort to{QStringLiteral("127.0.0.1"), 7699};
     int from = 0;  // seconds on the clock
     bool up = false;
     double speed = 1;  // game seconds a second
@@ -22,8 +21,8 @@ struct FeedOptions {
     [[nodiscard]] int last() const { return up ? kLastSecond : 0; }
 };
 
-// nullopt after saying on `err` what is wrong with the arguments.
-std::optional<FeedOptions> parseFeedOptions(const QStringList& arguments, QTextStream& err);
+// Throws UsageError.
+FeedOptions readFeedOptions(const QStringList& arguments);
 
 // The text of `zelvor feed --help`.
 QString feedHelp();

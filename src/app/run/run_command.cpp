@@ -115,14 +115,13 @@ class TerminalRun {
 }  // namespace
 
 RunStatus runCard(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-    const std::optional<RunOptions> options = parseRunOptions(arguments, err);
-    if (!options) return RunStatus::WrongUsage;
-    if (options->help) {
+    const RunOptions options = readRunOptions(arguments);
+    if (options.help) {
         out << runHelp();
         return RunStatus::Ran;
     }
-    QDir::setCurrent(options->appFolder);
-    return TerminalRun(*options, out, err).run();
+    QDir::setCurrent(options.appFolder);
+    return TerminalRun(options, out, err).run();
 }
 
 }  // namespace zelvor

@@ -38,7 +38,7 @@ RunGraphics::RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextS
                      [this](LinkId link, const QString& line) { printSentLine(out_, link, line); });
 }
 
-const std::optional<ServerAddress>& RunGraphics::address(LinkId link) const {
+const std::optional<HostPort>& RunGraphics::address(LinkId link) const {
     return link == LinkId::Main ? options_.main : options_.remote;
 }
 
@@ -46,11 +46,10 @@ bool RunGraphics::connectNamed(Clock& clock, QTextStream& err) {
     for (const LinkId id : kLinks) {
         if (!address(id)) continue;
         CasparLink& link = links_.link(id);
-        link.connectTo(address(id)->host, address(id)->port);
+        link.connectTo(address(id)->host, QString::number(address(id)->port));
         waitFor(clock, [&] { return link.state() == LinkState::Connected || link.state() == LinkState::Error; });
         if (link.state() == LinkState::Connected) continue;
-        err << "zelvor run: cannot reach " << address(id)->host << ':' << address(id)->port << ' ' << link.errorText()
-            << '\n';
+        err << "zelvor run: cannot reach " << address(id)->text() << ' ' << link.errorText() << '\n';
         err.flush();
         return false;
     }

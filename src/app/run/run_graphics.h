@@ -28,7 +28,7 @@ class RunGraphics : public Graphics, public GraphicsNotes {
     void showLastTemplate(const QString&) override {}
 
  private:
-    [[nodiscard]] const std::optional<ServerAddress>& address(LinkId link) const;
+    [[nodiscard]] const std::optional<HostPort>& address(LinkId link) const;
 
     GraphicsLinks& links_;
     const RunOptions& options_;

@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <array>
 
-#include "base/command_line.h"
+#include "command_line/command_line.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,48 +30,20 @@ const std::array kOptions{
     CommandLine::Option{u"--help"_s},
 };
 
-// Thrown and caught here alone: what is wrong, in words.
-struct UsageError {
-    QString text;
-};
-
-std::optional<ServerAddress> parseAddress(const CommandLine& line, const QString& option) {
-    const std::optional<QString> text = line.value(option);
-    if (!text) return std::nullopt;
-    const qsizetype colon = text->lastIndexOf(u':');
-    bool isNumber = false;
-    const int port = text->mid(colon + 1).toInt(&isNumber);
-    if (colon < 1 || !isNumber || port < 1 || port > 65535) throw UsageError{option + u" takes HOST:PORT"_s};
-    return ServerAddress{text->left(colon), text->mid(colon + 1)};
-}
-
-std::pair<QString, QString> parseVariable(const QString& text) {
+std::optional<std::pair<QString, QString>> variable(const QString& text) {
     const qsizetype equals = text.indexOf(u'=');
-    if (equals < 1) throw UsageError{u"--set takes NAME=VALUE"_s};
-    return {text.left(equals), text.mid(equals + 1)};
+    if (equals < 1) return std::nullopt;
+    return std::pair(text.left(equals), text.mid(equals + 1));
 }
 
-TextFiles parseCodePage(const std::optional<QString>& name) {
-    if (!name) return {};
-    const std::optional<TextFiles> files = TextFiles::withCodePage(*name);
-    if (!files) throw UsageError{u"no such code page: "_s + *name};
-    return *files;
-}
+}  // namespace
 
-qint16 parseConnection(const std::optional<QString>& text) {
-    bool isNumber = false;
-    const qint16 number = text.value_or(u"1"_s).toShort(&isNumber);
-    if (!isNumber) throw UsageError{u"--connection takes a number"_s};
-    return number;
-}
-
-RunOptions parse(const QStringList& arguments) {
+RunOptions readRunOptions(const QStringList& arguments) {
     const CommandLine line(arguments, kOptions);
     RunOptions options;
     options.help = line.has(u"--help");
     if (options.help) return options;
-    if (!line.unknownOption().isEmpty()) throw UsageError{u"unknown option "_s + line.unknownOption()};
-    if (!line.optionWithoutValue().isEmpty()) throw UsageError{line.optionWithoutValue() + u" takes a value"_s};
+    line.check();
     if (line.rest().size() != 1) throw UsageError{u"one CARD is to be named"_s};
 
     options.card = line.rest().constFirst();
@@ -79,30 +51,18 @@ RunOptions parse(const QStringList& arguments) {
     if (!QFileInfo(options.appFolder).isDir()) throw UsageError{u"no such folder: "_s + options.appFolder};
     options.appFolder = QFileInfo(options.appFolder).absoluteFilePath();
     options.language = line.value(u"--language").value_or(QString());
-    options.files = parseCodePage(line.value(u"--codepage"));
-    for (const QString& text : line.values(u"--set")) options.variables.push_back(parseVariable(text));
+    if (const auto codePage = line.codePage(u"--codepage")) options.files = TextFiles(*codePage);
+    options.variables = line.readAll(u"--set", u"NAME=VALUE"_s, variable);
     options.answers = line.values(u"--answer");
     options.preview = line.has(u"--preview");
     options.yes = line.lastOf(std::array<QStringView, 2>{u"--yes", u"--no"}) != u"--no";
     options.autoRun = line.has(u"--auto");
     options.keepStates = line.has(u"--keep-states");
     options.printVariables = line.has(u"--vars");
-    options.connection = parseConnection(line.value(u"--connection"));
-    options.main = parseAddress(line, u"--main"_s);
-    options.remote = parseAddress(line, u"--remote"_s);
+    options.connection = static_cast<qint16>(line.number(u"--connection", 0, INT16_MAX).value_or(1));
+    options.main = line.hostPort(u"--main");
+    options.remote = line.hostPort(u"--remote");
     return options;
-}
-
-}  // namespace
-
-std::optional<RunOptions> parseRunOptions(const QStringList& arguments, QTextStream& err) {
-    try {
-        return parse(arguments);
-    } catch (const UsageError& error) {
-        err << "zelvor run: " << error.text << "\nTry: zelvor run --help\n";
-        err.flush();
-        return std::nullopt;
-    }
 }
 
 QString runHelp() {

@@ -1,18 +1,13 @@
 #pragma once
 
 #include <QStringList>
-#include <QTextStream>
 #include <optional>
 #include <vector>
 
 #include "base/text_file.h"
+#include "command_line/host_port.h"
 
 namespace zelvor {
-
-struct ServerAddress {
-    QString host;
-    QString port;
-};
 
 // What the command line of `zelvor run` asks for.
 struct RunOptions {
@@ -29,12 +24,12 @@ struct RunOptions {
     bool printVariables = false;
     bool help = false;
     qint16 connection = 1;
-    std::optional<ServerAddress> main;
-    std::optional<ServerAddress> remote;
+    std::optional<HostPort> main;
+    std::optional<HostPort> remote;
 };
 
-// nullopt after saying on `err` what is wrong with the arguments.
-std::optional<RunOptions> parseRunOptions(const QStringList& arguments, QTextStream& err);
+// Throws UsageError.
+RunOptions readRunOptions(const QStringList& arguments);
 
 // The text of `zelvor run --help`.
 QString runHelp();

@@ -6,14 +6,13 @@
 #include <array>
 #include <cstdio>
 #include <iostream>
-#include <string>
-#include <vector>
 
 #include "app_calc/calc_command.h"
 #include "app_check/check_command.h"
 #include "app_eval/eval_command.h"
 #include "app_feed/feed_command.h"
 #include "app_run/run_command.h"
+#include "command_line/command_line.h"
 #include "crash/crash_dump.h"
 
 using namespace Qt::StringLiterals;
@@ -31,10 +30,11 @@ int run(const QStringList& arguments, QTextStream& out, QTextStream& err) {
 }
 
 int calc(const QStringList& arguments, QTextStream&, QTextStream&) {
-    std::vector<std::string> words;
-    for (const QString& argument : arguments) words.push_back(argument.toStdString());
-    return zelvor::runCalc(words, std::cout, std::cerr);
+    return zelvor::runCalc(arguments, std::cout, std::cerr);
 }
+
+const std::array kOptions{zelvor::CommandLine::Option{u"--help"_s}, zelvor::CommandLine::Option{u"-h"_s},
+                          zelvor::CommandLine::Option{u"--version"_s}};
 
 const std::array kSubcommands{
     Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
@@ -62,19 +62,23 @@ int main(int argc, char* argv[]) {
     QTextStream out(stdout);
     QTextStream err(stderr);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
-    const QString word = arguments.value(0);
-    if (word == u"--help" || word == u"-h") {
-        out << help();
-        return 0;
+    const auto* command = std::ranges::find(kSubcommands, arguments.value(0), &Subcommand::name);
+    try {
+        if (command != kSubcommands.end()) return command->run(arguments.mid(1), out, err);
+        const zelvor::CommandLine line(arguments, kOptions);
+        if (line.has(u"--version")) {
+            out << "zelvor " ZELVOR_VERSION "\n";
+            return 0;
+        }
+        if (line.has(u"--help") || line.has(u"-h")) {
+            out << help();
+            return 0;
+        }
+        line.check();
+    } catch (const zelvor::UsageError& error) {
+        err << error.line(command == kSubcommands.end() ? u"zelvor"_s : u"zelvor "_s + command->name);
+        return zelvor::UsageError::kExitStatus;
     }
-    if (word == u"--version") {
-        out << "zelvor " ZELVOR_VERSION "\n";
-        return 0;
-    }
-    const auto* command = std::ranges::find(kSubcommands, word, &Subcommand::name);
-    if (command == kSubcommands.end()) {
-        err << help();
-        return 2;
-    }
-    return command->run(arguments.mid(1), out, err);
+    err << help();
+    return zelvor::UsageError::kExitStatus;
 }
