@@ -1,5 +1,7 @@
 #include "console/main_menu.h"
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -29,8 +31,7 @@ void MainMenu::addMode(QMenu& menu, const ControlRow& mode, const QString& capti
     QAction* item = menu.actions().last();
     item->setCheckable(true);
     const auto show = [item, &control = form.at(mode)] { item->setChecked(control.checked()); };
-    show();
-    connect(&form.at(mode), &Control::changed, item, show);
+    follow(form.at(mode), {Control::Property::Checked}, item, show);
     // Choosing what is chosen already must not take the mark away.
     connect(item, &QAction::triggered, item, show);
 }

@@ -1,13 +1,14 @@
 #include "feed/quiet_rules.h"
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
 void QuietRules::onChange(Control& control, Control::Property property, const Handler& handler) {
-    connect(&control, &Control::changed, this, [this, property, handler](Control* changed, Control::Property which) {
-        if (which == property) quietly(changed->name() + u"_Change"_s, [&] { handler(*changed); });
-    });
+    zelvor::onChange(control, {property}, this,
+                     [this, &control, handler] { quietly(control.name() + u"_Change"_s, [&] { handler(control); }); });
 }
 
 }  // namespace zelvor

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -40,10 +42,8 @@ LinkConsole::LinkConsole(FormModel& form, GraphicsLinks& links, Clock& clock, Er
     for (const Preset& preset : presets()) items += {preset.name, static_cast<int>(items.size())};
     list.setItems(items);
     list.setPosition(0);
-    connect(&list, &Control::changed, this, &LinkConsole::choosePreset);
-    connect(&form_.at(controls.chkLOGFILE), &Control::changed, this, [this](Control*, Control::Property property) {
-        if (property == Control::Property::Checked) switchLog();
-    });
+    onChange(list, {Control::Property::Text}, this, [this] { choosePreset(); });
+    onChange(form_.at(controls.chkLOGFILE), {Control::Property::Checked}, this, [this] { switchLog(); });
 }
 
 template <class Body>

@@ -1,5 +1,7 @@
 #include "link/link_watch.h"
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -44,7 +46,7 @@ LinkWatch::LinkWatch(LinkId id, CasparLink& link, FormModel& form, Clock& clock,
     onTimer(watchTimer_, u"tmrWS"_s + suffix(id), kWatchInterval, &LinkWatch::watch);
     onTimer(retryTimer_, u"tmrRETRY"_s + suffix(id), kRetryInterval, &LinkWatch::retry);
     connect(&link_, &CasparLink::stateChanged, this, &LinkWatch::followLink);
-    connect(&reconnect_, &Control::changed, this, &LinkWatch::updateRetrying);
+    onChange(reconnect_, {Control::Property::Checked}, this, [this] { updateRetrying(); });
     showStatus();
 }
 

@@ -7,6 +7,7 @@
 #include <QXmlStreamWriter>
 
 #include "console/line_view.h"
+#include "form/follow.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,16 +50,13 @@ HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
         raw_->setSelected(asSent);
         showTemplate();
     });
-    connect(&template_, &Control::changed, this, &HistoryPanel::showTemplate);
+    follow(template_, {Control::Property::Text}, this, [this] { showTemplate(); });
     // The view lies beneath the list: it shows where the list is hidden.
     const Control& list = mirrors.form().at(controls.lstGASPARHISTORY);
-    const auto follow = [this, &list] {
+    follow(list, {Control::Property::Visible}, this, [this, &list] {
         view_->setVisible(!list.visible());
         raw_->setVisible(!list.visible());
-    };
-    connect(&list, &Control::changed, this, follow);
-    follow();
-    showTemplate();
+    });
 }
 
 void HistoryPanel::showTemplate() {

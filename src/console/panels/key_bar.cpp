@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -29,9 +31,8 @@ class KeyChip : public QWidget {
         title->setCursor(Qt::PointingHandCursor);
         row->addWidget(title);
         const Control& control = mirrors.form().at(controls.lblFKEYTITLE, index);
-        const auto follow = [this, &control] { setVisible(control.visible() && !control.text().isEmpty()); };
-        connect(&control, &Control::changed, this, follow);
-        follow();
+        follow(control, {Control::Property::Visible, Control::Property::Text}, this,
+               [this, &control] { setVisible(control.visible() && !control.text().isEmpty()); });
     }
 
  protected:

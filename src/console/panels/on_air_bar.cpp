@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -76,13 +78,11 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
         // The mode that is on has a frame as well: its colour is not all that tells it.
         const Control& control = form_.at(controls.cmdSCREENMODE, mode);
-        const auto frame = [button, &control] {
+        follow(control, {Control::Property::BackColour, Control::Property::Text}, button, [button, &control] {
             const bool on = control.backColour() == colours::kScreenModeOn;
             button->setSelected(on);
             button->setAccessibleName(control.text() + (on ? u", on"_s : u", off"_s));
-        };
-        connect(&control, &Control::changed, button, frame);
-        frame();
+        });
         modes->addWidget(button);
     }
     row->addLayout(modes);
@@ -112,7 +112,9 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     row->addWidget(clear);
 
     for (const ControlRow* part : {&controls.lblONAIR, &controls.lblONAIRLAMP})
-        connect(&form_.at(*part), &Control::changed, this, &OnAirBar::showFrame);
+        onChange(form_.at(*part),
+                 {Control::Property::Text, Control::Property::BackColour, Control::Property::ForeColour}, this,
+                 [this] { showFrame(); });
     showFrame();
 }
 

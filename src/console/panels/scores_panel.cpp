@@ -1,5 +1,7 @@
 #include "console/panels/scores_panel.h"
 
+#include "form/follow.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -47,9 +49,8 @@ ScoresPanel::ScoresPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.
     manual->setObjectName(u"manualMark"_s);
     manual->setText(u"MANUAL"_s);
     const Control& manualMode = mirrors.form().at(controls.chkMANUAL);
-    const auto mark = [manual, &manualMode] { manual->setVisible(manualMode.checked()); };
-    connect(&manualMode, &Control::changed, manual, mark);
-    mark();
+    follow(manualMode, {Control::Property::Checked}, manual,
+           [manual, &manualMode] { manual->setVisible(manualMode.checked()); });
     grid->addWidget(manual, 0, 1, Qt::AlignCenter);
     auto* period = new QVBoxLayout;
     period->setSpacing(2);
