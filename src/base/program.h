@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/app_folder.h"
+#include "base/clearing.h"
 #include "base/closing.h"
 #include "base/error_trap.h"
 #include "base/text_file.h"
@@ -8,12 +9,13 @@
 namespace zelvor {
 
 // What every room of one running program shares beside the show: where its files are and how they are read, what
-// becomes of errors, and its end. Made by the composition root and passed by reference.
+// becomes of errors, CLEAR, and its end. Made by the composition root and passed by reference.
 struct Program {
     AppFolder folder;
     TextFiles files;
     ErrorTrap trap;
     Closing closing{};
+    Clearing clearing{};
 };
 
 }  // namespace zelvor

@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "ask_dialog/clear_button.h"
 #include "console/theme.h"
 
 using namespace Qt::StringLiterals;
@@ -90,6 +91,14 @@ void addSeverity(Box& box, Severity severity) {
     box.column->insertWidget(0, label);
 }
 
+// What it is answered with, and CLEAR, which the box would keep from the operator; while the console starts there is
+// nothing to clear.
+void addButtons(Box& box, const Asker& asker, Clearing& clearing) {
+    if (asker.kind != Asker::Kind::StartUp)
+        box.buttons->addButton(makeClearButton(clearing), QDialogButtonBox::ResetRole);
+    box.column->addWidget(box.buttons);
+}
+
 }  // namespace
 
 // The window that the operator is in: a box over another one would bring that one before it. Between two boxes no
@@ -103,8 +112,9 @@ QWidget* Boxes::over(const Asker& asker) {
 }
 
 bool Boxes::run(const Asker& asker, QDialog& box) {
-    if (closing_.hasBegun()) return false;
-    connect(&closing_, &Closing::begun, &box, &QDialog::reject);
+    if (program_.closing.hasBegun()) return false;
+    connect(&program_.closing, &Closing::begun, &box, &QDialog::reject);
+    connect(&program_.clearing, &Clearing::begun, &box, &QDialog::reject);
     Q_EMIT opened(&box);
     if (asker.isAttended()) {
         box.setWindowModality(Qt::ApplicationModal);
@@ -116,15 +126,15 @@ bool Boxes::run(const Asker& asker, QDialog& box) {
         box.show();
         closed.exec();
     }
-    return box.result() == QDialog::Accepted && !closing_.hasBegun();
+    return box.result() == QDialog::Accepted && !program_.closing.hasBegun();
 }
 
 // Neither the keyboard nor the timer waits for it. One at a time, so that a faulty card that runs ten times a second
 // does not fill the screen.
 void Boxes::showNotice(const QString& card, const QString& title, const QString& text, Severity severity) {
-    if (notice_ || closing_.hasBegun() || quietCards_.contains(card)) return;
+    if (notice_ || program_.closing.hasBegun() || quietCards_.contains(card)) return;
     notice_ = new QDialog(window_);
-    connect(&closing_, &Closing::begun, notice_, &QDialog::close);
+    connect(&program_.closing, &Closing::begun, notice_, &QDialog::close);
     notice_->setAttribute(Qt::WA_DeleteOnClose);
     notice_->setAttribute(Qt::WA_ShowWithoutActivating);
     Box box(*notice_, title, text, QDialogButtonBox::Ok);
@@ -148,14 +158,14 @@ void Boxes::message(const Asker& asker, const QString& title, const QString& tex
     QDialog dialog(over(asker));
     Box box(dialog, title, text, QDialogButtonBox::Ok);
     addSeverity(box, severity);
-    box.column->addWidget(box.buttons);
+    addButtons(box, asker, program_.clearing);
     run(asker, dialog);
 }
 
 bool Boxes::yesNo(const Asker& asker, const QString& title, const QString& text) {
     QDialog dialog(over(asker));
     Box box(dialog, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
-    box.column->addWidget(box.buttons);
+    addButtons(box, asker, program_.clearing);
     return run(asker, dialog);
 }
 
@@ -167,7 +177,7 @@ std::optional<QString> Boxes::input(const Asker& asker, const QString& title, co
     field->setObjectName(u"answer"_s);
     field->setAccessibleName(title);
     box.column->addWidget(field);
-    box.column->addWidget(box.buttons);
+    addButtons(box, asker, program_.clearing);
     field->selectAll();
     field->setFocus();
     return run(asker, dialog) ? std::optional(field->text()) : std::nullopt;

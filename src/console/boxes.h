@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <set>
 
-#include "base/closing.h"
+#include "base/program.h"
 #include "engine/ports.h"
 
 class QDialog;
@@ -13,12 +13,12 @@ class QDialog;
 namespace zelvor {
 
 // The operator's message, yes/no and input boxes: top-level windows in the console's look. While one is open, timers
-// and sockets go on; when the program closes, all end as if they had been cancelled.
+// and sockets go on. When CLEAR is pressed or the program closes, all end as if they had been cancelled.
 class Boxes : public QObject, public Operator {
     Q_OBJECT
 
  public:
-    explicit Boxes(const Closing& closing) : closing_(closing) {}
+    explicit Boxes(Program& program) : program_(program) {}
 
     // The window that the boxes stand over, unless the operator is in another one.
     void setWindow(QWidget& window) { window_ = &window; }
@@ -42,7 +42,7 @@ class Boxes : public QObject, public Operator {
     QWidget* over(const Asker& asker);
     void showNotice(const QString& card, const QString& title, const QString& text, Severity severity);
 
-    const Closing& closing_;
+    Program& program_;
     QPointer<QWidget> window_;
     QPointer<QWidget> used_;  // the window that the operator was in last
     QPointer<QDialog> notice_;

@@ -17,7 +17,7 @@ constexpr int kFrame = 3;  // pixels kept free around the button for the frame o
 }  // namespace
 
 CardButton::CardButton(ConsoleButton* small, QWidget* parent)
-    : ConsoleButton({kCaptionPixels, true}, parent), small_(small) {
+    : ConsoleButton({.pixels = kCaptionPixels, .bold = true, .firesCard = true}, parent), small_(small) {
     small_->setParent(this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
@@ -38,6 +38,7 @@ QString CardButton::stateLine() const {
 
 void CardButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    Q_EMIT painted();
     const QRectF body = QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame);
     if (face_.lastFired) theme::drawSurface(painter, rect(), {std::nullopt, theme::colour(Role::Accent), 7, 2});
 

@@ -28,6 +28,10 @@ class CardButton : public ConsoleButton {
     [[nodiscard]] QSize sizeHint() const override { return {200, 56}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {90, 34}; }
 
+ Q_SIGNALS:
+    // The operator sees the button as it is now.
+    void painted();
+
  protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -82,6 +82,10 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
 }
 
+void ConsoleButton::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!look_.firesCard) QAbstractButton::mouseDoubleClickEvent(event);
+}
+
 void ConsoleButton::resizeEvent(QResizeEvent*) {
     updateToolTip();
 }

@@ -21,6 +21,7 @@ class ConsoleButton : public QAbstractButton {
         theme::Role text = theme::Role::Text;
         bool underlined = false;  // selected is shown by a line under the text, as page tabs do
         bool flat = false;        // no surface of its own but a line at its left
+        bool firesCard = false;   // the second press of a double click is no press of its own
     };
 
     explicit ConsoleButton(const Look& look, QWidget* parent = nullptr);
@@ -39,6 +40,7 @@ class ConsoleButton : public QAbstractButton {
 
  protected:
     void paintEvent(QPaintEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;

@@ -47,8 +47,19 @@ KeyFilter::KeyFilter(QWidget& form) : QObject(&form), form_(form) {
     QApplication::instance()->installEventFilter(this);
 }
 
+// True for a press that nobody is to see.
+bool KeyFilter::windowSees(const QKeyEvent& key) {
+    if (repeats_.isRepeat(key)) return !repeatsWhenHeld(key, QApplication::focusWidget());
+    const bool isClear =
+        key.key() == Qt::Key_Delete && key.modifiers().testFlags(Qt::ControlModifier | Qt::ShiftModifier);
+    if (isClear && key.type() == QEvent::KeyPress) Q_EMIT clearKey();
+    return isClear;
+}
+
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return false;
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+    if (watched->isWindowType()) return windowSees(*static_cast<const QKeyEvent*>(event));
+    if (event->type() == QEvent::KeyRelease) return false;
     auto* widget = qobject_cast<QWidget*>(watched);
     if (widget == nullptr) return false;
     const QWidget* form = formOf(widget);

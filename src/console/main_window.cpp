@@ -55,13 +55,14 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
     connect(keys_, &KeyFilter::functionKey, this, &MainWindow::functionKey);
+    connect(keys_, &KeyFilter::clearKey, this, &MainWindow::clearKey);
 }
 
 void MainWindow::takeFunctionKeysOf(const QWidget& beside) {
     keys_->addBeside(beside);
 }
 
-QWidget* MainWindow::leftSide(const CardConsole& console, QAbstractItemModel& history) {
+QWidget* MainWindow::leftSide(CardConsole& console, QAbstractItemModel& history) {
     auto* side = new QWidget;
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(12, 10, 10, 8);

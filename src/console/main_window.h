@@ -28,6 +28,7 @@ class MainWindow : public QWidget {
     void closed();
     // F1 to F10 by their numbers.
     void functionKey(int number);
+    void clearKey();
     // Up and Down in the manual line.
     void olderLineWanted();
     void newerLineWanted();
@@ -36,7 +37,7 @@ class MainWindow : public QWidget {
     void closeEvent(QCloseEvent* event) override;
 
  private:
-    QWidget* leftSide(const CardConsole& console, QAbstractItemModel& history);
+    QWidget* leftSide(CardConsole& console, QAbstractItemModel& history);
     QWidget* rightSide(QAbstractItemModel& responses);
 
     Mirrors mirrors_;

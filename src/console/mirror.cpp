@@ -114,8 +114,8 @@ ConsoleButton* Mirrors::button(const ControlRow& row, int index, const ConsoleBu
 }
 
 CardButton* Mirrors::cardButton(int index) const {
-    const ConsoleButton::Look flat{12,    false, theme::Role::ButtonHover, theme::Role::Line, theme::Role::Muted,
-                                   false, true};
+    const ConsoleButton::Look flat{12,   false, theme::Role::ButtonHover, theme::Role::Line, theme::Role::Muted, false,
+                                   true, true};
     auto* widget = new CardButton(button(controls.cmdCARDBOX, index, flat));
     bindButton(widget, begin(widget, controls.cmbCARD, index));
     return widget;
@@ -172,18 +172,36 @@ QRadioButton* Mirrors::optionButton(const ControlRow& row, int index) const {
 
 namespace {
 
-// A closed list that the wheel does not change unless the operator has chosen it.
+// A list that changes only while it is open: closed, neither the wheel nor a stray key turns it. After a choice the
+// keyboard is the form's again.
 class ListBox : public QComboBox {
  public:
     int changedTo = -1;  // the position that a choice under way has changed it to
 
+    void hidePopup() override {
+        QComboBox::hidePopup();
+        window()->setFocus();
+    }
+
  protected:
-    void wheelEvent(QWheelEvent* event) override {
-        if (hasFocus()) {
-            QComboBox::wheelEvent(event);
-        } else {
-            event->ignore();
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+    void keyPressEvent(QKeyEvent* event) override {
+        switch (event->key()) {
+            case Qt::Key_Up:
+            case Qt::Key_Down:
+            case Qt::Key_PageUp:
+            case Qt::Key_PageDown:
+                return showPopup();
+            case Qt::Key_Space:
+            case Qt::Key_Return:
+            case Qt::Key_Enter:
+                if (!isEditable()) return showPopup();
+                break;
+            default:
+                break;
         }
+        // Letters would choose what they begin.
+        if (isEditable()) QComboBox::keyPressEvent(event);
     }
 };
 

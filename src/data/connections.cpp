@@ -45,7 +45,8 @@ QString Connections::FIND_CONNECTION(qint16& ConnID) {
     number_ = ConnID;
     QString found = list.find(ConnID);
     if (found.isEmpty()) {
-        operator_.message({}, {}, u"Error find connection for ConnID:%1\r\nProgram stop!!!"_s.arg(ConnID),
+        operator_.message({Asker::Kind::StartUp}, {},
+                          u"Error find connection for ConnID:%1\r\nProgram stop!!!"_s.arg(ConnID),
                           Operator::Severity::Critical);
         program_.closing.begin();
     }
@@ -55,7 +56,7 @@ QString Connections::FIND_CONNECTION(qint16& ConnID) {
 std::optional<qint16> Connections::askNumber(const QString& menu, qint16 proposed) {
     while (!program_.closing.hasBegun()) {
         const std::optional<QString> answer =
-            operator_.input({}, u"Επιλογή σύνδεσης"_s, menu, QString::number(proposed));
+            operator_.input({Asker::Kind::StartUp}, u"Επιλογή σύνδεσης"_s, menu, QString::number(proposed));
         if (!answer) continue;
         try {
             return wholeNumber16(*answer);

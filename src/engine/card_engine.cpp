@@ -47,6 +47,8 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
             CardRun(*this, script, name, autoRun, keepStates, place).execute();
         } catch (const ProgramClosing&) {
             outcome = Outcome::Closed;
+        } catch (const RunCleared&) {
+            outcome = Outcome::Cleared;
         } catch (const RunTimeError&) {
             if (!closing.hasBegun()) throw;
             outcome = Outcome::Closed;  // what failed was already told, with the program's end

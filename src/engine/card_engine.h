@@ -23,7 +23,7 @@ class CardEngine {
     CardEngine(ShowState& state, FormModel& form, Program& program, const Ports& ports);
 
     // How a run ended. A cancelled ask, no data and a failed query count as Ran.
-    enum class Outcome { Ran, NoScript, Failed, Closed };
+    enum class Outcome { Ran, NoScript, Failed, Cleared, Closed };
 
     // Runs the card's script to its end. cardFile: as the card table gives it, relative to the pack's folder.
     // autoRun: ask fields take their automatic answers. keepStates: ON, OFF and OFFALL are skipped. A missing script

@@ -13,6 +13,7 @@ CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, Q
       autoRun_(autoRun),
       keepStates_(keepStates),
       place_(place),
+      clearings_(engine.program().clearing.count()),
       files_(engine.program().files) {}
 
 void CardRun::execute() {
@@ -54,8 +55,9 @@ void CardRun::abandon() {
     endCard();
 }
 
-void CardRun::goOnUnlessClosing() {
+void CardRun::goOn() const {
     if (engine_.program().closing.hasBegun()) throw ProgramClosing();
+    if (engine_.program().clearing.count() != clearings_) throw RunCleared();
 }
 
 void CardRun::finish() {
@@ -63,6 +65,8 @@ void CardRun::finish() {
     if (hasData_) {
         SHOW_RTX(engine_.program().folder);
         state().lastCard = cardFile_;
+        const bool isWhatWasAskedFor = CardEngine::scriptName(asker().card) == cardFile_;
+        if (asker().place && isWhatWasAskedFor) state().console.lastFired = asker().place;
         if (!onAirLocked(form())) SHOW_ONAIR(state(), form(), cardFile_);
     } else {
         state().lastCard.clear();

@@ -45,8 +45,9 @@ class CardRun {
     void endWithoutData();
     // Ends the script and leaves the on-air display and the last card untouched.
     void abandon();
-    // Ends the run at once when the program is closing; called after everything that waits.
-    void goOnUnlessClosing();
+    // Ends the run at once when the program is closing or CLEAR was pressed since it began; called after everything
+    // that waits.
+    void goOn() const;
     // Shows the card as on air, or that it had no data, and remembers it as the last one.
     void finish();
 
@@ -67,6 +68,7 @@ class CardRun {
     bool autoRun_;
     bool keepStates_;
     ErrorPlace& place_;
+    int clearings_;  // before this run
     int lineNo_ = 0;
     bool hasData_ = true;
     bool abandoned_ = false;
@@ -74,7 +76,8 @@ class CardRun {
     OutputFiles files_;
 };
 
-// Thrown by CardRun::goOnUnlessClosing() and caught by CardEngine: the run ends because the program does.
+// Thrown by CardRun::goOn() and caught by CardEngine: the run ends because the program does, or by CLEAR.
 struct ProgramClosing {};
+struct RunCleared {};
 
 }  // namespace zelvor

@@ -50,7 +50,7 @@ bool Packs::LOAD_PACKS() {
         if (packs.missing.isEmpty() || program_.closing.hasBegun()) return;
         QString warning = u"Warning!!! Missing folders for the following Pack(s):\r\n\r\n"_s;
         for (const QString& code : packs.missing) warning += u"\\MODULES\\QRD_"_s + code + u"\r\n"_s;
-        operator_.message({}, u"Missing folder(s)"_s, warning, Operator::Severity::Warning);
+        operator_.message({Asker::Kind::StartUp}, u"Missing folder(s)"_s, warning, Operator::Severity::Warning);
     });
     return chosen;
 }
@@ -63,7 +63,8 @@ bool Packs::choosePack(const PackList& packs) {
         languages += {packs.offered[i][0], static_cast<int>(i) + 1};
     }
     while (!program_.closing.hasBegun()) {
-        const QString answer = operator_.input({}, u"Project Pack Selection"_s, prompt, u"1"_s).value_or(QString());
+        const QString answer =
+            operator_.input({Asker::Kind::StartUp}, u"Project Pack Selection"_s, prompt, u"1"_s).value_or(QString());
         bool isNumber = false;
         const int number = answer.trimmed().toInt(&isNumber);
         if (!isNumber || number < 1 || number > languages.size()) continue;

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -107,8 +108,10 @@ class Clock {
     [[nodiscard]] virtual qint64 secondsSinceEpoch() const { return now().toSecsSinceEpoch(); }
     // Milliseconds from some moment on, whatever is done to the wall clock meanwhile: for measuring.
     [[nodiscard]] virtual qint64 steadyMilliseconds() const { return now().toMSecsSinceEpoch(); }
-    // Handles pending events that many times. False as soon as the program is closing: the caller ends at once.
-    virtual bool turnEvents(int turns) = 0;
+    static constexpr qint64 kAsLongAsItTakes = std::numeric_limits<qint64>::max();
+    // Handles pending events that many times, for that many milliseconds at most. False as soon as the program is
+    // closing: the caller ends at once.
+    virtual bool turnEvents(int turns, qint64 longest = kAsLongAsItTakes) = 0;
     // Handles events until one comes or a few milliseconds have passed; false as turnEvents().
     virtual bool waitBriefly() = 0;
 };

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/asker.h"
 #include "engine/card_table.h"
 #include "engine/query_result.h"
 #include "engine/variable_store.h"
@@ -60,13 +61,7 @@ class OnAirTable {
 
 // What the console remembers from one press to the next; no card sees it.
 struct ConsoleMemory {
-    // A card button: set 1 to 5, index from 0.
-    struct CardButton {
-        int set = 0;
-        int index = 0;
-        bool operator==(const CardButton&) const = default;
-    };
-    std::optional<CardButton> lastFired;
+    std::optional<CardPlace> lastFired;  // the button of the card that went on air last
     bool playerSelected = false;
 };
 

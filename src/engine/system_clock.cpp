@@ -1,6 +1,7 @@
 #include "engine/system_clock.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -10,8 +11,11 @@ QDateTime SystemClock::now() const {
     return QDateTime::currentDateTime();
 }
 
-bool SystemClock::turnEvents(int turns) {
-    for (int turn = 0; turn < turns && !closing_.hasBegun(); ++turn) QCoreApplication::processEvents();
+bool SystemClock::turnEvents(int turns, qint64 longest) {
+    QElapsedTimer timer;
+    timer.start();
+    for (int turn = 0; turn < turns && !closing_.hasBegun() && timer.elapsed() < longest; ++turn)
+        QCoreApplication::processEvents();
     return !closing_.hasBegun();
 }
 

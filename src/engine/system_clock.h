@@ -16,7 +16,7 @@ class SystemClock : public Clock {
     [[nodiscard]] QDateTime now() const override;
     [[nodiscard]] qint64 secondsSinceEpoch() const override { return QDateTime::currentSecsSinceEpoch(); }
     [[nodiscard]] qint64 steadyMilliseconds() const override { return QDeadlineTimer::current().deadline(); }
-    bool turnEvents(int turns) override;
+    bool turnEvents(int turns, qint64 longest) override;
     bool waitBriefly() override;
 
  private:

@@ -76,6 +76,7 @@ struct ControlTable {
     ControlRow lblLINKREMOTE{Kind::Label, u"lblLINKREMOTE", u"Remote graphics link", {.role = Role::Off}};
     ControlRow lblFEED{Kind::Label, u"lblFEED", u"Game feed", {.role = Role::Off}};
     ControlRow lblDATABASE{Kind::Label, u"lblDATABASE", u"Database", {.role = Role::Off}};
+    ControlRow lblNOTE{Kind::Label, u"lblNOTE", u"What happened to the last press"};
     ControlRow cmbCASPARREMOTELIST{Kind::List, u"cmbCASPARREMOTELIST", u"A remote server's preset address"};
     ControlRow cmdVIEWGASPHISTORY{
         Kind::Button, u"cmdVIEWGASPHISTORY", u"Shows the socket history", {.text = u"History"}};

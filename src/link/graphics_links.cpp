@@ -16,6 +16,7 @@ bool tellsOfError(const QString& reply) {
 GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
     : clock_(clock),
       trap_(program.trap),
+      clearing_(program.clearing),
       logSwitch_(form.at(controls.chkLOGFILE)),
       logStatus_(form.at(controls.lblLOG)),
       lastTemplate_(form.at(controls.lblLASTXML)),
@@ -31,7 +32,9 @@ void GraphicsLinks::sendLine(LinkId link, const QString& command) {
 void GraphicsLinks::sendNow(LinkId id, const QString& line) {
     CasparLink& target = link(id);
     const bool pauses = isSendable(target.state()) && line.contains(u"PLAY"_s);
-    if (pauses && !clock_.turnEvents(kTurnsBeforePlay)) return;
+    const int clearings = clearing_.count();
+    if (pauses && !clock_.turnEvents(kTurnsBeforePlay, kLongestPauseBeforePlay)) return;
+    if (clearing_.count() != clearings) return;
 
     // The pause may have seen the link go, and so may the sending itself.
     if (isSendable(target.state())) target.send(line);

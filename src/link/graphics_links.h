@@ -21,6 +21,8 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
  public:
     // Turns of the event loop before a line that holds "PLAY".
     static constexpr int kTurnsBeforePlay = 50000;
+    // Behind a busy feed the turns alone would last for many seconds.
+    static constexpr qint64 kLongestPauseBeforePlay = 250;  // milliseconds
 
     // Logging is on while the form's chkLOGFILE is checked; startLog() and stopLog() open and close the file.
     GraphicsLinks(FormModel& form, Clock& clock, Program& program);
@@ -60,6 +62,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
 
     Clock& clock_;
     ErrorTrap& trap_;
+    const Clearing& clearing_;
     Control& logSwitch_;
     Control& logStatus_;
     Control& lastTemplate_;

@@ -44,8 +44,86 @@ TEST_F(CardRules, ButtonsFireTheRowOfTheCurrentSet) {
     EXPECT_EQ(sent(), QStringList{u"mtwo 20"_s});
 
     console.pressCard(3);
-    EXPECT_TRUE(bench.operatorDesk.shown.last().contains(u"Card Script file:"));
+    EXPECT_EQ(sent(), QStringList());
+    EXPECT_EQ(bench.form.at(controls.lblNOTE).text(), u"Card 4: no card in this place");
     EXPECT_THROW(console.pressCard(21), RunTimeError);
+}
+
+TEST_F(CardRules, PressesKeepTheirOrder) {
+    // What is pressed in the turn of a press comes after it, from the set that was seen.
+    bench.clock.whileTurning = [this] {
+        console.functionKey(10);
+        console.selectBox(1);
+    };
+    console.pressCard(0);
+    EXPECT_EQ(sent(), (QStringList{u"mone 0"_s, u"mkey 0"_s}));
+
+    // A card changes the set and holds the console: the next press was made on what stood there before.
+    console.selectBox(0);
+    console.cardSeen(0);
+    bench.state.currentSet = 2;
+    console.pressCard(0);
+    EXPECT_EQ(sent(), QStringList{u"mone 0"_s});
+
+    // While a card waits another one runs inside it, also one that was pressed in the first one's turn.
+    bench.write(u"QRD_TT/one.csp"_s, "CSPSEND~begins\r\nDELAY~1\r\nCSPSEND~ends\r\n");
+    bench.clock.whileTurning = [this] { console.functionKey(10); };
+    bench.clock.whileWaiting = [] { QCoreApplication::processEvents(); };
+    console.pressCard(0);
+    EXPECT_EQ(sent(), (QStringList{u"mbegins"_s, u"mkey 0"_s, u"mends"_s}));
+
+    // Too late is told; CLEAR is never too late.
+    console.presses().setWaited([] { return 3120; });
+    console.functionKey(3);
+    EXPECT_EQ(bench.form.at(controls.lblNOTE).text(), u"F3 pressed 3.1 s ago: not fired");
+    console.pressClear();
+    EXPECT_EQ(sent(), QStringList{u"mclear 0"_s});
+    EXPECT_EQ(bench.form.at(controls.lblNOTE).text(), u"");
+}
+
+TEST_F(CardRules, ClearEndsWhatWaits) {
+    bool cleared = false;
+    const auto clear = [&] {
+        if (!std::exchange(cleared, true)) console.pressClear();
+    };
+    for (const char* waits : {"DELAY~10", "CSPSEND~PLAY 1", "BREAK~go on?", "LOOPPAGE~again?"}) {
+        SCOPED_TRACE(waits);
+        bench.write(u"QRD_TT/one.csp"_s, "ON~0\r\n" + QByteArray(waits) + "\r\nCSPSEND~after\r\n");
+        bench.graphics.whileSending = bench.clock.whileWaiting = bench.operatorDesk.whileAsked = clear;
+        cleared = false;
+        console.pressCard(0);
+        EXPECT_TRUE(cleared);
+        const bool sends = QByteArrayView(waits).contains("PLAY");
+        EXPECT_EQ(sent(), (sends ? QStringList{u"mPLAY 1"_s} : QStringList()) + QStringList{u"mclear 0"_s});
+        EXPECT_EQ(bench.form.at(controls.lblONAIR).text(), u"") << "nothing says that it is on air";
+    }
+    // Pressed in the turn before a card, it takes the card along.
+    bench.operatorDesk.whileAsked = {};
+    bench.clock.whileTurning = [this] {
+        console.functionKey(10);
+        console.pressClear();
+    };
+    console.pressCard(0);
+    EXPECT_EQ(sent(), QStringList{u"mclear 0"_s});
+}
+
+TEST_F(CardRules, LastFiredIsTheCardThatWentOnAir) {
+    console.pressCard(0);
+    EXPECT_TRUE(console.isLastFired(0));
+    bench.write(u"QRD_TT/quiet.csp"_s, "FUNCTIONCARD\r\n");
+    bench.write(u"QRD_TT/fails.csp"_s, "DELAY~x\r\n");
+    int row = 2;
+    for (const QString& script : {u"quiet.csp"_s, u"fails.csp"_s, u"missing.csp"_s, QString()}) {
+        set(1, row) = {u"x"_s, {}, script};
+        console.pressCard(row++ - 1);
+        EXPECT_TRUE(console.isLastFired(0)) << script.toStdString();
+    }
+    set(1, row) = {u"Key"_s, {}, u"key.qrd"_s};
+    console.functionKey(10);
+    EXPECT_TRUE(console.isLastFired(row - 1)) << "a function key's card";
+    set(1, row).on = true;
+    console.pressClear();
+    EXPECT_FALSE(set(1, row).on);
 }
 
 TEST_F(CardRules, FunctionKeysOneToTen) {

@@ -13,7 +13,9 @@ namespace zelvor::test {
 class StudioClock : public FakeClock {
  public:
     StudioClock() { time.setTime(QTime(20, 31, 7)); }
-    bool turnEvents(int count) override { return FakeClock::turnEvents(count) && duringTurns(); }
+    bool turnEvents(int count, qint64 longest) override {
+        return FakeClock::turnEvents(count, longest) && duringTurns();
+    }
 
     std::function<bool()> duringTurns = [] { return true; };
 };

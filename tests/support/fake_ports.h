@@ -65,8 +65,9 @@ class FakeClock : public Clock {
         time = time.addMSecs(milliseconds);
         setForward += milliseconds;
     }
-    bool turnEvents(int count) override {
+    bool turnEvents(int count, qint64) override {
         turns += count;
+        if (const auto happens = std::exchange(whileTurning, {})) happens();
         return true;
     }
     bool waitBriefly() override {
@@ -79,6 +80,7 @@ class FakeClock : public Clock {
     qint64 setForward = 0;  // milliseconds
     int turns = 0;
     std::function<void()> whileWaiting;
+    std::function<void()> whileTurning;  // once
 };
 
 class FakeDatabase : public Database {

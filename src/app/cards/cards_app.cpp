@@ -32,6 +32,8 @@ CardsApp::CardsApp(const Options& options)
     answerDesk();
     form_.at(controls.lblDATABASE).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
+    connect(&window_, &MainWindow::clearKey, &cards_, &CardConsole::pressClear);
+    cards_.presses().setWaited([this] { return inputTimes_.waited(); });
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     // The last lines are handed over before boxes end and runs that wait are told so.
     connect(&program_.closing, &Closing::begun, this, &CardsApp::release);
@@ -65,7 +67,9 @@ void CardsApp::answerDesk() {
     events_.onClick(controls.cmdCLOCKS, [this](int) { desk_.localClock.cmdCLOCKS(); });
     events_.onClick(controls.Command1, [this](int) { desk_.stopwatch.Command1(); });
     events_.onClick(controls.cmdMANSCORE, [this](int index) { desk_.scoreboard.cmdMANSCORE(index); });
-    events_.onClick(controls.lblPROPOSED, [this](int index) { desk_.proposals.lblPROPOSED(index); });
+    events_.onClick(controls.lblPROPOSED, [this](int index) {
+        cards_.presses().press(u"Proposal %1"_s.arg(index), [this, index] { desk_.proposals.lblPROPOSED(index); });
+    });
     const auto players = [this](auto handler) {
         return [this, handler](int index, Qt::MouseButton button) { (desk_.players.*handler)(index, button); };
     };

@@ -5,6 +5,7 @@
 #include "ask_dialog/ask_form.h"
 #include "base/program.h"
 #include "console/boxes.h"
+#include "console/input_times.h"
 #include "console/main_window.h"
 #include "console_rules/card_console.h"
 #include "console_rules/start_up.h"
@@ -59,7 +60,8 @@ class CardsApp : public QObject {
     FormModel form_;
     Program program_;
     SystemClock clock_{program_.closing};
-    Boxes boxes_{program_.closing};
+    Boxes boxes_{program_};
+    InputTimes inputTimes_;
     GraphicsLinks links_{form_, clock_, program_};
     Connections database_;
     AskFormDialog ask_{state_, database_, program_};

@@ -55,6 +55,7 @@ class TerminalRun {
         switch (outcome) {
             case CardEngine::Outcome::Ran:
                 return RunStatus::Ran;
+            case CardEngine::Outcome::Cleared:
             case CardEngine::Outcome::Closed:  // nothing but a database without a connection ends the program here
                 return RunStatus::NotReached;
             case CardEngine::Outcome::NoScript:

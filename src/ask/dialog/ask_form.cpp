@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ask_dialog/clear_button.h"
 #include "ask_dialog/pick_list_view.h"
 
 using namespace Qt::StringLiterals;
@@ -24,7 +25,7 @@ QString countText(size_t rows) {
 
 }  // namespace
 
-AskForm::AskForm(PickList& list, bool attended, const Closing& closing, QWidget* parent)
+AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* parent)
     : QDialog(parent), list_(list), attended_(attended) {
     setObjectName(u"frmASK"_s);
     setWindowTitle(list.title());
@@ -41,11 +42,15 @@ AskForm::AskForm(PickList& list, bool attended, const Closing& closing, QWidget*
     auto* column = new QVBoxLayout(this);
     column->addWidget(header);
     column->addWidget(view, 1);
-    column->addWidget(cancel);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(makeClearButton(program.clearing));
+    buttons->addWidget(cancel, 1);
+    column->addLayout(buttons);
 
     connect(view, &PickListView::chosen, this, &AskForm::choose);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(&closing, &Closing::begun, this, &QDialog::reject);
+    connect(&program.closing, &Closing::begun, this, &QDialog::reject);
+    connect(&program.clearing, &Clearing::begun, this, &QDialog::reject);
 
     view->setFocus();
     const int listHeight = view->heightForRows(kRowsShown);
@@ -83,7 +88,7 @@ void AskFormDialog::show(const Asker& asker) {
         list.cancel();
         return;
     }
-    AskForm(list, asker.isAttended(), program_.closing, window_).answer();
+    AskForm(list, asker.isAttended(), program_, window_).answer();
 }
 
 }  // namespace zelvor

@@ -14,7 +14,7 @@ class AskForm : public QDialog {
 
  public:
     // list: outlives this form. attended: whether the form may take the keyboard.
-    AskForm(PickList& list, bool attended, const Closing& closing, QWidget* parent);
+    AskForm(PickList& list, bool attended, Program& program, QWidget* parent);
 
     // Shows the form until it is closed and only then answers the list: a timed card that runs in the same moment
     // would overwrite an answer given earlier.

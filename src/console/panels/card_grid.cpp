@@ -10,13 +10,14 @@ namespace {
 constexpr int kCardRows = 7;
 }
 
-CardGrid::CardGrid(const Mirrors& mirrors, const CardConsole& console) : console_(console), form_(mirrors.form()) {
+CardGrid::CardGrid(const Mirrors& mirrors, CardConsole& console) : console_(console), form_(mirrors.form()) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(2);
     for (int i = 0; i < CardConsole::kCardButtons; ++i) {
         buttons_.at(i) = mirrors.cardButton(i);
+        connect(buttons_.at(i), &CardButton::painted, this, [&console, i] { console.cardSeen(i); });
         // Cards count down the columns, as the F-keys do in the packs.
         grid->addWidget(buttons_.at(i), i % kCardRows, i / kCardRows);
         grid->setColumnStretch(i / kCardRows, 1);

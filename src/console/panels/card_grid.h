@@ -13,7 +13,7 @@ class CardGrid : public QWidget {
     Q_OBJECT
 
  public:
-    CardGrid(const Mirrors& mirrors, const CardConsole& console);
+    CardGrid(const Mirrors& mirrors, CardConsole& console);
 
  private:
     void showFaces();

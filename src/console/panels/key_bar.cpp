@@ -50,7 +50,10 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     row->setContentsMargins(12, 6, 12, 6);
     row->setSpacing(6);
     for (int i = 0; i < kShownKeys; ++i) row->addWidget(new KeyChip(mirrors, i));
-    row->addStretch(1);
+    TextLabel* note = mirrors.label(controls.lblNOTE, -1,
+                                    {13, true, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, {}, false, false, 4});
+    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row->addWidget(note, 1);
     for (const ControlRow* words :
          {&controls.lblFEED, &controls.lblLINKMAIN, &controls.lblLINKREMOTE, &controls.lblDATABASE}) {
         row->addWidget(

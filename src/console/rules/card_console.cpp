@@ -19,7 +19,12 @@ static_assert(kTabPanels.size() == CardConsole::kTabs);
 
 }  // namespace
 
-CardConsole::CardConsole(CardEngine& engine) : engine_(engine), state_(engine.state()), form_(engine.form()) {
+CardConsole::CardConsole(CardEngine& engine)
+    : engine_(engine), state_(engine.state()), form_(engine.form()), presses_(engine), note_(engine.form()) {
+    connect(&presses_, &Presses::late, this, [this](const QString& name, const QString& seconds) {
+        note_.say(u"%1 pressed %2 s ago: not fired"_s.arg(name, seconds));
+    });
+    connect(&engine.program().clearing, &Clearing::pressed, this, &CardConsole::pressClear);
     // Timed cards, the feed and the general variables write what is shown here, too.
     connect(&switchTimer_, &QTimer::timeout, this, &CardConsole::showSwitches);
     switchTimer_.start(kSwitchInterval);
@@ -29,10 +34,10 @@ void CardConsole::answer(FormEvents& events) {
     events.onClick(controls.cmbCARD, [this](int index) { pressCard(index); });
     events.onClick(controls.cmdCARDBOX, [this](int index) { pressCardBox(index); });
     events.onClick(controls.GradientButtonS, [this](int index) { selectBox(index); });
-    events.onClick(controls.GradientButtonAIR, [this](int) { CLEAR_TV(); });
+    events.onClick(controls.GradientButtonAIR, [this](int) { pressClear(); });
     events.onClick(controls.cmdTAB, [this](int index) { showTab(index); });
-    events.onClick(controls.cmdINVOKE, [this](int) { run(u"invoke.csp"_s); });
-    events.onClick(controls.cmdAUTO5ADA, [this](int) { run(u"auto5ada.csp"_s); });
+    events.onClick(controls.cmdINVOKE, [this](int) { pressScript(u"Invoke"_s, u"invoke.csp"_s); });
+    events.onClick(controls.cmdAUTO5ADA, [this](int) { pressScript(u"Auto five"_s, u"auto5ada.csp"_s); });
     events.onClick(controls.cmdAUTOCARD, [this](int) { SHOW_AUTO_CARD(); });
     events.onClick(controls.cmdCLEARTAG, [this](int) { clearTag(); });
     events.onClick(controls.lblFKEYTITLE, [this](int index) { functionKey(index + 1); });
@@ -47,19 +52,40 @@ void CardConsole::pressCardBox(int index) {
     fire(index, false);
 }
 
-void CardConsole::fire(int index, bool tagged) {
-    if (!engine_.ports().clock.turnEvents(1)) return;
-    state_.variables.SetVar(u"@CARD_BUTTON_INDEX", index);
-    // The set and the script are taken now: a card that waits must not make this one fire from another set.
-    const QString script = state_.cards.entry(state_.currentSet, index + 1).script;
-    state_.console.lastFired = {state_.currentSet, index};
-    Q_EMIT cardsChanged();
-    run(script, tagged);
-    engine_.ports().clock.turnEvents(1);
+CardConsole::SeenCard CardConsole::cardAt(int index) const {
+    const CardEntry& entry = state_.cards.entry(state_.currentSet, index + 1);
+    return {{state_.currentSet, index}, entry.shownCaption(), entry.script, state_.language()};
 }
 
-void CardConsole::run(const QString& script, bool tagged) {
-    engine_.SHOW_TVCARD(script, tagged, false, {Asker::Kind::Operator, script});
+void CardConsole::cardSeen(int index) {
+    seen_.at(index) = cardAt(index);
+}
+
+void CardConsole::fire(int index, bool tagged) {
+    const bool isButton = index >= 0 && index < kCardButtons;
+    const SeenCard card = isButton && seen_.at(index) ? *seen_.at(index) : cardAt(index);
+    const QString name = card.caption.isEmpty() ? u"Card %1"_s.arg(index + 1) : card.caption;
+    if (card.script.isEmpty()) {
+        note_.say(u"%1: no card in this place"_s.arg(name));
+        return;
+    }
+    presses_.press(name, [this, card, name, tagged] {
+        if (card.language != state_.language()) {
+            note_.say(u"%1: other cards were loaded, not fired"_s.arg(name));
+            return;
+        }
+        state_.variables.SetVar(u"@CARD_BUTTON_INDEX", card.place.index);
+        run(card.script, tagged, card.place);
+    });
+}
+
+void CardConsole::pressScript(const QString& name, const QString& script) {
+    presses_.press(name, [this, script] { run(script); });
+}
+
+void CardConsole::run(const QString& script, bool tagged, std::optional<CardPlace> place) {
+    note_.clear();
+    engine_.SHOW_TVCARD(script, tagged, false, {Asker::Kind::Operator, script, place});
     if (engine_.program().closing.hasBegun()) return;
     showSwitches();
     Q_EMIT cardsChanged();
@@ -88,10 +114,30 @@ void CardConsole::CLEAR_TV() {
     Q_EMIT cardsChanged();
 }
 
+void CardConsole::pressClear() {
+    note_.clear();
+    presses_.clear([this] { CLEAR_TV(); });
+}
+
 void CardConsole::functionKey(int number) {
     if (number < 1 || number > kFiringFunctionKeys) return;
     const QString script = state_.cards.functionKey(number).script;
-    if (!script.isEmpty()) run(script);
+    if (script.isEmpty()) return;
+    presses_.press(u'F' + QString::number(number), [this, script] { run(script, false, placeOf(script)); });
+}
+
+// The button of the first card that runs this script, in the current set before the others.
+std::optional<CardPlace> CardConsole::placeOf(const QString& script) const {
+    const auto placeIn = [&](int set) -> std::optional<CardPlace> {
+        for (int index = 0; index < kCardButtons; ++index) {
+            const QString& other = state_.cards.entry(set, index + 1).script;
+            if (CardEngine::scriptName(other) == CardEngine::scriptName(script)) return CardPlace{set, index};
+        }
+        return std::nullopt;
+    };
+    std::optional<CardPlace> place = placeIn(state_.currentSet);
+    for (int set = 0; !place && set < CardTable::kSets; ++set) place = placeIn(set);
+    return place;
 }
 
 void CardConsole::showTab(int tab) {
@@ -114,7 +160,7 @@ void CardConsole::clearTag() {
 
 void CardConsole::SHOW_AUTO_CARD() {
     state_.variables.SetVar(u"@RETURNKEY", state_.ask.lastItemData);
-    run(state_.variables.GetVar(u"@AUTOCARD").text());
+    pressScript(u"Auto card"_s, state_.variables.GetVar(u"@AUTOCARD").text());
 }
 
 void CardConsole::showLoaded() {
@@ -135,7 +181,7 @@ void CardConsole::showSwitches() {
 }
 
 bool CardConsole::isLastFired(int index) const {
-    return state_.console.lastFired == ConsoleMemory::CardButton{state_.currentSet, index};
+    return state_.console.lastFired == CardPlace{state_.currentSet, index};
 }
 
 const CardEntry& CardConsole::card(int index) const {

@@ -2,8 +2,11 @@
 
 #include <QObject>
 #include <QTimer>
+#include <array>
 
 #include "console_rules/form_events.h"
+#include "console_rules/presses.h"
+#include "console_rules/status_note.h"
 #include "engine/card_engine.h"
 
 namespace zelvor {
@@ -24,12 +27,17 @@ class CardConsole : public QObject {
     // Takes the clicks of all its controls.
     void answer(FormEvents& events);
 
-    // Card button or "L" button `index` (from 0) of the current set. An index outside of the table throws 9.
+    // Card button or "L" button `index` (from 0): fires the card that was last seen on it, the current set's when it
+    // was never painted. An empty place is only told. An index outside of the table throws 9.
     void pressCard(int index);
     void pressCardBox(int index);
+    // Card button `index` was painted as it stands now.
+    void cardSeen(int index);
     // Selector 0 to 4 shows set 1 to 5.
     void selectBox(int selector);
     void CLEAR_TV();
+    // The clear button or key: ends every card that waits, then CLEAR_TV().
+    void pressClear();
     // F1 to F10 by their numbers; an empty entry fires nothing.
     void functionKey(int number);
     void showTab(int tab);
@@ -47,6 +55,9 @@ class CardConsole : public QObject {
     [[nodiscard]] QString keyOf(int index) const;
     [[nodiscard]] const CardEntry& card(int index) const;
 
+    // What fires cards from elsewhere on the form takes its turn here.
+    Presses& presses() { return presses_; }
+
  Q_SIGNALS:
     // A card table was loaded and is shown.
     void loaded();
@@ -54,8 +65,18 @@ class CardConsole : public QObject {
     void cardsChanged();
 
  private:
+    // A card as it is seen on its button.
+    struct SeenCard {
+        CardPlace place;
+        QString caption;
+        QString script;
+        QString language;
+    };
+    [[nodiscard]] SeenCard cardAt(int index) const;
     void fire(int index, bool tagged);
-    void run(const QString& script, bool tagged = false);
+    void pressScript(const QString& name, const QString& script);
+    void run(const QString& script, bool tagged = false, std::optional<CardPlace> place = std::nullopt);
+    [[nodiscard]] std::optional<CardPlace> placeOf(const QString& script) const;
     void showSwitches();
 
     static constexpr int kSwitchInterval = 500;  // milliseconds
@@ -63,6 +84,9 @@ class CardConsole : public QObject {
     CardEngine& engine_;
     ShowState& state_;
     FormModel& form_;
+    Presses presses_;
+    StatusNote note_;
+    std::array<std::optional<SeenCard>, kCardButtons> seen_;
     QTimer switchTimer_{this};
     QString shownLanguage_;
 };

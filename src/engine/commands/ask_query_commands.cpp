@@ -29,7 +29,7 @@ void ASKFIELD(CardRun& run, const Arguments& args) {
     ask.ASK_FIELD = field;
     ask.ASK_CANCELLED = 0;
     run.ports().askDialog.show(run.asker());
-    run.goOnUnlessClosing();
+    run.goOn();
     if (ask.ASK_CANCELLED == AskState::kYes) {
         run.abandon();
     } else {
@@ -47,7 +47,7 @@ void QUERY_PLUS(CardRun& run, const Arguments& args) {
 
 // No rows, or a query that failed, end the card.
 void goOnWith(CardRun& run, int recordCount) {
-    run.goOnUnlessClosing();
+    run.goOn();
     if (recordCount == 0) run.endWithoutData();
 }
 

@@ -90,7 +90,7 @@ bool isDue(const Pieces& proposal, const QString& onAir, const QString& tag) {
 
 void fireProposal(CardRun& run, Control& label, QStringView id, const QString& card) {
     run.engine().SHOW_TVCARD(card, true, true, run.asker());
-    run.goOnUnlessClosing();
+    run.goOn();
     markProposalUsed(run.ports().database, id, label);
 }
 

@@ -52,13 +52,13 @@ void DELAY(CardRun& run, const Arguments& args) {
     const qint64 start = clock.steadyMilliseconds();
     do {
         clock.waitBriefly();
-        run.goOnUnlessClosing();
+        run.goOn();
     } while (clock.steadyMilliseconds() - start <= milliseconds);
 }
 
 void BREAK(CardRun& run, const Arguments& args) {
     const bool goOn = run.ports().operatorDesk.yesNo(run.asker(), u"Break"_s, args.text());
-    run.goOnUnlessClosing();
+    run.goOn();
     if (!goOn) {
         run.abandon();
         return;
@@ -75,7 +75,7 @@ void LOOPPAGE(CardRun& run, const Arguments& args) {
     answer(kNo);
     if (run.ports().operatorDesk.yesNo(run.asker(), u"Loop Run"_s, args.text())) answer(kYes);
     run.ports().clock.turnEvents(1);
-    run.goOnUnlessClosing();
+    run.goOn();
 }
 
 using Argument = Command::Argument;

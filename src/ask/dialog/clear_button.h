@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "base/clearing.h"
+
+namespace zelvor {
+
+// The button of a box or list that would keep the console's CLEAR from the operator. It never answers to Enter.
+inline QPushButton* makeClearButton(Clearing& clearing) {
+    auto* button = new QPushButton(QStringLiteral("CLEAR"));
+    button->setObjectName(QStringLiteral("cmdCLEAR"));
+    button->setToolTip(QStringLiteral("Ends the card without an answer and clears the screen (Ctrl+Shift+Delete)"));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, &clearing, &Clearing::press);
+    return button;
+}
+
+}  // namespace zelvor
