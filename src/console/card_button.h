@@ -22,6 +22,7 @@ class CardButton : public ConsoleButton {
     };
     void setFace(const Face& face);
     [[nodiscard]] const Face& face() const { return face_; }
+    [[nodiscard]] const ConsoleButton& small() const { return *small_; }
     // The line below the caption: "ON · F1".
     [[nodiscard]] QString stateLine() const;
 

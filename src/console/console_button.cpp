@@ -82,6 +82,11 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
 }
 
+void ConsoleButton::mousePressEvent(QMouseEvent* event) {
+    Q_EMIT goesDown();
+    QAbstractButton::mousePressEvent(event);
+}
+
 void ConsoleButton::mouseDoubleClickEvent(QMouseEvent* event) {
     if (!look_.firesCard) QAbstractButton::mouseDoubleClickEvent(event);
 }

@@ -38,8 +38,13 @@ class ConsoleButton : public QAbstractButton {
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+ Q_SIGNALS:
+    // The mouse goes down on it, before anything is painted anew.
+    void goesDown();
+
  protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void enterEvent(QEnterEvent* event) override;

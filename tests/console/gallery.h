@@ -94,7 +94,7 @@ class Gallery {
         return nullptr;
     }
     void click(const char* name, int index = -1) const {
-        QCoreApplication::processEvents();  // a button fires what was painted on it
+        QCoreApplication::processEvents();  // a button fires the card that was painted on it
         QTest::mouseClick(find<QWidget>(name, index), Qt::LeftButton);
     }
     void press(Qt::Key key) const {

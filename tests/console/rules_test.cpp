@@ -62,6 +62,8 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     console.selectBox(0);
     console.cardSeen(0);
     bench.state.currentSet = 2;
+    console.cardGoesDown(0);
+    console.cardSeen(0);
     console.pressCard(0);
     EXPECT_EQ(sent(), QStringList{u"mone 0"_s});
 

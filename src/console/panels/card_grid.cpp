@@ -18,6 +18,9 @@ CardGrid::CardGrid(const Mirrors& mirrors, CardConsole& console) : console_(cons
     for (int i = 0; i < CardConsole::kCardButtons; ++i) {
         buttons_.at(i) = mirrors.cardButton(i);
         connect(buttons_.at(i), &CardButton::painted, this, [&console, i] { console.cardSeen(i); });
+        for (const ConsoleButton* button :
+             {static_cast<const ConsoleButton*>(buttons_.at(i)), &buttons_.at(i)->small()})
+            connect(button, &ConsoleButton::goesDown, this, [&console, i] { console.cardGoesDown(i); });
         // Cards count down the columns, as the F-keys do in the packs.
         grid->addWidget(buttons_.at(i), i % kCardRows, i / kCardRows);
         grid->setColumnStretch(i / kCardRows, 1);

@@ -61,9 +61,13 @@ void CardConsole::cardSeen(int index) {
     seen_.at(index) = cardAt(index);
 }
 
+void CardConsole::cardGoesDown(int index) {
+    down_ = seen_.at(index);
+}
+
 void CardConsole::fire(int index, bool tagged) {
-    const bool isButton = index >= 0 && index < kCardButtons;
-    const SeenCard card = isButton && seen_.at(index) ? *seen_.at(index) : cardAt(index);
+    const std::optional<SeenCard> seen = std::exchange(down_, std::nullopt);
+    const SeenCard card = seen && seen->place.index == index ? *seen : cardAt(index);
     const QString name = card.caption.isEmpty() ? u"Card %1"_s.arg(index + 1) : card.caption;
     if (card.script.isEmpty()) {
         note_.say(u"%1: no card in this place"_s.arg(name));

@@ -33,6 +33,8 @@ class CardConsole : public QObject {
     void pressCardBox(int index);
     // Card button `index` was painted as it stands now.
     void cardSeen(int index);
+    // The mouse goes down on it: the card that was seen is the one its click will fire, whatever is painted meanwhile.
+    void cardGoesDown(int index);
     // Selector 0 to 4 shows set 1 to 5.
     void selectBox(int selector);
     void CLEAR_TV();
@@ -87,6 +89,7 @@ class CardConsole : public QObject {
     Presses presses_;
     StatusNote note_;
     std::array<std::optional<SeenCard>, kCardButtons> seen_;
+    std::optional<SeenCard> down_;
     QTimer switchTimer_{this};
     QString shownLanguage_;
 };
