@@ -26,7 +26,7 @@ class AirGraphics : public test::FakeGraphics {
  public:
     void sendLine(LinkId link, const QString& command) override {
         FakeGraphics::sendLine(link, command);
-        const QString reply = interpreter_.answer(command);
+        const QString reply = interpreter_.answer(command, client_);
         if (!reply.startsWith(u"202"_s)) refused += command.left(60) + u": "_s + reply.trimmed();
     }
 
@@ -36,6 +36,7 @@ class AirGraphics : public test::FakeGraphics {
  private:
     rehearsal::TemplateFolder templates_{test::demoPath(u"templates"_s)};
     rehearsal::AmcpInterpreter interpreter_{stage, templates_};
+    rehearsal::AmcpClient client_;
 };
 
 class Evening : public testing::TestWithParam<const char*> {
