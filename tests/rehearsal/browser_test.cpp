@@ -218,7 +218,7 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
     // A second one of the same template knows nothing of the first.
     send(u"CG 1-1 ADD 1 CALLS 0"_s);
     send(u"CALL 1-1 \"note('second')\""_s);
-    EXPECT_TRUE(becomes([] { return frame(u"/calls.html"_s, u"calls.textContent"_s, 1); }, u"load;second;"_s));
+    EXPECT_TRUE(becomes([] { return frame(u"/calls.html"_s, u"calls.textContent"_s, 1); }, u"second;"_s));
     EXPECT_FALSE(calls().contains(u"second"_s));
     send(u"CLEAR 1"_s);
 
@@ -309,12 +309,13 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
     const QStringList names = {u"scorebug"_s,   u"lowerthird"_s, u"lineup"_s,  u"clock"_s,
                                u"titles"_s,     u"comparison"_s, u"table"_s,   u"startingfive"_s,
                                u"statistics"_s, u"timeout"_s,    u"fulltime"_s};
-    // Every text that shows: inside the safe area, and inside the box it belongs to.
+    // Every text that shows: inside the safe area, with the look for 4:3 sets that of the middle, and inside its box.
     const QString outside =
-        u"[...document.querySelectorAll('[data-field] > span')].filter(text => {"
+        u"half = document.body.classList.contains('narrow') ? innerHeight * 0.6 : innerWidth * 0.45;"
+        "[...document.querySelectorAll('[data-field] > span')].filter(text => {"
         "  const inner = text.getBoundingClientRect(), box = text.parentElement.getBoundingClientRect();"
         "  return inner.width > 0 && (inner.right > box.right + 1 || inner.left < box.left - 1 ||"
-        "    inner.left < innerWidth * 0.05 - 1 || inner.right > innerWidth * 0.95 + 1 ||"
+        "    inner.left < innerWidth / 2 - half - 1 || inner.right > innerWidth / 2 + half + 1 ||"
         "    inner.top < innerHeight * 0.05 - 1 || inner.bottom > innerHeight * 0.95 + 1); }).map(text =>"
         "  text.parentElement.dataset.field).join()"_s;
     open(server);
@@ -326,7 +327,8 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
             EXPECT_EQ(send(u"CG 1-%1 ADD 1 %2 1 \"<templateData>%3</templateData>\""_s.arg(i).arg(names[i], data)),
                       u"202 CG OK"_s);
         }
-        for (const QString& name : names) {
+        for (int i = 0; i < names.size(); ++i) {
+            const QString& name = names[i];
             const QString path = u"/%1.html"_s.arg(name);
             EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.className"_s); }, u"on"_s));
             EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.innerText"_s); }, u"Κωνσταντίνος"_s));
@@ -336,6 +338,9 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
             EXPECT_EQ(frame(path, u"`${innerWidth}x${innerHeight}`"_s),
                       aspect == u"4:3"_s ? u"1440x1080"_s : u"1920x1080"_s);
             EXPECT_EQ(frame(path, outside).toStdString(), "") << qPrintable(name + u' ' + aspect);
+            send(uR"(CG 1-%1 UPDATE 1 "{\"LOOK\":\"4_3 10 10 10 10\"}")"_s.arg(i));
+            EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.className"_s); }, u"narrow"_s));
+            EXPECT_EQ(frame(path, outside).toStdString(), "") << qPrintable(name + u" for 4:3 sets in "_s + aspect);
         }
         send(u"CLEAR 1"_s);
     }
