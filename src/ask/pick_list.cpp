@@ -1,6 +1,7 @@
 #include "ask/pick_list.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "base/number.h"
 #include "base/run_time_error.h"
@@ -18,6 +19,18 @@ QString withoutAccents(QStringView text) {
         if (!c.isMark()) plain += c;
     }
     return plain;
+}
+
+enum class Word { Whole, Beginning };
+
+// Whether a word of TEXT is TYPED or begins so, in either case.
+bool hasWord(const QString& text, QStringView typed, Word word) {
+    const auto isInWord = [&](qsizetype at) { return at >= 0 && at < text.size() && text[at].isLetterOrNumber(); };
+    for (qsizetype at = text.indexOf(typed, 0, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(typed, at + 1, Qt::CaseInsensitive)) {
+        if (!isInWord(at - 1) && (word == Word::Beginning || !isInWord(at + typed.size()))) return true;
+    }
+    return false;
 }
 
 int columnNamed(const QStringList& columns, const QString& name) {
@@ -61,15 +74,21 @@ void PickList::readRows(Database& database) {
     rows_ = std::move(read);
 }
 
-int PickList::firstBeginningWith(QStringView character) const {
-    const auto found = std::ranges::find_if(
-        rows_, [&](const Row& row) { return row.text.startsWith(character, Qt::CaseInsensitive); });
-    if (found != rows_.end()) return static_cast<int>(found - rows_.begin());
-    const QString plain = withoutAccents(character);
-    const auto similar = std::ranges::find_if(rows_, [&](const Row& row) {
-        return !plain.isEmpty() && withoutAccents(QStringView(row.text).left(4)).startsWith(plain, Qt::CaseInsensitive);
-    });
-    return similar == rows_.end() ? -1 : static_cast<int>(similar - rows_.begin());
+int PickList::find(QStringView typed) const {
+    const QString plain = withoutAccents(typed);
+    if (plain.isEmpty()) return -1;
+    const auto isNumber = [&](const QString& text) {
+        return typed.front().isDigit() && hasWord(text, typed, Word::Whole);
+    };
+    const auto isAtFront = [&](const QString& text) { return text.startsWith(typed, Qt::CaseInsensitive); };
+    const auto isAnyWord = [&](const QString& text) { return hasWord(text, typed, Word::Beginning); };
+    const auto isSimilar = [&](const QString& text) { return hasWord(withoutAccents(text), plain, Word::Beginning); };
+    using Rule = std::function<bool(const QString&)>;
+    for (const Rule& holds : {Rule(isNumber), Rule(isAtFront), Rule(isAnyWord), Rule(isSimilar)}) {
+        const auto found = std::ranges::find_if(rows_, holds, &Row::text);
+        if (found != rows_.end()) return static_cast<int>(found - rows_.begin());
+    }
+    return -1;
 }
 
 void PickList::choose(int row) {

@@ -24,9 +24,9 @@ class PickList {
 
     [[nodiscard]] const QString& title() const { return title_; }
     [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
-    // The first row that begins with that character, in any case; when there is none, the first that does but for its
-    // accents; else -1.
-    [[nodiscard]] int firstBeginningWith(QStringView character) const;
+    // The row that an operator means by what he has typed: the first with that number, else the first that begins with
+    // the text, has a word that does, or does but for its accents, all in either case; else -1.
+    [[nodiscard]] int find(QStringView typed) const;
 
     // The row's key becomes the answer. row: 0 to the number of rows - 1.
     void choose(int row);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "rehearsal/command_table.h"
+#include "rehearsal/amcp_client.h"
 
 namespace zelvor::rehearsal {
 
@@ -12,11 +12,19 @@ class AmcpInterpreter {
     // Both must outlive the interpreter.
     AmcpInterpreter(Stage& stage, const TemplateFolder& folder) : host_{stage, folder} {}
 
-    // The whole reply to one line (without its line end), CR LF ends included. Bad lines get an error reply.
-    QString answer(const QString& line);
+    // The whole reply to one line (without its line end), CR LF ends included; empty where none is due. Bad lines get
+    // an error reply. With BYE the client's hasSaidBye is set.
+    QString answer(const QString& line, AmcpClient& client);
+
+    // To be told when a client goes: what it has locked is free again.
+    void leave(const AmcpClient& client) { host_.locks.leave(client.id); }
 
  private:
-    QString run(QStringList tokens, const QString& line);
+    struct Request;
+
+    QString run(Request& request, AmcpClient& client);
+    QString commit(AmcpClient& client);
+    QString execute(const CommandRow& row, const Command& command);
 
     Host host_;
 };

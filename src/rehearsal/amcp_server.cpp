@@ -50,7 +50,7 @@ void AmcpServer::accept() {
         }
         socket->setReadBufferSize(kReadBuffer);
         const QString name = nameOf(*socket);
-        clients_.emplace(socket, Client{name, {}});
+        clients_.emplace(socket, Client{name, {}, AmcpClient{.id = ++lastId_}});
         journal_.add(Journal::Kind::Note, name, u"connected"_s);
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] { leave(socket); });
@@ -66,7 +66,11 @@ void AmcpServer::read(QTcpSocket* socket) {
     Client& client = found->second;
     client.lines.append(socket->readAll());
     while (const auto line = client.lines.next()) {
-        answer(socket, client.name, *line);
+        answer(socket, client, *line);
+        if (client.amcp.hasSaidBye) {
+            socket->disconnectFromHost();  // leave() follows once the replies are read
+            return;
+        }
         if (socket->bytesToWrite() > kMaxUnread) {
             journal_.add(Journal::Kind::Note, client.name, u"dropped: does not read its replies"_s);
             socket->abort();  // leave() follows and lets go of the client
@@ -75,12 +79,14 @@ void AmcpServer::read(QTcpSocket* socket) {
     }
 }
 
-void AmcpServer::answer(QTcpSocket* socket, const QString& name, const LineBuffer::Line& line) {
+void AmcpServer::answer(QTcpSocket* socket, Client& client, const LineBuffer::Line& line) {
     const QString text = QString::fromUtf8(line.bytes);
-    journal_.add(Journal::Kind::Received, name, line.overlong ? text + u"… (line too long)"_s : text);
-    const QString reply = line.overlong ? reply::unknown(text) : interpreter_.answer(text);
-    journal_.add(Journal::Kind::Sent, name, reply.trimmed());
-    socket->write(reply.toUtf8());
+    journal_.add(Journal::Kind::Received, client.name, line.overlong ? text + u"… (line too long)"_s : text);
+    const QString reply = line.overlong ? reply::unknown(text) : interpreter_.answer(text, client.amcp);
+    if (!reply.isEmpty()) {
+        journal_.add(Journal::Kind::Sent, client.name, reply.trimmed());
+        socket->write(reply.toUtf8());
+    }
 }
 
 void AmcpServer::leave(QTcpSocket* socket) {
@@ -89,6 +95,7 @@ void AmcpServer::leave(QTcpSocket* socket) {
         return;
     }
     journal_.add(Journal::Kind::Note, found->second.name, u"disconnected"_s);
+    interpreter_.leave(found->second.amcp);
     clients_.erase(found);
     lastLeft_ = QTime::currentTime();
     socket->deleteLater();

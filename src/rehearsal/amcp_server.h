@@ -45,16 +45,18 @@ class AmcpServer : public QObject {
     struct Client {
         QString name;
         LineBuffer lines;
+        AmcpClient amcp;
     };
 
     void accept();
     void read(QTcpSocket* socket);
-    void answer(QTcpSocket* socket, const QString& name, const LineBuffer::Line& line);
+    void answer(QTcpSocket* socket, Client& client, const LineBuffer::Line& line);
     void leave(QTcpSocket* socket);
 
     AmcpInterpreter& interpreter_;
     Journal& journal_;
     std::unordered_map<QTcpSocket*, Client> clients_;
+    ChannelLocks::ClientId lastId_ = 0;
     QTime lastLeft_;
     QTcpServer listener_;  // goes first, and its sockets with it
 };

@@ -21,13 +21,21 @@ bool isTemplateData(const QString& text) {
     return text.startsWith(u'<') || text.startsWith(u'{');
 }
 
-// The reply to data that is not itself XML or JSON: the name of a stored data set, of which this server has none.
+// What a parameter means as data: itself when it is XML or JSON, else the stored data set of that name.
+std::optional<QString> dataMeantBy(const QString& text, const Host& host) {
+    return isTemplateData(text) ? text : host.data.find(text);
+}
+
+// The reply to data that is neither.
 QString refusedData(const Command& command, const QString& data) {
     return data.isEmpty() ? reply::illegal(command.name) : reply::notFound(command.name);
 }
 
 QString pass(const Command& command, Host& host, const TemplateCall& call) {
-    if (!namesTemplateLayer(command) || !host.stage.showsTemplate(command.at)) {
+    if (!namesTemplateLayer(command)) {
+        return reply::failed(command.name);
+    }
+    if (!host.stage.showsTemplate(command.at)) {
         return reply::illegal(command.name);
     }
     host.stage.call(command.at, call);
@@ -41,10 +49,12 @@ QString cgAdd(const Command& command, Host& host) {
     // An older form has a label between the template and the flag, known by its length.
     const qsizetype flagAt = parameters[2].size() > 1 ? 3 : 2;
     const qsizetype dataAt = flagAt + 1;
+    const bool hasData = dataAt < parameters.size();
+    const auto data = hasData ? dataMeantBy(parameters[dataAt], host) : std::nullopt;
     if (!namesTemplateLayer(command)) {
-        return reply::illegal(command.name);
+        return reply::failed(command.name);
     }
-    if (dataAt < parameters.size() && !isTemplateData(parameters[dataAt])) {
+    if (hasData && !data) {
         return refusedData(command, parameters[dataAt]);
     }
     const std::optional<QString> found = host.folder.findTemplate(parameters[1]);
@@ -56,8 +66,8 @@ QString cgAdd(const Command& command, Host& host) {
     }
 
     Source source{.kind = Source::Kind::Template, .name = *found};
-    if (dataAt < parameters.size()) {
-        source.history.add({Function::Update, parameters[dataAt]});
+    if (data) {
+        source.history.add({Function::Update, *data});
     }
     if (parameters.value(flagAt).startsWith(u'1')) {
         source.history.add({Function::Play, {}});
@@ -68,15 +78,16 @@ QString cgAdd(const Command& command, Host& host) {
 
 QString cgPlay(const Command& command, Host& host) {
     if (!namesTemplateLayer(command)) {
-        return reply::illegal(command.name);
+        return reply::failed(command.name);
     }
     host.stage.call(command.at, {Function::Play, {}});
     return reply::ok(command.word());
 }
 
 QString cgUpdate(const Command& command, Host& host) {
-    const QString& data = command.parameters[1];
-    return isTemplateData(data) ? pass(command, host, {Function::Update, data}) : refusedData(command, data);
+    const QString& text = command.parameters[1];
+    const auto data = dataMeantBy(text, host);
+    return data ? pass(command, host, {Function::Update, *data}) : refusedData(command, text);
 }
 
 QString cgStop(const Command& command, Host& host) {

@@ -1,7 +1,10 @@
 #include "rehearsal/command_table.h"
 
 #include "rehearsal/cg_commands.h"
+#include "rehearsal/channel_commands.h"
+#include "rehearsal/data_commands.h"
 #include "rehearsal/layer_commands.h"
+#include "rehearsal/mixer_commands.h"
 #include "rehearsal/server_commands.h"
 
 namespace zelvor::rehearsal {
@@ -29,32 +32,60 @@ constexpr CommandRow kCommands[] = {
     {u"RESUME", Target::Layer, 0, 0, resume},
     {u"STOP", Target::Layer, 0, 0, stop},
     {u"CLEAR", Target::Layer, 0, 0, clear},
+    {u"CALL", Target::Layer, 0, 1, call},
+    {u"SWAP", Target::Layer, 0, 1, swapPlaces},
 
-    {u"MIXER OPACITY", Target::Layer, 0, 0, mixerOpacity},
-    {u"MIXER FILL", Target::Layer, 0, 0, mixerFill},
-    {u"MIXER VOLUME", Target::Layer, 0, 0, mixerVolume},
-    {u"MIXER KEYER", Target::Layer, 0, 0, mixerKeyer},
+    {u"CLEAR ALL", Target::Server, 0, 0, clearAll},
+    {u"ADD", Target::Layer, 0, 1, addOutput},
+    {u"REMOVE", Target::Layer, 0, 0, removeOutput},
+    {u"SET MODE", Target::Layer, 0, 1, setMode},
+    {u"SET", Target::Layer, 0, 1, setUnknown},
+    {u"LOCK ACQUIRE", Target::Locks, 0, 1, lockAcquire},
+    {u"LOCK RELEASE", Target::Locks, 0, 0, lockRelease},
+    {u"LOCK CLEAR", Target::Locks, 0, 0, lockClear},
+
+    {u"MIXER OPACITY", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER FILL", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER CLIP", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER CROP", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER ANCHOR", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER ROTATION", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER PERSPECTIVE", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER BRIGHTNESS", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER SATURATION", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER CONTRAST", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER LEVELS", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER CHROMA", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER INVERT", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER KEYER", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER VOLUME", Target::Layer, 0, 0, mixerProperty},
+    {u"MIXER BLEND", Target::Layer, 0, 0, mixerBlend},
+    {u"MIXER MASTERVOLUME", Target::Layer, 0, 0, mixerMasterVolume},
+    {u"MIXER GRID", Target::Layer, 0, 1, mixerGrid},
+    {u"MIXER COMMIT", Target::Layer, 0, 0, mixerCommit},
     {u"MIXER CLEAR", Target::Layer, 0, 0, mixerClear},
-    {u"MIXER ANCHOR", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER BLEND", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER BRIGHTNESS", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER CHROMA", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER CLIP", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER COMMIT", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER CONTRAST", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER CROP", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER GRID", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER INVERT", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER LEVELS", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER MASTERVOLUME", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER MIPMAP", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER PERSPECTIVE", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER ROTATION", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER SATURATION", Target::Layer, 0, 0, acknowledge},
-    {u"MIXER STRAIGHT_ALPHA_OUTPUT", Target::Layer, 0, 0, acknowledge},
+
+    {u"DATA STORE", Target::Server, 0, 2, dataStore},
+    {u"DATA RETRIEVE", Target::Server, 0, 1, dataRetrieve},
+    {u"DATA REMOVE", Target::Server, 0, 1, dataRemove},
+    {u"DATA LIST", Target::Server, 0, 0, dataList},
 
     {u"VERSION", Target::Server, 0, 0, version},
     {u"INFO", Target::ServerOrChannel, 0, 0, info},
+    {u"INFO PATHS", Target::Server, 0, 0, infoPaths},
+    {u"INFO CONFIG", Target::Server, 0, 0, infoConfig},
+    {u"LOG LEVEL", Target::Server, 0, 1, logLevel},
+    {u"DIAG", Target::Server, 0, 0, acknowledge},
+    {u"GL INFO", Target::Server, 0, 0, glInfo},
+    {u"GL GC", Target::Server, 0, 0, acknowledge},
+    {u"TLS", Target::Server, 0, 0, unavailable},
+    {u"CLS", Target::Server, 0, 0, unavailable},
+    {u"FLS", Target::Server, 0, 0, unavailable},
+    {u"CINF", Target::Server, 0, 1, unavailable},
+    {u"THUMBNAIL LIST", Target::Server, 0, 0, unavailable},
+    {u"THUMBNAIL RETRIEVE", Target::Server, 0, 1, unavailable},
+    {u"THUMBNAIL GENERATE", Target::Server, 0, 1, unavailable},
+    {u"THUMBNAIL GENERATE_ALL", Target::Server, 0, 0, unavailable},
 };
 
 }  // namespace

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <array>
 #include <deque>
+
+#include "rehearsal/mixer.h"
 
 namespace zelvor::rehearsal {
 
@@ -38,19 +39,6 @@ struct Source {
     QString name = {};  // path in the template folder, or "#RRGGBBAA"
     CallHistory history = {};
     quint64 id = 0;  // of its own for each source that is put on a layer; 0 means none
-};
-
-// How the mixer shows a layer, as far as the page draws it.
-struct Mixer {
-    static constexpr int kMaxFrames = 1500;
-
-    double opacity = 1;                         // 0..1
-    std::array<double, 4> fill = {0, 0, 1, 1};  // x, y, width and height as parts of the picture
-    double volume = 1;
-    bool keyer = false;  // the layer is the key of the one above and is not seen itself
-    int frames = 0;      // how long the last change takes, at most kMaxFrames
-
-    bool operator==(const Mixer&) const = default;
 };
 
 struct Layer {

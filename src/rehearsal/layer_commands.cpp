@@ -1,7 +1,6 @@
 #include "rehearsal/layer_commands.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "rehearsal/reply.h"
@@ -57,10 +56,10 @@ std::optional<Source> sourceNamed(const QString& name, const TemplateFolder& fol
     return std::nullopt;
 }
 
-enum class Place { Foreground, ForegroundPaused, Background };
+enum class Destination { Foreground, ForegroundPaused, Background };
 
 // The common part of PLAY, LOAD and LOADBG with a name: finds what it names and puts it where it belongs.
-QString put(const Command& command, Host& host, Place place) {
+QString put(const Command& command, Host& host, Destination to) {
     // "[HTML]" in front says what kind of name follows; names tell that here by themselves.
     const bool marked = command.parameters.first().compare("[HTML]"_L1, Qt::CaseInsensitive) == 0;
     std::optional<Source> source = sourceNamed(command.parameters.value(marked ? 1 : 0), host.folder);
@@ -70,48 +69,11 @@ QString put(const Command& command, Host& host, Place place) {
     if (!host.stage.hasRoomFor(command.at)) {
         return reply::failed(command.name);
     }
-    if (place == Place::Background) {
+    if (to == Destination::Background) {
         host.stage.prepare(command.at, std::move(*source));
     } else {
-        host.stage.show(command.at, std::move(*source), place == Place::ForegroundPaused);
+        host.stage.show(command.at, std::move(*source), to == Destination::ForegroundPaused);
     }
-    return reply::ok(command.word());
-}
-
-// The first COUNT parameters as numbers; nothing when one of them is none.
-std::optional<std::vector<double>> numbers(const Command& command, qsizetype count) {
-    std::vector<double> values;
-    for (const QString& parameter : command.parameters.first(count)) {
-        bool isNumber = false;
-        values.push_back(parameter.toDouble(&isNumber));
-        if (!isNumber || !std::isfinite(values.back())) {
-            return std::nullopt;
-        }
-    }
-    return values;
-}
-
-// The common part of the mixer commands that take COUNT numbers and perhaps a duration in frames: without parameters
-// CURRENT goes back as text, otherwise CHANGE puts the numbers into the layer's mixer.
-template <typename Change>
-QString mix(const Command& command, Host& host, const QString& current, qsizetype count, Change change) {
-    if (command.parameters.isEmpty()) {
-        return reply::okWith(command.word(), current);
-    }
-    if (command.parameters.size() < count) {
-        return reply::parameterMissing(command.word());
-    }
-    const auto values = numbers(command, count);
-    if (!values) {
-        return reply::illegal(command.name);
-    }
-    if (!host.stage.hasRoomFor(command.at)) {
-        return reply::failed(command.name);
-    }
-    Mixer mixer = host.stage.mixer(command.at);
-    mixer.frames = std::clamp(command.parameters.value(count).toInt(), 0, Mixer::kMaxFrames);
-    change(mixer, *values);
-    host.stage.setMixer(command.at, mixer);
     return reply::ok(command.word());
 }
 
@@ -119,18 +81,18 @@ QString mix(const Command& command, Host& host, const QString& current, qsizetyp
 
 QString play(const Command& command, Host& host) {
     if (!command.parameters.isEmpty()) {
-        return put(command, host, Place::Foreground);
+        return put(command, host, Destination::Foreground);
     }
     host.stage.take(command.at);
     return reply::ok(command.word());
 }
 
 QString load(const Command& command, Host& host) {
-    return put(command, host, Place::ForegroundPaused);
+    return put(command, host, Destination::ForegroundPaused);
 }
 
 QString loadBackground(const Command& command, Host& host) {
-    return put(command, host, Place::Background);
+    return put(command, host, Destination::Background);
 }
 
 QString pause(const Command& command, Host& host) {
@@ -157,45 +119,8 @@ QString clear(const Command& command, Host& host) {
     return reply::ok(command.word());
 }
 
-QString mixerOpacity(const Command& command, Host& host) {
-    const QString current = QString::number(host.stage.mixer(command.at).opacity);
-    return mix(command, host, current, 1, [](Mixer& mixer, const std::vector<double>& values) {
-        mixer.opacity = std::clamp(values[0], 0.0, 1.0);
-    });
-}
-
-QString mixerFill(const Command& command, Host& host) {
-    QStringList current;
-    for (const double value : host.stage.mixer(command.at).fill) {
-        current.append(QString::number(value));
-    }
-    return mix(command, host, current.join(u' '), 4, [](Mixer& mixer, const std::vector<double>& values) {
-        std::copy(values.begin(), values.end(), mixer.fill.begin());
-    });
-}
-
-QString mixerVolume(const Command& command, Host& host) {
-    const QString current = QString::number(host.stage.mixer(command.at).volume);
-    return mix(command, host, current, 1,
-               [](Mixer& mixer, const std::vector<double>& values) { mixer.volume = std::max(values[0], 0.0); });
-}
-
-QString mixerKeyer(const Command& command, Host& host) {
-    const QString current = host.stage.mixer(command.at).keyer ? u"1"_s : u"0"_s;
-    return mix(command, host, current, 1,
-               [](Mixer& mixer, const std::vector<double>& values) { mixer.keyer = values[0] != 0; });
-}
-
-QString mixerClear(const Command& command, Host& host) {
-    if (!command.layer) {
-        host.stage.resetMixers(command.channel);
-    } else if (host.stage.hasRoomFor(command.at)) {
-        host.stage.setMixer(command.at, {});
-    }
-    return reply::ok(command.word());
-}
-
-QString acknowledge(const Command& command, Host& /*host*/) {
+QString call(const Command& command, Host& host) {
+    host.stage.call(command.at, {TemplateCall::Function::Invoke, command.parameters.first()});
     return reply::ok(command.word());
 }
 

@@ -2,7 +2,7 @@
 
 #include "rehearsal/command_table.h"
 
-// The commands for whole layers: what they show and how the mixer shows it. Each gives the whole reply.
+// The commands for whole layers: what they show. Each gives the whole reply.
 namespace zelvor::rehearsal {
 
 QString play(const Command& command, Host& host);
@@ -13,14 +13,7 @@ QString resume(const Command& command, Host& host);
 QString stop(const Command& command, Host& host);
 // Without a layer: the whole channel.
 QString clear(const Command& command, Host& host);
-
-// Without a value these tell the present one.
-QString mixerOpacity(const Command& command, Host& host);
-QString mixerFill(const Command& command, Host& host);
-QString mixerVolume(const Command& command, Host& host);
-QString mixerKeyer(const Command& command, Host& host);
-QString mixerClear(const Command& command, Host& host);
-// For what a page cannot show: says "OK" and does nothing.
-QString acknowledge(const Command& command, Host& host);
+// Runs the text in the page of the layer's template; any other source takes no notice.
+QString call(const Command& command, Host& host);
 
 }  // namespace zelvor::rehearsal

@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
 
     const Termination termination;
     const TemplateFolder folder(options.templates);
-    Stage stage(options.channels);
+    Stage stage(options.channels, options.mode);
     Journal journal;
     AmcpInterpreter interpreter(stage, folder);
     AmcpServer amcp(interpreter, journal);

@@ -18,6 +18,7 @@ const std::array kOptions{
     CommandLine::Option{u"--http"_s, true},
     CommandLine::Option{u"--bind"_s, true},
     CommandLine::Option{u"--channels"_s, true},
+    CommandLine::Option{u"--mode"_s, true},
     CommandLine::Option{u"--templates"_s, true},
     CommandLine::Option{u"--help"_s},
     CommandLine::Option{u"-h"_s},
@@ -35,6 +36,8 @@ Options:
   --bind <ADDRESS>   Listen on this address (127.0.0.1); 0.0.0.0 opens both
                      ports to the network.
   --channels <N>     Offer this many channels (2), 1 to 16.
+  --mode <MODE>      Run all channels in this video mode (1080i5000), e.g.
+                     720p5000.
   --templates <DIR>  Take HTML templates and pictures from this folder (the
                      demo's).
   -h, --help         Show this help.
@@ -49,6 +52,10 @@ QString demoTemplates() {
         if (QFileInfo(folder).isDir()) return folder;
     }
     return u"demo/templates"_s;
+}
+
+std::optional<VideoMode> modeNamed(const QString& text) {
+    return videoModeNamed(text);
 }
 
 std::optional<QHostAddress> ipAddress(const QString& text) {
@@ -73,6 +80,7 @@ Options readOptions(const QStringList& arguments) {
     options.amcpPort = line.port(u"--amcp").value_or(options.amcpPort);
     options.httpPort = line.port(u"--http").value_or(options.httpPort);
     options.channels = line.number(u"--channels", 1, Options::kMaxChannels).value_or(options.channels);
+    options.mode = line.read(u"--mode", u"a video mode such as 720p5000"_s, modeNamed).value_or(options.mode);
     options.bind = line.read(u"--bind", u"an IP address"_s, ipAddress).value_or(options.bind);
     options.templates = line.value(u"--templates").value_or(demoTemplates());
     if (!QFileInfo(options.templates).isDir()) {

@@ -3,6 +3,8 @@
 #include <QHostAddress>
 #include <QStringList>
 
+#include "rehearsal/stage.h"
+
 namespace zelvor::rehearsal {
 
 // What the command line of zelvor-rehearsal asks for.
@@ -14,6 +16,7 @@ struct Options {
     QHostAddress bind = QHostAddress(QHostAddress::LocalHost);
     quint16 amcpPort = kAmcpPort;  // 0: a free one
     quint16 httpPort = kHttpPort;
+    VideoMode mode = *videoModeNamed(Stage::kUsualMode);
     int channels = 2;  // 1..kMaxChannels
     QString templates;
 

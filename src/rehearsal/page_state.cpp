@@ -59,13 +59,13 @@ QJsonValue sourceAsJson(const Source& source) {
 
 QJsonObject mixerAsJson(const Mixer& mixer) {
     QJsonArray fill;
-    for (const double value : mixer.fill) {
+    for (const double value : mixer.values(u"FILL")) {
         fill.append(value);
     }
-    return {{u"opacity"_s, mixer.opacity},
+    return {{u"opacity"_s, mixer.value(u"OPACITY")},
             {u"fill"_s, fill},
-            {u"volume"_s, mixer.volume},
-            {u"keyer"_s, mixer.keyer},
+            {u"volume"_s, mixer.value(u"VOLUME")},
+            {u"keyer"_s, mixer.value(u"KEYER") != 0},
             {u"frames"_s, mixer.frames}};
 }
 
@@ -89,20 +89,30 @@ QJsonObject callAsJson(const TemplateCall& call) {
     return {{u"function"_s, functionName(call.function)}, {u"argument"_s, call.argument}};
 }
 
+QJsonArray callsAsJson(const Source& source) {
+    QJsonArray calls;
+    for (const TemplateCall& call : source.history.calls()) {
+        calls.append(callAsJson(call));
+    }
+    return calls;
+}
+
+QJsonObject modeAsJson(const VideoMode& mode) {
+    return {
+        {u"name"_s, mode.name.toString()}, {u"height"_s, mode.height}, {u"framesPerSecond"_s, mode.framesPerSecond}};
+}
+
 QJsonArray channelsAsJson(const Stage& stage) {
     QJsonArray channels;
     for (int channel = 1; channel <= stage.channelCount(); ++channel) {
         QJsonArray layers;
         for (const auto& [number, layer] : stage.layers(channel)) {
             QJsonObject entry = layerAsJson(stage, {channel, number}).toObject();
-            QJsonArray calls;
-            for (const TemplateCall& call : layer.foreground.history.calls()) {
-                calls.append(callAsJson(call));
-            }
-            entry.insert("calls"_L1, calls);
+            entry.insert("calls"_L1, callsAsJson(layer.foreground));
             layers.append(entry);
         }
-        channels.append(QJsonObject{{u"number"_s, channel}, {u"layers"_s, layers}});
+        channels.append(
+            QJsonObject{{u"number"_s, channel}, {u"mode"_s, modeAsJson(stage.mode(channel))}, {u"layers"_s, layers}});
     }
     return channels;
 }

@@ -14,6 +14,9 @@ namespace zelvor::rehearsal {
 QJsonValue layerAsJson(const Stage& stage, LayerAddress at);
 
 // {"function", "argument"}.
+// The calls made to the source's template, in order.
+QJsonArray callsAsJson(const Source& source);
+QJsonObject modeAsJson(const VideoMode& mode);
 QJsonObject callAsJson(const TemplateCall& call);
 
 // All channels with their layers, whose templates come with every call made to them: [{"number", "layers"}].

@@ -12,17 +12,21 @@ QString okWith(QStringView word, QStringView data) {
 }
 
 QString okLines(QStringView word, const QStringList& lines) {
-    return u"200 %1 OK\r\n%2\r\n\r\n"_s.arg(word, lines.join("\r\n"_L1));
+    QString reply = u"200 %1 OK\r\n"_s.arg(word);
+    for (const QString& line : lines) {
+        reply += line + u"\r\n"_s;
+    }
+    return reply + u"\r\n"_s;
 }
 
 QString unknown(QStringView line) {
     return u"400 ERROR\r\n"_s + line + u"\r\n"_s;
 }
-QString noSuchChannel(QStringView word) {
-    return u"401 %1 ERROR\r\n"_s.arg(word);
+QString requestIdMissing() {
+    return u"402  ERROR\r\n"_s;
 }
-QString parameterMissing(QStringView word) {
-    return u"402 %1 ERROR\r\n"_s.arg(word);
+QString parameterMissing(QStringView command) {
+    return u"402 %1 FAILED\r\n"_s.arg(command);
 }
 QString illegal(QStringView command) {
     return u"403 %1 FAILED\r\n"_s.arg(command);
@@ -32,6 +36,9 @@ QString notFound(QStringView command) {
 }
 QString failed(QStringView command) {
     return u"501 %1 FAILED\r\n"_s.arg(command);
+}
+QString noAccess(QStringView command) {
+    return u"503 %1 FAILED\r\n"_s.arg(command);
 }
 
 }  // namespace zelvor::rehearsal::reply

@@ -14,12 +14,15 @@ QString okWith(QStringView word, QStringView data);
 QString okLines(QStringView word, const QStringList& lines);
 // 400: not a command; the line comes back.
 QString unknown(QStringView line);
-// 401 and 402: the line names no channel of this server, or lacks a parameter.
-QString noSuchChannel(QStringView word);
-QString parameterMissing(QStringView word);
-// 403, 404 and 501: the command was understood but could not be carried out.
+// 402: REQ alone.
+QString requestIdMissing();
+// The command was understood but could not be carried out. 402: it lacks a parameter; 403: one is not allowed; 404:
+// what it names is not there; 501: one is not of its kind, or there is no room; 503: another client has locked the
+// channel.
+QString parameterMissing(QStringView command);
 QString illegal(QStringView command);
 QString notFound(QStringView command);
 QString failed(QStringView command);
+QString noAccess(QStringView command);
 
 }  // namespace zelvor::rehearsal::reply

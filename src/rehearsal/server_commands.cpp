@@ -33,10 +33,25 @@ void writeSource(QXmlStreamWriter& xml, const QString& place, const Source& sour
     xml.writeEndElement();
 }
 
+QString elementsAsXml(const QString& root, const std::vector<std::pair<QString, QString>>& elements) {
+    QString text;
+    QXmlStreamWriter xml(&text);
+    xml.writeStartElement(root);
+    for (const auto& [name, value] : elements) {
+        xml.writeTextElement(name, value);
+    }
+    xml.writeEndElement();
+    return text;
+}
+
 QString channelAsXml(const Stage& stage, int channel, std::optional<int> onlyLayer) {
     QString text;
     QXmlStreamWriter xml(&text);
     xml.writeStartElement("channel"_L1);
+    xml.writeTextElement("format"_L1, stage.mode(channel).name.toString());
+    for (const auto& output : stage.outputs(channel)) {
+        xml.writeTextElement("output"_L1, output.second);
+    }
     xml.writeStartElement("stage"_L1);
     for (const auto& [number, layer] : stage.layers(channel)) {
         if (onlyLayer && *onlyLayer != number) {
@@ -57,7 +72,7 @@ QString channelAsXml(const Stage& stage, int channel, std::optional<int> onlyLay
 }  // namespace
 
 QString version(const Command& command, Host& /*host*/) {
-    return reply::okWith(command.word(), u"2.4.0 Zelvor Rehearsal " ZELVOR_VERSION);
+    return reply::okWith(command.word(), u"2.4.3 fd9168c73 Stable");
 }
 
 QString info(const Command& command, Host& host) {
@@ -66,9 +81,51 @@ QString info(const Command& command, Host& host) {
     }
     QStringList lines;
     for (int channel = 1; channel <= host.stage.channelCount(); ++channel) {
-        lines.append(u"%1 1080i5000 PLAYING"_s.arg(channel));
+        lines.append(u"%1 %2 PLAYING"_s.arg(channel).arg(host.stage.mode(channel).name));
     }
     return reply::okLines(command.word(), lines);
+}
+
+QString infoPaths(const Command& command, Host& host) {
+    return reply::okWith(command.name, elementsAsXml(u"paths"_s, {{u"template-path"_s, host.folder.path()},
+                                                                  {u"media-path"_s, host.folder.path()}}));
+}
+
+QString infoConfig(const Command& command, Host& host) {
+    QString text;
+    QXmlStreamWriter xml(&text);
+    xml.writeStartElement("configuration"_L1);
+    xml.writeTextElement("log-level"_L1, host.logLevel);
+    xml.writeStartElement("channels"_L1);
+    for (int channel = 1; channel <= host.stage.channelCount(); ++channel) {
+        xml.writeStartElement("channel"_L1);
+        xml.writeTextElement("video-mode"_L1, host.stage.mode(channel).name.toString());
+        xml.writeEndElement();
+    }
+    xml.writeEndDocument();
+    return reply::okWith(command.name, text);
+}
+
+QString glInfo(const Command& command, Host& /*host*/) {
+    return reply::okWith(command.name, elementsAsXml(u"gl"_s, {{u"summary"_s, u"none"_s}}));
+}
+
+QString logLevel(const Command& command, Host& host) {
+    static const QStringList kLevels = {u"trace"_s, u"debug"_s, u"info"_s, u"warning"_s, u"error"_s, u"fatal"_s};
+    const QString level = command.parameters.first().toLower();
+    if (!kLevels.contains(level)) {
+        return reply::illegal(command.word());
+    }
+    host.logLevel = level;
+    return reply::ok(command.word());
+}
+
+QString acknowledge(const Command& command, Host& /*host*/) {
+    return reply::ok(command.name);
+}
+
+QString unavailable(const Command& command, Host& /*host*/) {
+    return reply::failed(command.name);
 }
 
 }  // namespace zelvor::rehearsal

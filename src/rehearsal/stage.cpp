@@ -1,13 +1,14 @@
 #include "rehearsal/stage.h"
 
+#include <set>
 #include <utility>
 
 namespace zelvor::rehearsal {
 
-Stage::Stage(int channels) : channels_(static_cast<std::size_t>(channels)) {}
+Stage::Stage(int channels, VideoMode mode) : channels_(static_cast<std::size_t>(channels), Channel{mode}) {}
 
 const std::map<int, Layer>& Stage::layers(int channel) const {
-    return channels_.at(static_cast<std::size_t>(channel) - 1);
+    return of(channel).layers;
 }
 
 bool Stage::hasRoomFor(LayerAddress at) const {
@@ -90,20 +91,78 @@ void Stage::call(LayerAddress at, const TemplateCall& call) {
     }
 }
 
-Mixer Stage::mixer(LayerAddress at) const {
+void Stage::swapLayers(LayerAddress one, LayerAddress other, bool withMixers) {
+    Layer& first = obtain(one);
+    Layer& second = obtain(other);
+    std::swap(first, second);
+    if (!withMixers) {
+        std::swap(first.mixer, second.mixer);
+    }
+    changed(one);
+    if (one != other) {
+        changed(other);
+    }
+    Q_EMIT moved(one);
+    Q_EMIT moved(other);
+}
+
+void Stage::swapChannels(int one, int other, bool withMixers) {
+    std::set<int> numbers;
+    for (const int channel : {one, other}) {
+        for (const int number : layerNumbers(channel)) {
+            numbers.insert(number);
+        }
+    }
+    for (const int number : numbers) {
+        swapLayers({one, number}, {other, number}, withMixers);
+    }
+}
+
+Mixer Stage::mixer(LayerAddress at, When when) const {
+    if (when == When::OnCommit) {
+        const auto deferred = of(at.channel).deferred.find(at.layer);
+        if (deferred != of(at.channel).deferred.end()) {
+            return deferred->second;
+        }
+    }
     const Layer* layer = find(at);
     return layer == nullptr ? Mixer{} : layer->mixer;
 }
 
-void Stage::setMixer(LayerAddress at, const Mixer& mixer) {
+void Stage::setMixer(LayerAddress at, const Mixer& mixer, When when) {
+    if (when == When::OnCommit) {
+        obtain(at);  // takes its place among the layers in use
+        of(at.channel).deferred[at.layer] = mixer;
+        return;
+    }
     obtain(at).mixer = mixer;
     changed(at);
+}
+
+void Stage::commitMixers(int channel) {
+    for (const auto& [number, mixer] : std::exchange(of(channel).deferred, {})) {
+        setMixer({channel, number}, mixer);
+    }
 }
 
 void Stage::resetMixers(int channel) {
     for (const int number : layerNumbers(channel)) {
         setMixer({channel, number}, {});
     }
+}
+
+void Stage::setMode(int channel, VideoMode mode) {
+    of(channel).mode = mode;
+    Q_EMIT modeChanged(channel);
+}
+
+bool Stage::addOutput(int channel, const QString& name, const QString& description) {
+    auto& outputs = of(channel).outputs;
+    if (outputs.size() >= kMaxOutputs && !outputs.contains(name)) {
+        return false;
+    }
+    outputs[name] = description;
+    return true;
 }
 
 // A copy, for loops that may let go of a layer.
@@ -126,7 +185,7 @@ Layer* Stage::find(LayerAddress at) {
 }
 
 Layer& Stage::obtain(LayerAddress at) {
-    return channels_.at(static_cast<std::size_t>(at.channel) - 1)[at.layer];
+    return of(at.channel).layers[at.layer];
 }
 
 // Tells the pages, and lets go of a layer that holds nothing and is shown plainly.
@@ -134,7 +193,7 @@ void Stage::changed(LayerAddress at) {
     const Layer* layer = find(at);
     const bool inUse = layer->foreground.id != 0 || layer->background.id != 0 || layer->mixer != Mixer{};
     if (!inUse) {
-        channels_.at(static_cast<std::size_t>(at.channel) - 1).erase(at.layer);
+        of(at.channel).layers.erase(at.layer);
     }
     Q_EMIT layerChanged(at);
 }

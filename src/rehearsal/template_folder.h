@@ -18,6 +18,8 @@ class TemplateFolder {
     // PATH may itself be a link, and need not exist yet.
     explicit TemplateFolder(QString path) : path_(std::move(path)) {}
 
+    [[nodiscard]] const QString& path() const { return path_; }
+
     // The template "NAME.html" (also when NAME already ends so), as a path in this folder with "/".
     [[nodiscard]] std::optional<QString> findTemplate(const QString& name) const;
     // The picture NAME, with its ending or without one of the usual endings.

@@ -37,7 +37,23 @@ ViewerFeed::ViewerFeed(const Stage& stage, const Journal& journal, const AmcpSer
              {u"layer"_s, layerAsJson(stage_, at)}});
     });
     connect(&stage, &Stage::called, this, [this](quint64 sourceId, const TemplateCall& call) {
-        add({{u"event"_s, u"call"_s}, {u"id"_s, static_cast<qint64>(sourceId)}, {u"call"_s, callAsJson(call)}});
+        add({{u"event"_s, u"calls"_s},
+             {u"id"_s, static_cast<qint64>(sourceId)},
+             {u"calls"_s, QJsonArray{callAsJson(call)}},
+             {u"settle"_s, false}});
+    });
+    connect(&stage, &Stage::moved, this, [this](LayerAddress at) {
+        const auto layer = stage_.layers(at.channel).find(at.layer);
+        if (layer != stage_.layers(at.channel).end()) {
+            const Source& source = layer->second.foreground;
+            add({{u"event"_s, u"calls"_s},
+                 {u"id"_s, static_cast<qint64>(source.id)},
+                 {u"calls"_s, callsAsJson(source)},
+                 {u"settle"_s, true}});
+        }
+    });
+    connect(&stage, &Stage::modeChanged, this, [this](int channel) {
+        add({{u"event"_s, u"mode"_s}, {u"channel"_s, channel}, {u"mode"_s, modeAsJson(stage_.mode(channel))}});
     });
     connect(&journal, &Journal::added, this, &ViewerFeed::addLine);
     connect(&console, &AmcpServer::clientsChanged, this, [this] { add(consoleEvent()); });

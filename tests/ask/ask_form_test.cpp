@@ -46,9 +46,8 @@ TEST_F(AskForm, answersByKeyboardAndMouse) {
     const std::vector<Case> cases{
         {"letter and Enter",
          [](QListWidget& list) {
-             QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_unknown, u"γ"_s, {});
-             EXPECT_EQ(list.currentRow(), 2);
              QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_unknown, u"β"_s, {});
+             EXPECT_EQ(list.currentRow(), 1);
              QTest::keyClick(&list, Qt::Key_Return);
          },
          u"101"_s},
@@ -83,7 +82,7 @@ TEST_F(AskForm, saysHowManyRowsThereAreAndShowsTwenty) {
     bench.rowsDatabase.fill(names);
     open([&](QListWidget& list) {
         EXPECT_EQ(form->windowTitle(), u"Player"_s);
-        EXPECT_EQ(form->findChild<QLabel*>()->text(), u"60 rows"_s);
+        EXPECT_TRUE(form->findChild<QLabel*>()->text().startsWith(u"60 rows: type a name"_s));
         EXPECT_LE(list.visualItemRect(list.item(19)).bottom(), list.viewport()->height());
         EXPECT_GT(list.visualItemRect(list.item(20)).bottom(), list.viewport()->height());
         form->close();

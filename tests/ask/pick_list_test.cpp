@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ask/type_ahead.h"
 #include "pick_list_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -57,16 +58,25 @@ TEST(PickList, isEmptyAfterOneMessageWhenItCannotBeRead) {
     }
 }
 
-TEST(PickList, findsARowByItsFirstLetter) {
+TEST(PickList, findsARowByWhatIsTyped) {
     AskBench bench;
-    bench.rowsDatabase.fill(
-        {u"Ωρίων"_s, u"Άγγελος"_s, u"Αλέξης"_s, u"Σίμος"_s, u"Żak"_s, u"zed"_s, u"7 Bob"_s, u"Éric"_s, u""_s});
+    bench.rowsDatabase.fill({u"Ωρίων"_s, u"Άγγελος"_s, u"Αλέξης"_s, u"Σίμος"_s, u"Żak"_s, u"zed"_s, u"7 Bob"_s,
+                             u"Éric"_s, u""_s, u"41  Thorne Owen, O'Hara"_s, u"Μπέλος Άρης, 4"_s});
     const PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
     const std::vector<std::pair<QString, int>> cases{
-        {u"ω"_s, 0}, {u"Ώ"_s, 0}, {u"α"_s, 2}, {u"ά"_s, 1},  {u"ς"_s, 3},
-        {u"Z"_s, 5}, {u"7"_s, 6}, {u"e"_s, 7}, {u"x"_s, -1}, {u"%"_s, -1},
+        {u"ω"_s, 0},  {u"Ώ"_s, 0},  {u"α"_s, 2},    {u"ά"_s, 1},   {u"ς"_s, 3},  {u"Z"_s, 5},
+        {u"7"_s, 6},  {u"e"_s, 7},  {u"x"_s, -1},   {u"%"_s, -1},  {u"ow"_s, 9}, {u"har"_s, 9},
+        {u"41"_s, 9}, {u"4"_s, 10}, {u"αρη"_s, 10}, {u"en"_s, -1}, {u""_s, -1},
     };
-    for (const auto& [typed, row] : cases) EXPECT_EQ(list.firstBeginningWith(typed), row) << typed.toStdString();
+    for (const auto& [typed, row] : cases) EXPECT_EQ(list.find(typed), row) << typed.toStdString();
+}
+
+TEST(TypeAhead, keepsTogetherWhatIsTypedWithinASecond) {
+    using std::chrono_literals::operator""ms;
+    TypeAhead typed;
+    EXPECT_EQ(typed.add(u"1", 5000ms), u"1"_s);
+    EXPECT_EQ(typed.add(u"8", 6000ms), u"18"_s);
+    EXPECT_EQ(typed.add(u"4", 7001ms), u"4"_s);
 }
 
 TEST(PickList, leavesTheOneBelowItOpen) {

@@ -16,6 +16,7 @@ TEST(UserFolder, IsMadeFromTheDemoOnceAndThenTheUsers) {
     const QString own = work.filePath(u"data/zelvor-cards"_s);
     EXPECT_NE(makeUserFolder(own, demo), QString()) << "no demo";
     EXPECT_FALSE(QFile::exists(own));
+    EXPECT_FALSE(worksOnUserFolder(work.filePath(u"bin"_s)));
 
     QDir().mkpath(demo + u"/MODULES/QRD_EN"_s);
     QFile card(demo + u"/MODULES/QRD_EN/a.csp"_s);
@@ -24,6 +25,9 @@ TEST(UserFolder, IsMadeFromTheDemoOnceAndThenTheUsers) {
     card.close();
     card.setPermissions(QFile::ReadOwner);
 
+    EXPECT_TRUE(worksOnUserFolder(work.filePath(u"bin"_s)));
+    QDir().mkpath(work.filePath(u"bin/MODULES"_s));
+    EXPECT_FALSE(worksOnUserFolder(work.filePath(u"bin"_s))) << "packs beside the program are meant";
     EXPECT_EQ(makeUserFolder(own, demo), QString());
     QFile copy(own + u"/MODULES/QRD_EN/a.csp"_s);
     EXPECT_TRUE(copy.permissions() & QFile::WriteOwner) << "the user's to edit";

@@ -26,7 +26,7 @@ class AirGraphics : public test::FakeGraphics {
  public:
     void sendLine(LinkId link, const QString& command) override {
         FakeGraphics::sendLine(link, command);
-        const QString reply = interpreter_.answer(command);
+        const QString reply = interpreter_.answer(command, client_);
         if (!reply.startsWith(u"202"_s)) refused += command.left(60) + u": "_s + reply.trimmed();
     }
 
@@ -36,6 +36,7 @@ class AirGraphics : public test::FakeGraphics {
  private:
     rehearsal::TemplateFolder templates_{test::demoPath(u"templates"_s)};
     rehearsal::AmcpInterpreter interpreter_{stage, templates_};
+    rehearsal::AmcpClient client_;
 };
 
 class Evening : public testing::TestWithParam<const char*> {
@@ -183,14 +184,28 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     game_.feed.handle(u"t2:41t"_s);
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-20 UPDATE"_s) && lastLine().contains(u"2:41"_s))
         << qPrintable(lastLine());
+<<<<<<< HEAD
     form_.at(controls.lblAutoScoreA).setText(u"81"_s);
+=======
+    const qsizetype sentOnce = graphics_.sent.size();
+    game_.feed.handle(u"t2:41t"_s);
+    for (int tick = 0; tick < 20; ++tick) game_.timedCards.tick();
+    EXPECT_EQ(sentOnce, graphics_.sent.size()) << "nothing has changed";
+    form_.at(u"lblAutoScoreA"_s).setText(u"81"_s);
+>>>>>>> a066841 (Make the demo's graphics what a producer would show: crests for photos, speeds and 4:3 that work, a bug sent when it changes)
     for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
     EXPECT_TRUE(lastLine().contains(u"SCOREA\\\"><data type=\\\"txt\\\" ani=\\\"0\\\" value=\\\"81"_s))
         << qPrintable(lastLine());
     switchTo(english() ? u"GR"_s : u"EN"_s);
     EXPECT_TRUE(lastLine().contains(english() ? u"HBC"_s : u"ΛΙΜ"_s)) << qPrintable(lastLine());
     EXPECT_TRUE(lastLine().contains(english() ? u"Q4"_s : u"4ο"_s)) << qPrintable(lastLine());
-    fire(u"scorebug_off.csp"_s);
+    for (const QString& card : {u"titles.csp"_s, u"fulltime.csp"_s}) {
+        fire(u"scorebug.csp"_s);
+        fire(u"gameclock.csp"_s);
+        fire(card);
+        EXPECT_TRUE(graphics_.sent.contains(u"mCG 1-20 STOP 1"_s) && graphics_.sent.contains(u"mCG 1-23 STOP 1"_s));
+        graphics_.sent.clear();
+    }
     const qsizetype sent = graphics_.sent.size();
     game_.feed.handle(u"t2:40t"_s);
     EXPECT_EQ(sent, graphics_.sent.size());

@@ -70,13 +70,20 @@ QString Browser::evaluate(const QString& script) {
     return evaluateIn(page_, script);
 }
 
-QString Browser::evaluateInFrame(const QString& path, const QString& script) {
-    for (const QString& frame : QSet<QString>(frames_)) {
-        if (evaluateIn(frame, u"location.pathname"_s).endsWith(path)) {
+QString Browser::evaluateInFrame(const QString& path, const QString& script, int which) {
+    for (const QString& frame : QStringList(frames_)) {
+        if (evaluateIn(frame, u"location.pathname"_s).endsWith(path) && which-- == 0) {
             return evaluateIn(frame, script);
         }
     }
     return {};
+}
+
+QImage Browser::picture() {
+    call(u"Emulation.setDeviceMetricsOverride"_s,
+         {{u"width"_s, 1920}, {u"height"_s, 1080}, {u"deviceScaleFactor"_s, 1}, {u"mobile"_s, false}}, page_);
+    const QJsonObject result = call(u"Page.captureScreenshot"_s, {}, page_);
+    return QImage::fromData(QByteArray::fromBase64(result["data"_L1].toString().toLatin1()));
 }
 
 QJsonObject Browser::call(const QString& method, const QJsonObject& parameters, const QString& session) {
@@ -109,9 +116,9 @@ void Browser::receive(const QString& message) {
     if (object.contains("id"_L1)) {
         results_[object["id"_L1].toInt()] = object["result"_L1].toObject();
     } else if (method == "Target.attachedToTarget"_L1 && session != page_ && !page_.isEmpty()) {
-        frames_.insert(session);
+        frames_.append(session);
     } else if (method == "Target.detachedFromTarget"_L1) {
-        frames_.remove(session);
+        frames_.removeAll(session);
     }
 }
 

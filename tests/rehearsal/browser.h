@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QImage>
 #include <QJsonObject>
 #include <QProcess>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QWebSocket>
 #include <map>
@@ -25,8 +25,12 @@ class Browser {
 
     // What SCRIPT gives in the page; a string, number or boolean, as text. "exception: ..." when it throws.
     QString evaluate(const QString& script);
-    // The same in the frame whose path ends in PATH; empty when there is no such frame.
-    QString evaluateInFrame(const QString& path, const QString& script);
+    // The same in the frame whose path ends in PATH, of several the one opened as number WHICH from 0; empty when there
+    // is no such frame.
+    QString evaluateInFrame(const QString& path, const QString& script, int which = 0);
+
+    // The page as it looks in a window of 1920 x 1080.
+    QImage picture();
 
  private:
     QJsonObject call(const QString& method, const QJsonObject& parameters, const QString& session = {});
@@ -37,8 +41,8 @@ class Browser {
     QProcess process_;
     QWebSocket socket_;
     QString fault_;
-    QString page_;          // the page's session
-    QSet<QString> frames_;  // sessions of the frames in it
+    QString page_;        // the page's session
+    QStringList frames_;  // sessions of the frames in it, as they came
     std::map<int, QJsonObject> results_;
     int lastCall_ = 0;
 };

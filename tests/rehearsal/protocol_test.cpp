@@ -39,7 +39,9 @@ class Protocol : public testing::Test {
         }
     }
 
-    QString answer(const QString& line) { return interpreter_.answer(line); }
+    QString answer(const QString& line) { return interpreter_.answer(line, client_); }
+    QString answerOther(const QString& line) { return interpreter_.answer(line, other_); }
+    void otherLeaves() { interpreter_.leave(other_); }
     const Source& foreground(int channel, int layer) const { return stage_.layers(channel).at(layer).foreground; }
     // The calls made to a layer's template, e.g. "update(<a/>) play()".
     QString calls(int channel, int layer) const {
@@ -51,54 +53,60 @@ class Protocol : public testing::Test {
         return made.join(u' ');
     }
 
-    Stage stage_{2};
+    Stage stage_{2, *videoModeNamed(u"720p5000")};
 
  private:
     QTemporaryDir dir_;
     TemplateFolder folder_{dir_.path()};
     AmcpInterpreter interpreter_{stage_, folder_};
+    AmcpClient client_{.id = 1};
+    AmcpClient other_{.id = 2};
 };
 
+// What a real server answered, all in one show. "..." stands for a text of that server's own.
+TEST_F(Protocol, RepliesLikeTheRealServer) {
+    QFile file(QStringLiteral(REPLIES));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    int compared = 0;
+    while (!file.atEnd()) {
+        const QString row = QString::fromUtf8(file.readLine()).remove(u'\n');
+        if (row.startsWith(u'#')) continue;
+        const QString line = row.section(u'\t', 0, 0);
+        QString wanted = row.section(u'\t', 1).replace("\\r"_L1, "\r"_L1).replace("\\n"_L1, "\n"_L1);
+        QString reply = answer(line);
+        if (wanted.endsWith("..."_L1)) {
+            wanted.chop(3);
+            EXPECT_GT(reply.size(), wanted.size()) << qPrintable(line);
+            reply.truncate(wanted.size());
+        }
+        EXPECT_EQ(reply.toStdString(), wanted.toStdString()) << qPrintable(line);
+        ++compared;
+    }
+    EXPECT_EQ(compared, 140);
+}
+
 // One show in the order of the rows: each reply depends on what the rows before it put on air.
-TEST_F(Protocol, RepliesLikeTheServer) {
+TEST_F(Protocol, AnswersAShow) {
     const std::vector<std::pair<const char*, const char*>> rows = {
-        {"VERSION", "201 VERSION OK\r\n2.4.0 Zelvor Rehearsal " ZELVOR_VERSION "\r\n"},
-        {"info", "200 INFO OK\r\n1 1080i5000 PLAYING\r\n2 1080i5000 PLAYING\r\n\r\n"},
-        {"INFO 1", "201 INFO OK\r\n<channel><stage/></channel>\r\n"},
-        {"INFO 3", "401 INFO ERROR\r\n"},
-        {"PING", "PONG\r\n"},
         {"ping a \"b c\"", "PONG a b c\r\n"},
-        {"REQ 7 PING x", "RES 7 PONG x\r\n"},
         {"REQ abc CG 1-20 STOP 1", "RES abc 403 CG STOP FAILED\r\n"},
-        {"REQ 8", "RES 8 400 ERROR\r\nREQ 8\r\n"},
-        // Channels, layers, parameters.
-        {"CG 3-20 ADD 1 bug 1", "401 CG ERROR\r\n"},
-        {"CLEAR 0", "401 CLEAR ERROR\r\n"},
-        {"PLAY 1-x RED", "403 PLAY FAILED\r\n"},
-        {"PLAY 1-10000 RED", "403 PLAY FAILED\r\n"},
-        {"CG 1-20 ADD 1 bug", "402 CG ERROR\r\n"},
-        {"CG 1-20 UPDATE 1", "402 CG ERROR\r\n"},
-        {"MIXER 1-20 FILL 0 0", "402 MIXER ERROR\r\n"},
+        {"PLAY 1-10000 #FF0000", "202 PLAY OK\r\n"},
+        {"INFO 1-20", "201 INFO OK\r\n<channel><format>720p5000</format><stage/></channel>\r\n"},
         // Templates: nothing there yet.
-        {"CG 1-20 PLAY 1", "202 CG OK\r\n"},
-        {"CG 1-20 STOP 1", "403 CG STOP FAILED\r\n"},
-        {"CG 1-20 NEXT 1", "403 CG NEXT FAILED\r\n"},
-        {"CG 1-20 UPDATE 1 \"<a/>\"", "403 CG UPDATE FAILED\r\n"},
-        {"CG 1-20 REMOVE 1", "403 CG REMOVE FAILED\r\n"},
-        {"CG 1-20 INVOKE 1 f", "403 CG INVOKE FAILED\r\n"},
-        {"CG 1-20 CLEAR", "202 CG OK\r\n"},
-        {"CG 1-20 ADD 1 nope 1", "404 CG ADD FAILED\r\n"},
         {"CG 1-20 ADD 1 ../bug 1", "404 CG ADD FAILED\r\n"},
-        {"CG 1-20 ADD x bug 1", "403 CG ADD FAILED\r\n"},
         {"CG 1-20 ADD 1 bug 1 \"\"", "403 CG ADD FAILED\r\n"},
         {"CG 1-20 ADD 1 bug 1 stored", "404 CG ADD FAILED\r\n"},
+        {"DATA STORE Names \"<a v=\\\"K\\\"/>\"", "202 DATA STORE OK\r\n"},
+        {"DATA LIST", "200 DATA LIST OK\r\nNames\r\n\r\n"},
+        {"CG 1-21 ADD 1 bug 1 names", "202 CG OK\r\n"},
+        {"CG 1-21 CLEAR", "202 CG OK\r\n"},
         // Templates: one on air.
         {"cg 1-20 add 1 \"BUG\" 1 \"<a v=\\\"J\\\"/>\"", "202 CG OK\r\n"},
         {"CG 1-20 UPDATE 1 \"{\\\"a\\\":1}\"", "202 CG OK\r\n"},
         {"CG 1-20 UPDATE 1 stored", "404 CG UPDATE FAILED\r\n"},
         {"CG 1-20 NEXT 1", "202 CG OK\r\n"},
         {"CG 1-20 INVOKE 1 f", "202 CG OK\r\n"},
-        {"CG 1-20 STOP x", "403 CG STOP FAILED\r\n"},
+        {"CG 1-20 STOP x", "501 CG STOP FAILED\r\n"},
         {"CG 1-20 STOP 1", "202 CG OK\r\n"},
         {"CG 1-20 STOP 1", "202 CG OK\r\n"},
         {"CG 1-20 REMOVE 1", "202 CG OK\r\n"},
@@ -113,24 +121,41 @@ TEST_F(Protocol, RepliesLikeTheServer) {
         {"LOAD 2-1 [HTML] bug", "202 LOAD OK\r\n"},
         {"PAUSE 1-20", "202 PAUSE OK\r\n"},
         {"INFO 1-20",
-         "201 INFO OK\r\n<channel><stage><layer><number>20</number><paused>true</paused><foreground><producer>color"
+         "201 INFO "
+         "OK\r\n<channel><format>720p5000</format><stage><layer><number>20</number><paused>true</"
+         "paused><foreground><producer>color"
          "</producer><name>#FF000080</name></foreground><background><producer>image</producer><name>logo.png</name>"
          "</background></layer></stage></channel>\r\n"},
         {"RESUME 1-20", "202 RESUME OK\r\n"},
         {"STOP 1-20", "202 STOP OK\r\n"},
         {"CLEAR 1-20", "202 CLEAR OK\r\n"},
         // The mixer.
-        {"MIXER 1-20 OPACITY", "201 MIXER OK\r\n1\r\n"},
         {"MIXER 1-20 OPACITY 0.5 25 easeinsine", "202 MIXER OK\r\n"},
+        {"MIXER 1-20 OPACITY nan", "501 MIXER OPACITY FAILED\r\n"},
+        {"MIXER 1-20 OPACITY 0.25 DEFER", "202 MIXER OK\r\n"},
         {"MIXER 1-20 OPACITY", "201 MIXER OK\r\n0.5\r\n"},
-        {"MIXER 1-20 OPACITY nan", "403 MIXER OPACITY FAILED\r\n"},
-        {"MIXER 1-20 FILL 0.25 0 0.5 0.5", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 FILL", "201 MIXER OK\r\n0.25 0 0.5 0.5\r\n"},
-        {"MIXER 1-20 VOLUME 0", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 BLEND screen", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 CLEAR", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 VOLUME", "201 MIXER OK\r\n1\r\n"},
+        {"MIXER 1 COMMIT", "202 MIXER OK\r\n"},
+        {"MIXER 1-20 OPACITY", "201 MIXER OK\r\n0.25\r\n"},
+        {"MIXER 1-20 ANCHOR 0.25 1", "202 MIXER OK\r\n"},
+        {"MIXER 1-20 ANCHOR", "201 MIXER OK\r\n0.250000 1.000000\r\n"},
+        {"MIXER 1-20 CHROMA 1", "202 MIXER OK\r\n"},
+        {"MIXER 1-20 BLEND sepia", "202 MIXER OK\r\n"},
+        {"MIXER 1-20 BLEND", "201 MIXER OK\r\nnormal\r\n"},
+        {"MIXER 1 MASTERVOLUME 2", "202 MIXER OK\r\n"},
+        {"MIXER 1 MASTERVOLUME", "201 MIXER OK\r\n2\r\n"},
+        {"MIXER 1 GRID 2", "202 MIXER OK\r\n"},
+        {"MIXER 1-4 FILL", "201 MIXER OK\r\n0.500000 0.500000 0.500000 0.500000\r\n"},
         {"MIXER 1 CLEAR", "202 MIXER OK\r\n"},
+        {"MIXER 1-20 ANCHOR", "201 MIXER OK\r\n0.000000 0.000000\r\n"},
+        // Channels.
+        {"SET 2 MODE pal", "202 SET MODE OK\r\n"},
+        {"SET 2 MODE 13", "501 SET MODE FAILED\r\n"},
+        {"INFO", "200 INFO OK\r\n1 720p5000 PLAYING\r\n2 PAL PLAYING\r\n\r\n"},
+        {"ADD 2-700 FILE a.mov", "202 ADD OK\r\n"},
+        {"INFO 2-9", "201 INFO OK\r\n<channel><format>PAL</format><output>FILE a.mov</output><stage/></channel>\r\n"},
+        {"REMOVE 2-700", "202 REMOVE OK\r\n"},
+        {"SWAP 1-1 3-1", "501 SWAP FAILED\r\n"},
+        {"SWAP 1-1 2", "501 SWAP FAILED\r\n"},
     };
     for (const auto& [line, reply] : rows) {
         EXPECT_EQ(answer(QString::fromUtf8(line)).toStdString(), reply) << line;
@@ -138,8 +163,9 @@ TEST_F(Protocol, RepliesLikeTheServer) {
 }
 
 TEST_F(Protocol, RefusesWhatIsNotACommand) {
-    for (const QString& line : {u"  "_s, u"NOPE 1-20 \"x\""_s, u"CG 1-20 NOPE 1"_s, u"CG 1-20"_s, u"CG"_s,
-                                u"CG ADD 1 bug 1"_s, u"PLAY -1-20 RED"_s, u"PLAY 99999999999 RED"_s}) {
+    for (const QString& line :
+         {u"  "_s, u"NOPE 1-20 \"x\""_s, u"CG 1-20 NOPE 1"_s, u"CG 1-20"_s, u"CG"_s, u"CG ADD 1 bug 1"_s,
+          u"CG 1-20 ADD 1 bug"_s, u"COMMIT"_s, u"PLAY -1-20 RED"_s, u"PLAY 99999999999 RED"_s}) {
         EXPECT_EQ(answer(line).toStdString(), "400 ERROR\r\n" + line.toStdString() + "\r\n");
     }
 }
@@ -173,10 +199,54 @@ TEST_F(Protocol, TakesTheBackgroundOnPlayAndKeepsTheMixerOverClear) {
     answer(u"MIXER 2-6 OPACITY 0.25 12"_s);
     answer(u"CLEAR 2"_s);
     EXPECT_EQ(stage_.layers(2).size(), 1U);
-    EXPECT_EQ(stage_.mixer({2, 6}).opacity, 0.25);
+    EXPECT_EQ(stage_.mixer({2, 6}).value(u"OPACITY"), 0.25);
     EXPECT_EQ(stage_.mixer({2, 6}).frames, 12);
     answer(u"MIXER 2 CLEAR"_s);
     EXPECT_TRUE(stage_.layers(2).empty());
+}
+
+TEST_F(Protocol, SwapsLayersAndChannels) {
+    answer(u"CG 1-20 ADD 1 bug 1"_s);
+    answer(u"PLAY 2-5 red"_s);
+    answer(u"MIXER 1-20 OPACITY 0.5"_s);
+    answer(u"SWAP 1-20 2-5"_s);
+    EXPECT_EQ(calls(2, 5), u"play()"_s);
+    EXPECT_EQ(foreground(1, 20).name, u"#FF0000FF"_s);
+    EXPECT_EQ(stage_.mixer({1, 20}).value(u"OPACITY"), 0.5) << "stays where it was";
+    answer(u"SWAP 1 2 TRANSFORMS"_s);
+    EXPECT_EQ(calls(1, 5), u"play()"_s);
+    EXPECT_EQ(stage_.mixer({2, 20}).value(u"OPACITY"), 0.5);
+    EXPECT_EQ(stage_.layers(1).size(), 1U) << "nothing is left behind";
+}
+
+TEST_F(Protocol, KeepsOthersOffALockedChannel) {
+    EXPECT_EQ(answerOther(u"LOCK 1 ACQUIRE sesame"_s), u"202 LOCK ACQUIRE OK\r\n"_s);
+    EXPECT_EQ(answer(u"PLAY 1-1 red"_s), u"503 PLAY FAILED\r\n"_s);
+    EXPECT_EQ(answer(u"LOCK 1 ACQUIRE other"_s), u"503 LOCK ACQUIRE FAILED\r\n"_s);
+    EXPECT_EQ(answer(u"PLAY 2-1 red"_s), u"202 PLAY OK\r\n"_s);
+    EXPECT_EQ(answer(u"LOCK 1 ACQUIRE sesame"_s), u"202 LOCK ACQUIRE OK\r\n"_s);
+    EXPECT_EQ(answer(u"PLAY 1-1 red"_s), u"202 PLAY OK\r\n"_s);
+    answer(u"LOCK 1 RELEASE"_s);
+    EXPECT_EQ(answer(u"CLEAR 1"_s), u"503 CLEAR FAILED\r\n"_s);
+    otherLeaves();
+    EXPECT_EQ(answer(u"CLEAR 1"_s), u"202 CLEAR OK\r\n"_s);
+}
+
+TEST_F(Protocol, CarriesOutABatchOnCommit) {
+    for (const QString& line : {u"BEGIN"_s, u"PLAY 1-1 red"_s, u"REQ 7 PLAY 1-2 nope"_s}) {
+        EXPECT_EQ(answer(line), QString());
+    }
+    EXPECT_EQ(answer(u"NOPE"_s), u"400 ERROR\r\nNOPE\r\n"_s);
+    EXPECT_TRUE(stage_.layers(1).empty());
+    EXPECT_EQ(answer(u"REQ 8 COMMIT"_s), u"RES 7 404 PLAY FAILED\r\nRES 8 202 COMMIT OK\r\n"_s);
+    EXPECT_EQ(stage_.layers(1).size(), 1U);
+    answer(u"BEGIN"_s);
+    answer(u"CLEAR 1"_s);
+    answer(u"DISCARD"_s);
+    EXPECT_EQ(stage_.layers(1).size(), 1U);
+    answer(u"BEGIN"_s);
+    for (std::size_t i = 0; i < AmcpClient::kMaxBatch; ++i) answer(u"PLAY 1-1 red"_s);
+    EXPECT_EQ(answer(u"PLAY 1-1 red"_s), u"501 PLAY FAILED\r\n"_s);
 }
 
 TEST_F(Protocol, DoesNotGrowWithoutEnd) {
@@ -201,6 +271,7 @@ TEST_F(Protocol, DoesNotGrowWithoutEnd) {
     EXPECT_EQ(answer(u"PLAY 1-600 red"_s), u"501 PLAY FAILED\r\n"_s);
     EXPECT_EQ(answer(u"MIXER 1-600 OPACITY 0"_s), u"501 MIXER OPACITY FAILED\r\n"_s);
     EXPECT_EQ(answer(u"CG 1-20 UPDATE 1 {}"_s), u"202 CG OK\r\n"_s);
+    EXPECT_EQ(answer(u"DATA STORE x %1"_s.arg(QString(StoredData::kMaxText, u'x'))), u"501 DATA STORE FAILED\r\n"_s);
 }
 
 }  // namespace

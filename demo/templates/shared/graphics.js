@@ -6,6 +6,10 @@
 // the class "fit" the text is made narrower, then smaller, until it fits; with "flash" a change lights up. The field
 // SIDE ("away") chooses whose colour --side is. A page may have functions fieldsChanged(fields), cameOn() and next() of
 // its own.
+//
+// The operator's choices come in the field LOOK: screen mode, wipe, fade in, fade out and roll, as "16_9 10 10 10 10".
+// With "4_3" the graphic keeps to the middle of the picture, which a 4:3 set shows. Of the effect speeds, 10 is as drawn, 20
+// takes twice as long (roll: runs twice as fast), 1 ("Off") cuts and 0 ("Fast") hurries.
 
 "use strict";
 
@@ -19,6 +23,11 @@ function update(data) {
         setText(element, fields[element.dataset.field] ?? "");
     }
     document.body.classList.toggle("away", fields.SIDE === "away");
+    const [screen, wipe, fadeIn, fadeOut] = look();
+    document.body.classList.toggle("narrow", screen === "4_3");
+    document.body.style.setProperty("--wipe", duration(wipe));
+    document.body.style.setProperty("--fade-in", duration(fadeIn));
+    document.body.style.setProperty("--fade-out", duration(fadeOut));
     if (typeof fieldsChanged === "function") {
         fieldsChanged(fields);
     }
@@ -39,6 +48,18 @@ function stop() {
 
 function next() {
     // Most graphics have one step.
+}
+
+function look() {
+    return (fields.LOOK ?? "").split(" ");
+}
+
+// What an effect speed makes of the durations that are drawn.
+function duration(speed) {
+    if (speed === "0") {
+        return 0.4;
+    }
+    return speed === "1" ? 0.01 : (Number(speed) || 10) / 10;
 }
 
 // Sets the text of an element that the page has made itself.
@@ -90,24 +111,24 @@ function setText(element, text) {
 
 const kNarrowest = 0.78; // narrower than this, letters look squeezed: from there on they get smaller instead
 
-function fit(element) {
-    const inner = element.firstElementChild;
-    if (!inner || !element.classList.contains("fit")) {
-        return;
-    }
-    inner.style.fontSize = inner.style.transform = inner.style.verticalAlign = "";
-    const { paddingLeft, paddingRight } = getComputedStyle(element);
-    const room = element.clientWidth - parseFloat(paddingLeft) - parseFloat(paddingRight);
-    const ratio = room / inner.offsetWidth;
-    if (room > 0 && ratio < 1) {
-        inner.style.fontSize = `${Math.min(1, ratio / kNarrowest)}em`;
-        inner.style.transform = `scaleX(${Math.min(1, room / inner.offsetWidth)})`;
-        inner.style.verticalAlign = "middle";
-    }
-}
-
+// All are measured before any is changed, so that the page is laid out only once for each step.
 function fitAll() {
-    document.querySelectorAll(".fit").forEach(fit);
+    const texts = [...document.querySelectorAll(".fit")].map((element) => element.firstElementChild).filter(Boolean);
+    for (const text of texts) {
+        text.style.fontSize = text.style.transform = text.style.verticalAlign = "";
+    }
+    const ratios = () => texts.map((text) => {
+        const { paddingLeft, paddingRight } = getComputedStyle(text.parentElement);
+        const room = text.parentElement.clientWidth - parseFloat(paddingLeft) - parseFloat(paddingRight);
+        return room > 0 ? Math.min(1, room / text.offsetWidth) : 1;
+    });
+    ratios().forEach((ratio, i) => {
+        texts[i].style.fontSize = ratio < kNarrowest ? `${ratio / kNarrowest}em` : "";
+        texts[i].style.verticalAlign = ratio < 1 ? "middle" : "";
+    });
+    ratios().forEach((ratio, i) => {
+        texts[i].style.transform = ratio < 1 ? `scaleX(${ratio})` : "";
+    });
 }
 
 addEventListener("resize", fitAll);

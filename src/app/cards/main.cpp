@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QIcon>
 #include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
@@ -32,7 +33,8 @@ const QString kHelp =
 
 Fires the cards of a pack on the air, from one window.
 
-  --app-folder DIR   the folder that holds MODULES; the program's own folder without
+  --app-folder DIR   the folder that holds MODULES; the program's own folder without, or as an installed
+                     program the user's own
   --user-folder      the user's own folder, ~/.local/share/zelvor-cards, made from the demo the first time
   --codepage NAME    read and write text files in this code page, e.g. windows-1253
   --feed-port N      hears the game feed on this UDP port, 0 for any free one; 7699 without
@@ -79,6 +81,7 @@ int main(int argc, char* argv[]) {
     // Not before: without a display Qt ends the program with its own words, which is no crash.
     zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
+    QApplication::setWindowIcon(QIcon(u":/icon.png"_s));
     const zelvor::CommandLine line(QApplication::arguments().mid(1), kOptions);
     zelvor::CardsApp::Options wanted;
     try {
@@ -87,10 +90,11 @@ int main(int argc, char* argv[]) {
         err << error.line(u"zelvor-cards"_s);
         return zelvor::UsageError::kExitStatus;
     }
-    if (line.has(u"--user-folder")) {
+    const QString programFolder = QApplication::applicationDirPath();
+    const bool namesNone = !line.has(u"--user-folder") && !line.has(u"--app-folder");
+    if (line.has(u"--user-folder") || (namesNone && zelvor::worksOnUserFolder(programFolder))) {
         wanted.appFolder = zelvor::userFolder();
-        const QString fault =
-            zelvor::makeUserFolder(wanted.appFolder, zelvor::installedDemo(QApplication::applicationDirPath()));
+        const QString fault = zelvor::makeUserFolder(wanted.appFolder, zelvor::installedDemo(programFolder));
         if (!fault.isEmpty()) {
             // Started from the desktop, it has no terminal to say it in.
             QMessageBox::critical(nullptr, u"Zelvor Cards"_s, fault);

@@ -36,6 +36,10 @@ QString userFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/zelvor-cards"_s;
 }
 
+bool worksOnUserFolder(const QString& programFolder) {
+    return !QFile::exists(programFolder + u"/MODULES"_s) && QFile::exists(installedDemo(programFolder) + u"/MODULES"_s);
+}
+
 QString makeUserFolder(const QString& folder, const QString& demo) {
     if (QFile::exists(folder)) return {};
     if (!QFile::exists(demo + u"/MODULES"_s)) return u"There is no demo to copy: %1"_s.arg(demo);

@@ -11,6 +11,10 @@ QString installedDemo(const QString& programFolder);
 // The user's own application folder: "zelvor-cards" where the desktop keeps programs' data (XDG_DATA_HOME).
 QString userFolder();
 
+// Whether a program there, started without a folder, works on the user's own: it has no MODULES beside it and was
+// installed with a demo.
+bool worksOnUserFolder(const QString& programFolder);
+
 // Makes the folder as a copy of the demo. One that exists is left as it is, whatever it holds. Gives what went wrong,
 // in words, after which there is no folder; empty when all is well.
 QString makeUserFolder(const QString& folder, const QString& demo);

@@ -19,8 +19,9 @@ namespace {
 constexpr int kRowsShown = 20;
 constexpr int kWidth = 460;  // pixels
 
-QString countText(size_t rows) {
-    return rows == 1 ? u"1 row"_s : u"%1 rows"_s.arg(rows);
+QString headerText(size_t rows) {
+    const QString count = rows == 1 ? u"1 row"_s : u"%1 rows"_s.arg(rows);
+    return count + u": type a name or a number, then Enter. Esc ends the card."_s;
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
     setModal(attended_);
     setAttribute(Qt::WA_ShowWithoutActivating, !attended_);
 
-    auto* header = new QLabel(countText(list.rows().size()), this);
+    auto* header = new QLabel(headerText(list.rows().size()), this);
     header->setObjectName(u"lblASKCOUNT"_s);
     auto* view = new PickListView(list, this);
     auto* cancel = new QPushButton(u"Cancel"_s, this);

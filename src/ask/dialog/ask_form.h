@@ -7,8 +7,8 @@
 
 namespace zelvor {
 
-// The pick-list dialog (frmASK): a line that says how many rows there are, the list, and a Cancel button below it.
-// It ends, cancelled, when the program is closing.
+// The pick-list dialog (frmASK): a line that says how many rows there are and what to press, the list, and a Cancel
+// button below it. It ends, cancelled, when the program is closing.
 class AskForm : public QDialog {
     Q_OBJECT
 

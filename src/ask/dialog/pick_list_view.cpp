@@ -13,6 +13,7 @@ PickListView::PickListView(const PickList& list, QWidget* parent) : QListWidget(
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const PickList::Row& row : list.rows()) addItem(row.text);
     setCurrentRow(0);
+    sinceOpened_.start();
     connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) { Q_EMIT chosen(row(item)); });
 }
 
@@ -31,7 +32,7 @@ bool PickListView::viewportEvent(QEvent* event) {
 }
 
 void PickListView::keyboardSearch(const QString& typed) {
-    const int found = list_.firstBeginningWith(typed);
+    const int found = list_.find(typeAhead_.add(typed, std::chrono::milliseconds(sinceOpened_.elapsed())));
     if (found >= 0) setCurrentRow(found);
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QListWidget>
 
 #include "ask/pick_list.h"
+#include "ask/type_ahead.h"
 
 namespace zelvor {
 
-// The list box of a pick list (lstASK). Typing a character selects the first row that begins with it.
+// The list box of a pick list (lstASK). Typing selects the row that is meant.
 class PickListView : public QListWidget {
     Q_OBJECT
 
@@ -18,7 +20,7 @@ class PickListView : public QListWidget {
     [[nodiscard]] int heightForRows(int rows) const;
     // The whole text of a row as its tool tip where the row is too narrow for it.
     bool viewportEvent(QEvent* event) override;
-    // One character at a time: what was typed before does not matter.
+    // What was typed within the second before belongs to it.
     void keyboardSearch(const QString& typed) override;
 
  Q_SIGNALS:
@@ -30,6 +32,8 @@ class PickListView : public QListWidget {
 
  private:
     const PickList& list_;
+    TypeAhead typeAhead_;
+    QElapsedTimer sinceOpened_;
 };
 
 }  // namespace zelvor

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -17,6 +18,7 @@ namespace zelvor {
 namespace {
 
 constexpr QSize kEditorSize{1060, 520};
+constexpr QSize kFrame{20, 60};  // what a window manager may put around it
 constexpr int kValueWidth = 240;
 constexpr int kTitleWidth = 200;
 constexpr int kVariableWidth = 160;
@@ -38,7 +40,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     setObjectName(u"frmGENERAL"_s);
     setWindowTitle(u"General Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(kEditorSize);
+    resize(kEditorSize.boundedTo(screen()->availableSize() - kFrame));
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(u"Search"_s);
     search_->setToolTip(u"Shows the rows that hold this text"_s);

@@ -2,11 +2,13 @@
 
 import { Layer, Template } from "./layer.js";
 
-const kSizes = { "16:9": [1920, 1080], "4:3": [1440, 1080] };
+const kShapes = { "16:9": 16 / 9, "4:3": 4 / 3 };
 
 export class Channel {
-    constructor(number) {
+    // mode: { name, height, framesPerSecond }
+    constructor(number, mode) {
         this.number = number;
+        this.mode = mode;
         this.layers = new Map();
         this.element = document.createElement("section");
         this.element.className = "channel";
@@ -15,7 +17,6 @@ export class Channel {
             <header><h2></h2><a>alone</a></header>
             <div class="picture"><div class="programme"></div></div>
             <ul class="layers"></ul>`;
-        this.element.querySelector("h2").textContent = `Channel ${number}`;
         this.element.querySelector("a").href = `?channel=${number}`;
         this.picture = this.element.querySelector(".picture");
         this.programme = this.element.querySelector(".programme");
@@ -29,9 +30,17 @@ export class Channel {
         this.element.remove();
     }
 
+    setMode(mode) {
+        this.mode = mode;
+        this.setAspect(this.aspect);
+    }
+
     setAspect(aspect) {
-        this.size = kSizes[aspect];
-        const [width, height] = this.size;
+        this.aspect = aspect;
+        this.element.querySelector("h2").textContent = `Channel ${this.number}  ${this.mode.name}`;
+        const height = this.mode.height;
+        const width = Math.round(height * kShapes[aspect]);
+        this.width = width;
         this.programme.style.width = `${width}px`;
         this.programme.style.height = `${height}px`;
         this.picture.style.aspectRatio = `${width} / ${height}`;
@@ -40,7 +49,7 @@ export class Channel {
     }
 
     scale() {
-        this.programme.style.transform = `scale(${this.picture.clientWidth / this.size[0]})`;
+        this.programme.style.transform = `scale(${this.picture.clientWidth / this.width})`;
     }
 
     // state: what the server tells of the layer, null when it holds nothing any more.
@@ -52,7 +61,7 @@ export class Channel {
             this.programme.append(layer.element);
         }
         if (state) {
-            layer.show(state);
+            layer.show(state, this.mode.framesPerSecond);
         } else if (layer) {
             layer.remove();
             this.layers.delete(number);

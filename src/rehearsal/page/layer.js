@@ -1,7 +1,5 @@
 // One layer of a channel: what it shows, and how the mixer shows it.
 
-const kFramesPerSecond = 25;
-
 export class Layer {
     constructor(number) {
         this.number = number;
@@ -12,7 +10,7 @@ export class Layer {
     }
 
     // state: what the server tells of the layer. Builds a new picture only when the source is another one.
-    show(state) {
+    show(state, framesPerSecond) {
         this.state = state;
         if (state.source?.id !== this.source?.id) {
             this.retire();
@@ -23,7 +21,7 @@ export class Layer {
         }
         const { opacity, fill: [x, y, width, height], frames } = state.mixer;
         const style = this.element.style;
-        style.transition = frames > 0 ? `all ${frames / kFramesPerSecond}s linear` : "none";
+        style.transition = frames > 0 ? `all ${frames / framesPerSecond}s linear` : "none";
         style.opacity = opacity;
         style.transform = `translate(${x * 100}%, ${y * 100}%) scale(${width}, ${height})`;
     }

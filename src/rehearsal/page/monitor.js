@@ -24,8 +24,8 @@ const handlers = {
             channel.remove();
         }
         channels.clear();
-        for (const { number, layers } of states) {
-            const channel = new Channel(number);
+        for (const { number, mode, layers } of states) {
+            const channel = new Channel(number, mode);
             channels.set(number, channel);
             if (!choices.has("channel") || Number(choices.get("channel")) === number) {
                 document.getElementById("channels").append(channel.element);
@@ -42,8 +42,12 @@ const handlers = {
         channels.get(channel).showLayer(number, layer);
     },
 
-    call({ id, call }) {
-        templatesOnAir().find(({ template }) => template.id === id)?.template.call([call]);
+    mode({ channel, mode }) {
+        channels.get(channel).setMode(mode);
+    },
+
+    calls({ id, calls, settle }) {
+        templatesOnAir().find(({ template }) => template.id === id)?.template.call(calls, settle);
     },
 
     lines({ lines: added }) {
