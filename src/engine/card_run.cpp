@@ -3,6 +3,8 @@
 #include "engine/condition.h"
 #include "engine/on_air.h"
 
+using namespace Qt::StringLiterals;
+
 namespace zelvor {
 
 CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, QString cardFile, bool autoRun,
@@ -42,6 +44,10 @@ const ScriptLine& CardRun::chooseBranch(const LineCondition& condition) {
     condition.comparison.expandInto(expanded_, variables(), state().QUERY_RESULT);
     const Pieces parts(expanded_, u';');
     return conditionHolds(parts[0], parts[1], parts[2]) ? *condition.thenLine : *condition.elseLine;
+}
+
+void CardRun::warn(const QString& text) {
+    if (engine_.trap().warn(place_, text)) ports().graphics.appendHistory(u" > WARNING "_s + text);
 }
 
 void CardRun::endWithoutData() {

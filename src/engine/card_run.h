@@ -37,6 +37,9 @@ class CardRun {
     // The text with its placeholders replaced.
     QString expand(const QString& text) { return EXPAND_VARS(text, variables(), state().QUERY_RESULT); }
 
+    // Tells the operator of something that went on, but not as it should: in the error log and the history list.
+    void warn(const QString& text);
+
     // Goes on with that line. A number past the last ends the script.
     void jumpTo(int line) { lineNo_ = line - 1; }
     // Ends the script; the run still finishes.
@@ -54,6 +57,7 @@ class CardRun {
         int start = 0;
         QString variable;
         double counter = 0;
+        double mostRounds = 0;
     };
     RecordLoop loop;  // the one active record loop
 

@@ -21,6 +21,11 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
     return condition;
 }
 
+// A copy that keeps the other file's time and has its size still changes when this one was last changed as a file.
+ScriptStamp stamp(const QFileInfo& info) {
+    return {info.lastModified(), info.fileTime(QFileDevice::FileMetadataChangeTime), info.size()};
+}
+
 }  // namespace
 
 QString cleanedScriptLine(QString line) {
@@ -61,7 +66,7 @@ CardScript::CardScript(const QString& path, const QString& language, const AppFo
 
 QStringList CardScript::readSource(const QString& path, const TextFiles& files) {
     const QFileInfo info(path);
-    sources_.push_back({path, info.lastModified(), info.size()});
+    sources_.push_back({path, stamp(info)});
     return files.readLines(path);
 }
 
@@ -82,7 +87,7 @@ int CardScript::findBlockEnd(QStringView label, int from) const {
 bool CardScript::isCurrent() const {
     return std::ranges::all_of(sources_, [](const Source& source) {
         const QFileInfo info(source.path);
-        return info.exists() && info.lastModified() == source.modified && info.size() == source.size;
+        return info.exists() && stamp(info) == source.stamp;
     });
 }
 

@@ -36,6 +36,15 @@ struct LineCondition {
     std::unique_ptr<ScriptLine> elseLine;
 };
 
+// What tells one version of a script file from another.
+struct ScriptStamp {
+    QDateTime modified;
+    QDateTime changed;
+    qint64 size = 0;
+
+    bool operator==(const ScriptStamp&) const = default;
+};
+
 // A card's script with its includes put in.
 class CardScript {
  public:
@@ -54,8 +63,7 @@ class CardScript {
  private:
     struct Source {
         QString path;
-        QDateTime modified;
-        qint64 size = 0;
+        ScriptStamp stamp;
     };
 
     QStringList readSource(const QString& path, const TextFiles& files);

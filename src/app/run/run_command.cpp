@@ -30,6 +30,10 @@ class TerminalRun {
             // Who has just been told that the program ends needs no second message.
             if (!program_.closing.hasBegun()) operator_.message(place.asker, {}, message, Operator::Severity::Critical);
         });
+        trap_.setWarned([this](const QString& text) {
+            err_ << "zelvor run: warning: " << text << '\n';
+            err_.flush();
+        });
         state_.preview = options.preview;
     }
 

@@ -1,7 +1,6 @@
-#include <cmath>
-
 #include "base/number.h"
 #include "engine/card_run.h"
+#include "engine/shares.h"
 #include "script/decimal.h"
 #include "script/pattern.h"
 
@@ -18,30 +17,38 @@ void EVAL(CardRun& run, const Arguments& args) {
 
 void CALC(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    run.variables().SetVar(pieces[0], run.engine().calculator().calculate(pieces[1]));
+    Calculator& calculator = run.engine().calculator();
+    const auto tellWarning = [&] {
+        const std::string_view warning = calculator.warning();
+        if (!warning.empty()) run.warn(u"CALC: "_s + QUtf8StringView(warning).toString() + u": "_s + pieces[1]);
+    };
+    try {
+        run.variables().SetVar(pieces[0], calculator.calculate(pieces[1]));
+    } catch (const RunTimeError&) {
+        tellWarning();  // why the formula has no value
+        throw;
+    }
+    tellWarning();
 }
 
-double roundedTo(QStringView text, int digits) {
+double rounded(QStringView text, int digits) {
     constexpr int kMostDigits = 22;
     double number = 0;
     if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, text.left(80).toString());
     if (digits < 0 || digits > kMostDigits) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    return script::numberOf(script::decimalOf(number, digits, script::Halves::ToEven));
+    return script::roundedTo(number, digits, script::Halves::ToEven);
 }
 
 void ROUND(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    run.variables().SetVar(pieces[0], roundedTo(pieces[1], wholeNumber16(pieces[2])));
+    run.variables().SetVar(pieces[0], rounded(pieces[1], wholeNumber16(pieces[2])));
 }
 
 void PERCENTMAX(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    const double a = Val(pieces[0]);
-    const double total = a + Val(pieces[1]);
-    const double max = Val(pieces[2]);
-    const double first = total > 0 ? std::floor(a / total * max) : 0;
-    run.variables().SetVar(u"@PERCM1", first);
-    run.variables().SetVar(u"@PERCM2", total > 0 ? max - first : 0);
+    const Shares shares = sharesOf(Val(pieces[0]), Val(pieces[1]), Val(pieces[2]));
+    run.variables().SetVar(u"@PERCM1", shares.first);
+    run.variables().SetVar(u"@PERCM2", shares.second);
 }
 
 double numberInResult(CardRun& run, int row, QStringView column) {

@@ -45,14 +45,13 @@ void SHOW2TEXT(CardRun& run, const Arguments& args) {
 void SHOW2LABEL(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     const QString caption = pieces[1].toString();
-    std::optional<Colour> back;
-    std::optional<Colour> fore;
-    if (pieces.count() > 2) back = parseColour(pieces[2]);
-    if (pieces.count() > 3) fore = parseColour(pieces[3]);
+    const auto colourOf = [&](int piece) { return pieces.count() > piece ? parseColour(pieces[piece]) : std::nullopt; };
+    const std::optional<Colour> back = colourOf(2);
+    const std::optional<Colour> fore = colourOf(3);
     forEachOf(run.form(), pieces[0], Control::Kind::Label, [&](Control& label) {
         label.setText(caption);
-        if (back) label.setBackColour(back);
-        if (fore) label.setForeColour(fore);
+        if (pieces.count() > 2) label.setBackColour(back);
+        if (pieces.count() > 3) label.setForeColour(fore);
     });
 }
 
