@@ -34,7 +34,6 @@ class CardEngine {
     [[nodiscard]] FormModel& form() { return form_; }
     [[nodiscard]] Program& program() const { return program_; }
     [[nodiscard]] const Ports& ports() const { return ports_; }
-    ErrorTrap& trap() { return trap_; }
     Calculator& calculator() { return calculator_; }
 
     // Names the pack's script of a card: ".qrd" and ".QRD" are run as ".csp", any other spelling stays.

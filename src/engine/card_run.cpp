@@ -47,7 +47,7 @@ const ScriptLine& CardRun::chooseBranch(const LineCondition& condition) {
 }
 
 void CardRun::warn(const QString& text) {
-    if (engine_.trap().warn(place_, text)) ports().graphics.appendHistory(u" > WARNING "_s + text);
+    if (engine_.program().trap.warn(place_, text)) ports().notes.appendHistory(u" > WARNING "_s + text);
 }
 
 void CardRun::endWithoutData() {

@@ -33,7 +33,7 @@ TEST_F(CardRuns, ScriptsAndIncludesAreReadAgainWhenTheyChange) {
     write(u"QRD_TT/part.inc"_s, "CSPSEND~dd\r\n");
     QFile file(part);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(before, QFileDevice::FileModificationTime));
-    EXPECT_EQ(Outcome::Ran, engine.SHOW_TVCARD(u"card.qrd"_s, false, false));
+    EXPECT_EQ(Outcome::Ran, engine.SHOW_TVCARD(u"card.qrd"_s, false, false, {}));
     EXPECT_EQ((QStringList{u"ma"_s, u"mbb"_s, u"mbb"_s, u"mc"_s, u"mdd"_s, u"mc"_s}), graphics.sent);
 }
 

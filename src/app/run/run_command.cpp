@@ -30,7 +30,7 @@ class TerminalRun {
             // Who has just been told that the program ends needs no second message.
             if (!program_.closing.hasBegun()) operator_.message(place.asker, {}, message, Operator::Severity::Critical);
         });
-        trap_.setWarned([this](const QString& text) {
+        program_.trap.setWarned([this](const QString& text) {
             err_ << "zelvor run: warning: " << text << '\n';
             err_.flush();
         });
