@@ -86,17 +86,19 @@ using Role = Command::Role;
 
 constexpr std::array kCalculationCommands{
     Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value",
-            roles(Role::VariableName, Role::Expression)},
+            roles(Role::WrittenName, Role::Expression)},
     Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value",
             roles(Role::Variable, Role::Formula)},
     Command{u"ROUND", ROUND, Argument::Expanded, u"variable;value;digits",
-            u"the variable becomes the rounded value, halves to the even digit", roles(Role::Variable)},
+            u"the variable becomes the rounded value, halves to the even digit",
+            roles(Role::Variable, Role::Number, Role::Places)},
     Command{u"PERCENTMAX", PERCENTMAX, Argument::Expanded, u"a;b;max",
             u"splits max as a to b into @PERCM1 and @PERCM2"},
     Command{u"PERCENT", PERCENT, Argument::Expanded, u"row;column1;column2",
-            u"@PERC becomes column1 in percent of column2 of a row of the query result"},
+            u"@PERC becomes column1 in percent of column2 of a row of the query result",
+            roles(Role::WholeNumber, Role::WholeNumber, Role::WholeNumber)},
     Command{u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
-            u"replaces every find in the variable's value", roles(Role::Variable)},
+            u"replaces every find in the variable's value", roles(Role::ReplacedText)},
 };
 
 }  // namespace

@@ -98,7 +98,8 @@ constexpr std::array kFlowCommands{
     Command{u"IF", IF, Argument::Expanded, u"left;operator;right;[label]", u"skips to FI~label when false",
             roles(Role::Operand, Role::Operation, Role::Operand, Role::BlockLabel)},
     Command{u"FI", readEarlier, Argument::None, u"label", u"ends the block of that label", roles(Role::BlockEnd)},
-    Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile"},
+    Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile",
+            roles(Role::WholeNumber, Role::Waits)},
     Command{u"BREAK", BREAK, Argument::Expanded, u"message", u"asks whether to go on"},
     Command{u"LOOPPAGE", LOOPPAGE, Argument::Expanded, u"question", u"asks Yes or No; @LOOP_ANSWER becomes 6 or 7"},
 };
