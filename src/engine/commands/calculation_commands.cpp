@@ -85,7 +85,8 @@ using Argument = Command::Argument;
 using Role = Command::Role;
 
 constexpr std::array kCalculationCommands{
-    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value",
+    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression",
+            u"@name becomes the script expression's value; placeholders in the name stay as they are",
             roles(Role::WrittenName, Role::Expression)},
     Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value",
             roles(Role::Variable, Role::Formula)},
@@ -97,8 +98,10 @@ constexpr std::array kCalculationCommands{
     Command{u"PERCENT", PERCENT, Argument::Expanded, u"row;column1;column2",
             u"@PERC becomes column1 in percent of column2 of a row of the query result",
             roles(Role::WholeNumber, Role::WholeNumber, Role::WholeNumber)},
-    Command{u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
-            u"replaces every find in the variable's value", roles(Role::ReplacedText)},
+    Command{
+        u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
+        u"replaces every find in the variable's value, written {@NAME}: without the braces the name itself is the text",
+        roles(Role::ReplacedText)},
 };
 
 }  // namespace
