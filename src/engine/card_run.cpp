@@ -50,6 +50,17 @@ void CardRun::warn(const QString& text) {
     if (engine_.program().trap.warn(place_, text)) ports().notes.appendHistory(u" > WARNING "_s + text);
 }
 
+void CardRun::noteTemplateFaults(const QStringList& faults) {
+    for (const QString& fault : faults) warn(u"MAKEXML: "_s + fault);
+    templateFaults_ += faults;
+    templateFaults_.removeDuplicates();
+    for (CardTable::Set& set : state().cards.sets) {
+        for (CardEntry& card : set) {
+            if (CardEngine::scriptName(card.script) == cardFile_) card.fault = templateFaults_.join(u", "_s);
+        }
+    }
+}
+
 void CardRun::endWithoutData() {
     hasData_ = false;
     endCard();

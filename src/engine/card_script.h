@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QHash>
 #include <QString>
 #include <memory>
@@ -44,6 +45,8 @@ struct ScriptStamp {
 
     bool operator==(const ScriptStamp&) const = default;
 };
+
+ScriptStamp scriptStamp(const QFileInfo& file);
 
 // A card's script with its includes put in.
 class CardScript {

@@ -59,12 +59,14 @@ void MAKEXML(CardRun& run, const Arguments& args) {
     const QString variable = targetVariable(args, u"@CASPARXML"_s);
     const QString xml = makeXml(run.state().templateData);
     run.variables().SetVar(variable, xml);
+    run.noteTemplateFaults(templateFaults(run.state().templateData));
     run.ports().notes.appendHistory(u" > MAKEXML~"_s + variable);
     run.ports().notes.showLastTemplate(xml);
 }
 
 void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {
     run.variables().SetVar(targetVariable(args, u"@CASPARXMLREMOTE"_s), makeRemoteXml(run.state().remoteTemplateData));
+    run.noteTemplateFaults(templateFaults(run.state().remoteTemplateData));
 }
 
 using Argument = Command::Argument;
