@@ -60,6 +60,14 @@ constexpr std::array kOwnVariables{
 
 }  // namespace
 
+QStringList ownVariables() {
+    QStringList names;
+    for (const QStringView name : kOwnVariables) {
+        if (!name.contains(kAnything)) names += name.toString();
+    }
+    return names;
+}
+
 VariableUse::VariableUse() {
     for (const QStringView name : kOwnVariables) set(name.toString());
 }
