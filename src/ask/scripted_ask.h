@@ -13,6 +13,9 @@ class ScriptedAsk : public AskDialog {
     ScriptedAsk(ShowState& state, Database& database, ErrorTrap& trap, QStringList answers)
         : state_(state), database_(database), trap_(trap), answers_(std::move(answers)) {}
 
+    // From now on these are the answers.
+    void answerWith(QStringList answers) { answers_ = std::move(answers); }
+
     // Throws 5, naming the field and the keys offered, when no answer is left or the list does not hold it.
     void show(const Asker& asker) override;
 

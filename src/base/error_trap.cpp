@@ -30,19 +30,33 @@ bool ErrorTrap::writtenJustNow(const QString& fault) {
     return false;
 }
 
+void ErrorTrap::write(const ErrorPlace& place, const QString& kind, const QString& text) {
+    QFile log(logPath_);
+    if (!log.open(QIODevice::Append)) return;
+    QString oneLine = text;
+    oneLine.replace(u'\r', u' ').replace(u'\n', u' ');
+    log.write(QStringList{QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s), place.procedure,
+                          place.card, u"line %1"_s.arg(place.line), kind, oneLine}
+                  .join(u'\t')
+                  .toUtf8() +
+              '\n');
+}
+
+bool ErrorTrap::warn(const ErrorPlace& place, const QString& text) noexcept {
+    try {
+        if (writtenJustNow(place.card + u' ' + text)) return false;
+        write(place, u"warning"_s, text);
+        if (warned_) warned_(text);
+    } catch (const std::exception& error) {
+        qCritical("error trap: %s", error.what());
+    }
+    return true;
+}
+
 void ErrorTrap::handle(const ErrorPlace& place, Tell tell, int number, const QString& text) noexcept {
     try {
         if (tell == Tell::LogOnly && writtenJustNow(place.procedure + u' ' + QString::number(number))) return;
-        QFile log(logPath_);
-        if (log.open(QIODevice::Append)) {
-            QString oneLine = text;
-            oneLine.replace(u'\r', u' ').replace(u'\n', u' ');
-            log.write(QStringList{QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s), place.procedure,
-                                  place.card, u"line %1"_s.arg(place.line), u"error %1"_s.arg(number), oneLine}
-                          .join(u'\t')
-                          .toUtf8() +
-                      '\n');
-        }
+        write(place, u"error %1"_s.arg(number), text);
         if (tell == Tell::Operator && reporter_) reporter_(place, errorMessage(place, number, text));
     } catch (const std::exception& error) {
         qCritical("error trap: %s", error.what());

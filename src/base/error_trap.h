@@ -32,6 +32,13 @@ class ErrorTrap {
     // Called with the whole message of each error the operator is to be told.
     void setReporter(Reporter reporter) { reporter_ = std::move(reporter); }
 
+    // Called with the text of each warning that is written.
+    void setWarned(std::function<void(const QString& text)> warned) { warned_ = std::move(warned); }
+
+    // Writes a warning to the log: something that went on, but not as it should. The same one is written once a second
+    // at most; false when it was left out for that.
+    bool warn(const ErrorPlace& place, const QString& text) noexcept;
+
     // Runs the body; true when it ended without an error. `place` is read when an error has happened, so the body may
     // keep its line up to date. No exception leaves.
     template <class Body>
@@ -51,6 +58,7 @@ class ErrorTrap {
     // The number under which an unexpected C++ exception is shown.
     static constexpr int kInternalError = 51;
 
+    void write(const ErrorPlace& place, const QString& kind, const QString& text);
     void handle(const ErrorPlace& place, Tell tell, int number, const QString& text) noexcept;
 
     [[nodiscard]] bool writtenJustNow(const QString& fault);
@@ -58,6 +66,7 @@ class ErrorTrap {
     QString logPath_;
     std::map<QString, QDeadlineTimer> justWritten_;
     Reporter reporter_;
+    std::function<void(const QString&)> warned_;
 };
 
 // The message box's text: number, text, location and line, CR LF between.

@@ -29,6 +29,18 @@ QByteArray readWholeFile(const QString& path) {
     return bytes;
 }
 
+namespace {
+
+// The byte order of a text in UTF-16: by its byte-order mark, or by the zero beside its first character.
+std::optional<QStringConverter::Encoding> utf16Of(QByteArrayView bytes) {
+    if (bytes.size() < 2 || bytes.size() % 2 != 0) return std::nullopt;
+    if (bytes.startsWith("\xFF\xFE") || (bytes[0] != 0 && bytes[1] == 0)) return QStringConverter::Utf16LE;
+    if (bytes.startsWith("\xFE\xFF") || (bytes[0] == 0 && bytes[1] != 0)) return QStringConverter::Utf16BE;
+    return std::nullopt;
+}
+
+}  // namespace
+
 QString TextFiles::read(const QString& path) const {
     return decode(readWholeFile(path));
 }
@@ -38,6 +50,7 @@ QStringList TextFiles::readLines(const QString& path) const {
 }
 
 QString TextFiles::decode(const QByteArray& bytes) const {
+    if (const auto utf16 = utf16Of(bytes)) return QStringDecoder(*utf16).decode(bytes);
     QStringDecoder utf8(QStringConverter::Utf8);
     QString text = utf8.decode(bytes);
     if (!utf8.hasError()) return text;
@@ -57,16 +70,19 @@ QStringList splitLines(const QString& text) {
     QStringList lines;
     qsizetype start = 0;
     while (start < text.size()) {
-        const qsizetype lineFeed = text.indexOf(u'\n', start);
-        const qsizetype end = lineFeed < 0 ? text.size() : lineFeed;
-        const bool carriageReturn = end > start && text[end - 1] == u'\r';
-        lines += text.mid(start, end - start - (carriageReturn ? 1 : 0));
-        start = end + 1;
+        qsizetype end = start;
+        while (end < text.size() && text[end] != u'\r' && text[end] != u'\n') ++end;
+        lines += text.mid(start, end - start);
+        const bool both = QStringView(text).mid(end, 2) == u"\r\n";
+        start = end + (both ? 2 : 1);
     }
     return lines;
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes) {
+    // A device or a pipe is no file to put another in the place of.
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) throwOpenError(path, file.error(), Opening::ForWriting);
     file.write(bytes);

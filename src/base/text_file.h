@@ -7,8 +7,8 @@
 
 namespace zelvor {
 
-// How the system's text files are read and written. A byte-order mark or valid UTF-8 is read as UTF-8, anything else
-// in the single-byte code page; written is UTF-8 unless a code page was named.
+// How the system's text files are read and written. UTF-16 and UTF-8 are told by their byte-order marks and their
+// bytes, anything else is read in the single-byte code page; written is UTF-8 unless a code page was named.
 class TextFiles {
  public:
     // A file larger than this (bytes) is refused with 7 Out of memory.
@@ -20,7 +20,7 @@ class TextFiles {
 
     // The whole file. Throws as readWholeFile() does.
     [[nodiscard]] QString read(const QString& path) const;
-    // The file's lines without their ends (CR LF, LF). A last line without an end counts, an empty rest does not.
+    // The file's lines without their ends (CR LF, LF or CR). A last line without an end counts, an empty rest does not.
     [[nodiscard]] QStringList readLines(const QString& path) const;
 
     [[nodiscard]] QString decode(const QByteArray& bytes) const;
@@ -34,7 +34,7 @@ class TextFiles {
 // The bytes of a file. Throws 53, 70, 75 or 76 with the path when it cannot be read, 7 when it is too large.
 QByteArray readWholeFile(const QString& path);
 
-// Splits at LF, a CR before it dropped; an empty rest behind the last line end is no line.
+// Splits at CR LF, LF and CR; an empty rest behind the last line end is no line.
 QStringList splitLines(const QString& text);
 
 // Writes the file whole or not at all (a temporary file beside it, then renamed). Throws 61, 70, 75 or 76 with the

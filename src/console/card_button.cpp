@@ -33,6 +33,7 @@ QString CardButton::stateLine() const {
     QStringList parts;
     if (face_.on) parts += u"ON"_s;
     if (!face_.key.isEmpty()) parts += face_.key;
+    if (!face_.fault.isEmpty()) parts += face_.fault;
     return parts.join(u" · "_s);
 }
 
@@ -62,7 +63,8 @@ void CardButton::paintEvent(QPaintEvent*) {
 
     const QColor ink = ownText().value_or(groundColour() ? theme::readableOn(*groundColour())
                                                          : theme::colour(face_.quiet ? Role::Muted : Role::Text));
-    const QString state = stateLine();
+    const QString state =
+        QFontMetrics(theme::font(kStatePixels, face_.on)).elidedText(stateLine(), Qt::ElideRight, textRoom());
     const QRect inner(padding(), kFrame + 2, textRoom(), height() - 2 * kFrame - 4);
     const QFontMetrics captionMetrics(font());
     const QFont stateFont = theme::font(kStatePixels, face_.on);

@@ -4,10 +4,29 @@
 
 #include "base/run_time_error.h"
 
+using namespace Qt::StringLiterals;
+
 namespace zelvor {
 
+namespace {
+
+double wholeSecondOf(const QDateTime& now) {
+    return Value::fromDateTime(now.addMSecs(-now.time().msec())).as<Value::Date>()->days;
+}
+
+// The part of a long expression around the place of an error, counted from 1.
+QString excerpt(QStringView expression, int position) {
+    constexpr qsizetype kShown = 120;
+    const qsizetype first = std::max<qsizetype>(0, position - kShown / 2);
+    const QStringView part = expression.mid(first, kShown);
+    return (first > 0 ? u"..."_s : QString()) + part + (first + kShown < expression.size() ? u"..."_s : QString());
+}
+
+}  // namespace
+
 Calculator::Calculator(const Clock& clock)
-    : evaluator_([&clock] { return clock.now(); }, [] { return QRandomGenerator::global()->generateDouble(); }) {}
+    : formula_([&clock] { return wholeSecondOf(clock.now()); }),
+      evaluator_([&clock] { return clock.now(); }, [] { return QRandomGenerator::global()->generateDouble(); }) {}
 
 double Calculator::calculate(QStringView formula) {
     const QByteArray utf8 = formula.toUtf8();
@@ -18,6 +37,16 @@ double Calculator::calculate(QStringView formula) {
                                      QString::fromStdString(formula_.ErrorDescription()));
     }
     return result;
+}
+
+Value Calculator::evaluate(QStringView expression) const {
+    try {
+        return evaluator_.evaluate(expression);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError::withText(error.code(), error.text() + u" at position %1 of "_s.arg(error.position()) +
+                                                       excerpt(expression, error.position()))
+            .atPosition(error.position());
+    }
 }
 
 }  // namespace zelvor

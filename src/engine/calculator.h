@@ -13,13 +13,15 @@ namespace zelvor {
 // whole program, so that its memory is used again.
 class Calculator {
  public:
-    // The clock answers what a script expression asks of date and time.
+    // The clock answers what formulas and script expressions ask of date and time.
     explicit Calculator(const Clock& clock);
 
     // A formula's value. Throws 5 with the parser's message for one that does not parse or evaluate.
     double calculate(QStringView formula);
-    // A script expression's value. Throws the evaluator's errors.
-    [[nodiscard]] Value evaluate(QStringView expression) const { return evaluator_.evaluate(expression); }
+    // What the last formula had to say beside its value; empty for nothing.
+    [[nodiscard]] std::string_view warning() const { return formula_.Warning(); }
+    // A script expression's value. Throws the evaluator's errors, with the expression and the place in their texts.
+    [[nodiscard]] Value evaluate(QStringView expression) const;
 
  private:
     expr::clsFormula formula_;

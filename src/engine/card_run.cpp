@@ -3,6 +3,8 @@
 #include "engine/condition.h"
 #include "engine/on_air.h"
 
+using namespace Qt::StringLiterals;
+
 namespace zelvor {
 
 CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, QString cardFile, bool autoRun,
@@ -43,6 +45,21 @@ const ScriptLine& CardRun::chooseBranch(const LineCondition& condition) {
     condition.comparison.expandInto(expanded_, variables(), state().QUERY_RESULT);
     const Pieces parts(expanded_, u';');
     return conditionHolds(parts[0], parts[1], parts[2]) ? *condition.thenLine : *condition.elseLine;
+}
+
+void CardRun::warn(const QString& text) {
+    if (engine_.program().trap.warn(place_, text)) ports().notes.appendHistory(u" > WARNING "_s + text);
+}
+
+void CardRun::noteTemplateFaults(const QStringList& faults) {
+    for (const QString& fault : faults) warn(u"MAKEXML: "_s + fault);
+    templateFaults_ += faults;
+    templateFaults_.removeDuplicates();
+    for (CardTable::Set& set : state().cards.sets) {
+        for (CardEntry& card : set) {
+            if (CardEngine::scriptName(card.script) == cardFile_) card.fault = templateFaults_.join(u", "_s);
+        }
+    }
 }
 
 void CardRun::endWithoutData() {

@@ -37,6 +37,13 @@ class CardRun {
     // The text with its placeholders replaced.
     QString expand(const QString& text) { return EXPAND_VARS(text, variables(), state().QUERY_RESULT); }
 
+    // Tells the operator of something that went on, but not as it should: in the error log and the history list.
+    void warn(const QString& text);
+
+    // Warns of what breaks the template data and marks the card with it; a run whose template data are sound takes the
+    // mark away.
+    void noteTemplateFaults(const QStringList& faults);
+
     // Goes on with that line. A number past the last ends the script.
     void jumpTo(int line) { lineNo_ = line - 1; }
     // Ends the script; the run still finishes.
@@ -55,6 +62,7 @@ class CardRun {
         int start = 0;
         QString variable;
         double counter = 0;
+        double mostRounds = 0;
     };
     RecordLoop loop;  // the one active record loop
 
@@ -72,6 +80,7 @@ class CardRun {
     int lineNo_ = 0;
     bool hasData_ = true;
     bool abandoned_ = false;
+    QStringList templateFaults_;
     QString expanded_;  // the current line's argument
     OutputFiles files_;
 };

@@ -1,6 +1,5 @@
 #include "engine/card_script.h"
 
-#include <QFileInfo>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +21,11 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
 }
 
 }  // namespace
+
+// A copy that keeps the other file's time and has its size still changes when this one was last changed as a file.
+ScriptStamp scriptStamp(const QFileInfo& info) {
+    return {info.lastModified(), info.fileTime(QFileDevice::FileMetadataChangeTime), info.size()};
+}
 
 QString cleanedScriptLine(QString line) {
     line.remove(u'\t');
@@ -61,7 +65,7 @@ CardScript::CardScript(const QString& path, const QString& language, const AppFo
 
 QStringList CardScript::readSource(const QString& path, const TextFiles& files) {
     const QFileInfo info(path);
-    sources_.push_back({path, info.lastModified(), info.size()});
+    sources_.push_back({path, scriptStamp(info)});
     return files.readLines(path);
 }
 
@@ -82,7 +86,7 @@ int CardScript::findBlockEnd(QStringView label, int from) const {
 bool CardScript::isCurrent() const {
     return std::ranges::all_of(sources_, [](const Source& source) {
         const QFileInfo info(source.path);
-        return info.exists() && info.lastModified() == source.modified && info.size() == source.size;
+        return info.exists() && scriptStamp(info) == source.stamp;
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QHash>
 #include <QString>
 #include <memory>
@@ -36,6 +37,17 @@ struct LineCondition {
     std::unique_ptr<ScriptLine> elseLine;
 };
 
+// What tells one version of a script file from another.
+struct ScriptStamp {
+    QDateTime modified;
+    QDateTime changed;
+    qint64 size = 0;
+
+    bool operator==(const ScriptStamp&) const = default;
+};
+
+ScriptStamp scriptStamp(const QFileInfo& file);
+
 // A card's script with its includes put in.
 class CardScript {
  public:
@@ -54,8 +66,7 @@ class CardScript {
  private:
     struct Source {
         QString path;
-        QDateTime modified;
-        qint64 size = 0;
+        ScriptStamp stamp;
     };
 
     QStringList readSource(const QString& path, const TextFiles& files);

@@ -21,8 +21,12 @@ struct Command {
         Text,
         Variable,        // the whole name of a variable that is set
         VariableName,    // the same without its "@"
+        WrittenName,     // the same, its placeholders not replaced
         VariablePrefix,  // @argument_... are set
+        WrittenPrefix,   // the same, its placeholders not replaced
+        ReplacedText,    // a variable that is set, and the text that it is made of
         Card,
+        AutoCard,  // a card that the game clock or the local clock runs
         Include,
         Formula,
         Expression,
@@ -34,7 +38,23 @@ struct Command {
         LoopEnd,
         AskField,
         Button,
-        Query,  // its placeholders are replaced when the query runs
+        ColourValue,
+        Label,
+        TextBox,
+        Form,
+        Proposal,  // the number of a proposal label
+        Slot,      // row-column
+        Tag,       // key:answer##...
+        Character,
+        Number,
+        WholeNumber,
+        Places,      // decimal places
+        FeedNumber,  // read as far as it is a number
+        Field,       // of a template; its value is the last argument
+        RemoteField,
+        Query,        // its placeholders are replaced when the query runs
+        CommandLine,  // to a server; one that holds "PLAY" waits
+        Waits,        // holds up everything else while it is done
     };
     using Roles = std::array<Role, 4>;
 

@@ -1,5 +1,8 @@
 #include "engine/template_xml.h"
 
+#include <algorithm>
+#include <array>
+
 #include "engine/arguments.h"
 
 using namespace Qt::StringLiterals;
@@ -73,7 +76,28 @@ class XmlWriter {
     QStringView type_;
 };
 
+struct BreakingCharacter {
+    QChar character;
+    QStringView name;
+};
+
+constexpr std::array kBreaking{
+    BreakingCharacter{u'\'', u"a quote"}, BreakingCharacter{u'"', u"a quote"},      BreakingCharacter{u'<', u"a \"<\""},
+    BreakingCharacter{u'&', u"an \"&\""}, BreakingCharacter{u'\\', u"a backslash"},
+};
+
 }  // namespace
+
+QStringList templateFaults(const VariableStore& fields) {
+    QStringList faults;
+    fields.forEach([&](const QString& key, const Value& value) {
+        const QString text = value.text();
+        const auto* broken = std::ranges::find_if(
+            kBreaking, [&](const BreakingCharacter& breaking) { return text.contains(breaking.character); });
+        if (broken != kBreaking.end()) faults += key.section(u'*', 1) + u" holds "_s + broken->name;
+    });
+    return faults;
+}
 
 QString makeXml(const VariableStore& fields) {
     XmlWriter xml;

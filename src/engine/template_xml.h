@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "engine/variable_store.h"
 
@@ -15,5 +16,8 @@ QString makeXml(const VariableStore& fields);
 // Meant to differ: the key's third character is the animation, the rest from the fifth on the id, and a value with "|"
 // needs three pieces. Throws 9 for fewer.
 QString makeRemoteXml(const VariableStore& fields);
+
+// What stands in the fields' values that breaks the XML, which escapes nothing: "NAME holds a quote", each field once.
+QStringList templateFaults(const VariableStore& fields);
 
 }  // namespace zelvor

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <string_view>
 
@@ -28,12 +29,12 @@ class Arguments {
 };
 
 // Local date and time: days since 30 December 1899, the time of day their fraction.
-using LocalClock = double (*)();
+using LocalClock = std::function<double()>;
 
 // What a formula gives its functions beside their arguments, and what they may leave there.
 struct Context {
     Angle angle = Angle::Rad;
-    LocalClock clock = nullptr;
+    LocalClock clock = {};
     std::uint64_t randomState = 0;
     std::string_view warning;
 };

@@ -2,25 +2,38 @@
 
 #include <boost/math/special_functions/airy.hpp>
 #include <boost/math/special_functions/bessel.hpp>
+#include <cmath>
 
 #include "expr/guarded.h"
 
 namespace zelvor::expr {
 
+namespace {
+
+// The time that a value takes grows with the order. The functions fail beyond this one.
+constexpr double kLargestOrder = 100'000;
+
+template <class Function>
+double ofOrder(double order, Function function) {
+    return std::abs(order) <= kLargestOrder ? guarded(function) : kFailed;
+}
+
+}  // namespace
+
 double besselI(double x, double order) {
-    return guarded([=] { return boost::math::cyl_bessel_i(order, x); });
+    return ofOrder(order, [=] { return boost::math::cyl_bessel_i(order, x); });
 }
 
 double besselJ(double x, double order) {
-    return guarded([=] { return boost::math::cyl_bessel_j(order, x); });
+    return ofOrder(order, [=] { return boost::math::cyl_bessel_j(order, x); });
 }
 
 double besselK(double x, double order) {
-    return guarded([=] { return boost::math::cyl_bessel_k(order, x); });
+    return ofOrder(order, [=] { return boost::math::cyl_bessel_k(order, x); });
 }
 
 double besselY(double x, double order) {
-    return guarded([=] { return boost::math::cyl_neumann(order, x); });
+    return ofOrder(order, [=] { return boost::math::cyl_neumann(order, x); });
 }
 
 double besselI0(double x) {

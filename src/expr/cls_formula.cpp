@@ -45,7 +45,7 @@ bool isComparison(Operation operation) {
 }
 
 clsFormula::clsFormula(LocalClock clock) {
-    context_.clock = clock;
+    context_.clock = std::move(clock);
     std::random_device device;
     context_.randomState = (std::uint64_t{device()} << 32U) | device();
 }
@@ -63,6 +63,8 @@ bool clsFormula::StoreExpression(std::string_view formula) {
         Eval();
         return false;
     }
+    // What the formula before this one computed is none of its results.
+    std::fill_n(table_.slots.begin() + EvaluationTable::kFirstResult, table_.rows.size(), kFailed);
     restoreValues();
     return true;
 }

@@ -130,12 +130,14 @@ void Compiler::scanOperator() {
 }
 
 void Compiler::finish() {
-    if (operandExpected_ && (pending_.empty() || pending_.back().kind == Kind::Operator)) return operandMissing();
-    if (!operandExpected_) reduceToOpener();
-    if (!pending_.empty()) {
-        const Pending& opener = pending_.back();
-        return fail(opener.kind == Kind::Bar ? ErrorCode::BarsMismatch : ErrorCode::NotEnoughClosers, opener.position);
+    const auto opener = std::ranges::find_if(pending_.rbegin(), pending_.rend(),
+                                             [](const Pending& p) { return p.kind != Kind::Operator; });
+    if (opener != pending_.rend()) {
+        return fail(opener->kind == Kind::Bar ? ErrorCode::BarsMismatch : ErrorCode::NotEnoughClosers,
+                    opener->position);
     }
+    if (operandExpected_) return operandMissing();
+    reduceToOpener();
     table_->value = operands_.back().slot;
     orderRows();
 }
@@ -260,8 +262,8 @@ void Compiler::separateArguments() {
 }
 
 void Compiler::close() {
+    if (!isBracketOpen()) return fail(ErrorCode::TooManyClosers, at_);
     reduceToOpener();
-    if (pending_.empty()) return fail(ErrorCode::TooManyClosers, at_);
     const Pending opener = pending_.back();
     if (opener.kind == Kind::Bar) return fail(ErrorCode::BarsMismatch, opener.position);
     if (opener.kind == Kind::Call) {
@@ -287,10 +289,15 @@ void Compiler::closeBar() {
 void Compiler::operandMissing() {
     const char c = at_ < formula_.size() ? formula_[at_] : '\0';
     const bool ended = c == '\0' || isCloser(c) || c == kArgumentSeparator;
-    if (pending_.empty() && isCloser(c)) return fail(ErrorCode::TooManyClosers, at_);
+    if (isCloser(c) && !isBracketOpen()) return fail(ErrorCode::TooManyClosers, at_);
     const bool wanted =
         !pending_.empty() && (pending_.back().kind == Kind::Operator || pending_.back().kind == Kind::Call);
     fail(ended && wanted ? ErrorCode::MissingArgument : ErrorCode::SyntaxAtPosition, at_);
+}
+
+bool Compiler::isBracketOpen() const {
+    return std::ranges::any_of(pending_,
+                               [](const Pending& p) { return p.kind == Kind::Bracket || p.kind == Kind::Call; });
 }
 
 // True where a group of degrees would be the argument of `dec`, signs aside.

@@ -61,6 +61,7 @@ class Compiler {
     void closeBar();
     void operandMissing();
 
+    [[nodiscard]] bool isBracketOpen() const;
     [[nodiscard]] bool isInsideDec() const;
     // Makes rows of the waiting operators of at least this priority, back to the last opener.
     void reduce(std::int32_t priority);

@@ -81,6 +81,8 @@ double secondOf(double date) {
 
 double dateSerial(double year, double month, double day) {
     if (!isPart(year) || !isPart(month) || !isPart(day)) return kFailed;
+    // Years of two digits lie in 1930 to 2029, as those of script expressions do.
+    if (year >= 0 && year < 100) year += year < 30 ? 2000 : 1900;
     const double months = year * 12 + month - 1;
     const double wholeYear = std::floor(months / 12);
     // Days may carry over by a few years, not by centuries of centuries.

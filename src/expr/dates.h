@@ -11,7 +11,8 @@ double hourOf(double date);
 double minuteOf(double date);
 double secondOf(double date);
 
-// Whole numbers; months, days, hours, minutes and seconds beyond their usual range carry over.
+// Whole numbers; months, days, hours, minutes and seconds beyond their usual range carry over. Years 0 to 99 are
+// 1930 to 2029.
 double dateSerial(double year, double month, double day);
 double timeSerial(double hour, double minute, double second);
 

@@ -35,7 +35,7 @@ Line describeRow(const EvaluationTable& table, std::size_t index, std::string_vi
     line[1] = std::to_string(row.argumentCount);
     if (row.argumentCount > 0) describeArgument(table, row.first, &line[2]);
     if (row.argumentCount > 1) describeArgument(table, row.second, &line[5]);
-    line[10] = plain::numberText(table.slots[row.result]);
+    if (!std::isnan(table.slots[row.result])) line[10] = plain::numberText(table.slots[row.result]);
     line[11] = std::to_string(row.priority);
     line[12] = std::to_string(characterPosition(formula, row.position));
     line[13] = std::to_string(index + 1);

@@ -29,10 +29,19 @@ constexpr std::array kNamedColours{
     NamedColour{u"darkred", rgb(139, 0, 0)},  NamedColour{u"gold", rgb(255, 215, 0)},
 };
 
+// A colour that the platform looks up in its theme: &H80000000 and the number of the part, or the same number signed.
+bool isSystemColour(double number) {
+    constexpr double kFirst = 0x80000000;
+    constexpr double kLastPart = 0x1E;
+    if (number < 0) number += 2 * kFirst;
+    return number >= kFirst && number <= kFirst + kLastPart;
+}
+
 }  // namespace
 
-Colour parseColour(QStringView text) {
+std::optional<Colour> parseColour(QStringView text) {
     const QStringView trimmed = text.trimmed();
+    if (trimmed.isEmpty()) return std::nullopt;
     const auto* named = std::ranges::find_if(kNamedColours, [&](const NamedColour& candidate) {
         return trimmed.compare(candidate.name, Qt::CaseInsensitive) == 0;
     });
@@ -47,6 +56,7 @@ Colour parseColour(QStringView text) {
         throw RunTimeError(ErrorNumber::TypeMismatch, trimmed.toString());
     }
     number = plain::roundHalfEven(number);
+    if (isSystemColour(number)) return std::nullopt;
     if (!(number >= 0 && number <= 0xFFFFFF)) throw RunTimeError(ErrorNumber::InvalidPropertyValue, trimmed.toString());
     return static_cast<Colour>(number);
 }

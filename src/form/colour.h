@@ -24,8 +24,9 @@ constexpr Colour kScreenModeOn = rgb(25, 255, 25);
 constexpr Colour kScreenModeOff = rgb(255, 25, 25);
 }  // namespace colours
 
-// A colour number (decimal or &H) or a common English colour name in any case. Throws 13 Type mismatch for anything
-// else and 380 Invalid property value for a number outside 0 to 0xFFFFFF.
-Colour parseColour(QStringView text);
+// A colour number (decimal or &H) or a common English colour name in any case; nullopt, the theme's own colour, for an
+// empty text and for a system colour such as &H8000000F. Throws 13 Type mismatch for anything else and 380 Invalid
+// property value for a number that is no colour.
+std::optional<Colour> parseColour(QStringView text);
 
 }  // namespace zelvor

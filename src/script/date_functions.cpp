@@ -95,8 +95,10 @@ qint64 secondsOf(Interval interval) {
     }
 }
 
-QDateTime now(Environment& environment) {
-    return environment.clock();
+// In whole seconds, the current one cut: Now is never ahead of Time.
+QDateTime wholeSecond(Environment& environment) {
+    const QDateTime now = environment.clock();
+    return now.addMSecs(-now.time().msec());
 }
 
 Value name(std::span<const QStringView> names, qint64 number, bool abbreviated) {
@@ -108,7 +110,7 @@ Value name(std::span<const QStringView> names, qint64 number, bool abbreviated) 
 }  // namespace
 
 Value date(const Arguments& args) {
-    return Value::fromDateTime(QDateTime(now(args.environment()).date(), QTime(0, 0)));
+    return Value::fromDateTime(QDateTime(wholeSecond(args.environment()).date(), QTime(0, 0)));
 }
 
 Value dateAdd(const Arguments& args) {
@@ -224,7 +226,7 @@ Value monthName(const Arguments& args) {
 }
 
 Value now(const Arguments& args) {
-    return Value::fromDateTime(now(args.environment()));
+    return Value::fromDateTime(wholeSecond(args.environment()));
 }
 
 Value second(const Arguments& args) {
@@ -232,11 +234,11 @@ Value second(const Arguments& args) {
 }
 
 Value time(const Arguments& args) {
-    return serialDate({0, now(args.environment()).time().msecsSinceStartOfDay() / 1000});
+    return serialDate({0, wholeSecond(args.environment()).time().msecsSinceStartOfDay() / 1000});
 }
 
 Value timer(const Arguments& args) {
-    return now(args.environment()).time().msecsSinceStartOfDay() / 1000.0;
+    return args.environment().clock().time().msecsSinceStartOfDay() / 1000.0;
 }
 
 Value timeSerial(const Arguments& args) {

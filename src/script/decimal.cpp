@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace zelvor::script {
 
@@ -28,24 +29,19 @@ bool roundsUp(const std::string& digits, size_t at, Halves halves) {
     return at > 0 && (digits[at - 1] - '0') % 2 != 0;
 }
 
-}  // namespace
-
-Decimal decimalOf(double number, int places, Halves halves) {
-    // "-1.23456789012345e+02"
-    std::array<char, 32> buffer{};
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                       std::chars_format::scientific, kSignificantDigits - 1);
-    const std::string text(buffer.data(), written.ptr);
+// The decimal of "-1.23456789012345e+02".
+Decimal decimalOfText(const std::string& text, int places, Halves halves) {
     Decimal decimal;
     const size_t first = text.front() == '-' ? 1 : 0;
     const size_t exponentAt = text.find('e');
-    std::string digits = text.substr(first, 1) + text.substr(first + 2, exponentAt - first - 2);
+    std::string digits = text.substr(first, exponentAt - first);
+    if (digits.size() > 1) digits.erase(1, 1);  // the point
     int pointAt = std::stoi(text.substr(exponentAt + 1)) + 1;
 
     const int keep = pointAt + places;
     if (keep < 0) {
         digits.clear();
-    } else if (keep < kSignificantDigits) {
+    } else if (keep < static_cast<int>(digits.size())) {
         const bool up = roundsUp(digits, static_cast<size_t>(keep), halves);
         digits.resize(static_cast<size_t>(keep));
         if (up && addOne(digits)) {
@@ -63,6 +59,25 @@ Decimal decimalOf(double number, int places, Halves halves) {
     decimal.negative =
         first == 1 && (!decimal.whole.empty() || decimal.fraction.find_first_not_of('0') != std::string::npos);
     return decimal;
+}
+
+}  // namespace
+
+Decimal decimalOf(double number, int places, Halves halves) {
+    std::array<char, 32> buffer{};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                       std::chars_format::scientific, kSignificantDigits - 1);
+    return decimalOfText({buffer.data(), written.ptr}, places, halves);
+}
+
+double roundedTo(double number, int places, Halves halves) {
+    // Fifteen digits where they reach, so that 0.1 + 0.2 rounds as 0.3 does; all that the number has beyond.
+    const double digits = std::floor(std::log10(std::abs(number))) + 1 + places;
+    if (!(digits >= kSignificantDigits)) return numberOf(decimalOf(number, places, halves));
+    std::array<char, 32> buffer{};
+    const auto written =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific);
+    return numberOf(decimalOfText({buffer.data(), written.ptr}, places, halves));
 }
 
 double numberOf(const Decimal& decimal) {

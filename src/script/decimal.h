@@ -18,6 +18,9 @@ Decimal decimalOf(double number, int places, Halves halves);
 
 double numberOf(const Decimal& decimal);
 
+// The number rounded to `places` decimals, 0 or more. Digits beyond the fifteenth are kept where the places reach them.
+double roundedTo(double number, int places, Halves halves);
+
 // The digits with "," before every third from the right.
 std::string grouped(const std::string& whole);
 

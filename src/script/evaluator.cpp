@@ -15,9 +15,11 @@ Value Evaluator::evaluate(QStringView expression) const {
     return evaluateText(expression, environment);
 }
 
-void Evaluator::check(QStringView expression) const {
+QStringList Evaluator::check(QStringView expression) const {
     Environment environment{.clock = clock_, .random = random_, .depth = 0, .lastRandom = std::nullopt};
-    Parser(expression, environment, Parser::Mode::CheckOnly).parse();
+    Parser parser(expression, environment, Parser::Mode::CheckNames);
+    parser.parse();
+    return parser.emptyNames();
 }
 
 }  // namespace zelvor::script

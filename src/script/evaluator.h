@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QStringList>
 #include <QStringView>
 #include <functional>
 
@@ -26,8 +27,9 @@ class Evaluator {
     // evaluated. An expression that cannot be read to its end is reported as such whatever its beginning does.
     [[nodiscard]] Value evaluate(QStringView expression) const;
 
-    // Reads the whole expression and computes nothing. Throws as evaluate does for what cannot be read.
-    void check(QStringView expression) const;
+    // Reads the whole expression and computes nothing. Gives the names in it that stand for nothing. Throws as evaluate
+    // does for what cannot be read, for a call of an unknown name and for a wrong number of arguments.
+    [[nodiscard]] QStringList check(QStringView expression) const;
 
  private:
     Clock clock_;

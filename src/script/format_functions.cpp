@@ -6,6 +6,7 @@
 #include "script/date_text.h"
 #include "script/decimal.h"
 #include "script/functions.h"
+#include "script/grouped_number.h"
 #include "script/operators.h"
 #include "script/pattern.h"
 
@@ -67,7 +68,7 @@ Value format(const Arguments& args) {
     const PatternKind kind = kindOf(pattern);
     if (kind == PatternKind::Text) return formatText(text, pattern);
     double number = 0;
-    const bool isNumber = value.isText() ? readNumber(text, number) : true;
+    const bool isNumber = value.isText() ? readNumberText(text, number) : true;
     if (!value.isText()) number = value.number();
     if (kind == PatternKind::Date) {
         if (isNumber) return formatDate(checkedDate(number), pattern, rule);

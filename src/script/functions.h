@@ -11,6 +11,12 @@ using Handler = Value(const Arguments&);
 Handler asc, ascW, chr, chrW, filter, inStr, inStrRev, joined, lCase, left, len, lTrim, mid, replace, right, rTrim,
     space, split, strComp, string, strReverse, trim, uCase;
 
+// byte_functions.cpp
+Handler ascB, chrB, inStrB, leftB, lenB, midB, rightB;
+
+// escape_functions.cpp
+Handler escape, unescape, xmlText;
+
 // number_functions.cpp
 Handler absolute, arcTangent, cosine, exponential, fix, hex, integer, logarithm, oct, rgb, rnd, round, sign, sine,
     squareRoot, tangent;
@@ -21,7 +27,7 @@ Handler date, dateAdd, dateDiff, datePart, dateSerial, dateValue, day, hour, min
 
 // value_functions.cpp
 Handler array, cBool, cByte, cCur, cDate, cDbl, cInt, cLng, cSng, cStr, eval, iif, isArray, isDate, isEmpty, isNull,
-    isNumeric, lBound, typeName, uBound, varType;
+    isNumeric, isObject, lBound, typeName, uBound, varType;
 
 // format_functions.cpp
 Handler format, formatCurrency, formatDateTime, formatNumber, formatPercent;

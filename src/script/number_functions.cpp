@@ -104,9 +104,8 @@ Value round(const Arguments& args) {
     constexpr qint64 kMostPlaces = 22;
     const qint64 places = args.whole(1, 0);
     require(places >= 0 && places <= kMostPlaces);
-    return rounded(args, [places](double number) {
-        return numberOf(decimalOf(number, static_cast<int>(places), Halves::ToEven));
-    });
+    return rounded(args,
+                   [places](double number) { return roundedTo(number, static_cast<int>(places), Halves::ToEven); });
 }
 
 Value sign(const Arguments& args) {

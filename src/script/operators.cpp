@@ -8,6 +8,7 @@
 #include "base/run_time_error.h"
 #include "script/arguments.h"
 #include "script/date_text.h"
+#include "script/grouped_number.h"
 #include "script/lexer.h"
 
 using namespace Qt::StringLiterals;
@@ -42,7 +43,7 @@ bool isDate(const Value& value) {
 
 bool isNumberText(const Value& value, double& number) {
     const auto* text = value.as<QString>();
-    return text != nullptr && readNumber(*text, number);
+    return text != nullptr && readNumberText(*text, number);
 }
 
 std::optional<bool> readTruth(const Value& value) {
@@ -139,7 +140,7 @@ double numberOf(const Value& value) {
     const auto* text = value.as<QString>();
     if (text == nullptr) return value.number();
     double number = 0;
-    if (!readNumber(*text, number)) {
+    if (!readNumberText(*text, number)) {
         throw RunTimeError(ErrorNumber::TypeMismatch, u"'[string: \""_s + text->left(kQuotedInErrors) + u"\"]'"_s);
     }
     return number;

@@ -233,11 +233,15 @@ Value Parser::name() {
     lexer_.advance();
     if (function != nullptr) return indexed(call(*function, position));
     if (auto constant = findConstant(name)) return indexed(std::move(*constant));
-    if (lexer_.token() != Token::LeftBracket) return {};
+    if (lexer_.token() != Token::LeftBracket) {
+        if (checkingNames()) emptyNames_ += name.toString();
+        return {};
+    }
     const size_t first = arguments_.size();
     readArguments();
     arguments_.resize(first);
-    if (!checking()) throw RunTimeError(ErrorNumber::TypeMismatch, u'\'' + name + u'\'').atPosition(position);
+    if (mode_ != Mode::CheckOnly)
+        throw RunTimeError(ErrorNumber::TypeMismatch, u'\'' + name + u'\'').atPosition(position);
     return indexed({});
 }
 
@@ -245,7 +249,7 @@ Value Parser::call(const Function& function, int position) {
     const size_t first = arguments_.size();
     if (lexer_.token() == Token::LeftBracket) readArguments();
     Value result;
-    if (!checking()) {
+    if (mode_ != Mode::CheckOnly) {
         const auto given = std::span<const Argument>(arguments_).subspan(first);
         try {
             const auto required = given.first(std::min(given.size(), static_cast<size_t>(function.least)));
@@ -253,7 +257,9 @@ Value Parser::call(const Function& function, int position) {
                 !std::ranges::all_of(required, &Argument::given)) {
                 throw RunTimeError(ErrorNumber::WrongNumberOfArguments);
             }
-            if (function.nullRule == Function::NullRule::Spreads && given[0].value.isNull()) {
+            if (checkingNames()) {
+                result = {};
+            } else if (function.nullRule == Function::NullRule::Spreads && given[0].value.isNull()) {
                 result = Value::Null{};
             } else {
                 result = function.handler(Arguments(given, environment_));

@@ -64,14 +64,17 @@ class NumberSection {
     [[nodiscard]] QString text(double magnitude, bool& isZero) const {
         int shift = 0;
         double scaled = magnitude * scale_;
+        const auto places = static_cast<int>(std::count_if(at(point_), at(exponent_), isDigitPlace));
+        const auto wanted = std::max<size_t>(1, static_cast<size_t>(std::count_if(at(0), at(point_), isDigitPlace)));
         if (hasExponent() && scaled != 0) {
-            const int wanted = std::max(1, static_cast<int>(std::count_if(at(0), at(point_), isDigitPlace)));
-            shift = static_cast<int>(std::floor(std::log10(scaled))) - wanted + 1;
+            shift = static_cast<int>(std::floor(std::log10(scaled))) - static_cast<int>(wanted) + 1;
             scaled = magnitude * scale_ / std::pow(10.0, shift);
         }
         if (!std::isfinite(scaled)) scaled = magnitude;
-        const auto places = static_cast<int>(std::count_if(at(point_), at(exponent_), isDigitPlace));
-        const Decimal decimal = decimalOf(scaled, places, Halves::AwayFromZero);
+        Decimal decimal = decimalOf(scaled, places, Halves::AwayFromZero);
+        // 9.999 in the pattern 0.00E+00 is 1.00E+01.
+        if (hasExponent() && decimal.whole.size() > wanted)
+            decimal = decimalOf(magnitude * scale_ / std::pow(10.0, ++shift), places, Halves::AwayFromZero);
         const bool hasPlaces = std::any_of(at(0), at(exponent_), isDigitPlace);
         const bool roundsToZero = decimal.whole.empty() && decimal.fraction.find_first_not_of('0') == std::string::npos;
         isZero = magnitude == 0 || (hasPlaces && roundsToZero);

@@ -40,6 +40,13 @@ Value repeated(qint64 count, QChar character) {
     return QString(count, character);
 }
 
+// Letter by letter, so that the length stays: a letter whose other case is two letters stays as it is.
+template <class Change>
+Value letterByLetter(QString text, Change change) {
+    for (QChar& letter : text) letter = change(letter);
+    return text;
+}
+
 // A limit on pieces or replacements: -1 is none.
 qint64 limitOf(const Arguments& args, qsizetype index) {
     const qint64 limit = args.whole(index, -1);
@@ -129,7 +136,7 @@ Value joined(const Arguments& args) {
 }
 
 Value lCase(const Arguments& args) {
-    return args.text(0).string().toLower();
+    return letterByLetter(args.text(0).string(), [](QChar letter) { return letter.toLower(); });
 }
 
 Value left(const Arguments& args) {
@@ -243,7 +250,7 @@ Value trim(const Arguments& args) {
 }
 
 Value uCase(const Arguments& args) {
-    return args.text(0).string().toUpper();
+    return letterByLetter(args.text(0).string(), [](QChar letter) { return letter.toUpper(); });
 }
 
 }  // namespace zelvor::script::functions

@@ -6,6 +6,7 @@
 #include "script/date_text.h"
 #include "script/decimal.h"
 #include "script/functions.h"
+#include "script/grouped_number.h"
 #include "script/operators.h"
 #include "script/parser.h"
 
@@ -24,7 +25,7 @@ bool is16Bits(qint64 number) {
 bool readsAsNumber(const QString& text) {
     try {
         double number = 0;
-        return readNumber(text, number);
+        return readNumberText(text, number);
     } catch (const RunTimeError&) {
         return false;  // a number too large to hold
     }
@@ -59,7 +60,7 @@ Value cCur(const Arguments& args) {
     constexpr double kLargest = 922337203685477.5807;
     const double number = args.number(0);
     if (std::abs(number) > kLargest) throw RunTimeError(ErrorNumber::Overflow);
-    return numberOf(decimalOf(number, 4, Halves::ToEven));
+    return roundedTo(number, 4, Halves::ToEven);
 }
 
 Value cDate(const Arguments& args) {
@@ -127,6 +128,11 @@ Value isNumeric(const Arguments& args) {
         default:
             return false;
     }
+}
+
+// There are no objects.
+Value isObject(const Arguments&) {
+    return false;
 }
 
 Value lBound(const Arguments& args) {

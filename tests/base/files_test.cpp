@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,9 @@ class Files : public testing::Test {
 TEST_F(Files, AreReadAsUtf8OrInTheCodePage) {
     const TextFiles files;
     EXPECT_EQ((QStringList{u"Γιώργος"_s, u""_s, u"b"_s}), files.readLines(write(u"a"_s, "\xEF\xBB\xBFΓιώργος\r\n\nb")));
+    EXPECT_EQ((QStringList{u"Γ"_s, u""_s, u"b"_s}),
+              files.readLines(write(u"u"_s, QByteArray("\xFF\xFE\x93\x03\r\0\r\0b\0", 10))));
+    EXPECT_EQ(u"#b"_s, files.read(write(u"v"_s, QByteArray("\0#\0b", 4))));
     // Ά is 0xA2 in windows-1253 and 0xB6 in ISO-8859-7.
     EXPECT_EQ(u"Άλφα"_s, files.read(write(u"b"_s, "\xA2\xEB\xF6\xE1")));
     const TextFiles greek("ISO-8859-7");
@@ -48,6 +52,10 @@ TEST_F(Files, ThatCannotBeReadSayWhy) {
     EXPECT_EQ(53, readError(folder_.filePath(u"none"_s)));
     EXPECT_EQ(76, readError(folder_.filePath(u"none/none"_s)));
     EXPECT_EQ(75, readError(folder_.path()));
+    const QString pipe = folder_.filePath(u"pipe"_s);
+    ASSERT_EQ(0, mkfifo(qPrintable(pipe), 0600));
+    EXPECT_THROW(replaceFile(pipe, "x"), RunTimeError);
+    EXPECT_FALSE(QFileInfo(pipe).isFile());
     QFile large(folder_.filePath(u"large"_s));
     ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(TextFiles::kLargestFile + 1));
     EXPECT_EQ(7, readError(large.fileName()));

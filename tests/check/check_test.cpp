@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <array>
 
 #include "app_check/check_command.h"
@@ -48,6 +51,23 @@ TEST(Check, HasNothingToSayAboutTheDemo) {
     const CheckRun check({u"--app-folder"_s, QStringLiteral(DEMO_FOLDER)});
     EXPECT_EQ(check.out.toStdString(), "0 errors, 0 warnings\n");
     EXPECT_EQ(check.status, 0);
+}
+
+TEST(Check, ReportsForOtherTools) {
+    const auto report = [](const QString& format) {
+        const CheckRun check({u"--app-folder"_s, kBroken, u"--format"_s, format, u"FLOW"_s});
+        EXPECT_EQ(check.status, 1);
+        return QJsonDocument::fromJson(check.out.toUtf8()).object();
+    };
+    const QJsonObject json = report(u"json"_s);
+    const QJsonObject first = json[u"findings"_s].toArray()[1].toObject();
+    EXPECT_EQ(first[u"file"_s].toString(), u"MODULES/QRD_FLOW/flow.csp"_s);
+    EXPECT_EQ(first[u"line"_s].toInt(), 5);
+    EXPECT_EQ(first[u"severity"_s].toString(), u"error"_s);
+    EXPECT_EQ(json[u"warnings"_s].toInt(), 1);
+    const QJsonArray results = report(u"sarif"_s)[u"runs"_s].toArray()[0].toObject()[u"results"_s].toArray();
+    EXPECT_EQ(results.size(), json[u"findings"_s].toArray().size());
+    EXPECT_EQ(results[1].toObject()[u"message"_s].toObject()[u"text"_s], first[u"text"_s]);
 }
 
 TEST(Check, TellsItsUsage) {

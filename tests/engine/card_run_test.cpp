@@ -27,7 +27,14 @@ TEST_F(CardRuns, ScriptsAndIncludesAreReadAgainWhenTheyChange) {
     write(u"QRD_TT/part.inc"_s, "CSPSEND~bb\r\n");
     run("INCLUDE~part.inc\r\n");
     run("INCLUDE~part.inc\r\nCSPSEND~c\r\n");
-    EXPECT_EQ((QStringList{u"ma"_s, u"mbb"_s, u"mbb"_s, u"mc"_s}), graphics.sent);
+    // Another version of the same size put in its place with its own time kept.
+    const QString part = folder.resolve(folder.packFile(u"TT", u"part.inc"));
+    const QDateTime before = QFileInfo(part).lastModified();
+    write(u"QRD_TT/part.inc"_s, "CSPSEND~dd\r\n");
+    QFile file(part);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(before, QFileDevice::FileModificationTime));
+    EXPECT_EQ(Outcome::Ran, engine.SHOW_TVCARD(u"card.qrd"_s, false, false, {}));
+    EXPECT_EQ((QStringList{u"ma"_s, u"mbb"_s, u"mbb"_s, u"mc"_s, u"mdd"_s, u"mc"_s}), graphics.sent);
 }
 
 TEST_F(CardRuns, HistoryAndLogTellWhatACardDid) {

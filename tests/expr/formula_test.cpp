@@ -104,6 +104,8 @@ TEST(Formula, ReportsWhatIsWrongAndWhere) {
         {"1+foo(2)", 6, 3, "Function < foo > unknown at pos: 3"},
         {"pi(2)", 6, 1, "Function < pi > unknown at pos: 1"},
         {"1+2)", 7, 4, "Too many closing brackets at pos: 4"},
+        {"|3)|", 7, 3, "Too many closing brackets at pos: 3"},
+        {"(1+", 11, 1, "Not enough closing brackets"},
         {"sin()", 8, 5, "missing argument"},
         {"comb(,1)", 8, 6, "missing argument"},
         {"1+", 8, 3, "missing argument"},

@@ -66,6 +66,7 @@ TEST(Functions, GiveTheirValues) {
         // Dates
         {"DateSerial(1899,12,30)", 0},
         {"DateSerial(2024,2,30)", 45352},
+        {"Year(DateSerial(29,13,1)) * 10000 + Year(DateSerial(30,1,1))", 20301930},
         {"DateSerial(2024,14,1)", 45689},
         {"Year(45352.5)*10000+Month(45352)*100+Day(45352)", 20240301},
         {"TimeSerial(18,30,0)", 0.770833333333333370},
@@ -166,7 +167,8 @@ TEST(Functions, FailOutsideTheirDomain) {
         {{"wpulsef"}, {"1,1,0"}},
         {{"wring"}, {"1,0,1,1"}},
         {{"Clip"}, {"1,3,2"}},
-        {{"DateSerial"}, {"99,1,1", "10000,1,1", "2024,1.5,1"}},
+        {{"BesselI", "BesselJ", "BesselK", "BesselY"}, {"1,2000000000"}},
+        {{"DateSerial"}, {"-1,1,1", "10000,1,1", "2024,1.5,1"}},
         {{"TimeSerial"}, {"1e12,0,0"}},
     };
     clsFormula formula;

@@ -235,6 +235,29 @@ TEST(Evaluator, Formats) {
     check(kRows);
 }
 
+TEST(Evaluator, WhatBelongsToTheLanguageBesides) {
+    static constexpr std::array kRows{
+        Row{"Array(Now, Time, Now <= Date + Time, Timer)", "[2026-11-21 20:31:07, 20:31:07, True, 73867.25]"},
+        Row{"Array(Len(UCase('Μαΐου')), LCase('ΌΣΟΣ'), UCase('straße'))", "[5, |όσοσ|, |STRAßE|]"},
+        Row{"Array(CDbl('1,234.5'), CInt('-1,234'), IsNumeric('1,234,567'), '1,000'+1)", "[1234.5, -1234, True, 1001]"},
+        Row{"Array(CDbl(FormatCurrency(-1234.5)), IsNumeric('1,5'), IsNumeric(',123'), IsNumeric('12,34,567'))",
+            "[-1234.5, False, False, False]"},
+        Row{"Array(vbRed, vbCyan, vbObjectError, vbArray, Len(vbNullChar), AscW(vbFormFeed))",
+            "[255, 16776960, -2147221504, 8192, 1, 12]"},
+        Row{"Array(Round(12345678901234567)-12345678901234567, Round(123456789012.3456,3)-123456789012.346)", "[0, 0]"},
+        Row{"Array(Round(2.5), Round(0.1+0.2,1), Round(-0.145,2))", "[2, 0.3, -0.14]"},
+        Row{"Array(Format(9.999,'0.00E+00'), Format(99.99,'00.0E+00'), Format(0.0099999,'0.0E-00'))",
+            "[|1.00E+01|, |10.0E+01|, |1.0E-02|]"},
+        Row{"Array(Escape('Ω a/b'''), Unescape('%u03A9%20%zz%'), Unescape(Escape('a%Ω;')))",
+            "[|%u03A9%20a/b%27|, |Ω %zz%|, |a%Ω;|]"},
+        Row{"Array(LenB('abc'), LeftB('abc',3), RightB('abc',2), MidB('abc',3,2), InStrB('abc','b'), AscB(ChrB(200)))",
+            "[6, |ab|, |c|, |b|, 3, 200]"},
+        Row{"Array(IsObject(Empty), XmlText('O''N & \"<5>\" a|b#c;d\\\\'))",
+            "[False, |O’N ＆ ”‹5›” a¦b＃c;d＼＼|]"},
+    };
+    check(kRows);
+}
+
 TEST(Evaluator, ReferenceIsUpToDate) {
     QFile file(QStringLiteral(TEST_DATA_DIR "/../../docs/script-expressions.md"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));

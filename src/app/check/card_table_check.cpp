@@ -16,7 +16,7 @@ class CardTableCheck {
     CardTableCheck(const QString& path, PackFiles& files, Findings& findings)
         : path_(path), files_(files), findings_(findings), lines_(files.lines(path)) {}
 
-    void check() {
+    std::vector<NamePlace> check() {
         for (qsizetype at = 0; at < lines_.size();) {
             if (isCardTableKeyword(lines_[at])) {
                 at += checkEntry(at);
@@ -28,6 +28,7 @@ class CardTableCheck {
             }
             ++at;
         }
+        return cards_;
     }
 
  private:
@@ -76,7 +77,12 @@ class CardTableCheck {
 
     void checkCards(const CardTable& table, qsizetype at) {
         for (const FunctionKey& key : table.functionKeys) checkCard(key.script, at);
-        for (const TimedCard& timed : table.timedCards) checkCard(timed.card, at);
+        for (const TimedCard& timed : table.timedCards) {
+            checkCard(timed.card, at);
+            if (timed.interval == 0) {
+                findings_.warning(place(at), u"the timed card %1 has the interval 0: it never runs"_s.arg(timed.card));
+            }
+        }
         checkCard(table.clearCard, at);
         for (const CardTable::Set& set : table.sets) {
             for (size_t row = 1; row < set.size(); ++row) checkCard(set[row].script, at + static_cast<qsizetype>(row));
@@ -84,7 +90,9 @@ class CardTableCheck {
     }
 
     void checkCard(const QString& card, qsizetype at) {
-        if (!card.isEmpty() && !files_.cardExists(card)) {
+        if (card.isEmpty()) return;
+        cards_.push_back({card, place(at)});
+        if (!files_.cardExists(card)) {
             findings_.error(place(at), u"the card %1 does not exist"_s.arg(card));
         }
     }
@@ -93,16 +101,18 @@ class CardTableCheck {
     PackFiles& files_;
     Findings& findings_;
     const QStringList& lines_;
+    std::vector<NamePlace> cards_;
 };
 
 }  // namespace
 
-void checkCardTable(PackFiles& files, Findings& findings) {
+std::vector<NamePlace> checkCardTable(PackFiles& files, Findings& findings) {
     const QString path = files.path(u"CARDS.TXT");
     try {
-        CardTableCheck(path, files, findings).check();
+        return CardTableCheck(path, files, findings).check();
     } catch (const RunTimeError& error) {
         findings.error(files.place(path), error.text());
+        return {};
     }
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "app_check/pack_check.h"
+#include "app_check/report.h"
 #include "command_line/command_line.h"
 
 using namespace Qt::StringLiterals;
@@ -17,11 +18,12 @@ constexpr int kClean = 0;
 constexpr int kErrors = 1;
 
 const QString kUsage =
-    uR"(usage: zelvor check [--app-folder DIR] [CODE]
+    uR"(usage: zelvor check [--app-folder DIR] [--format FORMAT] [CODE]
 
 Reads the pack of that code, or every pack of PACKS.TXT, and prints what is wrong with it without running a card.
 
   --app-folder DIR     the application folder (default: the program's own)
+  --format FORMAT      text (the default), json or sarif
 
 A line each: FILE:LINE: error|warning: TEXT; then the counts. Exit status 1 when there is an error.
 )"_s;
@@ -29,7 +31,8 @@ A line each: FILE:LINE: error|warning: TEXT; then the counts. Exit status 1 when
 }  // namespace
 
 int runCheck(const QStringList& arguments, QTextStream& out, QTextStream&) {
-    static const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true}, CommandLine::Option{u"--help"_s},
+    static const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true},
+                                     CommandLine::Option{u"--format"_s, true}, CommandLine::Option{u"--help"_s},
                                      CommandLine::Option{u"-h"_s}};
     const CommandLine line(arguments, kOptions);
     if (line.has(u"--help") || line.has(u"-h")) {
@@ -39,6 +42,8 @@ int runCheck(const QStringList& arguments, QTextStream& out, QTextStream&) {
     line.check();
     if (line.rest().size() > 1) throw UsageError{u"one pack at a time, or all"_s};
 
+    const ReportFormat format =
+        line.read(u"--format", u"text, json or sarif"_s, reportFormat).value_or(ReportFormat::Text);
     const AppFolder folder(line.value(u"--app-folder").value_or(QCoreApplication::applicationDirPath()));
     if (!QFileInfo(folder.path()).isDir()) throw UsageError{u"no such folder: "_s + folder.path()};
     Findings findings;
@@ -47,9 +52,9 @@ int runCheck(const QStringList& arguments, QTextStream& out, QTextStream&) {
     } else {
         const QString& code = line.rest().first();
         if (!folder.exists(folder.packFolder(code))) throw UsageError{u"no such pack: "_s + code};
-        checkPack(folder, code, findings);
+        findings.append(PackCheck(folder, code).findings());
     }
-    return findings.print(out) > 0 ? kErrors : kClean;
+    return printReport(findings, format, out) > 0 ? kErrors : kClean;
 }
 
 }  // namespace zelvor

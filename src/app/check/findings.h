@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QTextStream>
 #include <vector>
 
 namespace zelvor {
@@ -12,24 +11,25 @@ struct Place {
     int line = 1;
 };
 
+struct Finding {
+    Place place;
+    bool isError;
+    QString text;
+};
+
 // What is wrong with the packs that were read. The same finding met twice (an include of several scripts) counts once.
 class Findings {
  public:
     void error(const Place& place, const QString& text) { add(place, true, text); }
     void warning(const Place& place, const QString& text) { add(place, false, text); }
 
-    // Prints a line each, sorted by file and line, then the counts; returns the number of errors.
-    int print(QTextStream& out);
+    void append(const Findings& others) { all_.insert(all_.end(), others.all_.begin(), others.all_.end()); }
+
+    // All of them, sorted by file and line, each once.
+    const std::vector<Finding>& sorted();
 
  private:
-    struct Finding {
-        Place place;
-        bool isError;
-        QString text;
-    };
-
     void add(const Place& place, bool isError, const QString& text) { all_.push_back({place, isError, text}); }
-    void sort();
 
     std::vector<Finding> all_;
 };

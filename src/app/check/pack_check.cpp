@@ -1,8 +1,10 @@
 #include "app_check/pack_check.h"
 
+#include <QFileInfo>
+
 #include "app_check/ask_field_check.h"
 #include "app_check/card_table_check.h"
-#include "app_check/script_check.h"
+#include "app_check/variable_use.h"
 #include "base/run_time_error.h"
 #include "engine/card_engine.h"
 #include "general_rules/grid_file.h"
@@ -13,9 +15,16 @@ namespace zelvor {
 
 namespace {
 
+// The grid and its plain source; a pack need not have either.
 void readGeneralVariables(PackFiles& files, VariableUse& variables, Findings& findings) {
+    const QString source = u"infodata.txt"_s;
+    if (files.exists(source)) {
+        for (const GeneralRow& row : importRows(files.lines(files.path(source))).rows) {
+            variables.set(row[general_column::kVariable]);
+        }
+    }
     const QString path = files.path(u"infodata.dat");
-    if (!files.exists(u"infodata.dat")) return;  // a pack need not have any
+    if (!files.exists(u"infodata.dat")) return;
     GridReading reading;
     try {
         reading = readGrid(readWholeFile(path));
@@ -28,19 +37,80 @@ void readGeneralVariables(PackFiles& files, VariableUse& variables, Findings& fi
 
 }  // namespace
 
-void checkPack(const AppFolder& folder, const QString& code, Findings& findings) {
-    PackFiles files(folder, code);
+PackCheck::PackCheck(const AppFolder& folder, const QString& code) : files_(folder, code), check_(files_, askFields_) {}
+
+Findings PackCheck::findings() {
+    Findings findings;
     VariableUse variables;
-    checkCardTable(files, findings);
-    if (!files.exists(CardEngine::kStartCard)) {
-        findings.warning(files.place(files.path(CardEngine::kStartCard)),
+    const std::vector<NamePlace> tableCards = checkCardTable(files_, findings);
+    if (!files_.exists(CardEngine::kStartCard)) {
+        findings.warning(files_.place(files_.path(CardEngine::kStartCard)),
                          u"the script of the start-up does not exist"_s);
     }
-    readGeneralVariables(files, variables, findings);
-    const QSet<int> askFields = checkAskFields(files, variables, findings);
-    ScriptCheck scripts(files, askFields, variables, findings);
-    for (const QString& path : files.scripts()) scripts.check(path);
+    const QString connections = u"CONNECTIONS.TXT"_s;
+    if (!files_.exists(connections)) {
+        findings.error(files_.place(files_.path(connections)), u"the file does not exist"_s);
+    }
+    readGeneralVariables(files_, variables, findings);
+    const QSet<int> askFields = checkAskFields(files_, variables, findings);
+    if (askFields != askFields_) scripts_.clear();
+    askFields_ = askFields;
+    readScripts();
+    const QSet<QString> included = onlyIncluded(tableCards);
+    for (const auto& [path, facts] : scripts_) {
+        if (included.contains(path)) continue;
+        findings.append(facts.findings);
+        for (const NamePlace& set : facts.sets) variables.set(set.name);
+        for (const NamePlace& read : facts.reads) variables.read(read.name, read.place);
+    }
+    warnOfWaiting(findings);
     variables.report(findings);
+    return findings;
+}
+
+void PackCheck::changed(const QString& path) {
+    files_.forget(path);
+    // One that is there or gone may be an include or a card of any script.
+    if (!QFileInfo::exists(path) || !scripts_.contains(path)) return scripts_.clear();
+    std::erase_if(scripts_, [&](const auto& script) { return script.second.sources.contains(path); });
+}
+
+void PackCheck::readScripts() {
+    const QStringList paths = files_.scripts();
+    std::erase_if(scripts_, [&](const auto& script) { return !paths.contains(script.first); });
+    for (const QString& path : paths) {
+        if (!scripts_.contains(path)) scripts_.emplace(path, check_.check(path));
+    }
+}
+
+// The scripts that others include and that nothing names as a card.
+QSet<QString> PackCheck::onlyIncluded(const std::vector<NamePlace>& tableCards) const {
+    QSet<QString> included;
+    QSet<QString> cards{files_.path(CardEngine::kStartCard), files_.path(u"invoke.csp"), files_.path(u"auto5ada.csp")};
+    const auto add = [&](const std::vector<NamePlace>& named) {
+        for (const NamePlace& card : named) cards += files_.path(CardEngine::scriptName(card.name));
+    };
+    add(tableCards);
+    for (const auto& [path, facts] : scripts_) {
+        for (const QString& source : facts.sources.mid(1)) included += source;
+    }
+    if (included.isEmpty()) return {};
+    for (const auto& [path, facts] : scripts_) add(facts.cards);
+    return included - cards;
+}
+
+// A card that a clock runs holds up the clock and everything else.
+void PackCheck::warnOfWaiting(Findings& findings) const {
+    for (const auto& [path, facts] : scripts_) {
+        for (const NamePlace& card : facts.autoCards) {
+            const auto run = scripts_.find(files_.path(CardEngine::scriptName(card.name)));
+            if (run == scripts_.end()) continue;
+            for (const NamePlace& wait : run->second.waits) {
+                findings.warning(wait.place,
+                                 u"%1 in a card that a clock runs: everything waits for it"_s.arg(wait.name));
+            }
+        }
+    }
 }
 
 void checkPacks(const AppFolder& folder, Findings& findings) {
@@ -56,7 +126,7 @@ void checkPacks(const AppFolder& folder, Findings& findings) {
         if (line.trimmed().isEmpty()) continue;
         const QString code = line.section(u';', 0, 0);
         if (folder.exists(folder.packFolder(code))) {
-            checkPack(folder, code, findings);
+            findings.append(PackCheck(folder, code).findings());
         } else {
             findings.warning(place, u"the pack %1 has no folder"_s.arg(code));
         }

@@ -28,7 +28,23 @@ bool PackFiles::cardExists(const QString& card) {
 const QStringList& PackFiles::lines(const QString& path) {
     const auto known = lines_.constFind(path);
     if (known != lines_.constEnd()) return *known;
-    return *lines_.insert(path, files_.readLines(path));
+    const auto text = texts_.constFind(path);
+    return *lines_.insert(path, text != texts_.constEnd() ? splitLines(*text) : files_.readLines(path));
+}
+
+void PackFiles::setText(const QString& path, const QString& text) {
+    texts_[path] = text;
+    forget(path);
+}
+
+void PackFiles::dropText(const QString& path) {
+    texts_.remove(path);
+    forget(path);
+}
+
+void PackFiles::forget(const QString& path) {
+    lines_.remove(path);
+    exists_.clear();
 }
 
 Place PackFiles::place(const QString& path, int line) const {

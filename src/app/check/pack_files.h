@@ -23,6 +23,12 @@ class PackFiles {
     [[nodiscard]] bool cardExists(const QString& card);
     // Throws RunTimeError when it cannot be read.
     const QStringList& lines(const QString& path);
+    // From now on the file holds that text, whatever is on disk.
+    void setText(const QString& path, const QString& text);
+    // From now on the file holds what is on disk.
+    void dropText(const QString& path);
+    // The file is read again, and looked for again.
+    void forget(const QString& path);
     // A line of a file as findings name it: relative to the application folder.
     [[nodiscard]] Place place(const QString& path, int line = 1) const;
     // The paths of all card scripts, sorted.
@@ -33,6 +39,7 @@ class PackFiles {
     QString language_;
     TextFiles files_;
     QHash<QString, QStringList> lines_;
+    QHash<QString, QString> texts_;  // held in memory instead of on disk
     QHash<QString, bool> exists_;
 };
 

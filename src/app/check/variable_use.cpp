@@ -60,6 +60,14 @@ constexpr std::array kOwnVariables{
 
 }  // namespace
 
+QStringList ownVariables() {
+    QStringList names;
+    for (const QStringView name : kOwnVariables) {
+        if (!name.contains(kAnything)) names += name.toString();
+    }
+    return names;
+}
+
 VariableUse::VariableUse() {
     for (const QStringView name : kOwnVariables) set(name.toString());
 }
@@ -67,7 +75,7 @@ VariableUse::VariableUse() {
 void VariableUse::set(const QString& name) {
     if (!name.contains(kAnything)) {
         names_.insert(name);
-    } else if (name.size() > 1) {
+    } else if (name.size() > 2 || (name.size() == 2 && name[0] != u'@')) {
         // A name that is nothing but a placeholder would excuse every variable.
         patterns_.insert(name);
     }

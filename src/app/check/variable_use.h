@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QHash>
+#include <QStringList>
 #include <vector>
 
 #include "app_check/findings.h"
 #include "app_check/name_patterns.h"
 
 namespace zelvor {
+
+// The variables that the program itself sets, those of a family (kAnything) left out.
+QStringList ownVariables();
 
 // Which variables a pack sets and reads. Names are exact; kAnything in one stands for any text.
 class VariableUse {

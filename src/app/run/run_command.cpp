@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include "app_run/card_files.h"
 #include "app_run/run_graphics.h"
 #include "app_run/run_options.h"
 #include "app_run/terminal_ports.h"
@@ -30,6 +31,10 @@ class TerminalRun {
             // Who has just been told that the program ends needs no second message.
             if (!program_.closing.hasBegun()) operator_.message(place.asker, {}, message, Operator::Severity::Critical);
         });
+        program_.trap.setWarned([this](const QString& text) {
+            err_ << "zelvor run: warning: " << text << '\n';
+            err_.flush();
+        });
         state_.preview = options.preview;
     }
 
@@ -41,15 +46,25 @@ class TerminalRun {
         GeneralVariables general(state_, program_, operator_);
         general.load();
         general.apply();
-        for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
         if (!graphics_.connectNamed(clock_, err_)) return RunStatus::NotReached;
 
         QObject::connect(&form_, &FormModel::changed, &form_, [this](Control* control, Control::Property property) {
             printFormChange(out_, *control, property);
         });
-        const CardEngine::Outcome outcome = engine_.SHOW_TVCARD(options_.card, options_.autoRun, options_.keepStates,
-                                                                {Asker::Kind::Operator, options_.card});
-        graphics_.finishSending(clock_);
+        if (options_.start) {
+            engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::StartUp, CardEngine::kStartCard});
+        }
+        for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
+        CardEngine::Outcome outcome = runOnce();
+        if (options_.watch) {
+            CardFiles files(program_, state_.language(), options_.card);
+            while (files.waitForChange(clock_)) {
+                out_ << "again > " << options_.card << '\n';
+                out_.flush();
+                askDialog_.answerWith(options_.answers);
+                outcome = runOnce();
+            }
+        }
         if (options_.printVariables) printVariables();
         if (database_.connectionState() == Connections::State::Failed) return RunStatus::NotReached;
         switch (outcome) {
@@ -67,6 +82,13 @@ class TerminalRun {
     }
 
  private:
+    CardEngine::Outcome runOnce() {
+        const CardEngine::Outcome outcome = engine_.SHOW_TVCARD(options_.card, options_.autoRun, options_.keepStates,
+                                                                {Asker::Kind::Operator, options_.card});
+        graphics_.finishSending(clock_);
+        return outcome;
+    }
+
     [[nodiscard]] bool packHas(QStringView file) const {
         return program_.folder.exists(program_.folder.packFile(state_.language(), file));
     }

@@ -27,6 +27,8 @@ const std::array kOptions{
     CommandLine::Option{u"--auto"_s},
     CommandLine::Option{u"--keep-states"_s},
     CommandLine::Option{u"--vars"_s},
+    CommandLine::Option{u"--start"_s},
+    CommandLine::Option{u"--watch"_s},
     CommandLine::Option{u"--help"_s},
 };
 
@@ -58,6 +60,8 @@ RunOptions readRunOptions(const QStringList& arguments) {
     options.yes = line.lastOf(std::array<QStringView, 2>{u"--yes", u"--no"}) != u"--no";
     options.autoRun = line.has(u"--auto");
     options.keepStates = line.has(u"--keep-states");
+    options.start = line.has(u"--start");
+    options.watch = line.has(u"--watch");
     options.printVariables = line.has(u"--vars");
     options.connection = static_cast<qint16>(line.number(u"--connection", 0, INT16_MAX).value_or(1));
     options.main = line.hostPort(u"--main");
@@ -74,6 +78,8 @@ Runs a card of a pack without a display and prints every line that it puts on ai
   --language CODE      the pack (default: the first pack of PACKS.TXT whose folder exists)
   --preview            run as the preview instance does
   --codepage NAME      the single-byte code page of text files (default: windows-1253)
+  --start              run GetGame.csp first, as the console does
+  --watch              run the card again whenever its script or an include of it changes, until Ctrl+C
   --set NAME=VALUE     set a variable before the run; repeatable, in order
   --answer KEY|cancel  the answers of pick lists; repeatable, in order
   --yes | --no         the answer of every yes/no question (default: yes)

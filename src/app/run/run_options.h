@@ -22,6 +22,8 @@ struct RunOptions {
     bool autoRun = false;
     bool keepStates = false;
     bool printVariables = false;
+    bool start = false;
+    bool watch = false;
     bool help = false;
     qint16 connection = 1;
     std::optional<HostPort> main;

@@ -11,6 +11,8 @@
 #include "app_check/check_command.h"
 #include "app_eval/eval_command.h"
 #include "app_feed/feed_command.h"
+#include "app_language_server/language_server_command.h"
+#include "app_new_pack/new_pack_command.h"
 #include "app_run/run_command.h"
 #include "command_line/command_line.h"
 #include "crash/crash_dump.h"
@@ -41,6 +43,8 @@ const std::array kSubcommands{
     Subcommand{u"check"_s, u"finds what is wrong with packs without running them"_s, zelvor::runCheck},
     Subcommand{u"eval"_s, u"evaluates a script expression"_s, zelvor::runEval},
     Subcommand{u"feed"_s, u"sends the datagrams of a game clock"_s, zelvor::runFeed},
+    Subcommand{u"language-server"_s, u"serves an editor of packs"_s, zelvor::runLanguageServer},
+    Subcommand{u"new"_s, u"makes the smallest pack that runs"_s, zelvor::runNewPack},
     Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},
 };
 
@@ -49,7 +53,7 @@ QString help() {
         u"usage: zelvor COMMAND [options]\n\n"_s
         u"Runs the card engine in a terminal, without a display.\n\n"_s;
     for (const Subcommand& command : kSubcommands) {
-        text += u"  "_s + command.name.leftJustified(8) + command.summary + u'\n';
+        text += u"  "_s + command.name.leftJustified(17) + command.summary + u'\n';
     }
     return text + u"\nzelvor COMMAND --help tells more; zelvor --version names the version.\n"_s;
 }

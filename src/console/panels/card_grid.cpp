@@ -42,6 +42,7 @@ void CardGrid::showFaces() {
         face.flagged = card.flag;
         face.lastFired = console_.isLastFired(i);
         face.key = console_.keyOf(i);
+        face.fault = card.fault;
         buttons_.at(i)->setFace(face);
         QString name = u"Card %1: "_s.arg(i + 1) + (face.quiet ? u"empty"_s : card.shownCaption());
         if (const QString state = buttons_.at(i)->stateLine(); !state.isEmpty()) name += u", "_s + state;

@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "engine/card_run.h"
+#include "engine/forms.h"
 
 using namespace Qt::StringLiterals;
 
@@ -71,12 +72,9 @@ void SQLU(CardRun& run, const Arguments& args) {
 void marker(CardRun&, const Arguments&) {}
 
 void LOADFORM(CardRun& run, const Arguments& args) {
-    static constexpr std::array<QStringView, 2> kForms{u"frmMAIN", u"frmGENERAL"};
-    const QString name = args.raw().trimmed();
-    const auto form =
-        std::ranges::find_if(kForms, [&](QStringView known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
-    if (form == kForms.end()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"form "_s + name);
-    run.ports().desktop.loadForm(run.asker(), form->toString());
+    const QString form = formNamed(args.raw());
+    if (form.isEmpty()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"form "_s + args.raw().trimmed());
+    run.ports().desktop.loadForm(run.asker(), form);
 }
 
 using Argument = Command::Argument;
@@ -85,17 +83,22 @@ using Role = Command::Role;
 constexpr std::array kAskQueryCommands{
     Command{u"RETURNASK", RETURNASK, Argument::Expanded, u"number", u"sets the answer of the last pick list"},
     Command{u"ASKFIELD", ASKFIELD, Argument::Expanded, u"field",
-            u"opens a pick list; its answer becomes @RETURNKEY, Cancel ends the card", roles(Role::AskField)},
+            u"opens a pick list; its answer becomes @RETURNKEY, Cancel ends the card",
+            roles(Role::AskField, Role::Waits)},
     Command{u"QUERY", QUERY, Argument::Raw, u"text", u"begins the text of a query; EXECSQL runs it",
             roles(Role::Query)},
     Command{u"QUERY+", QUERY_PLUS, Argument::Raw, u"text", u"adds to the text of the query", roles(Role::Query)},
-    Command{u"EXECSQL", EXECSQL, Argument::None, u"", u"runs the query of QUERY; no rows end the card"},
-    Command{u"SQL", SQL, Argument::Expanded, u"statement", u"runs a query; no rows end the card"},
-    Command{u"SQL2", SQL2, Argument::Expanded, u"statement", u"the same on the Greek connection"},
-    Command{u"SQLU", SQLU, Argument::Expanded, u"statement", u"runs a statement that gives no rows"},
+    Command{u"EXECSQL", EXECSQL, Argument::None, u"", u"runs the query of QUERY; no rows end the card",
+            roles(Role::Text, Role::Waits)},
+    Command{u"SQL", SQL, Argument::Expanded, u"statement", u"runs a query; no rows end the card",
+            roles(Role::Text, Role::Waits)},
+    Command{u"SQL2", SQL2, Argument::Expanded, u"statement", u"the same on the Greek connection",
+            roles(Role::Text, Role::Waits)},
+    Command{u"SQLU", SQLU, Argument::Expanded, u"statement", u"runs a statement that gives no rows",
+            roles(Role::Text, Role::Waits)},
     Command{u"RTX", marker, Argument::None, u"[text]", u"a mark without effect"},
     Command{u"RTXS", marker, Argument::None, u"[text]", u"a mark without effect"},
-    Command{u"LOADFORM", LOADFORM, Argument::Raw, u"name", u"shows frmMAIN or frmGENERAL"},
+    Command{u"LOADFORM", LOADFORM, Argument::Raw, u"name", u"shows frmMAIN or frmGENERAL", roles(Role::Form)},
 };
 
 }  // namespace

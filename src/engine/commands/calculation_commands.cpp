@@ -1,7 +1,6 @@
-#include <cmath>
-
 #include "base/number.h"
 #include "engine/card_run.h"
+#include "engine/shares.h"
 #include "script/decimal.h"
 #include "script/pattern.h"
 
@@ -18,30 +17,38 @@ void EVAL(CardRun& run, const Arguments& args) {
 
 void CALC(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    run.variables().SetVar(pieces[0], run.engine().calculator().calculate(pieces[1]));
+    Calculator& calculator = run.engine().calculator();
+    const auto tellWarning = [&] {
+        const std::string_view warning = calculator.warning();
+        if (!warning.empty()) run.warn(u"CALC: "_s + QUtf8StringView(warning).toString() + u": "_s + pieces[1]);
+    };
+    try {
+        run.variables().SetVar(pieces[0], calculator.calculate(pieces[1]));
+    } catch (const RunTimeError&) {
+        tellWarning();  // why the formula has no value
+        throw;
+    }
+    tellWarning();
 }
 
-double roundedTo(QStringView text, int digits) {
+double rounded(QStringView text, int digits) {
     constexpr int kMostDigits = 22;
     double number = 0;
     if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, text.left(80).toString());
     if (digits < 0 || digits > kMostDigits) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    return script::numberOf(script::decimalOf(number, digits, script::Halves::ToEven));
+    return script::roundedTo(number, digits, script::Halves::ToEven);
 }
 
 void ROUND(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    run.variables().SetVar(pieces[0], roundedTo(pieces[1], wholeNumber16(pieces[2])));
+    run.variables().SetVar(pieces[0], rounded(pieces[1], wholeNumber16(pieces[2])));
 }
 
 void PERCENTMAX(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    const double a = Val(pieces[0]);
-    const double total = a + Val(pieces[1]);
-    const double max = Val(pieces[2]);
-    const double first = total > 0 ? std::floor(a / total * max) : 0;
-    run.variables().SetVar(u"@PERCM1", first);
-    run.variables().SetVar(u"@PERCM2", total > 0 ? max - first : 0);
+    const Shares shares = sharesOf(Val(pieces[0]), Val(pieces[1]), Val(pieces[2]));
+    run.variables().SetVar(u"@PERCM1", shares.first);
+    run.variables().SetVar(u"@PERCM2", shares.second);
 }
 
 double numberInResult(CardRun& run, int row, QStringView column) {
@@ -78,18 +85,23 @@ using Argument = Command::Argument;
 using Role = Command::Role;
 
 constexpr std::array kCalculationCommands{
-    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression", u"@name becomes the script expression's value",
-            roles(Role::VariableName, Role::Expression)},
+    Command{u"EVAL", EVAL, Argument::Expanded, u"name;expression",
+            u"@name becomes the script expression's value; placeholders in the name stay as they are",
+            roles(Role::WrittenName, Role::Expression)},
     Command{u"CALC", CALC, Argument::Expanded, u"variable;formula", u"the variable becomes the formula's value",
             roles(Role::Variable, Role::Formula)},
     Command{u"ROUND", ROUND, Argument::Expanded, u"variable;value;digits",
-            u"the variable becomes the rounded value, halves to the even digit", roles(Role::Variable)},
+            u"the variable becomes the rounded value, halves to the even digit",
+            roles(Role::Variable, Role::Number, Role::Places)},
     Command{u"PERCENTMAX", PERCENTMAX, Argument::Expanded, u"a;b;max",
             u"splits max as a to b into @PERCM1 and @PERCM2"},
     Command{u"PERCENT", PERCENT, Argument::Expanded, u"row;column1;column2",
-            u"@PERC becomes column1 in percent of column2 of a row of the query result"},
-    Command{u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
-            u"replaces every find in the variable's value", roles(Role::Variable)},
+            u"@PERC becomes column1 in percent of column2 of a row of the query result",
+            roles(Role::WholeNumber, Role::WholeNumber, Role::WholeNumber)},
+    Command{
+        u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
+        u"replaces every find in the variable's value, written {@NAME}: without the braces the name itself is the text",
+        roles(Role::ReplacedText)},
 };
 
 }  // namespace

@@ -45,14 +45,13 @@ void SHOW2TEXT(CardRun& run, const Arguments& args) {
 void SHOW2LABEL(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     const QString caption = pieces[1].toString();
-    std::optional<Colour> back;
-    std::optional<Colour> fore;
-    if (pieces.count() > 2) back = parseColour(pieces[2]);
-    if (pieces.count() > 3) fore = parseColour(pieces[3]);
+    const auto colourOf = [&](int piece) { return pieces.count() > piece ? parseColour(pieces[piece]) : std::nullopt; };
+    const std::optional<Colour> back = colourOf(2);
+    const std::optional<Colour> fore = colourOf(3);
     forEachOf(run.form(), pieces[0], Control::Kind::Label, [&](Control& label) {
         label.setText(caption);
-        if (back) label.setBackColour(back);
-        if (fore) label.setForeColour(fore);
+        if (pieces.count() > 2) label.setBackColour(back);
+        if (pieces.count() > 3) label.setForeColour(fore);
     });
 }
 
@@ -117,19 +116,23 @@ void SCANPROPOSED(CardRun& run, const Arguments&) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kFeedbackCommands{
     Command{u"LASTCARDTAG", LASTCARDTAG, Argument::Expanded, u"slot;key:answer##...",
-            u"the tag of the card in a slot, and the automatic answers in it"},
-    Command{u"LASTCARDONAIR", LASTCARDONAIR, Argument::Raw, u"row-column", u"this card is on air in that slot"},
-    Command{u"SHOW2TEXT", SHOW2TEXT, Argument::Expanded, u"name;[index;]text", u"fills a text box of the form"},
+            u"the tag of the card in a slot, and the automatic answers in it", roles(Role::Text, Role::Tag)},
+    Command{u"LASTCARDONAIR", LASTCARDONAIR, Argument::Raw, u"row-column", u"this card is on air in that slot",
+            roles(Role::Slot)},
+    Command{u"SHOW2TEXT", SHOW2TEXT, Argument::Expanded, u"name;[index;]text", u"fills a text box of the form",
+            roles(Role::TextBox)},
     Command{u"SHOW2LABEL", SHOW2LABEL, Argument::Expanded, u"name;caption;[back colour];[text colour]",
-            u"captions and colours a label of the form"},
-    Command{u"TAG2LABEL", TAG2LABEL, Argument::Expanded, u"name;tag", u"tags a label of the form"},
+            u"captions and colours a label of the form",
+            roles(Role::Label, Role::Text, Role::ColourValue, Role::ColourValue)},
+    Command{u"TAG2LABEL", TAG2LABEL, Argument::Expanded, u"name;tag", u"tags a label of the form", roles(Role::Label)},
     Command{u"ADD2LABELARRAY", ADD2LABELARRAY, Argument::Expanded, u"name;index;caption;tag",
-            u"captions and tags one label of an array"},
+            u"captions and tags one label of an array", roles(Role::Label, Role::WholeNumber)},
     Command{u"PROPOSE", PROPOSE, Argument::Expanded, u"index;tag;caption;used",
-            u"offers the operator a card; the tag is id|N|card|tag"},
+            u"offers the operator a card; the tag is id|N|card|tag", roles(Role::Proposal)},
     Command{u"SCANPROPOSED", SCANPROPOSED, Argument::None, u"", u"fires the open proposals whose card is on air"},
 };
 

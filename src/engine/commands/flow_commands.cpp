@@ -16,14 +16,19 @@ void ENDCARD(CardRun& run, const Arguments&) {
     run.endCard();
 }
 
+// Rounds of a loop that may raise @RECORDCOUNT itself, and would then never end.
+constexpr double kMostRounds = 1'000'000;
+
 void FOREACHREC(CardRun& run, const Arguments& args) {
-    run.loop = {run.lineNo() + 1, u'@' + args.text(), 1};
+    const double records = run.variables().GetVar(u"@RECORDCOUNT").leadingNumber();
+    run.loop = {run.lineNo() + 1, u'@' + args.text(), 1, std::max(records, kMostRounds)};
     run.variables().SetVar(run.loop.variable, 1);
 }
 
 void ROF(CardRun& run, const Arguments&) {
     if (run.loop.start == 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"ROF without FOREACHREC"_s);
     run.loop.counter += 1;
+    if (run.loop.counter > run.loop.mostRounds) throw RunTimeError(ErrorNumber::OutOfStackSpace, u"FOREACHREC"_s);
     run.variables().SetVar(run.loop.variable, static_cast<qint64>(run.loop.counter));
     if (run.loop.counter <= run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) run.jumpTo(run.loop.start);
 }
@@ -93,7 +98,8 @@ constexpr std::array kFlowCommands{
     Command{u"IF", IF, Argument::Expanded, u"left;operator;right;[label]", u"skips to FI~label when false",
             roles(Role::Operand, Role::Operation, Role::Operand, Role::BlockLabel)},
     Command{u"FI", readEarlier, Argument::None, u"label", u"ends the block of that label", roles(Role::BlockEnd)},
-    Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile"},
+    Command{u"DELAY", DELAY, Argument::Expanded, u"seconds", u"waits; the console goes on meanwhile",
+            roles(Role::WholeNumber, Role::Waits)},
     Command{u"BREAK", BREAK, Argument::Expanded, u"message", u"asks whether to go on"},
     Command{u"LOOPPAGE", LOOPPAGE, Argument::Expanded, u"question", u"asks Yes or No; @LOOP_ANSWER becomes 6 or 7"},
 };

@@ -30,11 +30,13 @@ void WRITELOG(CardRun& run, const Arguments& args) {
 }
 
 using Argument = Command::Argument;
+using Role = Command::Role;
 
 constexpr std::array kGraphicsCommands{
-    Command{u"CSPSEND", CSPSEND, Argument::Expanded, u"command line", u"sends a line to the main graphics server"},
+    Command{u"CSPSEND", CSPSEND, Argument::Expanded, u"command line", u"sends a line to the main graphics server",
+            roles(Role::CommandLine)},
     Command{u"CSPSENDREMOTE", CSPSENDREMOTE, Argument::Expanded, u"command line",
-            u"sends a line to the remote graphics server"},
+            u"sends a line to the remote graphics server", roles(Role::CommandLine)},
     Command{u"WRITELOG", WRITELOG, Argument::Expanded, u"text", u"writes a line to the log file"},
 };
 

@@ -59,12 +59,14 @@ void MAKEXML(CardRun& run, const Arguments& args) {
     const QString variable = targetVariable(args, u"@CASPARXML"_s);
     const QString xml = makeXml(run.state().templateData);
     run.variables().SetVar(variable, xml);
+    run.noteTemplateFaults(templateFaults(run.state().templateData));
     run.ports().notes.appendHistory(u" > MAKEXML~"_s + variable);
     run.ports().notes.showLastTemplate(xml);
 }
 
 void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {
     run.variables().SetVar(targetVariable(args, u"@CASPARXMLREMOTE"_s), makeRemoteXml(run.state().remoteTemplateData));
+    run.noteTemplateFaults(templateFaults(run.state().remoteTemplateData));
 }
 
 using Argument = Command::Argument;
@@ -73,12 +75,14 @@ using Role = Command::Role;
 constexpr std::array kTemplateCommands{
     Command{u"CLEARDATA", CLEARDATA, Argument::None, u"", u"empties the template data and the history list"},
     Command{u"CLEARDATAREMOTE", CLEARDATAREMOTE, Argument::None, u"", u"empties the remote template data"},
-    Command{u"SDATA", SDATA, Argument::Expanded, u"field;[animation;]value", u"sets a text field of the template"},
+    Command{u"SDATA", SDATA, Argument::Expanded, u"field;[animation;]value", u"sets a text field of the template",
+            roles(Role::Field)},
     Command{u"SDATAREMOTE", SDATAREMOTE, Argument::Expanded, u"field;[animation;]value",
-            u"sets a text field of the remote template"},
-    Command{u"SIMAGE", SIMAGE, Argument::Expanded, u"field;[animation;]value", u"sets an image field of the template"},
+            u"sets a text field of the remote template", roles(Role::RemoteField)},
+    Command{u"SIMAGE", SIMAGE, Argument::Expanded, u"field;[animation;]value", u"sets an image field of the template",
+            roles(Role::Field)},
     Command{u"SIMAGEREMOTE", SIMAGEREMOTE, Argument::Expanded, u"field;[animation;]value",
-            u"sets an image field of the remote template"},
+            u"sets an image field of the remote template", roles(Role::RemoteField)},
     Command{u"MAKEXML", MAKEXML, Argument::Expanded, u"[name]", u"@CASPARXML or @name becomes the template data as XML",
             roles(Role::VariableName)},
     Command{u"MAKEXMLREMOTE", MAKEXMLREMOTE, Argument::Expanded, u"[name]",

@@ -38,9 +38,11 @@ using Role = Command::Role;
 constexpr std::array kVariableCommands{
     Command{u"SETVAR", SETVAR, Argument::Expanded, u"variable;value", u"sets a variable", roles(Role::Variable)},
     Command{u"CHARCOUNT", CHARCOUNT, Argument::Expanded, u"name;text;character",
-            u"@name becomes how often the character stands in the text", roles(Role::VariableName)},
-    Command{u"SPLIT", SPLIT, Argument::Expanded, u"text;separator;name", u"stores the pieces as @name_0, @name_1, ...",
-            roles(Role::Text, Role::Text, Role::VariablePrefix)},
+            u"@name becomes how often the character stands in the text",
+            roles(Role::VariableName, Role::Text, Role::Character)},
+    Command{u"SPLIT", SPLIT, Argument::Expanded, u"text;separator;name",
+            u"stores the pieces as @name_0, @name_1, ...; placeholders in the name stay as they are",
+            roles(Role::Text, Role::Text, Role::WrittenPrefix)},
 };
 
 }  // namespace

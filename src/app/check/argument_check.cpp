@@ -1,0 +1,149 @@
+#include "app_check/argument_check.h"
+
+#include "app_check/literal_check.h"
+#include "app_check/placeholder_scan.h"
+#include "engine/condition.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+using Role = Command::Role;
+
+void checkVariable(const QString& name, const Place& place, ScriptFacts& facts) {
+    const bool readable = name.startsWith(u'@') || name.startsWith(kAnything);
+    const bool tag = name.startsWith(u"AUTOTAG_") || name.startsWith(u"LASTCARDTAG");
+    if (!readable && !tag) {
+        facts.findings.warning(place, u"no placeholder can read \"%1\": it has no \"@\""_s.arg(name));
+    }
+    facts.sets.push_back({name, place});
+}
+
+}  // namespace
+
+bool isKnown(const QString& argument) {
+    return !argument.contains(kAnything);
+}
+
+void checkOperator(const QString& operation, const Place& place, Findings& findings) {
+    if (!isKnown(operation)) return;
+    if (!isConditionOperator(operation)) {
+        findings.warning(place, u"\"%1\" is no operator: the condition is never true"_s.arg(operation));
+    } else if (operation == u"!null") {
+        findings.warning(place, u"\"!null\" is true when the text is empty, as \"null\" is; for the opposite use s!"_s);
+    }
+}
+
+void ArgumentCheck::check(const Command& command, qsizetype at, const GivenArguments& arguments, const Place& place,
+                          ScriptFacts& facts) {
+    const Role role = command.roles[static_cast<size_t>(at)];
+    const QString& argument = arguments.values[at];
+    switch (role) {
+        case Role::Variable:
+            if (argument == u"@AUTOCARD") checkCard(arguments.values.value(1), place, facts);
+            return checkVariable(argument, place, facts);
+        case Role::VariableName:
+        case Role::WrittenName:
+        case Role::VariablePrefix:
+        case Role::WrittenPrefix:
+            return checkName(command, at, arguments, place, facts);
+        case Role::ReplacedText:
+            return checkReplaced(arguments, place, facts);
+        case Role::AutoCard:
+            facts.autoCards.push_back({argument, place});
+            return checkCard(argument, place, facts);
+        case Role::Card:
+            return checkCard(argument, place, facts);
+        case Role::Formula:
+            return expressions_.checkFormula(argument, place, facts.findings);
+        case Role::Expression:
+            return expressions_.checkExpression(argument, place, facts.findings);
+        case Role::Operand:
+            return expressions_.checkOperand(argument, place, facts.findings);
+        case Role::Operation:
+            return checkOperator(argument, place, facts.findings);
+        case Role::AskField:
+            return checkAskField(argument, place, facts);
+        case Role::Label:
+            return checkControl(Control::Kind::Label, arguments.values, place, facts);
+        case Role::TextBox:
+            return checkControl(Control::Kind::TextBox, arguments.values, place, facts);
+        case Role::Field:
+            return checkField(arguments.values, false, place, facts.findings);
+        case Role::RemoteField:
+            return checkField(arguments.values, true, place, facts.findings);
+        case Role::Proposal:
+            // id|N|card|tag
+            facts.cards.push_back({arguments.values.value(1).section(u'|', 2, 2), place});
+            [[fallthrough]];
+        default:
+            return checkLiteral(role, argument, place, facts.findings);
+    }
+}
+
+// A name without its "@", which a prefix has an "_" behind.
+void ArgumentCheck::checkName(const Command& command, qsizetype at, const GivenArguments& arguments, const Place& place,
+                              ScriptFacts& facts) {
+    const Role role = command.roles[static_cast<size_t>(at)];
+    const bool asWritten = role == Role::WrittenName || role == Role::WrittenPrefix;
+    const QString name = asWritten ? arguments.written.value(at) : arguments.values[at];
+    if (name.startsWith(u'@')) facts.findings.warning(place, u"the \"@\" is added: this sets @"_s + name);
+    if (asWritten && name.contains(u'{')) {
+        facts.findings.warning(place, u"%1 does not replace placeholders in its name"_s.arg(command.word));
+    }
+    const bool prefix = role == Role::VariablePrefix || role == Role::WrittenPrefix;
+    facts.sets.push_back({u'@' + name + (prefix ? QString(u'_') + kAnything : QString()), place});
+}
+
+// REPLACE names its variable in the text that it replaces in: {@NAME}.
+void ArgumentCheck::checkReplaced(const GivenArguments& arguments, const Place& place, ScriptFacts& facts) {
+    QString name = arguments.written[0];
+    name.remove(u'{').remove(u'}');
+    checkVariable(name, place, facts);
+    const QString& text = arguments.values[0];
+    const QString find = arguments.values.value(1);
+    if (isKnown(text) && isKnown(find) && !text.contains(find)) {
+        facts.findings.error(place,
+                             u"REPLACE finds nothing in the text \"%1\"; its value is written {%2}"_s.arg(text, name));
+    }
+}
+
+void ArgumentCheck::checkCard(const QString& card, const Place& place, ScriptFacts& facts) {
+    facts.cards.push_back({card, place});
+    if (isKnown(card) && !card.contains(u'{') && !card.isEmpty() && !files_.cardExists(card)) {
+        facts.findings.error(place, u"the card %1 does not exist"_s.arg(card));
+    }
+}
+
+void ArgumentCheck::checkAskField(const QString& number, const Place& place, ScriptFacts& facts) const {
+    const QString first = number.section(u';', 0, 0);
+    if (!isKnown(first)) return;
+    const std::optional<int> field = wholeNumberOf(first);
+    if (!field || !askFields_.contains(*field)) {
+        facts.findings.error(place, u"ASKFIELDS.TXT has no field "_s + first);
+    }
+}
+
+void ArgumentCheck::checkControl(Control::Kind kind, const QStringList& arguments, const Place& place,
+                                 ScriptFacts& facts) const {
+    const QString& name = arguments[0];
+    if (!isKnown(name)) return;
+    const bool label = kind == Control::Kind::Label;
+    const QString kindName = label ? u"label"_s : u"text box"_s;
+    bool found = false;
+    for (const Control* control : form_.named(name)) found = found || control->kind() == kind;
+    if (!found) {
+        facts.findings.error(place, u"the form has no %1 %2"_s.arg(kindName, name));
+        return;
+    }
+    // The element of an array: behind the name of a text box where there are three arguments.
+    if (label || arguments.size() < 3 || !isKnown(arguments[1])) return;
+    const std::optional<int> index = wholeNumberOf(arguments[1]);
+    if (!index || form_.find(name, *index) == nullptr) {
+        facts.findings.error(place, u"the form has no %1 %2(%3)"_s.arg(kindName, name, arguments[1]));
+    }
+}
+
+}  // namespace zelvor

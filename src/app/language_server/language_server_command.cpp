@@ -1,0 +1,69 @@
+#include "app_language_server/language_server_command.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <QJsonDocument>
+#include <array>
+#include <cstdio>
+
+#include "app_language_server/language_server.h"
+#include "app_language_server/message_reader.h"
+#include "command_line/command_line.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+const QString kUsage =
+    uR"(usage: zelvor language-server
+
+Serves an editor of packs by the language server protocol, over standard input and output.
+
+Editors start it themselves. It tells findings while scripts are typed, completes commands, variables, controls, files and
+functions, explains them, finds and renames variables, and lists the blocks of a script.
+
+Exit status: 0 after the editor has taken its leave, 1 when it has gone without, 2 for wrong usage.
+)"_s;
+
+void write(const QJsonObject& message) {
+    const QByteArray body = QJsonDocument(message).toJson(QJsonDocument::Compact);
+    const QByteArray framed = "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body;
+    std::fwrite(framed.constData(), 1, static_cast<size_t>(framed.size()), stdout);
+    std::fflush(stdout);
+}
+
+// Whether there is something to read within the time.
+bool isReady(int milliseconds) {
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    return poll(&input, 1, milliseconds) != 0;
+}
+
+}  // namespace
+
+int runLanguageServer(const QStringList& arguments, QTextStream& out, QTextStream&) {
+    constexpr int kQuiet = 150;  // milliseconds without a message before findings are told
+    static const std::array kOptions{CommandLine::Option{u"--help"_s}, CommandLine::Option{u"-h"_s},
+                                     CommandLine::Option{u"--stdio"_s}};
+    const CommandLine line(arguments, kOptions);
+    if (line.has(u"--help") || line.has(u"-h")) {
+        out << kUsage;
+        return 0;
+    }
+    line.check();
+    LanguageServer server(write);
+    MessageReader reader;
+    std::array<char, 65536> buffer{};
+    while (!server.ended()) {
+        if (server.hasChanges() && !isReady(kQuiet)) server.idle();
+        const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
+        if (count <= 0) break;
+        reader.add(QByteArray(buffer.data(), count));
+        while (const auto message = reader.next()) server.receive(*message);
+    }
+    return server.exitStatus();
+}
+
+}  // namespace zelvor
