@@ -46,8 +46,7 @@ bool DaktronicsPackets::readPacket() {
     const qsizetype begins = bytes_.indexOf(kTextBegins);
     const qsizetype ends = bytes_.size() - kChecksumDigits - 1;
     bool isNumber = false;
-    packet_.offset =
-        begins < kOffsetDigits ? 0 : bytes_.mid(begins - kOffsetDigits, kOffsetDigits).toInt(&isNumber);
+    packet_.offset = begins < kOffsetDigits ? 0 : bytes_.mid(begins - kOffsetDigits, kOffsetDigits).toInt(&isNumber);
     if (!isNumber || packet_.offset < 0 || ends <= begins || bytes_.at(ends) != kTextEnds) {
         refusals_.count(u"packet malformed"_s);
         return false;

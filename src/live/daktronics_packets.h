@@ -37,7 +37,7 @@ class DaktronicsPackets {
     bool checksums_;
     bool inside_ = false;
     bool outside_ = false;  // bytes were met that belong to no packet
-    QByteArray bytes_;  // behind the packet's first
+    QByteArray bytes_;      // behind the packet's first
     DaktronicsPacket packet_;
 };
 

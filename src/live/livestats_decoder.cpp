@@ -107,7 +107,8 @@ void LiveStatsDecoder::readRoster(int team, const std::vector<JsonReader>& playe
         LivePlayer player = game_.players.value({team, *number});
         keepWhereTold(player.shirt, entry.text(u"shirtNumber"));
         const QString first = firstText(entry, {u"firstName", u"internationalFirstName"});
-        const QString last = firstText(entry, {u"familyName", u"internationalFamilyName", u"TVName", u"scoreboardName"});
+        const QString last =
+            firstText(entry, {u"familyName", u"internationalFamilyName", u"TVName", u"scoreboardName"});
         if (!first.isEmpty()) player.firstName = first;
         if (!last.isEmpty()) player.lastName = last;
         keepWhereTold(player.starter, entry.flag(u"starter"));

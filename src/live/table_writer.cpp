@@ -41,7 +41,8 @@ void TableWriter::write(const LiveGame& game) {
 
 bool TableWriter::finish(std::chrono::milliseconds patience) {
     Lock lock(mutex_);
-    return changed_.wait_for(lock, patience, [this] { return (!newest_ && !busy_) || status_.state == State::Refused; });
+    return changed_.wait_for(lock, patience,
+                             [this] { return (!newest_ && !busy_) || status_.state == State::Refused; });
 }
 
 TableWriter::Status TableWriter::status() const {
@@ -121,8 +122,8 @@ void TableWriter::waitForOther(const QString& owner, int beat) {
         if (changed_.wait_for(lock, 3 * beat_, [this] { return stop_; })) return;
     }
     const odbc::Rows rows = session_.run(u"select owner, beat from live_feed"_s);
-    const bool alive = rows.rowCount() > 0 &&
-                       (rows.cells[0].text() != owner || static_cast<int>(rows.cells[1].number()) != beat);
+    const bool alive =
+        rows.rowCount() > 0 && (rows.cells[0].text() != owner || static_cast<int>(rows.cells[1].number()) != beat);
     if (alive) throw OwnedByOther{rows.cells[0].text()};
 }
 

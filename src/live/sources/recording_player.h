@@ -15,8 +15,7 @@ class RecordingPlayer : public LiveSource {
 
  public:
     // nullptr when the file cannot be read or is no recording; `fault` then says so.
-    static std::unique_ptr<RecordingPlayer> open(const QString& path, double speed, Refusals& refusals,
-                                                 QString& fault);
+    static std::unique_ptr<RecordingPlayer> open(const QString& path, double speed, Refusals& refusals, QString& fault);
 
     void start() override;
     [[nodiscard]] QString name() const override { return file_->fileName(); }
