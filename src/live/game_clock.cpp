@@ -22,6 +22,14 @@ void GameClock::setRunning(bool running, qint64 now) {
     running_ = running;
 }
 
+void GameClock::heard(qint64 now) {
+    if (now > heardAt_ + kRunsUnheard) {
+        told_ = hundredths(now);
+        toldAt_ = now;
+    }
+    heardAt_ = now;
+}
+
 std::optional<int> GameClock::hundredths(qint64 now) const {
     if (!told_ || !running_) return told_;
     const qint64 ran = std::min(now, heardAt_ + kRunsUnheard) - toldAt_;

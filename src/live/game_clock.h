@@ -17,8 +17,8 @@ class GameClock {
     bool set(int hundredths, bool running, int period, qint64 now);
     // Stops it where it is, or lets it go on.
     void setRunning(bool running, qint64 now);
-    // The source has said something, whatever it was.
-    void heard(qint64 now) { heardAt_ = now; }
+    // The source has said something, whatever it was. A clock that was held goes on from where it is.
+    void heard(qint64 now);
 
     // nullopt before anything was told.
     [[nodiscard]] std::optional<int> hundredths(qint64 now) const;

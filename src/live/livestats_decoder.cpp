@@ -247,9 +247,9 @@ void LiveStatsDecoder::readScoresAfter(const LiveAction& action) {
 }
 
 void LiveStatsDecoder::readAllActions(const JsonReader& message, qint64) {
+    const int refusedBefore = refusals_.total();
     const auto list = message.list(u"actions");
     if (!list) return;
-    const int refusedBefore = refusals_.total();
     QMap<int, LiveAction> actions;
     for (const JsonReader& action : *list) keepAction(action, actions);
     // A list that has come through whole also says what was deleted while nobody listened.

@@ -30,7 +30,12 @@ struct Listened {
     }
     int home() const { return decoder.game().teams[1].score.value_or(-1); }
     int away() const { return decoder.game().teams[0].score.value_or(-1); }
-    QStringList actions() const { return rowsOf(decoder.game())[2].values().join(); }
+    QStringList actions() const {
+        QStringList rows;
+        const TableRows tables = rowsOf(decoder.game());
+        for (const QStringList& more : tables[2]) rows += more;
+        return rows;
+    }
 };
 
 }  // namespace

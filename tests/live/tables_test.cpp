@@ -18,7 +18,7 @@ namespace zelvor::test {
 namespace {
 
 constexpr std::chrono::milliseconds kBeat{100};
-constexpr std::chrono::seconds kPatience{30};
+constexpr std::chrono::seconds kLongEnough{30};
 
 class LiveTables : public testing::TestWithParam<const char*> {
  protected:
@@ -46,7 +46,7 @@ class LiveTables : public testing::TestWithParam<const char*> {
             const QString& sql :
             {u"'game', state, period, clock, shot_clock, home_name, away_name, home_score, away_score, home_fouls, "
              "away_fouls, home_timeouts, away_timeouts, possession from live_game"_s,
-             u"'player', side, shirt, first_name, last_name, starter, on_court, "_s + statistics,
+             QString(u"'player', side, shirt, first_name, last_name, starter, on_court, "_s + statistics),
              u"'action', number, period, clock, side, shirt, kind, detail, success, home_score, away_score from live_action"_s}) {
             const odbc::Rows rows = session_.run(u"select "_s + sql);
             for (int row = 0; row < rows.rowCount(); ++row) {
@@ -91,7 +91,7 @@ TEST_P(LiveTables, EndAsTheGameHasEnded) {
         }
         if (server_ && line == 1000) server_->start();
     }
-    ASSERT_TRUE(tables->finish(kPatience)) << tables->status().text.toStdString();
+    ASSERT_TRUE(tables->finish(kLongEnough)) << tables->status().text.toStdString();
     EXPECT_EQ(refusals.text(), u""_s);
 
     QFile expected(QStringLiteral(TEST_DATA_DIR "/game.tables"));
@@ -109,14 +109,14 @@ TEST_P(LiveTables, BelongToOneFeed) {
     for (int number : {1, 2}) game.players[{1, number}].shirt = u"7"_s;  // two of them
     auto first = writer(u"first"_s);
     first->write(game);
-    ASSERT_TRUE(first->finish(kPatience)) << "who does not move any more is taken for dead";
+    ASSERT_TRUE(first->finish(kLongEnough)) << "who does not move any more is taken for dead";
     auto second = writer(u"second"_s);
     second->write({});
     ASSERT_TRUE(waitUntil([&] { return second->status().state == TableWriter::State::Refused; }));
     EXPECT_EQ(second->status().text, u"first"_s);
     game.players[{1, 2}].lastName = u"Vance"_s;
     first->write(game);
-    ASSERT_TRUE(first->finish(kPatience));
+    ASSERT_TRUE(first->finish(kLongEnough));
     EXPECT_EQ(lines().size(), 3);
     EXPECT_TRUE(lines().join(u' ').contains(u"L'Aquila  {d ?} Λιμάνι"_s)) << lines().join(u'\n').toStdString();
     first.reset();
