@@ -47,12 +47,12 @@ QString ownName() {
     return QSysInfo::machineHostName().remove(u'\'').left(40) + u" process "_s + QString::number(getpid());
 }
 
-// Rewrites one line of a terminal twice a second; elsewhere a line whenever other words are to be said.
+// Rewrites one line of a terminal twice a second; elsewhere a line every five seconds where there are other words to say.
 class StatusPrinter {
  public:
     StatusPrinter(const LiveFeed& feed, QTextStream& out, bool terminal) : feed_(feed), out_(out), terminal_(terminal) {
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { print(); });
-        timer_.start(500);
+        timer_.start(terminal ? 500 : 5000);
     }
     void print() {
         if (terminal_) {

@@ -38,12 +38,15 @@ void RecordingPlayer::start() {
 }
 
 qint64 RecordingPlayer::now() const {
+    if (playing_) return *playing_;
     return running_.isValid() ? static_cast<qint64>(static_cast<double>(running_.elapsed()) * speed_) : 0;
 }
 
 void RecordingPlayer::playDue() {
     while (next_.at <= now()) {
+        playing_ = next_.at;
         play(next_);
+        playing_.reset();
         if (!readNext()) {
             Q_EMIT ended();
             return;

@@ -32,6 +32,7 @@ class RecordingPlayer : public LiveSource {
     double speed_;
     Refusals& refusals_;
     QElapsedTimer running_;
+    std::optional<qint64> playing_;  // when the message that is being played came
     RecordedMessage next_;
     QTimer timer_{this};
 };
