@@ -10,6 +10,7 @@
 #include "app_feed/console_lock.h"
 #include "app_feed/feed_command.h"
 #include "app_feed/live_feed.h"
+#include "command_line/command_line.h"
 #include "live/daktronics_decoder.h"
 #include "live_sources/recording_player.h"
 #include "live_sources/serial_source.h"
@@ -129,13 +130,17 @@ TEST(Feed, RefusesWhatCannotBe) {
         {u"--to 127.0.0.1:7"_s, u"another feed sends to 127.0.0.1:7: process"_s},
         {u"--source x --from 9:00"_s, u"--from belongs to a clock without --source"_s},
         {u"--into 1"_s, u"--into needs --source or --make-tables"_s},
-        {u"--source x --into one"_s, u"--into takes the number of a connection, not one"_s},
+        {u"--source x --into one"_s, u"--into takes a number from 0 to 32767, not one"_s},
         {u"--make-tables --into 1"_s, u"PACKS.TXT"_s},
     };
     for (const auto& [arguments, fault] : cases) {
         QString printed;
         QTextStream out(&printed);
-        EXPECT_NE(runFeed(arguments.split(u' '), out, out), 0);
+        try {
+            EXPECT_EQ(runFeed(arguments.split(u' '), out, out), 1);
+        } catch (const UsageError& error) {
+            printed = error.text;
+        }
         EXPECT_TRUE(printed.contains(fault)) << arguments.toStdString() << ": " << printed.toStdString();
     }
 }
