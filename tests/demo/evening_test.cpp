@@ -220,14 +220,14 @@ TEST_P(Evening, LiveTablesTakeThePlaceOfTheDemosFigures) {
     EXPECT_TRUE(lastLine().contains(u"R1C7"_s) == false && lastLine().contains(u"R1C8\\\""_s))
         << qPrintable(lastLine());
     fire(u"auto5ada.csp"_s);
-    EXPECT_EQ("34", form_.at(u"txtS5H"_s, 0).text().toStdString());
+    EXPECT_EQ("34", form_.at(controls.txtS5H, 0).text().toStdString());
 
     // What has happened is proposed once; taking it marks it.
     const QString proposed = u"select count(*) || ' ' || min(pc_tag) from proposedcard where pc_event is not null"_s;
     EXPECT_EQ("3 T:1##P:118", fromDatabase(proposed).toStdString());
     for (int tick = 0; tick < 120; ++tick) game_.timedCards.tick();
     EXPECT_EQ("3 T:1##P:118", fromDatabase(proposed).toStdString());
-    const Control& offered = form_.at(u"lblPROPOSED"_s, 6);
+    const Control& offered = form_.at(controls.lblPROPOSED, 6);
     EXPECT_TRUE(offered.text().startsWith(english() ? u"Vance\r\n3 three-pointers"_s : u"Βανς\r\n3 τρίποντα"_s))
         << qPrintable(offered.text());
     game_.proposals.lblPROPOSED(6);

@@ -12,19 +12,14 @@ namespace zelvor {
 namespace {
 
 const std::array kOptions{
-    CommandLine::Option{u"--to"_s, true},    CommandLine::Option{u"--from"_s, true},
-    CommandLine::Option{u"--down"_s, false}, CommandLine::Option{u"--up"_s, false},
-    CommandLine::Option{u"--speed"_s, true}, CommandLine::Option{u"--jitter"_s, false},
-    CommandLine::Option{u"--source"_s, true},
-    CommandLine::Option{u"--into"_s, true},
-    CommandLine::Option{u"--app-folder"_s, true},
-    CommandLine::Option{u"--language"_s, true},
-    CommandLine::Option{u"--record"_s, true},
-    CommandLine::Option{u"--log"_s, true},
-    CommandLine::Option{u"--make-tables"_s, false},
-    CommandLine::Option{u"--replace"_s, false},
-    CommandLine::Option{u"--no-checksum"_s, false},
-    CommandLine::Option{u"--help"_s, false},
+    CommandLine::Option{u"--to"_s, true},           CommandLine::Option{u"--from"_s, true},
+    CommandLine::Option{u"--down"_s, false},        CommandLine::Option{u"--up"_s, false},
+    CommandLine::Option{u"--speed"_s, true},        CommandLine::Option{u"--jitter"_s, false},
+    CommandLine::Option{u"--source"_s, true},       CommandLine::Option{u"--into"_s, true},
+    CommandLine::Option{u"--app-folder"_s, true},   CommandLine::Option{u"--language"_s, true},
+    CommandLine::Option{u"--record"_s, true},       CommandLine::Option{u"--log"_s, true},
+    CommandLine::Option{u"--make-tables"_s, false}, CommandLine::Option{u"--replace"_s, false},
+    CommandLine::Option{u"--no-checksum"_s, false}, CommandLine::Option{u"--help"_s, false},
 };
 
 // "9:58" in seconds, up to 60:00.

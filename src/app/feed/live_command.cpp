@@ -47,7 +47,8 @@ QString ownName() {
     return QSysInfo::machineHostName().remove(u'\'').left(40) + u" process "_s + QString::number(getpid());
 }
 
-// Rewrites one line of a terminal twice a second; elsewhere a line every five seconds where there are other words to say.
+// Rewrites one line of a terminal twice a second; elsewhere a line every five seconds where there are other words to
+// say.
 class StatusPrinter {
  public:
     StatusPrinter(const LiveFeed& feed, QTextStream& out, bool terminal) : feed_(feed), out_(out), terminal_(terminal) {
