@@ -19,11 +19,15 @@ _zelvor_cards()
             _filedir -d
             return
             ;;
+        --source | --record | --log)
+            _filedir
+            return
+            ;;
         --angle)
             COMPREPLY=($(compgen -W 'RAD DEG GRAD' -- "$cur"))
             return
             ;;
-        --codepage | --language | --set | --answer | --connection | --main | --remote | --var | --digits | --to | \
+        --codepage | --language | --set | --answer | --connection | --main | --remote | --var | --digits | --to | --into | \
             --from | --speed | --feed-port | --amcp | --http | --bind | --channels)
             return
             ;;

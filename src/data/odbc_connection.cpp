@@ -56,6 +56,32 @@ class Connection::Running {
     Connection& connection_;
 };
 
+// What runs on an open connection while this lives is rolled back, unless it was committed.
+class Connection::Transaction {
+ public:
+    explicit Transaction(const Handle& connection) : connection_(connection) { setAutoCommit(SQL_AUTOCOMMIT_OFF); }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    ~Transaction() {
+        if (!committed_) SQLEndTran(SQL_HANDLE_DBC, connection_.raw(), SQL_ROLLBACK);
+        setAutoCommit(SQL_AUTOCOMMIT_ON);
+    }
+
+    // False when the driver refused.
+    bool commit() {
+        committed_ = SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.raw(), SQL_COMMIT));
+        return committed_;
+    }
+
+ private:
+    void setAutoCommit(quintptr how) const {
+        SQLSetConnectAttr(connection_.raw(), SQL_ATTR_AUTOCOMMIT, attributeValue(how), 0);
+    }
+
+    const Handle& connection_;
+    bool committed_ = false;
+};
+
 QString odbcPart(const QString& connectionString) {
     const qsizetype end = connectionString.indexOf(u';');
     const QString first = connectionString.left(end < 0 ? connectionString.size() : end);
@@ -99,12 +125,23 @@ Rows Connection::run(const QString& sql) {
         throw RunTimeError::withText(ErrorNumber::DatabaseError, u"The statement is empty."_s);
     }
     open();
+    return runOpen(sql);
+}
+
+Rows Connection::runOpen(const QString& sql) {
     Statement statement(handle_.raw(), kSecondsAllowed);
     const Running running(*this, statement);
     Rows rows;
     if (!statement.execute(characterSet_.encode(sql))) fail(statement.handle());
     if (statement.columnCount() > 0 && !statement.readRows(characterSet_, rows)) fail(statement.handle());
     return rows;
+}
+
+void Connection::runTogether(const QStringList& statements) {
+    open();
+    Transaction transaction(handle_);
+    for (const QString& sql : statements) runOpen(sql);
+    if (!transaction.commit()) fail(handle_);
 }
 
 void Connection::cancel() {

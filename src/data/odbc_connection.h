@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <mutex>
 
 #include "data/character_set.h"
@@ -25,6 +26,8 @@ class Connection {
     void open();
     // Runs a statement; the rows it gives, none for an UPDATE.
     Rows run(const QString& sql);
+    // Runs statements that give no rows as one transaction: all of them or, when one fails, none.
+    void runTogether(const QStringList& statements);
 
     // From any thread: a statement that runs is given up, as soon as its driver can, and no further one begins.
     void cancel();
@@ -34,7 +37,9 @@ class Connection {
 
  private:
     class Running;
+    class Transaction;
 
+    Rows runOpen(const QString& sql);
     [[nodiscard]] bool isDead();
     void askCharacterSet();
     [[noreturn]] void fail(const Handle& handle);

@@ -82,6 +82,10 @@ odbc::Rows Session::run(const QString& sql) {
     return inTime([sql](odbc::Connection& connection) { return connection.run(sql); });
 }
 
+void Session::runTogether(const QStringList& statements) {
+    inTime([statements](odbc::Connection& connection) { connection.runTogether(statements); });
+}
+
 odbc::Connection::State Session::state() const {
     using State = odbc::Connection::State;
     if (silentSince_.isValid()) return State::Failed;

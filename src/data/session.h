@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTime>
 #include <chrono>
 #include <future>
@@ -31,6 +32,8 @@ class Session {
     void open();
     // Runs a statement on the connection, opened anew first when it was lost.
     odbc::Rows run(const QString& sql);
+    // Runs statements as one transaction, within the time of one: all of them or none.
+    void runTogether(const QStringList& statements);
 
     [[nodiscard]] odbc::Connection::State state() const;
 

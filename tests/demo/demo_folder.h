@@ -24,11 +24,13 @@ class DemoFolder {
             QDir().mkpath(QFileInfo(copy).path());
             isMade_ = QFile::copy(files.filePath(), copy) && isMade_;
         }
-        const QString fill = QStringLiteral(".read ") + demoPath(QStringLiteral("demo.sql"));
+        const QString read = QStringLiteral(".read ");
         isMade_ =
-            isMade_ && QProcess::execute(QStringLiteral("sqlite3"), {QStringLiteral("-bail"), QStringLiteral("-cmd"),
-                                                                     QStringLiteral("pragma synchronous = off"),
-                                                                     path() + QStringLiteral("/demo.db"), fill}) == 0;
+            isMade_ && QProcess::execute(
+                           QStringLiteral("sqlite3"),
+                           {QStringLiteral("-bail"), QStringLiteral("-cmd"), QStringLiteral("pragma synchronous = off"),
+                            path() + QStringLiteral("/demo.db"), read + demoPath(QStringLiteral("demo.sql")),
+                            read + demoPath(QStringLiteral("live.sql"))}) == 0;
         isMade_ = QDir::setCurrent(path()) && isMade_;
     }
 

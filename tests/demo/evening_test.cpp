@@ -211,6 +211,44 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     EXPECT_EQ(sent, graphics_.sent.size());
 }
 
+TEST_P(Evening, LiveTablesTakeThePlaceOfTheDemosFigures) {
+    const auto write = [&](const QString& sql) { database_.execute(sql); };
+    write(
+        u"insert into live_game (home_name, away_name, home_score, away_score, period, home_fouls, away_fouls) "
+        "values ('Harbour City', 'Northfield', 97, 88, 5, 3, 4)"_s);
+    write(
+        u"insert into live_player (side, shirt, starter, points, rebounds, fouls) values ('H', '34', 1, 31, 12, 2), "
+        "('H', '18', 0, 9, 3, 4), ('A', '5', 1, 2, 1, 5)"_s);
+    for (int number = 1; number <= 4; ++number) {
+        write(
+            u"insert into live_action (number, period, side, shirt, kind, success) values (%1, %1, 'H', '18', '3pt', %2)"_s
+                .arg(number)
+                .arg(number > 1));
+    }
+    for (int tick = 0; tick < 60; ++tick) game_.timedCards.tick();
+    EXPECT_EQ("97", label(u"lblScoreA"_s).toStdString());
+    EXPECT_EQ("88", state_.variables.text(u"@GREENSCOREB").toStdString());
+    EXPECT_EQ("4", state_.variables.text(u"@FOULSAWAY").toStdString());
+    fire(u"topscorers.csp"_s);
+    EXPECT_TRUE(lastLine().contains(english() ? u"Giorgos Galanis"_s : u"Γιώργος Γαλάνης"_s)) << qPrintable(lastLine());
+    fire(u"quarters.csp"_s);
+    EXPECT_TRUE(lastLine().contains(u"R1C7"_s) == false && lastLine().contains(u"R1C8\\\""_s))
+        << qPrintable(lastLine());
+    fire(u"auto5ada.csp"_s);
+    EXPECT_EQ("34", form_.at(controls.txtS5H, 0).text().toStdString());
+
+    // What has happened is proposed once; taking it marks it.
+    const QString proposed = u"select count(*) || ' ' || min(pc_tag) from proposedcard where pc_event is not null"_s;
+    EXPECT_EQ("3 T:1##P:118", fromDatabase(proposed).toStdString());
+    for (int tick = 0; tick < 120; ++tick) game_.timedCards.tick();
+    EXPECT_EQ("3 T:1##P:118", fromDatabase(proposed).toStdString());
+    const Control& offered = form_.at(controls.lblPROPOSED, 6);
+    EXPECT_TRUE(offered.text().startsWith(english() ? u"Vance\r\n3 three-pointers"_s : u"Βανς\r\n3 τρίποντα"_s))
+        << qPrintable(offered.text());
+    game_.proposals.lblPROPOSED(6);
+    EXPECT_EQ("Y", fromDatabase(u"select pc_used from proposedcard where pc_id = 6"_s).toStdString());
+}
+
 INSTANTIATE_TEST_SUITE_P(Packs, Evening, testing::Values("EN", "GR"),
                          [](const auto& pack) { return std::string(pack.param); });
 

@@ -4,6 +4,8 @@
 #include <QHostInfo>
 
 #include "app_feed/clock_sender.h"
+#include "app_feed/console_lock.h"
+#include "app_feed/live_command.h"
 #include "app_feed/terminal_keys.h"
 
 using namespace Qt::StringLiterals;
@@ -11,20 +13,32 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 int runFeed(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-    constexpr int kUnknownHost = 1;
+    constexpr int kNotPossible = 1;
     const FeedOptions options = readFeedOptions(arguments);
     if (options.help) {
         out << feedHelp();
         return 0;
     }
+    if (options.live.makeTables) {
+        const FeedStatusCode made = makeTables(options.live, out, err);
+        if (made != FeedStatusCode::Done || options.live.source.isEmpty()) return static_cast<int>(made);
+    }
     const QHostInfo host = QHostInfo::fromName(options.to.host);
     if (host.addresses().isEmpty()) {
         err << "zelvor feed: " << options.to.host << ": " << host.errorString() << '\n';
-        return kUnknownHost;
+        return kNotPossible;
     }
 
+    const QHostAddress address = host.addresses().constFirst();
+    ConsoleLock lock(address, options.to.port);
+    if (QString holder; !lock.take(holder)) {
+        err << "zelvor feed: another feed sends to " << options.to.text() << ": " << holder << '\n';
+        return kNotPossible;
+    }
+    if (!options.live.source.isEmpty()) return static_cast<int>(runLive(options, address, out, err));
+
     QEventLoop loop;
-    ClockSender sender(options, host.addresses().constFirst());
+    ClockSender sender(options, address);
     TerminalKeys keys;
     out << "sending " << clockText(options.from) << " to " << clockText(options.last()) << " to " << options.to.text()
         << (keys.available() ? "; space stops and starts the clock, q ends\n" : "\n");

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "app_feed/live_options.h"
 #include "command_line/host_port.h"
 
 namespace zelvor {
@@ -16,6 +17,7 @@ struct FeedOptions {
     bool up = false;
     double speed = 1;  // game seconds a second
     bool jitter = false;
+    LiveOptions live;
     bool help = false;
 
     [[nodiscard]] int last() const { return up ? kLastSecond : 0; }

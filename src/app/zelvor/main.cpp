@@ -42,7 +42,7 @@ const std::array kSubcommands{
     Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
     Subcommand{u"check"_s, u"finds what is wrong with packs without running them"_s, zelvor::runCheck},
     Subcommand{u"eval"_s, u"evaluates a script expression"_s, zelvor::runEval},
-    Subcommand{u"feed"_s, u"sends the datagrams of a game clock"_s, zelvor::runFeed},
+    Subcommand{u"feed"_s, u"sends the game clock, brings live data to the console"_s, zelvor::runFeed},
     Subcommand{u"language-server"_s, u"serves an editor of packs"_s, zelvor::runLanguageServer},
     Subcommand{u"new"_s, u"makes the smallest pack that runs"_s, zelvor::runNewPack},
     Subcommand{u"run"_s, u"runs a card and prints every line that it puts on air"_s, run},
