@@ -5,16 +5,14 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include "engine/card_engine.h"
 #include "engine/system_clock.h"
 #include "engine/template_xml.h"
 #include "link/graphics_links.h"
-#include "unused_ports.h"
+#include "support/graphics_peer.h"
+#include "support/unused_ports.h"
 
 using namespace Qt::StringLiterals;
 
@@ -93,7 +91,7 @@ class OneCard {
     SystemClock clock{program.closing};
 
  private:
-    Unused unused_;
+    test::Unused unused_;
     CountedGraphics counted_;
     CardEngine engine_;
 };
@@ -121,39 +119,10 @@ void loopOf1000Records(benchmark::State& bench) {
 }
 BENCHMARK(loopOf1000Records)->Unit(benchmark::kMillisecond);
 
-// A local server in a thread of its own that answers every line.
-class Peer : public QThread {
- public:
-    Peer() {
-        start();
-        while (port_ == 0) yieldCurrentThread();
-    }
-    ~Peer() override {
-        quit();
-        wait();
-    }
-    quint16 port() const { return port_; }
-
- private:
-    void run() override {
-        QTcpServer server;
-        server.listen(QHostAddress::LocalHost);
-        QObject::connect(&server, &QTcpServer::newConnection, &server, [&server] {
-            QTcpSocket* socket = server.nextPendingConnection();
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] {
-                const qsizetype lines = socket->readAll().count('\n');
-                socket->write(QByteArray("202 CG OK\r\n").repeated(lines));
-            });
-        });
-        port_ = server.serverPort();
-        exec();
-    }
-    std::atomic<quint16> port_ = 0;
-};
-
 // A card that fills 40 fields and updates a template, until its reply is there.
 void updateOf40FieldsWithReply(benchmark::State& bench) {
-    const Peer peer;
+    test::GraphicsPeer peer({[] {}, [](std::string_view) {}});
+    if (!peer.start()) qFatal("no local server");
     QByteArray script = "CLEARDATA\n";
     for (int i = 0; i < 40; ++i)
         script += QByteArrayLiteral("SDATA~f%1;value %1\n").replace("%1", QByteArray::number(i));

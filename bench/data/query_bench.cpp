@@ -16,6 +16,7 @@
 
 #include "base/run_time_error.h"
 #include "data/connections.h"
+#include "support/unused_ports.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,17 +27,6 @@ constexpr int kRowsAnInsert = 500;
 constexpr int kColumns = 6;
 constexpr int kRounds = 9;
 const QString kQuery = u"select * from query_bench"_s;
-
-class NoOperator : public zelvor::Operator {
- public:
-    void message(const zelvor::Asker&, const QString& title, const QString& text, Severity) override {
-        qFatal("%s", qPrintable(title + text));
-    }
-    bool yesNo(const zelvor::Asker&, const QString&, const QString&) override { return false; }
-    std::optional<QString> input(const zelvor::Asker&, const QString&, const QString&, const QString&) override {
-        return {};
-    }
-};
 
 void makeTable(zelvor::Connections& database) {
     try {
@@ -95,9 +85,9 @@ int main(int argc, char* argv[]) {
 
     zelvor::ShowState state;
     state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
-    NoOperator noOperator;
+    zelvor::test::Unused unused;
     zelvor::Program program{zelvor::AppFolder(directory.path()), {}, zelvor::ErrorTrap(directory.filePath(u"log"_s))};
-    zelvor::Connections database(state, noOperator, program, {{}, 1});
+    zelvor::Connections database(state, unused, program, {{}, 1});
     makeTable(database);
 
     zelvor::odbc::Handle environment(SQL_HANDLE_ENV, nullptr);

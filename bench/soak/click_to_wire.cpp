@@ -12,7 +12,7 @@
 
 #include "console/theme.h"
 #include "soak_desk/console_desk.h"
-#include "soak_desk/graphics_peer.h"
+#include "support/graphics_peer.h"
 
 using namespace Qt::StringLiterals;
 using namespace zelvor;
@@ -133,11 +133,11 @@ int main(int argc, char* argv[]) {
     addCard(desk);
     desk.start();
     Arrivals arrivals;
-    GraphicsPeer peer({[] {},
-                       [&](std::string_view) {
-                           arrivals.newest = std::chrono::steady_clock::now();
-                           ++arrivals.count;
-                       }});
+    test::GraphicsPeer peer({[] {},
+                             [&](std::string_view) {
+                                 arrivals.newest = std::chrono::steady_clock::now();
+                                 ++arrivals.count;
+                             }});
     if (!peer.start()) qFatal("no local server");
     desk.connectMain(peer.port());
     desk.click("GradientButtonS", 0);

@@ -77,8 +77,8 @@ void Game::plan() {
     events_.push_back({seconds_ * 0.75, [this] { setManual(false); }});
     planFires();
     planScores();
-    planServer(seconds_ * 0.30, GraphicsPeer::End::Orderly);
-    planServer(seconds_ * 0.65, GraphicsPeer::End::Abrupt);
+    planServer(seconds_ * 0.30, test::GraphicsPeer::End::Orderly);
+    planServer(seconds_ * 0.65, test::GraphicsPeer::End::Abrupt);
     planDatabase();
     std::stable_sort(events_.begin(), events_.end(), [](const Event& a, const Event& b) { return a.at < b.at; });
 }
@@ -96,7 +96,7 @@ void Game::planScores() {
         events_.push_back({seconds_ * (i + 0.25) / kScoreChanges, [this, i] { changeScore(i); }});
 }
 
-void Game::planServer(double at, GraphicsPeer::End end) {
+void Game::planServer(double at, test::GraphicsPeer::End end) {
     events_.push_back({at, [this, end] { peer_.stop(end); }});
     events_.push_back({at + kServerAway, [this] {
                            if (desk_.app().links().state(LinkId::Main) == Graphics::kConnected)

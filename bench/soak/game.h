@@ -10,8 +10,8 @@
 
 #include "mariadb_demo.h"
 #include "soak_desk/console_desk.h"
-#include "soak_desk/graphics_peer.h"
 #include "soak_desk/line_ledger.h"
+#include "support/graphics_peer.h"
 
 namespace zelvor {
 
@@ -43,7 +43,7 @@ class Game : public QObject {
     void plan();
     void planFires();
     void planScores();
-    void planServer(double at, GraphicsPeer::End end);
+    void planServer(double at, test::GraphicsPeer::End end);
     void planDatabase();
     void awaitDatabase();
     void turn();
@@ -66,7 +66,7 @@ class Game : public QObject {
     double seconds_;
     LineLedger arrived_;
     LineLedger sent_;
-    GraphicsPeer peer_;
+    test::GraphicsPeer peer_;
     std::vector<Event> events_;
     std::size_t nextEvent_ = 0;
     std::vector<std::pair<int, int>> cards_;  // set and button

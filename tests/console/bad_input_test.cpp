@@ -128,14 +128,14 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
         QString after;
     };
     const QList<Moment> moments{
-        {"DELAY", [](Gallery& gallery) { gallery.click("cmbCARD", 1); }, u"AFTER\r\n"_s},
-        {"the pause before PLAY", [](Gallery& gallery) { gallery.click("cmbCARD", 2); }, u"AFTER PLAY\r\n"_s},
+        {"DELAY", [](Gallery& gallery) { gallery.click("cmbCARD", 1); }, u"AFTER"_s},
+        {"the pause before PLAY", [](Gallery& gallery) { gallery.click("cmbCARD", 2); }, u"AFTER PLAY"_s},
         {"a timed card's question",
          [](Gallery& gallery) {
              gallery.app->state().cards.timedCards = {{u"asks.csp"_s, 1}};
              gallery.app->desk().timedCards.tick();
          },
-         u"AFTER\r\n"_s},
+         u"AFTER"_s},
     };
     struct Deed {
         const char* what;
@@ -147,13 +147,13 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
     const QList<Deed> deeds{
         {"closes the window", [](Gallery& gallery) { gallery.app->window().close(); }, {}, false},
         {"changes the card box", [](Gallery& gallery) { gallery.click("GradientButtonS", 1); }, {}, true},
-        {"fires another card", [](Gallery& gallery) { gallery.click("cmbCARD", 0); }, {u"SCORE\r\n"_s}, true},
-        {"clears", [](Gallery& gallery) { gallery.click("GradientButtonAIR"); }, {u"CLEAR 1\r\n"_s}, true, true},
+        {"fires another card", [](Gallery& gallery) { gallery.click("cmbCARD", 0); }, {u"SCORE"_s}, true},
+        {"clears", [](Gallery& gallery) { gallery.click("GradientButtonAIR"); }, {u"CLEAR 1"_s}, true, true},
     };
     for (const Moment& moment : moments) {
         for (const Deed& deed : deeds) {
             SCOPED_TRACE(std::string(moment.what) + ": the operator " + deed.what);
-            LinePeer peer;
+            LineServer peer;
             Gallery gallery;
             start(gallery);
             connectTo(gallery, peer);
@@ -174,8 +174,8 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
             EXPECT_EQ(gallery.app->program().closing.hasBegun(), !deed.goesOn);
             const QStringList expected =
                 deed.before + (deed.goesOn && !deed.endsTheCard ? QStringList{moment.after} : QStringList());
-            EXPECT_TRUE(waitUntil([&] { return peer.lines.size() >= expected.size(); }));
-            EXPECT_EQ(peer.lines, expected);
+            EXPECT_TRUE(waitUntil([&] { return peer.bytes.count('\n') >= expected.size(); }));
+            EXPECT_EQ(peer.takeLines(), expected);
             if (deed.goesOn) expectUsable(gallery);
         }
     }

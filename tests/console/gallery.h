@@ -4,42 +4,16 @@
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <memory>
 
 #include "app_cards/cards_app.h"
+#include "support/line_server.h"
 #include "support/wait.h"
 
 namespace zelvor::test {
-
-// A graphics server of the test's own: answers each line, keeps what it is sent.
-class LinePeer : public QTcpServer {
- public:
-    LinePeer() {
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, this, [this] {
-                while (socket->canReadLine()) {
-                    lines += QString::fromUtf8(socket->readLine());
-                    socket->write("202 CG OK\r\n");
-                }
-            });
-        });
-        listen(QHostAddress::LocalHost, 0);
-    }
-    // The server goes away.
-    void stop() {
-        close();
-        socket->abort();
-    }
-
-    QStringList lines;
-    QTcpSocket* socket = nullptr;
-};
 
 // The whole console on an application folder of the test's own, driven through its window.
 class Gallery {
@@ -103,10 +77,14 @@ class Gallery {
     }
     Control& at(const char* name, int index = -1) const { return *app->form().find(QString::fromLatin1(name), index); }
 
-    void connectMain(const LinePeer& peer) const {
-        at("txtGASPARPORT").setText(QString::number(peer.serverPort()));
+    void connectMain(quint16 port) const {
+        at("txtGASPARPORT").setText(QString::number(port));
         click("cmdGASPARCONNECT");
-        waitUntil([&] { return app->links().state(LinkId::Main) == Graphics::kConnected && peer.socket != nullptr; });
+        waitUntil([&] { return app->links().state(LinkId::Main) == Graphics::kConnected; });
+    }
+    void connectMain(const LineServer& server) const {
+        connectMain(server.serverPort());
+        waitUntil([&] { return server.peer != nullptr; });
     }
 
     QTemporaryDir folder;

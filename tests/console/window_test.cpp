@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QListView>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
 #include <QUdpSocket>
 
@@ -31,15 +30,15 @@ class MainWindowTest : public testing::Test {
         gallery.start();
     }
     bool sent(const QStringList& lines) {
-        return waitUntil([&] { return peer.lines.size() >= lines.size(); }) && std::exchange(peer.lines, {}) == lines;
+        return waitUntil([&] { return peer.bytes.count('\n') >= lines.size(); }) && peer.takeLines() == lines;
     }
 
-    LinePeer peer;
+    LineServer peer;
     Gallery gallery;
 };
 
-const QString kScoreLine = u"CG 1-20 ADD 1 \"score\" 1\r\n"_s;
-const QString kPlayerLine = u"CG 1-21 ADD 1 \"player\" 1\r\n"_s;
+const QString kScoreLine = u"CG 1-20 ADD 1 \"score\" 1"_s;
+const QString kPlayerLine = u"CG 1-21 ADD 1 \"player\" 1"_s;
 
 TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
     startWithCards();
@@ -55,14 +54,12 @@ TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
     EXPECT_TRUE(gallery.find<CardButton>("cmbCARD", 20)->face().quiet);
     EXPECT_EQ(gallery.find<TextLabel>("lblONAIRCARD")->text(), u"Score");
 
-    gallery.click("cmdCARDBOX", 1);
-    EXPECT_TRUE(sent({kPlayerLine}));
     gallery.click("GradientButtonS", 1);
     EXPECT_EQ(gallery.find<CardButton>("cmbCARD", 0)->text(), u"Second");
     gallery.click("cmbCARD", 0);
     gallery.press(Qt::Key_F4);
     gallery.click("GradientButtonAIR");
-    EXPECT_TRUE(sent({u"SECOND\r\n"_s, kPlayerLine, u"CLEAR 1\r\n"_s}));
+    EXPECT_TRUE(sent({u"SECOND"_s, kPlayerLine, u"CLEAR 1"_s}));
     EXPECT_EQ(gallery.find<TextLabel>("lblONAIR")->text(), u"");
 }
 
@@ -127,9 +124,6 @@ TEST_F(MainWindowTest, WidgetsMirrorControlsBothWays) {
     gallery.at("cmbCASPARREMOTELIST").setPosition(2);
     EXPECT_TRUE(gallery.find<QLineEdit>("txtGASPARIPREMOTE")->isReadOnly());
     EXPECT_EQ(gallery.find<QLineEdit>("txtGASPARIPREMOTE")->text(), u"192.168.1.102");
-    gallery.click("cmdTAB", 5);
-    gallery.find<QRadioButton>("optTIMERS", 1)->click();
-    EXPECT_TRUE(gallery.at("optTIMERS", 1).checked());
 }
 
 TEST_F(MainWindowTest, LinkLostAndDisconnected) {
@@ -157,7 +151,7 @@ TEST_F(MainWindowTest, ManualLineAndHistory) {
     line->setFocus();
     QTest::keyClicks(line, u"CG 1-1 ADD 1 '{@HTLNAMEEN}' 1"_s);
     QTest::keyClick(line, Qt::Key_Return);
-    EXPECT_TRUE(sent({u"CG 1-1 ADD 1 \"Harbour City\" 1\r\n"_s}));
+    EXPECT_TRUE(sent({u"CG 1-1 ADD 1 \"Harbour City\" 1"_s}));
     line->clear();
     QTest::keyClick(line, Qt::Key_Up);
     EXPECT_EQ(line->text(), u"CG 1-1 ADD 1 '{@HTLNAMEEN}' 1");
@@ -255,10 +249,6 @@ TEST_F(MainWindowTest, DrivesTheGameFromItsPanels) {
     EXPECT_FALSE(mark->isVisible());
     gallery.find<QCheckBox>("chkMANUAL")->setChecked(true);
     EXPECT_TRUE(mark->isVisible());
-    gallery.click("cmdMANSCORE", 0);
-    gallery.click("cmdMANSCORE", 3);
-    EXPECT_EQ(gallery.find<TextLabel>("lblScoreA")->text(), u"1");
-    EXPECT_EQ(gallery.find<TextLabel>("lblScoreB")->text(), u"-1");
 
     gallery.at("lblHPLAYERS", 4).setText(u"7 Laskaris"_s);
     gallery.at("lblHPLAYERS", 4).setTag(u"P:7"_s);
@@ -295,7 +285,7 @@ TEST_F(MainWindowTest, QuestionsOfATimedCardLeaveTheKeyboardAlone) {
         QTest::keyClicks(line, u"VERSION"_s);
         gallery.press(Qt::Key_Return);
         QTest::keyClick(&box, Qt::Key_F4);  // also where he has clicked the question itself
-        EXPECT_TRUE(sent({kPlayerLine, u"VERSION\r\n"_s, kPlayerLine}));
+        EXPECT_TRUE(sent({kPlayerLine, u"VERSION"_s, kPlayerLine}));
         box.accept();
     };
     gallery.app->state().cards.timedCards = {{u"asks.csp"_s, 1}};

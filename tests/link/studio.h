@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QTcpServer>
-#include <QTcpSocket>
-
 #include "link/link_console.h"
 #include "support/fake_ports.h"
+#include "support/line_server.h"
 #include "support/wait.h"
 
 namespace zelvor::test {
@@ -20,25 +18,9 @@ class StudioClock : public FakeClock {
     std::function<bool()> duringTurns = [] { return true; };
 };
 
-// A graphics server of the test's own: keeps what it is sent, unless told never to read.
-class Server : public QTcpServer {
- public:
-    explicit Server(bool reads = true) {
-        connect(this, &QTcpServer::newConnection, this, [this, reads] {
-            peer = nextPendingConnection();
-            if (!reads) return peer->setReadBufferSize(1);
-            connect(peer, &QTcpSocket::readyRead, this, [this, from = peer] { bytes += from->readAll(); });
-        });
-        listen(QHostAddress::LocalHost, 0);
-    }
-    QString port() const { return QString::number(serverPort()); }
-    void stop() {
-        close();
-        peer->disconnectFromHost();
-    }
-
-    QByteArray bytes;
-    QTcpSocket* peer = nullptr;
+// Takes what it is sent and says nothing.
+struct Server : LineServer {
+    explicit Server(bool reads = true) : LineServer(reads ? Manner::Listens : Manner::NeverReads) {}
 };
 
 // The links with all they work on, in an application folder of their own.

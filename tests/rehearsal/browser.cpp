@@ -7,7 +7,7 @@
 #include <QRegularExpression>
 #include <csignal>
 
-#include "eventually.h"
+#include "support/wait.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +33,7 @@ bool Browser::start() {
                     u"--window-size=1280,800"_s, u"about:blank"_s});
     static const QRegularExpression listening(u"DevTools listening on (ws://\\S+)"_s);
     QString output;
-    const bool answers = process_.waitForStarted() && eventually([&] {
+    const bool answers = process_.waitForStarted() && test::waitUntil([&] {
                              output += QString::fromLocal8Bit(process_.readAllStandardError());
                              return output.contains(listening) || process_.state() == QProcess::NotRunning;
                          });
@@ -45,7 +45,7 @@ bool Browser::start() {
     QObject::connect(&socket_, &QWebSocket::textMessageReceived, &socket_,
                      [this](const QString& message) { receive(message); });
     socket_.open(QUrl(match.captured(1)));
-    if (!eventually([&] { return socket_.isValid(); })) {
+    if (!test::waitUntil([&] { return socket_.isValid(); })) {
         fault_ = u"Chromium does not take a connection: "_s + socket_.errorString();
         return false;
     }
@@ -95,7 +95,7 @@ QJsonObject Browser::call(const QString& method, const QJsonObject& parameters, 
     socket_.sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
     // A frame that goes meanwhile never answers.
     const auto isGone = [&] { return !session.isEmpty() && session != page_ && !frames_.contains(session); };
-    eventually([&] { return results_.contains(id) || isGone(); });
+    test::waitUntil([&] { return results_.contains(id) || isGone(); });
     const auto result = results_.extract(id);
     return result.empty() ? QJsonObject() : result.mapped();
 }

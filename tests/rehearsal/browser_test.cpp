@@ -6,7 +6,7 @@
 
 #include "browser.h"
 #include "demo/demo_folder.h"
-#include "eventually.h"
+#include "support/wait.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +21,7 @@ class Server {
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process_.start(QStringLiteral(REHEARSAL_PROGRAM), QStringList{u"--templates"_s, templates} + more);
         QByteArray output;
-        eventually([&] {
+        test::waitUntil([&] {
             output += process_.readAllStandardOutput();
             return output.count('\n') == 2 || process_.state() == QProcess::NotRunning;
         });
@@ -67,13 +67,13 @@ class BrowserTest : public testing::Test {
         browser_->open(server.page());
         ASSERT_TRUE(becomes([] { return page(u"document.querySelectorAll('.channel').length"_s); }, u"2"_s));
         console_.connectToHost(u"127.0.0.1"_s, server.amcpPort().toUShort());
-        ASSERT_TRUE(eventually([&] { return console_.state() == QAbstractSocket::ConnectedState; }));
+        ASSERT_TRUE(test::waitUntil([&] { return console_.state() == QAbstractSocket::ConnectedState; }));
     }
 
     // Sends a line and waits for the reply.
     QString send(const QString& line) {
         console_.write(line.toUtf8() + "\r\n");
-        eventually([&] { return console_.canReadLine(); });
+        test::waitUntil([&] { return console_.canReadLine(); });
         return QString::fromUtf8(console_.readAll()).trimmed();
     }
 
@@ -85,7 +85,7 @@ class BrowserTest : public testing::Test {
 
     static testing::AssertionResult becomes(const std::function<QString()>& read, const QString& wanted) {
         QString last;
-        if (eventually([&] { return (last = read()).contains(wanted); })) {
+        if (test::waitUntil([&] { return (last = read()).contains(wanted); })) {
             return testing::AssertionSuccess();
         }
         return testing::AssertionFailure() << "still \"" << qPrintable(last) << "\", not " << qPrintable(wanted);
@@ -112,7 +112,7 @@ TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
         frame(kLowerThird, u"window.isOld = true"_s);
         page(u"location.reload()"_s);
         QString seen;
-        eventually([&] {
+        test::waitUntil([&] {
             seen = frame(kLowerThird, u"window.isOld ? '' : `${%1} ${%2}`"_s.arg(kName, kPanel));
             return seen.startsWith(u"O’Neal"_s);
         });

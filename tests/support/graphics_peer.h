@@ -6,7 +6,7 @@
 #include <string_view>
 #include <thread>
 
-namespace zelvor {
+namespace zelvor::test {
 
 // A graphics server on a thread of its own: takes one connection after the other and answers each line with "202".
 class GraphicsPeer {
@@ -44,4 +44,4 @@ class GraphicsPeer {
     std::atomic<bool> killed_ = false;
 };
 
-}  // namespace zelvor
+}  // namespace zelvor::test

@@ -2,7 +2,7 @@
 
 #include "engine/ports.h"
 
-namespace zelvor {
+namespace zelvor::test {
 
 // The ports that a measured card does not use. A message box ends the program: nothing was to go wrong.
 class Unused : public Operator, public AskDialog, public Database, public Desktop {
@@ -21,4 +21,4 @@ class Unused : public Operator, public AskDialog, public Database, public Deskto
     void loadForm(const Asker&, const QString&) override {}
 };
 
-}  // namespace zelvor
+}  // namespace zelvor::test

@@ -1,4 +1,4 @@
-#include "soak_desk/graphics_peer.h"
+#include "support/graphics_peer.h"
 
 #include <arpa/inet.h>
 #include <netinet/tcp.h>
@@ -8,7 +8,7 @@
 #include <array>
 #include <string>
 
-namespace zelvor {
+namespace zelvor::test {
 
 namespace {
 
@@ -82,4 +82,4 @@ void GraphicsPeer::converse(int socket) {
     }
 }
 
-}  // namespace zelvor
+}  // namespace zelvor::test
