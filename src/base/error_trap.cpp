@@ -13,6 +13,11 @@ QString errorMessage(const ErrorPlace& place, int number, const QString& text) {
            QString::number(place.line);
 }
 
+QString errorTitle(const ErrorPlace& place) {
+    const ScriptPlace& at = place.asker.at;
+    return at.card.isEmpty() ? QString() : u"Error in "_s + at.text();
+}
+
 QString errorLogPath(const QString& executablePath, const QString& appFolder) {
     const QFileInfo executable(executablePath);
     const QString name = u'/' + executable.completeBaseName() + u".log"_s;
@@ -37,8 +42,10 @@ void ErrorTrap::handle(const ErrorPlace& place, Tell tell, int number, const QSt
         if (log.open(QIODevice::Append)) {
             QString oneLine = text;
             oneLine.replace(u'\r', u' ').replace(u'\n', u' ');
+            const ScriptPlace& at = place.asker.at;
             log.write(QStringList{QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s), place.procedure,
-                                  place.card, u"line %1"_s.arg(place.line), u"error %1"_s.arg(number), oneLine}
+                                  at.card, at.line > 0 ? at.lineText() : u"line %1"_s.arg(place.line),
+                                  u"error %1"_s.arg(number), oneLine}
                           .join(u'\t')
                           .toUtf8() +
                       '\n');

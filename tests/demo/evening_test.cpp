@@ -175,6 +175,10 @@ TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
     EXPECT_EQ("2|Y|player.csp|T:2##P:212", form_.at(controls.lblPROPOSED, 2).tag().toStdString());
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-21 UPDATE"_s)) << "what is on air does not come on again";
     EXPECT_EQ("N", fromDatabase(u"select pc_used from proposedcard where pc_id = 4"_s).toStdString());
+    // A large graphic takes the lower third off, also from its slot.
+    fire(u"titles.csp"_s);
+    EXPECT_EQ("titles.csp", state_.ONAIR_TABLE.at(1, 2).toStdString());
+    EXPECT_EQ("", state_.variables.text(u"LASTCARDTAG1-2").toStdString());
 }
 
 TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {

@@ -99,7 +99,7 @@ void CardsApp::start() {
 void CardsApp::tell(const ErrorPlace& place, const QString& message) {
     if (telling_) return;
     const QScopedValueRollback telling(telling_, true);
-    boxes_.message(place.asker, {}, message, Operator::Severity::Critical);
+    boxes_.message(place.asker, errorTitle(place), message, Operator::Severity::Critical);
 }
 
 void CardsApp::connectDatabase() {
