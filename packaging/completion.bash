@@ -24,7 +24,7 @@ _zelvor_cards()
             return
             ;;
         --codepage | --language | --set | --answer | --connection | --main | --remote | --var | --digits | --to | \
-            --from | --speed | --feed-port | --amcp | --http | --bind | --channels)
+            --from | --speed | --pack | --feed-port | --amcp | --http | --bind | --channels)
             return
             ;;
     esac

@@ -11,9 +11,9 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 CardsApp::CardsApp(const Options& options)
-    : feedPort_(options.feedPort),
+    : options_(options),
       program_{AppFolder(options.appFolder), options.files, ErrorTrap(options.errorLog)},
-      database_(state_, boxes_, program_, {options.commandLine, std::nullopt}),
+      database_(state_, boxes_, program_, {options.commandLine, options.connection, true}),
       linkConsole_(form_, links_, clock_, program_.trap,
                    [this](const QString& text) { return EXPAND_VARS(text, state_.variables, state_.QUERY_RESULT); }),
       startUp_(engine_, cards_, steps()) {
@@ -77,10 +77,21 @@ void CardsApp::answerDesk() {
     events_.onMouseDown(controls.lblHPLAYERS, players(&PlayerLabels::lblHPLAYERS));
 }
 
+void CardsApp::nameServers() {
+    const auto name = [this](const LinkControls& link, const std::optional<HostPort>& server, auto connects) {
+        if (!server) return;
+        form_.at(link.address).setText(server->host);
+        form_.at(link.port).setText(QString::number(server->port));
+        if (options_.connects) (linkConsole_.*connects)();
+    };
+    name(kMainLinkControls, options_.main, &LinkConsole::cmdGASPARCONNECT);
+    name(kRemoteLinkControls, options_.remote, &LinkConsole::cmdGASPARCONNECTREMOTE);
+}
+
 StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
-    steps.bindFeed = [this] { desk_.feedSocket.bind(feedPort_); };
-    steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
+    steps.bindFeed = [this] { desk_.feedSocket.bind(options_.feedPort); };
+    steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(options_.pack); };
     steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     steps.LOAD_ASK = [this] { LOAD_ASK(state_, program_); };
@@ -92,6 +103,7 @@ StartUp::Steps CardsApp::steps() {
 
 void CardsApp::start() {
     window_.setWindowTitle(startUp_.caption());
+    nameServers();
     startUp_.run();
 }
 

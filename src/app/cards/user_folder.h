@@ -8,9 +8,6 @@ namespace zelvor {
 // folder, in ../share/zelvor-cards/demo.
 QString installedDemo(const QString& programFolder);
 
-// The user's own application folder: "zelvor-cards" where the desktop keeps programs' data (XDG_DATA_HOME).
-QString userFolder();
-
 // Makes the folder as a copy of the demo. One that exists is left as it is, whatever it holds. Gives what went wrong,
 // in words, after which there is no folder; empty when all is well.
 QString makeUserFolder(const QString& folder, const QString& demo);

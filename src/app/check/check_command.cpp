@@ -1,6 +1,5 @@
 #include "app_check/check_command.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <array>
 
@@ -17,11 +16,12 @@ constexpr int kClean = 0;
 constexpr int kErrors = 1;
 
 const QString kUsage =
-    uR"(usage: zelvor check [--app-folder DIR] [CODE]
+    uR"(usage: zelvor check [--app-folder DIR | --user-folder] [CODE]
 
 Reads the pack of that code, or every pack of PACKS.TXT, and prints what is wrong with it without running a card.
 
   --app-folder DIR     the application folder (default: the program's own)
+  --user-folder        the user's own folder, ~/.local/share/zelvor-cards
 
 A line each: FILE:LINE: error|warning: TEXT; then the counts. Exit status 1 when there is an error.
 )"_s;
@@ -29,7 +29,8 @@ A line each: FILE:LINE: error|warning: TEXT; then the counts. Exit status 1 when
 }  // namespace
 
 int runCheck(const QStringList& arguments, QTextStream& out, QTextStream&) {
-    static const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true}, CommandLine::Option{u"--help"_s},
+    static const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true},
+                                     CommandLine::Option{u"--user-folder"_s}, CommandLine::Option{u"--help"_s},
                                      CommandLine::Option{u"-h"_s}};
     const CommandLine line(arguments, kOptions);
     if (line.has(u"--help") || line.has(u"-h")) {
@@ -39,7 +40,7 @@ int runCheck(const QStringList& arguments, QTextStream& out, QTextStream&) {
     line.check();
     if (line.rest().size() > 1) throw UsageError{u"one pack at a time, or all"_s};
 
-    const AppFolder folder(line.value(u"--app-folder").value_or(QCoreApplication::applicationDirPath()));
+    const AppFolder folder(line.appFolder());
     if (!QFileInfo(folder.path()).isDir()) throw UsageError{u"no such folder: "_s + folder.path()};
     Findings findings;
     if (line.rest().isEmpty()) {
