@@ -34,10 +34,13 @@ CardsApp::CardsApp(const Options& options)
     connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
     connect(&window_, &MainWindow::clearKey, &cards_, &CardConsole::pressClear);
     cards_.presses().setWaited([this] { return inputTimes_.waited(); });
+    connect(&boxes_, &Boxes::silenced, this,
+            [this](const QString& words) { form_.at(controls.lblSILENCED).setText(words); });
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     // The last lines are handed over before boxes end and runs that wait are told so.
     connect(&program_.closing, &Closing::begun, this, &CardsApp::release);
     connect(&program_.closing, &Closing::begun, &window_, &QWidget::close);
+    window_.setMayClose([this] { return mayClose(); });
     connect(&window_, &MainWindow::closed, &program_.closing, &Closing::begin);
 }
 
@@ -129,6 +132,15 @@ void CardsApp::connectDatabase() {
     }
     form_.at(controls.lblDATABASE).setText(words);
     form_.at(controls.lblDATABASE).setRole(role);
+}
+
+bool CardsApp::mayClose() {
+    QStringList reasons;
+    const bool isLinked =
+        links_.state(LinkId::Main) == Graphics::kConnected || links_.state(LinkId::Remote) == Graphics::kConnected;
+    if (isLinked && !form_.at(controls.lblONAIR).text().isEmpty()) reasons += u"Something is on air."_s;
+    if (settings_.hasUnsaved()) reasons += u"General variables are not saved."_s;
+    return reasons.isEmpty() || boxes_.yesNo({}, u"Close the console?"_s, reasons.join(u"\r\n"_s));
 }
 
 void CardsApp::release() {

@@ -62,6 +62,7 @@ class CardsApp : public QObject {
     void nameServers();
     void tell(const ErrorPlace& place, const QString& message);
     void connectDatabase();
+    bool mayClose();
     void release();
 
     Options options_;
