@@ -28,7 +28,7 @@ _zelvor_cards()
             return
             ;;
         --codepage | --language | --set | --answer | --connection | --main | --remote | --var | --digits | --to | --into | \
-            --from | --speed | --feed-port | --amcp | --http | --bind | --channels)
+            --from | --speed | --pack | --feed-port | --amcp | --http | --bind | --channels)
             return
             ;;
     esac

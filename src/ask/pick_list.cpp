@@ -50,7 +50,7 @@ PickList::PickList(ShowState& state, Database& database, ErrorTrap& trap, const 
     : state_(state), openBefore_(state.ask.ASK_OPEN) {
     state_.ask.ASK_OPEN = AskState::kYes;
     state_.ask.ASK_RESULT = u"-1"_s;
-    trap.run({u"frmASK.Form_Load"_s, {}, 0, asker}, ErrorTrap::Tell::Operator, [&] { readRows(database); });
+    trap.run({u"frmASK.Form_Load"_s, 0, asker}, ErrorTrap::Tell::Operator, [&] { readRows(database); });
 }
 
 void PickList::readRows(Database& database) {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <optional>
 
+#include "base/script_place.h"
+
 namespace zelvor {
 
 // Where a card stands in the card table: its set, and its button in that set from 0.
@@ -20,6 +22,7 @@ struct Asker {
     Kind kind = Kind::Operator;
     QString card = {};                    // the card that was asked for; empty for a deed that runs none
     std::optional<CardPlace> place = {};  // its button, for one that has one
+    ScriptPlace at = {};  // the line of the running card that speaks for him; that card may be another's
 
     [[nodiscard]] bool isAttended() const { return kind == Kind::Operator || kind == Kind::StartUp; }
 };

@@ -13,6 +13,11 @@ QString errorMessage(const ErrorPlace& place, int number, const QString& text) {
            QString::number(place.line);
 }
 
+QString errorTitle(const ErrorPlace& place) {
+    const ScriptPlace& at = place.asker.at;
+    return at.card.isEmpty() ? QString() : u"Error in "_s + at.text();
+}
+
 QString errorLogPath(const QString& executablePath, const QString& appFolder) {
     const QFileInfo executable(executablePath);
     const QString name = u'/' + executable.completeBaseName() + u".log"_s;
@@ -35,8 +40,9 @@ void ErrorTrap::write(const ErrorPlace& place, const QString& kind, const QStrin
     if (!log.open(QIODevice::Append)) return;
     QString oneLine = text;
     oneLine.replace(u'\r', u' ').replace(u'\n', u' ');
-    log.write(QStringList{QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s), place.procedure,
-                          place.card, u"line %1"_s.arg(place.line), kind, oneLine}
+    const ScriptPlace& at = place.asker.at;
+    log.write(QStringList{QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s), place.procedure, at.card,
+                          at.line > 0 ? at.lineText() : u"line %1"_s.arg(place.line), kind, oneLine}
                   .join(u'\t')
                   .toUtf8() +
               '\n');
@@ -44,7 +50,7 @@ void ErrorTrap::write(const ErrorPlace& place, const QString& kind, const QStrin
 
 bool ErrorTrap::warn(const ErrorPlace& place, const QString& text) noexcept {
     try {
-        if (writtenJustNow(place.card + u' ' + text)) return false;
+        if (writtenJustNow(place.asker.at.card + u' ' + text)) return false;
         write(place, u"warning"_s, text);
         if (warned_) warned_(text);
     } catch (const std::exception& error) {

@@ -13,9 +13,8 @@ namespace zelvor {
 // Where an error was trapped.
 struct ErrorPlace {
     QString procedure;  // "mGLOBAL.SHOW_TVCARD"
-    QString card = {};  // the card's script; empty outside of a card run
-    int line = 0;       // the line of the script reached; 0 before the first
-    Asker asker = {};   // whose deed it was
+    int line = 0;       // the line of the script reached, as the run counts them; 0 before the first
+    Asker asker = {};   // whose deed it was, and where in its card
 };
 
 // Wraps every named procedure: an error inside ends the procedure, is written to the error log and, where the
@@ -71,6 +70,9 @@ class ErrorTrap {
 
 // The message box's text: number, text, location and line, CR LF between.
 QString errorMessage(const ErrorPlace& place, int number, const QString& text);
+
+// The message box's title, "Error in player.csp, line 6"; empty outside of a card run.
+QString errorTitle(const ErrorPlace& place);
 
 // The error log of a program: "<executable>.log" in the executable's folder, or in the application folder where that
 // cannot be written.

@@ -1,5 +1,7 @@
 #include "command_line/command_line.h"
 
+#include <QCoreApplication>
+#include <QStandardPaths>
 #include <QStringDecoder>
 #include <algorithm>
 #include <limits>
@@ -100,6 +102,17 @@ std::optional<QByteArray> CommandLine::codePage(QStringView name) const {
 
 void CommandLine::refuse(QStringView name, const QString& wanted, const QString& text) {
     throw UsageError{name + u" takes "_s + wanted + u", not "_s + text};
+}
+
+QString CommandLine::appFolder() const {
+    const std::optional<QString> named = value(u"--app-folder");
+    if (!has(u"--user-folder")) return named.value_or(QCoreApplication::applicationDirPath());
+    if (named) throw UsageError{u"--app-folder or --user-folder, not both"_s};
+    return userFolder();
+}
+
+QString userFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/zelvor-cards"_s;
 }
 
 bool isPreview(const QString& commandLineText) {

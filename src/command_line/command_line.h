@@ -70,6 +70,10 @@ class CommandLine {
     // The name of a code page that Qt knows, "windows-1253".
     [[nodiscard]] std::optional<QByteArray> codePage(QStringView name) const;
 
+    // The application folder that --app-folder or --user-folder names; the program's own without either. Throws
+    // UsageError for both at once.
+    [[nodiscard]] QString appFolder() const;
+
     // What is left when the options and their values are taken away, in order.
     [[nodiscard]] const QStringList& rest() const { return rest_; }
     // The rest as one text, blanks between: what a program tests for "/PREVIEW" and for a leading number.
@@ -86,6 +90,9 @@ class CommandLine {
     QStringList rest_;
     QString fault_;  // the first one; empty when there is none
 };
+
+// The user's own application folder: "zelvor-cards" where the desktop keeps programs' data (XDG_DATA_HOME).
+QString userFolder();
 
 // True when the text holds "/PREVIEW" anywhere, in any case.
 bool isPreview(const QString& commandLineText);

@@ -14,6 +14,7 @@
 
 #include "ask_dialog/clear_button.h"
 #include "console/theme.h"
+#include "engine/card_engine.h"
 
 using namespace Qt::StringLiterals;
 
@@ -132,7 +133,11 @@ bool Boxes::run(const Asker& asker, QDialog& box) {
 // Neither the keyboard nor the timer waits for it. One at a time, so that a faulty card that runs ten times a second
 // does not fill the screen.
 void Boxes::showNotice(const QString& card, const QString& title, const QString& text, Severity severity) {
-    if (notice_ || program_.closing.hasBegun() || quietCards_.contains(card)) return;
+    if (program_.closing.hasBegun()) return;
+    if (notice_ || quietCards_.contains(card)) {
+        countSilenced(card);
+        return;
+    }
     notice_ = new QDialog(window_);
     connect(&program_.closing, &Closing::begun, notice_, &QDialog::close);
     notice_->setAttribute(Qt::WA_DeleteOnClose);
@@ -148,6 +153,20 @@ void Boxes::showNotice(const QString& card, const QString& title, const QString&
     box.column->addWidget(box.buttons);
     notice_->show();
     Q_EMIT opened(notice_);
+}
+
+void Boxes::countSilenced(const QString& card) {
+    ++silenced_[CardEngine::scriptName(card)];
+    int all = 0;
+    for (const auto& [name, count] : silenced_) all += count;
+    const QString whose = silenced_.size() == 1 ? silenced_.begin()->first : u"%1 cards"_s.arg(silenced_.size());
+    Q_EMIT silenced((all == 1 ? u"1 message of "_s : u"%1 messages of "_s.arg(all)) + whose + u" not shown"_s);
+}
+
+void Boxes::forgetQuietCards() {
+    quietCards_.clear();
+    silenced_.clear();
+    Q_EMIT silenced({});
 }
 
 void Boxes::message(const Asker& asker, const QString& title, const QString& text, Severity severity) {

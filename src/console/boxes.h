@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <map>
 #include <set>
 
 #include "base/program.h"
@@ -28,18 +29,21 @@ class Boxes : public QObject, public Operator {
     void message(const Asker& asker, const QString& title, const QString& text,
                  Severity severity = Severity::Information) override;
     // Cards that were loaded anew are told of again.
-    void forgetQuietCards() { quietCards_.clear(); }
+    void forgetQuietCards();
     bool yesNo(const Asker& asker, const QString& title, const QString& text) override;
     std::optional<QString> input(const Asker& asker, const QString& title, const QString& prompt,
                                  const QString& proposed) override;
 
  Q_SIGNALS:
+    // What is said of the messages that were not shown; empty for none.
+    void silenced(const QString& words);
     // A box is about to wait for its answer: a test may give it.
     void opened(QDialog* box);
 
  private:
     bool run(const Asker& asker, QDialog& box);
     QWidget* over(const Asker& asker);
+    void countSilenced(const QString& card);
     void showNotice(const QString& card, const QString& title, const QString& text, Severity severity);
 
     Program& program_;
@@ -47,6 +51,7 @@ class Boxes : public QObject, public Operator {
     QPointer<QWidget> used_;  // the window that the operator was in last
     QPointer<QDialog> notice_;
     std::set<QString> quietCards_;
+    std::map<QString, int> silenced_;  // messages not shown, by card
 };
 
 }  // namespace zelvor

@@ -18,7 +18,7 @@ class CardButton : public ConsoleButton {
         bool flagged = false;    // the card table's mark
         bool lastFired = false;  // has a frame of its own
         QString key;             // "F1", empty when no key fires it
-        QString fault;           // what breaks its template data, empty when nothing does
+        QString fault = {};           // what breaks its template data, empty when nothing does
         bool operator==(const Face&) const = default;
     };
     void setFace(const Face& face);

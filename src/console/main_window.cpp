@@ -1,6 +1,7 @@
 #include "console/main_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -121,16 +122,19 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     auto* stack = new QGridLayout;
     stack->setContentsMargins(0, 0, 0, 0);
     stack->addWidget(covered, 0, 0);
-    auto* cover = new QWidget;
-    cover->setAutoFillBackground(true);
-    mirrors_.panel(cover, controls.picHideControls);
-    stack->addWidget(cover, 0, 0);
+    stack->addWidget(new ControlsCover(mirrors_, *covered), 0, 0);
     column->addLayout(stack);
     column->addWidget(new PlayersPanel(mirrors_), 1);
     return side;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    // The desktop's log-out must not hang on a question, nor the program's own end.
+    const bool isOperators = event->spontaneous() && !qGuiApp->isSavingSession();
+    if (isOperators && mayClose_ && !mayClose_()) {
+        event->ignore();
+        return;
+    }
     Q_EMIT closed();
     event->accept();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "console/mirror.h"
 #include "console_rules/card_console.h"
@@ -24,6 +25,9 @@ class MainWindow : public QWidget {
     // F1 to F10 pressed in that window are this one's.
     void takeFunctionKeysOf(const QWidget& beside);
 
+    // Asked when the operator closes the window; false keeps it open.
+    void setMayClose(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
+
  Q_SIGNALS:
     void closed();
     // F1 to F10 by their numbers.
@@ -42,6 +46,7 @@ class MainWindow : public QWidget {
 
     Mirrors mirrors_;
     KeyFilter* keys_;
+    std::function<bool()> mayClose_;
 };
 
 }  // namespace zelvor

@@ -68,7 +68,7 @@ std::optional<qint16> Connections::askNumber(const QString& menu, qint16 propose
 }
 
 void Connections::CONNECTDATABASE() {
-    if (choice_.number) return;
+    if (choice_.number && !choice_.opensAtOnce) return;
     program_.trap.run({u"mDATABASE.CONNECTDATABASE"_s}, ErrorTrap::Tell::Operator, [&] {
         const QString connectionString = GET_CONNECTION_STRING();
         if (connectionString.isEmpty()) return;
@@ -95,12 +95,16 @@ odbc::Rows Connections::run(Session& session, const QString& sql) {
         if (!connectionString.isEmpty()) setConnectionStrings(connectionString);
         isMissing_ = connectionString.isEmpty();
     }
-    return session.run(sql);
+    try {
+        return session.run(sql);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError::withText(error.code(), error.text() + u"\r\n"_s + sql);
+    }
 }
 
 int Connections::runIntoResult(const Query& query, const Asker& asker, const QString& sql) {
     int count = 0;
-    program_.trap.run({query.procedure, {}, 0, asker}, ErrorTrap::Tell::LogOnly, [&] {
+    program_.trap.run({query.procedure, 0, asker}, ErrorTrap::Tell::LogOnly, [&] {
         try {
             odbc::Rows rows = run(query.session, sql);
             count = rows.rowCount();
@@ -110,7 +114,7 @@ int Connections::runIntoResult(const Query& query, const Asker& asker, const QSt
         } catch (const RunTimeError& error) {
             // Who has just been told that the program ends needs no second message.
             if (!program_.closing.hasBegun()) {
-                operator_.message(asker, query.errorTitle, error.text() + u"\r\n"_s + sql, Operator::Severity::Warning);
+                operator_.message(asker, query.errorTitle, error.text(), Operator::Severity::Warning);
             }
             throw;  // for the error log
         }

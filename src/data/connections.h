@@ -19,8 +19,10 @@ class Connections : public Database {
     struct Choice {
         // What is left of the program's command line: a number that it begins with is proposed to the operator.
         QString commandLine;
-        // A number chosen beforehand: nobody is asked, and the connection is opened by the first query.
+        // A number chosen beforehand: nobody is asked.
         std::optional<qint16> number;
+        // Opened by CONNECTDATABASE also when the number was chosen beforehand; else that waits for the first query.
+        bool opensAtOnce = false;
     };
 
     // When no connection has the chosen number, the operator is told and the program closes.

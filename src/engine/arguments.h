@@ -7,6 +7,12 @@
 
 namespace zelvor {
 
+// 9 Subscript out of range for a part that a text should have: whoever knows the text's form says it in the detail.
+class MissingPiece : public RunTimeError {
+ public:
+    explicit MissingPiece(const QString& detail = {}) : RunTimeError(ErrorNumber::SubscriptOutOfRange, detail) {}
+};
+
 // Pieces of a text split at a separator, as views. An empty text has no pieces; without a separator it is one piece.
 class Pieces {
  public:
@@ -14,9 +20,9 @@ class Pieces {
     Pieces(QStringView text, QStringView separator);
 
     [[nodiscard]] int count() const { return static_cast<int>(pieces_.size()); }
-    // Throws 9 Subscript out of range when there is no such piece.
+    // Throws MissingPiece when there is no such piece.
     QStringView operator[](int index) const {
-        if (index < 0 || index >= count()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        if (index < 0 || index >= count()) throw MissingPiece();
         return pieces_[index];
     }
 
@@ -36,7 +42,7 @@ class Arguments {
 
     // False when the line is the command word alone.
     [[nodiscard]] bool given() const { return raw_ != nullptr; }
-    // Each throws 9 Subscript out of range when the line has no argument.
+    // Each throws MissingPiece when the line has no argument.
     [[nodiscard]] const QString& text() const { return *present(text_); }
     [[nodiscard]] const QString& raw() const { return *present(raw_); }
     [[nodiscard]] Pieces pieces() const { return {text(), u';'}; }
@@ -44,7 +50,7 @@ class Arguments {
 
  private:
     static const QString* present(const QString* text) {
-        if (text == nullptr) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+        if (text == nullptr) throw MissingPiece();
         return text;
     }
 

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "engine/card_run.h"
+#include "engine/team_labels.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,19 +33,23 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
         return Outcome::NoScript;
     }
 
-    ErrorPlace place{u"mGLOBAL.SHOW_TVCARD"_s, name, 0, asker};
+    ErrorPlace place{u"mGLOBAL.SHOW_TVCARD"_s, 0, asker};
+    place.asker.at = {name};
     Outcome outcome = Outcome::Ran;
     ++depth_;
     const bool ran = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
         if (depth_ > kDeepestRun) throw RunTimeError(ErrorNumber::OutOfStackSpace, name);
         if (!script) {
-            script = std::make_shared<CardScript>(path, language, program_.folder, program_.files);
+            script =
+                std::make_shared<CardScript>(name, path, language, program_.folder, program_.files, place.asker.at);
             scripts_.keep(shownPath, script);
         }
         state_.ask.ASK_RESULT = u"0"_s;
         state_.switches.PreviewDisabled = false;
         try {
-            CardRun(*this, script, name, autoRun, keepStates, place).execute();
+            CardRun run(*this, script, name, autoRun, keepStates, place);
+            run.execute();
+            if (!run.hasData()) outcome = Outcome::NoData;
         } catch (const ProgramClosing&) {
             outcome = Outcome::Closed;
         } catch (const RunCleared&) {
@@ -55,6 +60,7 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
         }
     });
     --depth_;
+    if (name.compare(kStartCard, Qt::CaseInsensitive) == 0 && !closing.hasBegun()) showTeams(state_, form_);
     return ran ? outcome : Outcome::Failed;
 }
 

@@ -17,13 +17,13 @@ class CardEngine {
     // Runs inside runs (a card that fires proposals, a timer in a card's pause) beyond this end with 28.
     static constexpr int kDeepestRun = 50;
 
-    // The card of the start-up, which the operator can run again.
+    // The card of the start-up, which the operator can run again. The team labels follow it each time it has run.
     inline static const QString kStartCard = QStringLiteral("GetGame.csp");
 
     CardEngine(ShowState& state, FormModel& form, Program& program, const Ports& ports);
 
-    // How a run ended. A cancelled ask, no data and a failed query count as Ran.
-    enum class Outcome { Ran, NoScript, Failed, Cleared, Closed };
+    // How a run ended. A cancelled ask counts as Ran, a failed query as NoData.
+    enum class Outcome { Ran, NoData, NoScript, Failed, Cleared, Closed };
 
     // Runs the card's script to its end. cardFile: as the card table gives it, relative to the pack's folder.
     // autoRun: ask fields take their automatic answers. keepStates: ON, OFF and OFFALL are skipped. A missing script

@@ -7,6 +7,17 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
+namespace {
+
+const QString kLineConditionUsage = u"IFL~left;operator;right~\"then line\"~\"else line\""_s;
+
+// How a script writes the command, "SDATA~field;[animation;]value".
+QString usageOf(const Command& command) {
+    return command.usage.isEmpty() ? command.word.toString() : command.word + u'~' + command.usage;
+}
+
+}  // namespace
+
 CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, QString cardFile, bool autoRun,
                  bool keepStates, ErrorPlace& place)
     : engine_(engine),
@@ -21,6 +32,7 @@ CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, Q
 void CardRun::execute() {
     for (lineNo_ = 1; lineNo_ <= script_->lineCount(); ++lineNo_) {
         place_.line = lineNo_;
+        place_.asker.at = script_->place(lineNo_);
         executeLine(script_->line(lineNo_));
     }
     if (!abandoned_) finish();
@@ -37,13 +49,17 @@ void CardRun::executeLine(const ScriptLine& firstLine) {
         line->argument.expandInto(expanded_, variables(), state().QUERY_RESULT);
         text = &expanded_;
     }
-    line->command->handler(*this, Arguments(raw, text));
+    try {
+        line->command->handler(*this, Arguments(raw, text));
+    } catch (const MissingPiece&) {
+        throw MissingPiece(usageOf(*line->command));
+    }
 }
 
 const ScriptLine& CardRun::chooseBranch(const LineCondition& condition) {
-    if (!condition.thenLine) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     condition.comparison.expandInto(expanded_, variables(), state().QUERY_RESULT);
     const Pieces parts(expanded_, u';');
+    if (!condition.thenLine || parts.count() < 3) throw MissingPiece(kLineConditionUsage);
     return conditionHolds(parts[0], parts[1], parts[2]) ? *condition.thenLine : *condition.elseLine;
 }
 

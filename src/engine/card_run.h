@@ -50,6 +50,7 @@ class CardRun {
     void endCard() { lineNo_ = script_->lineCount(); }
     // Ends the script as for a query without data: the run finishes with "NO DATA".
     void endWithoutData();
+    [[nodiscard]] bool hasData() const { return hasData_; }
     // Ends the script and leaves the on-air display and the last card untouched.
     void abandon();
     // Ends the run at once when the program is closing or CLEAR was pressed since it began; called after everything

@@ -50,16 +50,23 @@ ScriptLine::ScriptLine(QString line) : text(std::move(line)) {
     }
 }
 
-CardScript::CardScript(const QString& path, const QString& language, const AppFolder& folder, const TextFiles& files) {
+CardScript::CardScript(const QString& card, const QString& path, const QString& language, const AppFolder& folder,
+                       const TextFiles& files, ScriptPlace& reached) {
+    reached = {card};
     for (const QString& rawLine : readSource(path, files)) {
+        ++reached.line;
         const QString line = cleanedScriptLine(rawLine);
         if (line.isEmpty()) continue;
         const Pieces items(line, u'~');
         if (items[0] == u"INCLUDE") {
-            const QString include = folder.resolve(folder.packFile(language, items[1]));
-            for (const QString& included : readSource(include, files)) append(cleanedScriptLine(included));
+            if (items.count() < 2) throw MissingPiece(u"INCLUDE~file"_s);
+            ScriptPlace place{card, items[1].toString()};
+            for (const QString& included : readSource(folder.resolve(folder.packFile(language, place.file)), files)) {
+                ++place.line;
+                append(cleanedScriptLine(included), place);
+            }
         }
-        append(line);
+        append(line, reached);
     }
 }
 
@@ -69,8 +76,9 @@ QStringList CardScript::readSource(const QString& path, const TextFiles& files) 
     return files.readLines(path);
 }
 
-void CardScript::append(const QString& line) {
+void CardScript::append(const QString& line, const ScriptPlace& place) {
     lines_.emplace_back(line);
+    places_.push_back(place);
     if (line.startsWith(kBlockEnd)) blockEnds_[line.mid(kBlockEnd.size())].push_back(lineCount());
     const QStringView word = QStringView(line).left(line.indexOf(u'~')).trimmed();
     if (word.compare(u"FUNCTIONCARD", Qt::CaseInsensitive) == 0) functionCard_ = true;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/app_folder.h"
+#include "base/script_place.h"
 #include "base/text_file.h"
 #include "engine/command_table.h"
 #include "engine/placeholders.h"
@@ -51,12 +52,16 @@ ScriptStamp scriptStamp(const QFileInfo& file);
 // A card's script with its includes put in.
 class CardScript {
  public:
-    // Reads the script and its includes. Throws 53 and its like for a missing one, 9 for an INCLUDE without a name.
-    CardScript(const QString& path, const QString& language, const AppFolder& folder, const TextFiles& files);
+    // Reads the script and its includes. Throws 53 and its like for a missing one, 9 for an INCLUDE without a name;
+    // `reached` is then the INCLUDE's line. card: the script's name.
+    CardScript(const QString& card, const QString& path, const QString& language, const AppFolder& folder,
+               const TextFiles& files, ScriptPlace& reached);
 
     // Lines are numbered from 1.
     [[nodiscard]] int lineCount() const { return static_cast<int>(lines_.size()); }
     [[nodiscard]] const ScriptLine& line(int number) const { return lines_[static_cast<size_t>(number - 1)]; }
+    // Where the line stands for an editor.
+    [[nodiscard]] const ScriptPlace& place(int number) const { return places_[static_cast<size_t>(number - 1)]; }
     // The first line from `from` on that is exactly "FI~" + label; 0 when there is none.
     [[nodiscard]] int findBlockEnd(QStringView label, int from) const;
     [[nodiscard]] bool functionCard() const { return functionCard_; }
@@ -70,9 +75,10 @@ class CardScript {
     };
 
     QStringList readSource(const QString& path, const TextFiles& files);
-    void append(const QString& line);
+    void append(const QString& line, const ScriptPlace& place);
 
     std::vector<ScriptLine> lines_;
+    std::vector<ScriptPlace> places_;  // of the lines, one each
     QHash<QString, std::vector<int>> blockEnds_;
     std::vector<Source> sources_;
     bool functionCard_ = false;

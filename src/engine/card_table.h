@@ -13,7 +13,7 @@ struct CardEntry {
     QString script;
     bool on = false;
     bool flag = false;
-    QString fault;  // what breaks the template data that the card made last; empty when nothing does
+    QString fault = {};  // what breaks the template data that the card made last; empty when nothing does
 
     [[nodiscard]] const QString& shownCaption() const { return text.isEmpty() ? caption : text; }
 };

@@ -42,38 +42,54 @@ QString Packs::firstPack() const {
     return packs.offered.empty() ? QString() : packs.offered.front()[0];
 }
 
-bool Packs::LOAD_PACKS() {
+bool Packs::LOAD_PACKS(const QString& code) {
     bool chosen = false;
     program_.trap.run({u"mGLOBAL.LOAD_PACKS"_s}, ErrorTrap::Tell::Operator, [&] {
         const PackList packs = readPacks();
-        chosen = !packs.offered.empty() && choosePack(packs);
+        chosen = !packs.offered.empty() && choosePack(packs, code);
         if (packs.missing.isEmpty() || program_.closing.hasBegun()) return;
         QString warning = u"Warning!!! Missing folders for the following Pack(s):\r\n\r\n"_s;
-        for (const QString& code : packs.missing) warning += u"\\MODULES\\QRD_"_s + code + u"\r\n"_s;
+        for (const QString& missing : packs.missing) warning += u"\\MODULES\\QRD_"_s + missing + u"\r\n"_s;
         operator_.message({Asker::Kind::StartUp}, u"Missing folder(s)"_s, warning, Operator::Severity::Warning);
     });
     return chosen;
 }
 
-bool Packs::choosePack(const PackList& packs) {
+bool Packs::choosePack(const PackList& packs, const QString& code) {
     QString prompt;
     QList<Control::Item> languages;
     for (size_t i = 0; i < packs.offered.size(); ++i) {
         prompt += QString::number(i + 1) + u". "_s + packs.offered[i].join(u'-') + u"\r\n"_s;
         languages += {packs.offered[i][0], static_cast<int>(i) + 1};
     }
+    const auto named =
+        std::ranges::find_if(languages, [&](const Control::Item& language) { return language.text == code; });
+    std::optional<int> number;
+    if (named != languages.end()) {
+        number = named->data;
+    } else {
+        if (!code.isEmpty()) {
+            operator_.message({Asker::Kind::StartUp}, {}, u"PACKS.TXT offers no pack \"%1\"."_s.arg(code),
+                              Operator::Severity::Warning);
+        }
+        number = askNumber(prompt, languages.size());
+    }
+    if (!number) return false;
+    state_.variables.SetVar(u"@LANGUAGE", languages[*number - 1].text);
+    form_.at(controls.cmbLANG).setItems(languages);
+    form_.at(controls.cmbLANG).setPosition(*number - 1);
+    return true;
+}
+
+std::optional<int> Packs::askNumber(const QString& prompt, qsizetype packs) {
     while (!program_.closing.hasBegun()) {
         const QString answer =
             operator_.input({Asker::Kind::StartUp}, u"Project Pack Selection"_s, prompt, u"1"_s).value_or(QString());
         bool isNumber = false;
         const int number = answer.trimmed().toInt(&isNumber);
-        if (!isNumber || number < 1 || number > languages.size()) continue;
-        state_.variables.SetVar(u"@LANGUAGE", languages[number - 1].text);
-        form_.at(controls.cmbLANG).setItems(languages);
-        form_.at(controls.cmbLANG).setPosition(number - 1);
-        return true;
+        if (isNumber && number >= 1 && number <= packs) return number;
     }
-    return false;
+    return std::nullopt;
 }
 
 bool Packs::LOAD_CARDS() {

@@ -13,8 +13,9 @@ class Packs {
     Packs(ShowState& state, FormModel& form, Program& program, Operator& operatorDesk);
 
     // Asks the operator for one of the packs of PACKS.TXT until the answer names one, sets @LANGUAGE and fills the
-    // language list; warns of packs without a folder. False when there is none to choose.
-    bool LOAD_PACKS();
+    // language list; warns of packs without a folder. code: the pack to take unasked; one that is not offered is told
+    // and then asked for. False when there is none to choose.
+    bool LOAD_PACKS(const QString& code = {});
     // Reads CARDS.TXT of the chosen pack into the card table and shows the current set. True when the file was read;
     // a file that is missing leaves the cards as they are, one that is broken is read up to the fault.
     bool LOAD_CARDS();
@@ -29,7 +30,8 @@ class Packs {
         QStringList missing;               // codes of packs without a folder
     };
     [[nodiscard]] PackList readPacks() const;
-    bool choosePack(const PackList& packs);
+    bool choosePack(const PackList& packs, const QString& code);
+    [[nodiscard]] std::optional<int> askNumber(const QString& prompt, qsizetype packs);
 
     ShowState& state_;
     FormModel& form_;

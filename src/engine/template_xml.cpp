@@ -86,6 +86,18 @@ constexpr std::array kBreaking{
     BreakingCharacter{u'&', u"an \"&\""}, BreakingCharacter{u'\\', u"a backslash"},
 };
 
+// A field that has not all its parts is named in the error.
+template <class Action>
+void forEachField(const VariableStore& fields, Action&& action) {
+    fields.forEach([&](const QString& key, const Value& value) {
+        try {
+            action(key, value);
+        } catch (const MissingPiece&) {
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"field "_s + key + u" = "_s + value.text());
+        }
+    });
+}
+
 }  // namespace
 
 QStringList templateFaults(const VariableStore& fields) {
@@ -101,7 +113,7 @@ QStringList templateFaults(const VariableStore& fields) {
 
 QString makeXml(const VariableStore& fields) {
     XmlWriter xml;
-    fields.forEach([&](const QString& key, const Value& value) {
+    forEachField(fields, [&](const QString& key, const Value& value) {
         const Pieces parts(key, u'-');
         xml.setType(parts[0]);
         const Pieces animationAndId(parts[1], u'*');
@@ -112,7 +124,7 @@ QString makeXml(const VariableStore& fields) {
 
 QString makeRemoteXml(const VariableStore& fields) {
     XmlWriter xml;
-    fields.forEach([&](const QString& key, const Value& value) {
+    forEachField(fields, [&](const QString& key, const Value& value) {
         const QStringView characters(key);
         xml.setType(characters.left(1));
         xml.field({characters.mid(2, 1), characters.mid(4)}, value.text(), true);

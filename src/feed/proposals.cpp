@@ -1,8 +1,6 @@
 #include "feed/proposals.h"
 
-#include "engine/arguments.h"
-#include "engine/auto_tags.h"
-#include "engine/used_proposal.h"
+#include "engine/proposal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,15 +15,9 @@ void Proposals::lblPROPOSED(int index) {
 void Proposals::take(int index) {
     clearPlayers();
     Control& label = engine_.form().at(controls.lblPROPOSED, index);
-    // A copy: the card may propose anew.
-    const QString record = label.tag();
-    if (record.isEmpty()) return;
-    const Pieces fields(record, u'|');
-    const QString id = fields[0].toString();
-    const QString card = fields[2].toString();
-    setAutoTags(engine_.state().variables, fields[3]);
-    if (engine_.SHOW_TVCARD(card, true, true, {Asker::Kind::Operator, card}) == CardEngine::Outcome::Closed) return;
-    markProposalUsed(engine_.ports().database, id, label);
+    if (label.tag().isEmpty()) return;
+    const Proposal proposal(label);
+    proposal.fire(engine_, proposal.card(), label, {Asker::Kind::Operator, proposal.card()});
 }
 
 void Proposals::clearPlayers() {

@@ -13,7 +13,8 @@ class Proposals : public QuietRules {
 
     // index: 1 to 8. Unselects players, runs the label's card with the automatic answers of its tag
     // (id|used|card|key:answer##...), marks it used in the database and colours it. A tag with fewer fields, or an
-    // answer missing, runs nothing; a failing database leaves the colour.
+    // answer missing, runs nothing; a failing database leaves the colour. A card that did not run leaves it, too,
+    // and the label says why.
     void lblPROPOSED(int index);
 
  private:

@@ -21,8 +21,7 @@ class QuietRules : public QObject {
     // Runs the body in the trap; true when it ended without an error.
     template <class Body>
     bool quietly(const QString& procedure, Body&& body) {
-        return trap_.run({QStringLiteral("frmMAIN.") + procedure, {}, 0}, ErrorTrap::Tell::LogOnly,
-                         std::forward<Body>(body));
+        return trap_.run({QStringLiteral("frmMAIN.") + procedure}, ErrorTrap::Tell::LogOnly, std::forward<Body>(body));
     }
 
     // Calls the handler whenever that property of the control changes.

@@ -76,6 +76,8 @@ struct ControlTable {
     ControlRow lblLINKREMOTE{Kind::Label, u"lblLINKREMOTE", u"Remote graphics link", {.role = Role::Off}};
     ControlRow lblFEED{Kind::Label, u"lblFEED", u"Game feed", {.role = Role::Off}};
     ControlRow lblDATABASE{Kind::Label, u"lblDATABASE", u"Database", {.role = Role::Off}};
+    ControlRow lblSILENCED{
+        Kind::Label, u"lblSILENCED", u"Messages of cards that were not shown", {.role = Role::Waiting}};
     ControlRow lblNOTE{Kind::Label, u"lblNOTE", u"What happened to the last press"};
     ControlRow cmbCASPARREMOTELIST{Kind::List, u"cmbCASPARREMOTELIST", u"A remote server's preset address"};
     ControlRow cmdVIEWGASPHISTORY{

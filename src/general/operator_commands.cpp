@@ -1,5 +1,7 @@
 #include "general_rules/operator_commands.h"
 
+#include <QScopedValueRollback>
+
 #include "base/number.h"
 #include "engine/defaults.h"
 
@@ -45,7 +47,8 @@ void OperatorCommands::take(const Control& control, const QString& event) {
         if (control.is(controls.cmbFADE)) takeEffect(control);
         if (control.is(controls.cbQt)) takePeriod(control);
         // Filling the list at the start is no change.
-        if (&control == &languages_ && control.enabled() && control.position() >= 0) changeLanguage(control.text());
+        const bool isChosen = control.enabled() && control.position() >= 0 && !goingBack_;
+        if (&control == &languages_ && isChosen) changeLanguage(control.text());
     });
 }
 
@@ -93,20 +96,45 @@ void OperatorCommands::showGeneral() {
     general_.load();
     general_.apply();
     forms_.show(kGeneralForm);
+    language_ = state_.language();
     languages_.setEnabled(true);
 }
 
 void OperatorCommands::changeLanguage(const QString& language) {
+    const bool isOther = language != language_;
+    if (!hasCards(language) || (isOther && !mayLeaveGeneral())) {
+        const QScopedValueRollback goingBack(goingBack_, true);
+        languages_.setText(language_);
+        return;
+    }
     state_.variables.SetVar(u"@LANGUAGE", language);
-    const bool wasOpen = IsFormOpen(forms_, kGeneralForm);
-    if (wasOpen) forms_.close(kGeneralForm);
+    language_ = language;
+    const bool reopens = isOther && IsFormOpen(forms_, kGeneralForm);
+    if (reopens) forms_.close(kGeneralForm);
     packs_.LOAD_CARDS();
     LoadFkeys(state_, form_);
     Q_EMIT cardsLoaded();
-    general_.load();
-    general_.apply();
-    if (wasOpen) forms_.show(kGeneralForm);
-    engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::Operator, CardEngine::kStartCard});
+    if (isOther) {
+        general_.load();
+        general_.apply();
+    }
+    if (reopens) forms_.show(kGeneralForm);
+    mnReloadVar();
+}
+
+bool OperatorCommands::hasCards(const QString& language) {
+    const AppFolder& folder = engine_.program().folder;
+    if (folder.exists(folder.packFile(language, u"CARDS.TXT"))) return true;
+    state_.variables.SetVar(u"@LANGUAGE", language);
+    packs_.LOAD_CARDS();  // says what is missing
+    state_.variables.SetVar(u"@LANGUAGE", language_);
+    return false;
+}
+
+bool OperatorCommands::mayLeaveGeneral() {
+    return !general_.grid().hasUnsaved() ||
+           engine_.ports().operatorDesk.yesNo(
+               {}, u"General Vars"_s, u"There are changes that are not saved. Change the language without them?"_s);
 }
 
 QString OperatorCommands::mnDisplayVars() const {

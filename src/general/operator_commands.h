@@ -29,7 +29,7 @@ class OperatorCommands : public QObject {
     // asker: for one who is not attended the keyboard stays where it is.
     void mnGeneralVars(const Asker& asker);
     // The operator has chosen in a list what it shows already: its variable is written again, a language's cards are
-    // read again.
+    // read again, and the general variables stay as they are.
     void chooseAgain(const Control& list);
 
     // Loads the current pack's general variables and puts them in force, then opens their editor: the end of the
@@ -48,6 +48,10 @@ class OperatorCommands : public QObject {
     void takeEffect(const Control& box);
     void takePeriod(const Control& box);
     void changeLanguage(const QString& language);
+    // A language without a card table is told: the former one stays in force with its cards.
+    bool hasCards(const QString& language);
+    // Asks when general variables are not saved.
+    bool mayLeaveGeneral();
 
     CardEngine& engine_;
     Packs& packs_;
@@ -56,6 +60,8 @@ class OperatorCommands : public QObject {
     ShowState& state_;
     FormModel& form_;
     Control& languages_;
+    QString language_;        // whose cards are loaded
+    bool goingBack_ = false;  // the list returns to that language
 };
 
 }  // namespace zelvor

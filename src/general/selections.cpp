@@ -1,5 +1,7 @@
 #include "general_rules/selections.h"
 
+#include <utility>
+
 #include "base/number.h"
 #include "engine/defaults.h"
 
@@ -36,7 +38,13 @@ void restorePosition(Control& box, const QString& line) {
 
 Selections::Selections(CardEngine& engine) : program_(engine.program()), state_(engine.state()), form_(engine.form()) {
     connect(&form_, &FormModel::changed, this, [this](const Control* control, Control::Property property) {
-        if (saving_ && property == Control::Property::Text && isKept(*control)) SaveSelections();
+        if (saving_ && property == Control::Property::Text && isKept(*control)) due_.start();
+    });
+    due_.setSingleShot(true);
+    due_.setInterval(0);
+    connect(&due_, &QTimer::timeout, this, &Selections::SaveSelections);
+    connect(&program_.closing, &Closing::begun, this, [this] {
+        if (due_.isActive()) SaveSelections();
     });
 }
 
@@ -45,7 +53,10 @@ QString Selections::path() const {
 }
 
 void Selections::SaveSelections() {
-    program_.trap.run({u"frmMAIN.SaveSelections"_s}, Tell::Operator, [&] {
+    due_.stop();
+    // Told before it is shown: while its message stands, further changes fail, too.
+    const Tell tell = std::exchange(told_, true) ? Tell::LogOnly : Tell::Operator;
+    const bool saved = program_.trap.run({u"frmMAIN.SaveSelections"_s}, tell, [&] {
         QString text;
         // A card may have written several lines into a box.
         const auto addLine = [&text](QString line) {
@@ -58,6 +69,7 @@ void Selections::SaveSelections() {
         }
         replaceFile(path(), program_.files.encode(text));
     });
+    if (saved) told_ = false;
 }
 
 void Selections::LoadSelections() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 #include "engine/card_engine.h"
 
@@ -11,11 +12,11 @@ class Selections : public QObject {
     Q_OBJECT
 
  public:
-    // All must outlive this object. From LoadSelections on, every change of one of the boxes is saved; before it the
-    // boxes are being filled, which must not overwrite what was saved.
+    // All must outlive this object. From LoadSelections on, every change of one of the boxes is saved, those of one
+    // turn of the event loop together; before it the boxes are being filled, which must not overwrite what was saved.
     explicit Selections(CardEngine& engine);
 
-    // Writes the file, whole or not at all. A failure is reported.
+    // Writes the file, whole or not at all. A failure is reported once, and again after a save that succeeded.
     void SaveSelections();
     // Reads the file into the boxes and their variables, line by line; nothing without a file. A line that is missing
     // or no position of its list ends the reading with one message: what was read stays.
@@ -28,7 +29,9 @@ class Selections : public QObject {
     Program& program_;
     ShowState& state_;
     FormModel& form_;
+    QTimer due_;  // runs while a change is to be saved
     bool saving_ = false;
+    bool told_ = false;  // that the file cannot be written
 };
 
 }  // namespace zelvor

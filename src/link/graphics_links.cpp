@@ -26,7 +26,7 @@ GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
 }
 
 void GraphicsLinks::sendLine(LinkId link, const QString& command) {
-    trap_.run({u"frmMAIN.sendLine"_s, {}, 0}, ErrorTrap::Tell::LogOnly, [&] { sendNow(link, oneLine(command)); });
+    trap_.run({u"frmMAIN.sendLine"_s}, ErrorTrap::Tell::LogOnly, [&] { sendNow(link, oneLine(command)); });
 }
 
 void GraphicsLinks::sendNow(LinkId id, const QString& line) {
@@ -58,7 +58,7 @@ bool GraphicsLinks::logging() const {
 
 void GraphicsLinks::writeLog(const QString& line) {
     if (!logging()) return;
-    const bool written = trap_.run({u"frmMAIN.writeLog"_s, {}, 0}, ErrorTrap::Tell::LogOnly, [&] { log_.write(line); });
+    const bool written = trap_.run({u"frmMAIN.writeLog"_s}, ErrorTrap::Tell::LogOnly, [&] { log_.write(line); });
     showLogWritten(written && log_.isOpen());
 }
 

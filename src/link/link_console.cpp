@@ -48,7 +48,7 @@ LinkConsole::LinkConsole(FormModel& form, GraphicsLinks& links, Clock& clock, Er
 
 template <class Body>
 void LinkConsole::trapped(const QString& procedure, Body&& body) {
-    trap_.run({u"frmMAIN."_s + procedure, {}, 0}, ErrorTrap::Tell::Operator, std::forward<Body>(body));
+    trap_.run({u"frmMAIN."_s + procedure}, ErrorTrap::Tell::Operator, std::forward<Body>(body));
 }
 
 void LinkConsole::cmdGASPARCONNECT() {

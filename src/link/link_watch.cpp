@@ -39,7 +39,7 @@ LinkWatch::LinkWatch(LinkId id, CasparLink& link, FormModel& form, Clock& clock,
         timer.setParent(this);
         timer.setObjectName(timerName);
         timer.setInterval(interval);
-        const ErrorPlace place{u"frmMAIN."_s + timerName, {}, 0};
+        const ErrorPlace place{u"frmMAIN."_s + timerName};
         connect(&timer, &QTimer::timeout, this,
                 [this, &trap, place, tick] { trap.run(place, ErrorTrap::Tell::LogOnly, [&] { (this->*tick)(); }); });
     };

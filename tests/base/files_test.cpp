@@ -75,14 +75,18 @@ TEST_F(Files, TrappedErrorsAreLoggedAndToldOnlyWhereWanted) {
     const QString log = folder_.filePath(u"program.log"_s);
     ErrorTrap trap(log);
     QStringList told;
-    trap.setReporter([&](const ErrorPlace&, const QString& message) { told += message; });
-    EXPECT_FALSE(trap.run({u"m.P"_s, u"card.csp"_s, 7}, ErrorTrap::Tell::Operator,
-                          [] { throw RunTimeError(ErrorNumber::SubscriptOutOfRange); }));
+    trap.setReporter([&](const ErrorPlace& place, const QString& message) { told += {errorTitle(place), message}; });
+    ErrorPlace place{u"m.P"_s, 7};
+    place.asker.at = {u"card.csp"_s, u"part.inc"_s, 3};
+    EXPECT_FALSE(
+        trap.run(place, ErrorTrap::Tell::Operator, [] { throw RunTimeError(ErrorNumber::SubscriptOutOfRange); }));
     EXPECT_FALSE(trap.run({u"m.Q"_s}, ErrorTrap::Tell::LogOnly, [] { throw std::runtime_error("a\nb"); }));
-    EXPECT_EQ(QStringList{u"Error 9\r\nSubscript out of range\r\nLocation: ZELVOR_BASKET.m.P\r\nLine 7"_s}, told);
+    EXPECT_EQ((QStringList{u"Error in card.csp (part.inc, line 3)"_s,
+                           u"Error 9\r\nSubscript out of range\r\nLocation: ZELVOR_BASKET.m.P\r\nLine 7"_s}),
+              told);
     const QStringList lines = TextFiles().readLines(log);
     ASSERT_EQ(2, lines.size());
-    EXPECT_TRUE(lines[0].endsWith(u"\tm.P\tcard.csp\tline 7\terror 9\tSubscript out of range"_s));
+    EXPECT_TRUE(lines[0].endsWith(u"\tm.P\tcard.csp\tpart.inc, line 3\terror 9\tSubscript out of range"_s));
     EXPECT_TRUE(lines[1].endsWith(u"\ta b"_s));
 }
 

@@ -41,8 +41,10 @@ class Gallery {
 
     // Starts the console; every box is answered with "1" and Enter and remembered with its title and text.
     void start(const QString& commandLine = {}) {
-        app = std::make_unique<CardsApp>(
-            CardsApp::Options{folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine, feedPort});
+        CardsApp::Options options{
+            folder.path(), {}, folder.filePath(QStringLiteral("errors.log")), commandLine, feedPort};
+        if (adjust) adjust(options);
+        app = std::make_unique<CardsApp>(options);
         QObject::connect(&app->boxes(), &Boxes::opened, [this](QDialog* box) {
             const auto* text = box->findChild<QWidget*>(QStringLiteral("text"));
             shown +=
@@ -89,6 +91,7 @@ class Gallery {
 
     QTemporaryDir folder;
     quint16 feedPort = 0;
+    std::function<void(CardsApp::Options& options)> adjust;  // of the start
     QStringList shown;
     std::function<void(QDialog& box)> answer = [](QDialog& box) {
         if (auto* field = box.findChild<QLineEdit*>(QStringLiteral("answer"))) field->setText(QStringLiteral("1"));

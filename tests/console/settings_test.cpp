@@ -63,6 +63,7 @@ TEST_F(SettingsTest, SelectionsAreFoundAgainAfterARestart) {
         gallery.find<QLineEdit>("txtS5H", i)->setText(u"3%1"_s.arg(i));
         gallery.find<QLineEdit>("txtS5A", i)->setText(u"0%1a"_s.arg(i));
     }
+    QCoreApplication::processEvents();
     gallery.app.reset();
     gallery.start();
     EXPECT_EQ(kept(), u"4=4 25=25 77=77 Off=1 slow=slow 30=30 31=31 32=32 33=33 34=34 0=0 1=1 2=2 3=3 4=4");

@@ -194,8 +194,9 @@ TEST_F(MainWindowTest, StartsWithoutItsFiles) {
         QStringList told;  // what each box holds, in order
     };
     const QStringList withoutPack{u"PACKS.TXT"_s, u"No default Pack found"_s};
+    const QStringList withoutModules{u"|There is no folder MODULES in"_s};
     const QList<Case> cases{
-        {"no MODULES", [&] { QDir(gallery.folder.filePath(u"MODULES"_s)).removeRecursively(); }, withoutPack},
+        {"no MODULES", [&] { QDir(gallery.folder.filePath(u"MODULES"_s)).removeRecursively(); }, withoutModules},
         {"no packs", [&] {}, withoutPack},
         {"a pack without its folder",
          [&] { gallery.write(u"PACKS.TXT"_s, "XX;Nowhere\r\n"); },
@@ -212,6 +213,9 @@ TEST_F(MainWindowTest, StartsWithoutItsFiles) {
             EXPECT_TRUE(gallery.shown.join(u'\n').contains(words))
                 << each.what << ": " << words.toStdString() << " in\n"
                 << gallery.shown.join(u'\n').toStdString();
+        }
+        if (each.told == withoutModules) {
+            EXPECT_EQ(gallery.shown.size(), 1);
         }
         EXPECT_TRUE(gallery.app->window().isVisible()) << each.what;
         gallery.click("cmbCARD", 0);
@@ -314,10 +318,49 @@ TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
     EXPECT_EQ(told(u"broken.csp"_s), 1);
     EXPECT_TRUE(gallery.shown[0].contains(u"Error 9"));
     EXPECT_EQ(told(u"broken.csp"_s), 0);
+    EXPECT_EQ(gallery.at("lblSILENCED").text(), u"1 message of broken.csp not shown");
     EXPECT_EQ(told(u"other.csp"_s), 1);
     for (const int times : {1, 0}) EXPECT_EQ(told(u"missing.csp"_s), times) << "its script is not there";
     gallery.app->boxes().forgetQuietCards();
     EXPECT_EQ(told(u"broken.csp"_s), 1);
+}
+
+TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOverALink) {
+    startWithCards();
+    const auto closes = [&] {
+        gallery.shown.clear();
+        QCloseEvent event;
+        QSpontaneKeyEvent::setSpontaneous(&event);  // from the window manager
+        QCoreApplication::instance()->notify(&gallery.app->window(), &event);
+        return event.isAccepted();
+    };
+    gallery.at("lblONAIR").setText(u"ON AIR"_s);
+    gallery.connectMain(peer);
+    gallery.answer = [](QDialog& box) { box.reject(); };
+    EXPECT_FALSE(closes());
+    EXPECT_EQ(gallery.shown, QStringList{u"Close the console?|Something is on air."_s});
+    gallery.at("lblONAIR").setText({});
+    EXPECT_TRUE(closes());
+    EXPECT_EQ(gallery.shown, QStringList());
+}
+
+TEST_F(MainWindowTest, ACommandLineAnswersTheStartAndAHiddenPanelStillConnects) {
+    gallery.writePack({}, "SHOWCONTROLS:NO\r\n");
+    gallery.adjust = [this](CardsApp::Options& options) {
+        options.pack = u"EN"_s;
+        options.connection = 1;
+        options.main = HostPort{u"127.0.0.1"_s, peer.serverPort()};
+        options.connects = true;
+    };
+    gallery.start();
+    EXPECT_EQ(gallery.shown, QStringList());
+    EXPECT_EQ(gallery.at("lblDATABASE").text(), u"database 1 connected");
+    const auto isConnected = [&] { return gallery.app->links().state(LinkId::Main) == Graphics::kConnected; };
+    EXPECT_TRUE(waitUntil(isConnected));
+    EXPECT_FALSE(gallery.find<QLineEdit>("txtMANUALCASPAR")->isEnabled());
+    auto* cover = gallery.find<QWidget>("picHideControls");
+    QTest::mouseClick(cover->findChild<QWidget*>(u"cmdGASPARCONNECT"_s), Qt::LeftButton);
+    EXPECT_FALSE(isConnected());
 }
 
 TEST_F(MainWindowTest, ClosesAtAQuestion) {

@@ -130,7 +130,12 @@ TEST_P(OnEachDatabase, greekIsRightOnBothConnections) {
 TEST_P(OnEachDatabase, errorsAreShownAndNothingChanges) {
     makeTable(u"a integer"_s, {u"1"_s, u"2"_s});
     ASSERT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 2);
-    EXPECT_EQ(database->RUN_QUERY2({}, u"select a from nowhere"_s), 0);
+    Asker card;
+    card.at = {u"card.csp"_s, {}, 4};
+    EXPECT_EQ(database->RUN_QUERY2(card, u"select a from nowhere"_s), 0);
+    const QString logged = TextFiles().readLines(show.directory.filePath(u"error.log"_s)).value(0);
+    EXPECT_TRUE(logged.contains(u"\tcard.csp\tline 4\t"_s) && logged.endsWith(u"  select a from nowhere"_s))
+        << logged.toStdString();
     EXPECT_EQ(show.recordCount(), u"2"_s);
     EXPECT_EQ(database->RUN_QUERY({}, u"selekt"_s), 0);
     EXPECT_EQ(show.recordCount(), u"0"_s);

@@ -176,6 +176,10 @@ TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
     EXPECT_EQ("2|Y|player.csp|T:2##P:212", form_.at(controls.lblPROPOSED, 2).tag().toStdString());
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-21 UPDATE"_s)) << "what is on air does not come on again";
     EXPECT_EQ("N", fromDatabase(u"select pc_used from proposedcard where pc_id = 4"_s).toStdString());
+    // A large graphic takes the lower third off, also from its slot.
+    fire(u"titles.csp"_s);
+    EXPECT_EQ("titles.csp", state_.ONAIR_TABLE.at(1, 2).toStdString());
+    EXPECT_EQ("", state_.variables.text(u"LASTCARDTAG1-2").toStdString());
 }
 
 TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
@@ -184,15 +188,11 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     game_.feed.handle(u"t2:41t"_s);
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-20 UPDATE"_s) && lastLine().contains(u"2:41"_s))
         << qPrintable(lastLine());
-<<<<<<< HEAD
-    form_.at(controls.lblAutoScoreA).setText(u"81"_s);
-=======
     const qsizetype sentOnce = graphics_.sent.size();
     game_.feed.handle(u"t2:41t"_s);
     for (int tick = 0; tick < 20; ++tick) game_.timedCards.tick();
     EXPECT_EQ(sentOnce, graphics_.sent.size()) << "nothing has changed";
-    form_.at(u"lblAutoScoreA"_s).setText(u"81"_s);
->>>>>>> a066841 (Make the demo's graphics what a producer would show: crests for photos, speeds and 4:3 that work, a bug sent when it changes)
+    form_.at(controls.lblAutoScoreA).setText(u"81"_s);
     for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
     EXPECT_TRUE(lastLine().contains(u"SCOREA\\\"><data type=\\\"txt\\\" ani=\\\"0\\\" value=\\\"81"_s))
         << qPrintable(lastLine());

@@ -87,6 +87,92 @@ TEST_F(CardRuns, EndAtOnceWhenTheProgramCloses) {
     }
 }
 
+TEST_F(CardRuns, ErrorsNameTheFileItsLineAndWhatIsMissing) {
+    write(u"QRD_TT/part.inc"_s, "\n\nSDATA~A\n");
+    const std::vector<std::pair<QByteArray, QString>> cases{
+        {"\n\tON\n", u"line 2\terror 9\tSubscript out of range: ON~button"_s},
+        {"X\n\nINCLUDE~part.inc\n",
+         u"part.inc, line 3\terror 9\tSubscript out of range: SDATA~field;[animation;]value"_s},
+        {"INCLUDE~part.inc\n\n", u"part.inc, line 3\terror 9"_s},
+        {"X\n\nINCLUDE\n", u"line 3\terror 9\tSubscript out of range: INCLUDE~file"_s},
+        {"\nINCLUDE~none.inc\n", u"line 2\terror 53\tFile not found"_s},
+        {"\nIFL~1;=\n", u"line 2\terror 9\tSubscript out of range: IFL~left;operator;right~\"then"_s},
+        {"CLEARDATA\n\nSDATA~B;1|2\nSDATAREMOTE~C;5|6\nMAKEXML\nMAKEXMLREMOTE\n",
+         u"line 6\terror 9\tSubscript out of range: field t-0*C = 5|6"_s},
+    };
+    for (const auto& [script, logged] : cases) {
+        EXPECT_EQ(Outcome::Failed, run(script));
+        EXPECT_TRUE(files.readLines(folderOnDisk.filePath(u"errors.log"_s)).last().contains(u"\tcard.csp\t"_s + logged))
+            << logged.toStdString() << "\n"
+            << files.readLines(folderOnDisk.filePath(u"errors.log"_s)).last().toStdString();
+    }
+}
+
+TEST_F(CardRuns, AScanFiresEachProposalWhoseFiveConditionsHoldOnce) {
+    struct Slot {
+        int row;
+        int column;
+        const char16_t* card;
+        const char16_t* tag;
+    };
+    struct Case {
+        const char16_t* record;
+        std::vector<Slot> slots;
+        bool listOpen;
+        bool fires;
+    };
+    const Slot here{1, 2, u"stats.csp", u"p:12"};
+    const std::vector<Case> cases{
+        {u"7|N|stats.csp|P:12", {here}, false, true},
+        {u"7|N|Stats.qrd|P:12", {here}, false, true},
+        {u"7|N|stats.csp|P:12", {here, {5, 5, u"stats.csp", u"P:12"}}, false, true},
+        {u"7|N|stats.csp|P:12", {{6, 1, u"stats.csp", u"P:12"}, {5, 0, u"stats.csp", u"P:12"}}, false, false},
+        {u"7|N|stats.csp|P:12", {here}, true, false},
+        {u"7|n|stats.csp|P:12", {here}, false, false},
+        {u"7|Y|stats.csp|P:12", {here}, false, false},
+        {u"7|N|other.csp|P:12", {here}, false, false},
+        {u"7|N|stats.csp|P:1", {here}, false, false},
+        {u"7", {here}, false, false},
+    };
+    for (const Case& each : cases) {
+        EngineBench bench;
+        bench.write(u"QRD_TT/stats.csp"_s, "CSPSEND~fired\nSCANPROPOSED\n");
+        bench.form.at(controls.lblPROPOSED, 3).setTag(QStringView(each.record).toString());
+        for (const Slot& slot : each.slots) {
+            bench.state.ONAIR_TABLE.at(slot.row, slot.column) = QStringView(slot.card).toString();
+            bench.state.variables.SetVar(u"LASTCARDTAG%1-%2"_s.arg(slot.row).arg(slot.column),
+                                         QStringView(slot.tag).toString());
+        }
+        bench.state.variables.SetVar(u"AUTOTAG_P", u"another player"_s);
+        bench.state.ask.ASK_OPEN = each.listOpen ? AskState::kYes : 0;
+        bench.run("SCANPROPOSED\n");
+        SCOPED_TRACE(QStringView(each.record).toString().toStdString());
+        EXPECT_EQ(bench.graphics.sent.size(), each.fires ? 1 : 0);
+        EXPECT_EQ(bench.database.statements.size(), each.fires ? 1 : 0);
+        EXPECT_EQ(bench.state.variables.text(u"AUTOTAG_P"), each.fires ? u"12"_s : u"another player"_s);
+        EXPECT_EQ(bench.form.at(controls.lblPROPOSED, 3).backColour() == colours::kUsedProposal, each.fires);
+    }
+}
+
+TEST_F(CardRuns, AProposalWhoseCardDidNotRunIsNotUsedAndSaysWhy) {
+    Control& label = form.at(controls.lblPROPOSED, 3);
+    label.setTag(u"7|N|stats.csp|P:12"_s);
+    label.setText(u"Top scorer"_s);
+    state.ONAIR_TABLE.at(1, 2) = u"stats.csp"_s;
+    state.variables.SetVar(u"LASTCARDTAG1-2", u"P:12"_s);
+    run("SCANPROPOSED\n");
+    EXPECT_EQ(label.text(), u"Top scorer\r\nno such card"_s);
+    for (const auto& [script, words] : std::vector<std::pair<QByteArray, QString>>{
+             {"SDATA\n", u"\r\nfailed"_s}, {"SQL~select 1\n", u"\r\nno data"_s}, {"X\n", QString()}}) {
+        write(u"QRD_TT/stats.csp"_s, script);
+        database.statements.clear();
+        run("SCANPROPOSED\n");
+        EXPECT_EQ(label.text(), u"Top scorer"_s + words);
+        EXPECT_EQ(database.statements.filter(u"pc_used"_s).size(), words.isEmpty() ? 1 : 0);
+        EXPECT_EQ(label.backColour() == colours::kUsedProposal, words.isEmpty());
+    }
+}
+
 TEST_F(CardRuns, InsideOneAnotherEndWhenTooDeep) {
     graphics.whileSending = [this] { engine.SHOW_TVCARD(u"card.qrd"_s, false, false, {}); };
     run("CSPSEND~x\n");

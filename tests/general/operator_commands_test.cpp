@@ -103,11 +103,33 @@ TEST_F(OperatorCommandsTest, ALanguageChangeKeepsItsOrder) {
     forms.calls.clear();
     bench.state.console.lastFired = {1, 3};
     form.at(controls.cmbLANG).setPosition(2);
-    EXPECT_EQ(forms.calls, QStringList{u"cards"_s}) << "an editor that was closed stays closed";
-    EXPECT_EQ(variable(u"@LANGUAGE"), u"XX");
-    EXPECT_EQ(form.at(controls.cmbCARD, 0).text(), u"New") << "without a folder the cards stay";
+    EXPECT_EQ(forms.calls, QStringList());
+    EXPECT_EQ(variable(u"@LANGUAGE"), u"EN") << "without a card table the language goes back";
+    EXPECT_EQ(form.at(controls.cmbLANG).text(), u"EN");
+    EXPECT_EQ(form.at(controls.cmbCARD, 0).text(), u"New");
     EXPECT_TRUE(bench.state.console.lastFired);
-    EXPECT_EQ(bench.operatorDesk.shown.size(), 2) << "card table and start card are missing";
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
+    form.at(controls.cmbLANG).setPosition(0);
+    EXPECT_EQ(forms.calls, QStringList{u"cards"_s}) << "an editor that was closed stays closed";
+}
+
+TEST_F(OperatorCommandsTest, GeneralVariablesThatAreNotSavedAreNotLostUnasked) {
+    form.at(controls.cmbLANG).setPosition(1);
+    bench.state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
+    commands.showGeneral();
+    general.grid().setValue(0, u"edited"_s);
+    bench.write(u"QRD_EN/GetGame.csp"_s, "SETVAR~@HTLNAMEEN;Home\n");
+    commands.chooseAgain(form.at(controls.cmbLANG));
+    EXPECT_EQ(general.grid().cell(0).value(), u"edited");
+    EXPECT_EQ(variable(u"@GREETING"), u"hello") << "nor is it applied";
+    EXPECT_EQ(form.at(controls.lblHTEAM).text(), u"Home");
+    bench.operatorDesk.answerYes = false;
+    form.at(controls.cmbLANG).setPosition(0);
+    EXPECT_EQ(form.at(controls.cmbLANG).text() + variable(u"@LANGUAGE"), u"ENEN");
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
+    bench.operatorDesk.answerYes = true;
+    form.at(controls.cmbLANG).setPosition(0);
+    EXPECT_EQ(variable(u"@LANGUAGE"), u"TT");
 }
 
 TEST_F(OperatorCommandsTest, ChoosingTheLanguageAgainReadsTheCardsAgain) {

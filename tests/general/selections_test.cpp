@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
 #include "engine/defaults.h"
 #include "support/fake_ports.h"
 
@@ -30,6 +32,7 @@ struct Desk : EngineBench {
         writeEffectDefaults(state);
     }
     QByteArray saved() const {
+        QCoreApplication::processEvents();
         QFile file(folderOnDisk.filePath(u"MODULES/SELECTIONS.TXT"_s));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
     }
@@ -91,12 +94,37 @@ TEST(Selections, ABrokenFileIsOneMessageAndWhatWasReadStays) {
     }
 }
 
-TEST(Selections, AFolderThatCannotBeWrittenIsReported) {
+TEST(Selections, AFolderThatCannotBeWrittenIsReportedOnceUntilItCan) {
     Desk desk;
-    QDir(desk.folderOnDisk.filePath(u"MODULES"_s)).removeRecursively();
-    desk.selections.SaveSelections();
+    desk.selections.LoadSelections();
+    const QString modules = desk.folderOnDisk.filePath(u"MODULES"_s);
+    const auto choose = [&desk](int period) {
+        desk.form.at(controls.cbQt).setPosition(period);
+        return desk.saved().left(1);
+    };
+    QDir(modules).removeRecursively();
+    choose(1);
+    choose(2);
     ASSERT_EQ(desk.operatorDesk.shown.size(), 1);
     EXPECT_TRUE(desk.operatorDesk.shown[0].startsWith(u"Error 76\r\n"));
+    QDir().mkpath(modules);
+    EXPECT_EQ(choose(3), "3");
+    QDir(modules).removeRecursively();
+    choose(4);
+    EXPECT_EQ(desk.operatorDesk.shown.size(), 2);
+}
+
+TEST(Selections, ManyChangesAreOneSaveAlsoAtTheEnd) {
+    Desk desk;
+    desk.selections.LoadSelections();
+    QDir(desk.folderOnDisk.filePath(u"MODULES"_s)).removeRecursively();
+    for (int player = 0; player < 5; ++player) desk.form.at(controls.txtS5H, player).setText(u"7"_s);
+    EXPECT_TRUE(desk.operatorDesk.shown.isEmpty()) << "not one by one";
+    QDir().mkpath(desk.folderOnDisk.filePath(u"MODULES"_s));
+    desk.program.closing.begin();
+    QFile file(desk.folderOnDisk.filePath(u"MODULES/SELECTIONS.TXT"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().count("7\r\n"), 5);
 }
 
 }  // namespace

@@ -11,9 +11,9 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 CardsApp::CardsApp(const Options& options)
-    : feedPort_(options.feedPort),
+    : options_(options),
       program_{AppFolder(options.appFolder), options.files, ErrorTrap(options.errorLog)},
-      database_(state_, boxes_, program_, {options.commandLine, std::nullopt}),
+      database_(state_, boxes_, program_, {options.commandLine, options.connection, true}),
       linkConsole_(form_, links_, clock_, program_.trap,
                    [this](const QString& text) { return EXPAND_VARS(text, state_.variables, state_.QUERY_RESULT); }),
       startUp_(engine_, cards_, steps()) {
@@ -34,10 +34,13 @@ CardsApp::CardsApp(const Options& options)
     connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
     connect(&window_, &MainWindow::clearKey, &cards_, &CardConsole::pressClear);
     cards_.presses().setWaited([this] { return inputTimes_.waited(); });
+    connect(&boxes_, &Boxes::silenced, this,
+            [this](const QString& words) { form_.at(controls.lblSILENCED).setText(words); });
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     // The last lines are handed over before boxes end and runs that wait are told so.
     connect(&program_.closing, &Closing::begun, this, &CardsApp::release);
     connect(&program_.closing, &Closing::begun, &window_, &QWidget::close);
+    window_.setMayClose([this] { return mayClose(); });
     connect(&window_, &MainWindow::closed, &program_.closing, &Closing::begin);
 }
 
@@ -77,10 +80,21 @@ void CardsApp::answerDesk() {
     events_.onMouseDown(controls.lblHPLAYERS, players(&PlayerLabels::lblHPLAYERS));
 }
 
+void CardsApp::nameServers() {
+    const auto name = [this](const LinkControls& link, const std::optional<HostPort>& server, auto connects) {
+        if (!server) return;
+        form_.at(link.address).setText(server->host);
+        form_.at(link.port).setText(QString::number(server->port));
+        if (options_.connects) (linkConsole_.*connects)();
+    };
+    name(kMainLinkControls, options_.main, &LinkConsole::cmdGASPARCONNECT);
+    name(kRemoteLinkControls, options_.remote, &LinkConsole::cmdGASPARCONNECTREMOTE);
+}
+
 StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
-    steps.bindFeed = [this] { desk_.feedSocket.bind(feedPort_); };
-    steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(); };
+    steps.bindFeed = [this] { desk_.feedSocket.bind(options_.feedPort); };
+    steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(options_.pack); };
     steps.CONNECTDATABASE = [this] { connectDatabase(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     steps.LOAD_ASK = [this] { LOAD_ASK(state_, program_); };
@@ -92,6 +106,7 @@ StartUp::Steps CardsApp::steps() {
 
 void CardsApp::start() {
     window_.setWindowTitle(startUp_.caption());
+    nameServers();
     startUp_.run();
 }
 
@@ -99,7 +114,7 @@ void CardsApp::start() {
 void CardsApp::tell(const ErrorPlace& place, const QString& message) {
     if (telling_) return;
     const QScopedValueRollback telling(telling_, true);
-    boxes_.message(place.asker, {}, message, Operator::Severity::Critical);
+    boxes_.message(place.asker, errorTitle(place), message, Operator::Severity::Critical);
 }
 
 void CardsApp::connectDatabase() {
@@ -117,6 +132,15 @@ void CardsApp::connectDatabase() {
     }
     form_.at(controls.lblDATABASE).setText(words);
     form_.at(controls.lblDATABASE).setRole(role);
+}
+
+bool CardsApp::mayClose() {
+    QStringList reasons;
+    const bool isLinked =
+        links_.state(LinkId::Main) == Graphics::kConnected || links_.state(LinkId::Remote) == Graphics::kConnected;
+    if (isLinked && !form_.at(controls.lblONAIR).text().isEmpty()) reasons += u"Something is on air."_s;
+    if (settings_.hasUnsaved()) reasons += u"General variables are not saved."_s;
+    return reasons.isEmpty() || boxes_.yesNo({}, u"Close the console?"_s, reasons.join(u"\r\n"_s));
 }
 
 void CardsApp::release() {

@@ -4,6 +4,7 @@
 #include "app_cards/system_desktop.h"
 #include "ask_dialog/ask_form.h"
 #include "base/program.h"
+#include "command_line/host_port.h"
 #include "console/boxes.h"
 #include "console/input_times.h"
 #include "console/main_window.h"
@@ -31,6 +32,13 @@ class CardsApp : public QObject {
         QString errorLog;
         QString commandLine;  // what is left of it beside the program's own options
         quint16 feedPort = FeedSocket::kPort;
+        // Answers to the questions of the start; without them the operator is asked.
+        QString pack = {};
+        std::optional<qint16> connection = {};
+        // The servers' addresses, and whether those given are connected at the start.
+        std::optional<HostPort> main = {};
+        std::optional<HostPort> remote = {};
+        bool connects = false;
     };
 
     explicit CardsApp(const Options& options);
@@ -51,11 +59,13 @@ class CardsApp : public QObject {
     StartUp::Steps steps();
     void answerLinks();
     void answerDesk();
+    void nameServers();
     void tell(const ErrorPlace& place, const QString& message);
     void connectDatabase();
+    bool mayClose();
     void release();
 
-    quint16 feedPort_;
+    Options options_;
     ShowState state_;
     FormModel form_;
     Program program_;

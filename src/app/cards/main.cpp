@@ -21,12 +21,13 @@ namespace {
 
 constexpr int kNoFolder = 1;
 
-const std::array kOptions{zelvor::CommandLine::Option{u"--app-folder"_s, true},
-                          zelvor::CommandLine::Option{u"--user-folder"_s},
-                          zelvor::CommandLine::Option{u"--codepage"_s, true},
-                          zelvor::CommandLine::Option{u"--feed-port"_s, true},
-                          zelvor::CommandLine::Option{u"--help"_s},
-                          zelvor::CommandLine::Option{u"--version"_s}};
+const std::array kOptions{
+    zelvor::CommandLine::Option{u"--app-folder"_s, true}, zelvor::CommandLine::Option{u"--user-folder"_s},
+    zelvor::CommandLine::Option{u"--codepage"_s, true},   zelvor::CommandLine::Option{u"--feed-port"_s, true},
+    zelvor::CommandLine::Option{u"--pack"_s, true},       zelvor::CommandLine::Option{u"--connection"_s, true},
+    zelvor::CommandLine::Option{u"--main"_s, true},       zelvor::CommandLine::Option{u"--remote"_s, true},
+    zelvor::CommandLine::Option{u"--connect"_s},          zelvor::CommandLine::Option{u"--help"_s},
+    zelvor::CommandLine::Option{u"--version"_s}};
 
 const QString kHelp =
     uR"(usage: zelvor-cards [options] [/PREVIEW] [CONNECTION]
@@ -38,6 +39,11 @@ Fires the cards of a pack on the air, from one window.
   --user-folder      the user's own folder, ~/.local/share/zelvor-cards, made from the demo the first time
   --codepage NAME    read and write text files in this code page, e.g. windows-1253
   --feed-port N      hears the game feed on this UDP port, 0 for any free one; 7699 without
+  --pack CODE        loads this pack instead of asking for one
+  --connection N     takes this database connection instead of asking for one
+  --main HOST:PORT   the address of the main graphics server
+  --remote HOST:PORT the same for the remote one
+  --connect          connects the servers named so
   --help             this text
   --version          the program's version
 
@@ -48,13 +54,19 @@ Fires the cards of a pack on the air, from one window.
 // All but where the error log stands. Throws UsageError.
 zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
     line.check();
-    if (line.has(u"--user-folder") && line.has(u"--app-folder")) {
-        throw zelvor::UsageError{u"--app-folder or --user-folder, not both"_s};
-    }
     zelvor::CardsApp::Options wanted;
-    wanted.appFolder = line.value(u"--app-folder").value_or(QApplication::applicationDirPath());
+    wanted.appFolder = line.appFolder();
     if (const auto codePage = line.codePage(u"--codepage")) wanted.files = zelvor::TextFiles(*codePage);
     wanted.feedPort = line.port(u"--feed-port").value_or(wanted.feedPort);
+    wanted.pack = line.value(u"--pack").value_or(QString());
+    if (const auto number = line.number(u"--connection", 0, INT16_MAX))
+        wanted.connection = static_cast<qint16>(*number);
+    wanted.main = line.hostPort(u"--main");
+    wanted.remote = line.hostPort(u"--remote");
+    wanted.connects = line.has(u"--connect");
+    if (wanted.connects && !wanted.main && !wanted.remote) {
+        throw zelvor::UsageError{u"--connect takes --main or --remote beside it"_s};
+    }
     wanted.commandLine = line.restText();
     return wanted;
 }

@@ -29,6 +29,8 @@ class SettingsDesk : public QObject {
     // Opens the general variables and gives the keys back to the console.
     void showGeneral();
 
+    [[nodiscard]] bool hasUnsaved() { return general_.grid().hasUnsaved(); }
+
     Pickers& pickers() { return pickers_; }
 
  private:

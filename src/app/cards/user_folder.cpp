@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -30,10 +29,6 @@ bool copyTree(const QString& from, const QString& to) {
 
 QString installedDemo(const QString& programFolder) {
     return QDir::cleanPath(programFolder + u"/../share/zelvor-cards/demo"_s);
-}
-
-QString userFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/zelvor-cards"_s;
 }
 
 bool worksOnUserFolder(const QString& programFolder) {

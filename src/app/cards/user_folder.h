@@ -8,9 +8,6 @@ namespace zelvor {
 // folder, in ../share/zelvor-cards/demo.
 QString installedDemo(const QString& programFolder);
 
-// The user's own application folder: "zelvor-cards" where the desktop keeps programs' data (XDG_DATA_HOME).
-QString userFolder();
-
 // Whether a program there, started without a folder, works on the user's own: it has no MODULES beside it and was
 // installed with a demo.
 bool worksOnUserFolder(const QString& programFolder);

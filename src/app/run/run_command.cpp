@@ -29,7 +29,8 @@ class TerminalRun {
         : options_(options), out_(out), err_(err), operator_(err, options.yes), desktop_(out) {
         program_.trap.setReporter([this](const ErrorPlace& place, const QString& message) {
             // Who has just been told that the program ends needs no second message.
-            if (!program_.closing.hasBegun()) operator_.message(place.asker, {}, message, Operator::Severity::Critical);
+            if (program_.closing.hasBegun()) return;
+            operator_.message(place.asker, errorTitle(place), message, Operator::Severity::Critical);
         });
         program_.trap.setWarned([this](const QString& text) {
             err_ << "zelvor run: warning: " << text << '\n';
@@ -69,6 +70,7 @@ class TerminalRun {
         if (database_.connectionState() == Connections::State::Failed) return RunStatus::NotReached;
         switch (outcome) {
             case CardEngine::Outcome::Ran:
+            case CardEngine::Outcome::NoData:
                 return RunStatus::Ran;
             case CardEngine::Outcome::Cleared:
             case CardEngine::Outcome::Closed:  // nothing but a database without a connection ends the program here

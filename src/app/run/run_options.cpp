@@ -1,6 +1,5 @@
 #include "app_run/run_options.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <array>
 
@@ -14,6 +13,7 @@ namespace {
 
 const std::array kOptions{
     CommandLine::Option{u"--app-folder"_s, true},
+    CommandLine::Option{u"--user-folder"_s},
     CommandLine::Option{u"--language"_s, true},
     CommandLine::Option{u"--codepage"_s, true},
     CommandLine::Option{u"--set"_s, true},
@@ -49,7 +49,7 @@ RunOptions readRunOptions(const QStringList& arguments) {
     if (line.rest().size() != 1) throw UsageError{u"one CARD is to be named"_s};
 
     options.card = line.rest().constFirst();
-    options.appFolder = line.value(u"--app-folder").value_or(QCoreApplication::applicationDirPath());
+    options.appFolder = line.appFolder();
     if (!QFileInfo(options.appFolder).isDir()) throw UsageError{u"no such folder: "_s + options.appFolder};
     options.appFolder = QFileInfo(options.appFolder).absoluteFilePath();
     options.language = line.value(u"--language").value_or(QString());
@@ -75,6 +75,7 @@ QString runHelp() {
 Runs a card of a pack without a display and prints every line that it puts on air.
 
   --app-folder DIR     the application folder (default: the program's own)
+  --user-folder        the user's own folder, ~/.local/share/zelvor-cards
   --language CODE      the pack (default: the first pack of PACKS.TXT whose folder exists)
   --preview            run as the preview instance does
   --codepage NAME      the single-byte code page of text files (default: windows-1253)

@@ -54,8 +54,8 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
                                     {13, true, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, {}, false, false, 4});
     note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(note, 1);
-    for (const ControlRow* words :
-         {&controls.lblFEED, &controls.lblLINKMAIN, &controls.lblLINKREMOTE, &controls.lblDATABASE}) {
+    for (const ControlRow* words : {&controls.lblSILENCED, &controls.lblFEED, &controls.lblLINKMAIN,
+                                    &controls.lblLINKREMOTE, &controls.lblDATABASE}) {
         row->addWidget(
             mirrors.label(*words, -1, {13, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 4}));
     }

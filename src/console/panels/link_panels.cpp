@@ -1,8 +1,10 @@
 #include "console/panels/link_panels.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include "console/line_view.h"
+#include "form/follow.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +64,28 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
     log->addStretch(1);
     log->addWidget(mirrors.button(controls.cmdVIEWGASPHISTORY));
     grid->addLayout(log, 4, 0, 1, 4);
+}
+
+ControlsCover::ControlsCover(const Mirrors& mirrors, QWidget& covered) {
+    setAutoFillBackground(true);
+    mirrors.panel(this, controls.picHideControls);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(12, 10, 12, 12);
+    grid->addWidget(PanelFrame::word(u"This pack hides the controls. Links can be connected here."_s), 0, 0, 1, 4);
+    grid->setRowMinimumHeight(1, 12);
+    grid->addWidget(PanelFrame::word(u"Main server"_s), 2, 0, 1, 4);
+    addAddress(mirrors, grid, 3, kMainLinkControls);
+    grid->setRowMinimumHeight(5, 12);
+    grid->addWidget(PanelFrame::word(u"Remote server"_s), 6, 0, 1, 4);
+    addAddress(mirrors, grid, 7, kRemoteLinkControls);
+    grid->setRowStretch(9, 1);
+
+    const Control& cover = mirrors.form().at(controls.picHideControls);
+    follow(cover, {Control::Property::Visible}, this, [this, &cover, &covered] {
+        // The next box in the row must not get what was being typed.
+        if (cover.visible() && covered.isAncestorOf(QApplication::focusWidget())) window()->setFocus();
+        covered.setEnabled(!cover.visible());
+    });
 }
 
 bool CasparPanel::eventFilter(QObject* watched, QEvent* event) {

@@ -33,4 +33,12 @@ class CasparPanel : public PanelFrame {
     bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
+// Lies over the controls that a pack hides and keeps the keyboard from them: says so, and lets links be connected.
+class ControlsCover : public QWidget {
+    Q_OBJECT
+
+ public:
+    ControlsCover(const Mirrors& mirrors, QWidget& covered);
+};
+
 }  // namespace zelvor

@@ -2,6 +2,7 @@
 
 #include "engine/defaults.h"
 #include "engine/on_air.h"
+#include "engine/team_labels.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +35,7 @@ QString StartUp::caption() const {
 bool StartUp::step(const QString& name, const std::function<void()>& body) {
     Program& program = engine_.program();
     if (program.closing.hasBegun()) return false;
-    if (body) program.trap.run({u"frmMAIN."_s + name, {}, 0, {Asker::Kind::StartUp}}, ErrorTrap::Tell::Operator, body);
+    if (body) program.trap.run({u"frmMAIN."_s + name, 0, {Asker::Kind::StartUp}}, ErrorTrap::Tell::Operator, body);
     return !program.closing.hasBegun();
 }
 
@@ -61,9 +62,12 @@ void StartUp::fillEffects() {
     writeEffectDefaults(state_);
 }
 
-void StartUp::showTeams() {
-    form_.at(controls.lblHTEAM).setText(state_.variables.GetVar(u"@HTLNAMEEN").text());
-    form_.at(controls.lblATEAM).setText(state_.variables.GetVar(u"@ATLNAMEEN").text());
+void StartUp::tellOfNoModules() {
+    engine_.ports().operatorDesk.message(
+        {Asker::Kind::StartUp}, {},
+        u"There is no folder MODULES in\r\n"_s + engine_.program().folder.path() +
+            u"\r\nStart with --app-folder FOLDER, the folder that holds it, or with --user-folder."_s,
+        Operator::Severity::Warning);
 }
 
 void StartUp::run() {
@@ -77,10 +81,17 @@ void StartUp::run() {
         writeGameDefaults(state_, form_);
         writeScreenModeDefault(state_, form_);
     });
-    step(u"LOAD_PACKS"_s, steps_.LOAD_PACKS);
-    step(u"CONNECTDATABASE"_s, steps_.CONNECTDATABASE);
-    step(u"LOAD_CARDS"_s, steps_.LOAD_CARDS);
-    step(u"LOAD_ASK"_s, steps_.LOAD_ASK);
+    // Without packs nothing that reads one is tried: each would say in its own words what is told here.
+    const AppFolder& folder = engine_.program().folder;
+    const bool hasModules = folder.exists(folder.modulesFile({}));
+    if (hasModules) {
+        step(u"LOAD_PACKS"_s, steps_.LOAD_PACKS);
+        step(u"CONNECTDATABASE"_s, steps_.CONNECTDATABASE);
+        step(u"LOAD_CARDS"_s, steps_.LOAD_CARDS);
+        step(u"LOAD_ASK"_s, steps_.LOAD_ASK);
+    } else {
+        step(u"LOAD_PACKS"_s, [&] { tellOfNoModules(); });
+    }
     step(u"Form_Load"_s, [&] {
         console_.selectBox(0);
         writeCrawlDefault(state_);
@@ -88,10 +99,11 @@ void StartUp::run() {
         console_.showLoaded();
     });
     step(u"Form_Load"_s, [&] {
+        if (!hasModules) return;
         engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::StartUp, CardEngine::kStartCard});
     });
     step(u"Form_Load"_s, [&] {
-        showTeams();
+        showTeams(state_, form_);  // also when that card is missing
         clock.turnEvents(1);
         showClear(form_);
         clock.turnEvents(1);

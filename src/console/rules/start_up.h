@@ -33,7 +33,7 @@ class StartUp {
  private:
     void layOut();
     void fillEffects();
-    void showTeams();
+    void tellOfNoModules();
     bool step(const QString& name, const std::function<void()>& body);
 
     CardEngine& engine_;

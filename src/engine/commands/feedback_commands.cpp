@@ -5,7 +5,7 @@
 #include "base/number.h"
 #include "engine/auto_tags.h"
 #include "engine/card_run.h"
-#include "engine/used_proposal.h"
+#include "engine/proposal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,35 +77,32 @@ void PROPOSE(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     Control& label = run.form().at(controls.lblPROPOSED, wholeNumber32(pieces[0]));
     label.setTag(pieces[1].toString());
+    label.setState({});
     label.setText(pieces[2].toString().replace(u"[VBCRLF]"_s, u"\r\n"_s));
     label.setBackColour(pieces[3] == u"Y" ? colours::kAcceptedProposal : colours::kOpenProposal);
 }
 
-// The proposal's card is on air in a slot with the proposal's tag.
-bool isDue(const Pieces& proposal, const QString& onAir, const QString& tag) {
-    return proposal[1] == u"N" && proposal[2].compare(onAir, Qt::CaseInsensitive) == 0 &&
-           proposal[3].compare(tag, Qt::CaseInsensitive) == 0;
-}
-
-void fireProposal(CardRun& run, Control& label, QStringView id, const QString& card) {
-    run.engine().SHOW_TVCARD(card, true, true, run.asker());
-    run.goOn();
-    markProposalUsed(run.ports().database, id, label);
+// The proposal's card as a slot holds it with the proposal's tag; empty when none does.
+QString cardOnAir(CardRun& run, const Proposal& proposal) {
+    constexpr int kSlots = 5;  // in both directions
+    for (int row = 1; row <= kSlots; ++row) {
+        for (int column = 1; column <= kSlots; ++column) {
+            const QString& card = run.state().ONAIR_TABLE.at(row, column);
+            if (proposal.isOnAir(card, run.variables().text(u"LASTCARDTAG%1-%2"_s.arg(row).arg(column)))) return card;
+        }
+    }
+    return {};
 }
 
 void scanProposal(CardRun& run, Control& label) {
-    constexpr int kSlots = 5;  // in both directions
     const QString record = label.tag();
-    const Pieces proposal(record, u'|');
-    if (proposal.count() < 2) return;
-    for (int row = 1; row <= kSlots; ++row) {
-        for (int column = 1; column <= kSlots; ++column) {
-            const QString onAir = run.state().ONAIR_TABLE.at(row, column);
-            const QString tag = run.variables().text(u"LASTCARDTAG%1-%2"_s.arg(row).arg(column));
-            if (onAir.isEmpty() || !isDue(proposal, onAir, tag)) continue;
-            if (run.state().ask.ASK_OPEN == 0) fireProposal(run, label, proposal[0], onAir);
-        }
-    }
+    const Pieces fields(record, u'|');
+    if (fields.count() < 2 || fields[1] != u"N" || run.state().ask.ASK_OPEN != 0) return;
+    const Proposal proposal(label);
+    const QString card = cardOnAir(run, proposal);
+    if (card.isEmpty()) return;
+    proposal.fire(run.engine(), card, label, run.asker());
+    run.goOn();
 }
 
 void SCANPROPOSED(CardRun& run, const Arguments&) {
