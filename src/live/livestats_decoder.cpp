@@ -199,11 +199,8 @@ void LiveStatsDecoder::readAction(const JsonReader& message, qint64 now) {
 
 bool LiveStatsDecoder::keepAction(const JsonReader& message, QMap<int, LiveAction>& actions) const {
     const std::optional<int> number = message.number(u"actionNumber", 0, kHighestNumber);
-    if (number == 0) return false;  // the clock's, the possession's
-    if (!number) {
-        refusals_.count(u"action without number"_s);
-        return false;
-    }
+    if (!number) refusals_.count(u"action without number"_s);
+    if (number.value_or(0) == 0) return false;  // 0: the clock's, the possession's
     LiveAction action;
     action.message = message.number(u"messageId", 0, std::numeric_limits<int>::max()).value_or(0);
     const auto known = actions.constFind(*number);

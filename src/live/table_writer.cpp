@@ -15,9 +15,9 @@ struct OwnedByOther {
 
 }  // namespace
 
-TableWriter::TableWriter(const QString& connectionString, const QString& folder, QString owner,
+TableWriter::TableWriter(const QString& connectionString, const QString& folder, const QString& owner,
                          std::chrono::milliseconds beat)
-    : session_(folder), owner_(std::move(owner).left(80)), beat_(beat) {
+    : session_(folder), owner_(owner.left(80)), beat_(beat) {
     session_.setConnectionString(connectionString);
     thread_ = std::thread([this] { run(); });
 }

@@ -29,7 +29,7 @@ class TableWriter {
     static constexpr std::chrono::milliseconds kBeat{2000};
 
     // folder: what a relative path in the connection string starts from. owner: of this feed, in words.
-    TableWriter(const QString& connectionString, const QString& folder, QString owner,
+    TableWriter(const QString& connectionString, const QString& folder, const QString& owner,
                 std::chrono::milliseconds beat = kBeat);
     TableWriter(const TableWriter&) = delete;
     TableWriter& operator=(const TableWriter&) = delete;

@@ -20,23 +20,23 @@ QString LiveFiles::open(SourceKind kind, const QString& recording, const QString
 
 void LiveFiles::message(qint64 at, const QByteArray& message) {
     record({at, RecordedMessage::What::Message, message});
-    log(kind_ == SourceKind::LiveStats ? message : message.toHex(' '));
+    writeLog(kind_ == SourceKind::LiveStats ? message : message.toHex(' '));
 }
 
 void LiveFiles::event(qint64 at, RecordedMessage::What what, const QString& text) {
     record({at, what, {}});
-    log("-- " + text.toUtf8());
+    writeLog("-- " + text.toUtf8());
 }
 
 void LiveFiles::refused(const QString& text) {
-    log("-- refused so far: " + text.toUtf8());
+    writeLog("-- refused so far: " + text.toUtf8());
 }
 
 void LiveFiles::record(const RecordedMessage& message) {
     if (recording_.isOpen()) writeLine(recording_, recordedLine(kind_, message));
 }
 
-void LiveFiles::log(const QByteArray& text) {
+void LiveFiles::writeLog(const QByteArray& text) {
     if (log_.isOpen()) writeLine(log_, QTime::currentTime().toString(u"HH:mm:ss.zzz").toLatin1() + ' ' + text);
 }
 

@@ -24,7 +24,7 @@ class LiveFiles {
 
  private:
     void record(const RecordedMessage& message);
-    void log(const QByteArray& text);
+    void writeLog(const QByteArray& text);
     void writeLine(QFile& file, const QByteArray& line);
 
     SourceKind kind_ = SourceKind::LiveStats;
