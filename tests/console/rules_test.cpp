@@ -68,6 +68,7 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     EXPECT_EQ(sent(), QStringList{u"mone 0"_s});
 
     // While a card waits another one runs inside it, also one that was pressed in the first one's turn.
+    console.selectBox(0);
     bench.write(u"QRD_TT/one.csp"_s, "CSPSEND~begins\r\nDELAY~1\r\nCSPSEND~ends\r\n");
     bench.clock.whileTurning = [this] { console.functionKey(10); };
     bench.clock.whileWaiting = [] { QCoreApplication::processEvents(); };

@@ -1,6 +1,6 @@
 #include "app_check/pack_check.h"
 
-#include <QFileInfo>
+#include <algorithm>
 
 #include "app_check/ask_field_check.h"
 #include "app_check/card_table_check.h"
@@ -70,9 +70,13 @@ Findings PackCheck::findings() {
 
 void PackCheck::changed(const QString& path) {
     files_.forget(path);
-    // One that is there or gone may be an include or a card of any script.
-    if (!QFileInfo::exists(path) || !scripts_.contains(path)) return scripts_.clear();
-    std::erase_if(scripts_, [&](const auto& script) { return script.second.sources.contains(path); });
+    const auto reads = [&](const auto& script) { return script.second.sources.contains(path); };
+    // One that is new or gone may be an include or a card of any script.
+    if (!files_.isThere(path) || std::ranges::none_of(scripts_, reads)) {
+        scripts_.clear();
+    } else {
+        std::erase_if(scripts_, reads);
+    }
 }
 
 void PackCheck::readScripts() {

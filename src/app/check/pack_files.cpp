@@ -18,7 +18,11 @@ bool PackFiles::exists(QStringView name) {
     const QString key = name.toString();
     const auto known = exists_.constFind(key);
     if (known != exists_.constEnd()) return *known;
-    return *exists_.insert(key, QFileInfo(path(name)).isFile());
+    return *exists_.insert(key, isThere(path(name)));
+}
+
+bool PackFiles::isThere(const QString& path) const {
+    return texts_.contains(path) || QFileInfo(path).isFile();
 }
 
 bool PackFiles::cardExists(const QString& card) {
@@ -52,12 +56,13 @@ Place PackFiles::place(const QString& path, int line) const {
 }
 
 QStringList PackFiles::scripts() const {
-    QStringList found;
+    QStringList found = texts_.keys();
     QDirIterator files(folder_.resolve(folder_.packFolder(language_)), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString file = files.next();
-        if (file.endsWith(u".csp"_s, Qt::CaseInsensitive)) found += file;
+        if (!texts_.contains(file)) found += file;
     }
+    found.removeIf([](const QString& file) { return !file.endsWith(u".csp"_s, Qt::CaseInsensitive); });
     found.sort();
     return found;
 }

@@ -19,6 +19,8 @@ class PackFiles {
     // The platform's path of a file named as in a script or a card table.
     [[nodiscard]] QString path(QStringView name) const;
     [[nodiscard]] bool exists(QStringView name);
+    // The same of a path.
+    [[nodiscard]] bool isThere(const QString& path) const;
     // Whether the script that a card of that name runs exists.
     [[nodiscard]] bool cardExists(const QString& card);
     // Throws RunTimeError when it cannot be read.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QStringList>
-#include <optional>
 #include <QTextStream>
+#include <optional>
 
 #include "app_check/findings.h"
 

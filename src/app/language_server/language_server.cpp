@@ -132,7 +132,7 @@ LanguageServer::Spot LanguageServer::spotOf(const QJsonObject& params) {
     spot.path = pathOf(params);
     spot.pack = workspace_.packOf(spot.path);
     if (spot.pack == nullptr) return spot;
-    if (spot.pack->check.scripts().empty()) idle();  // the first look at the pack
+    if (spot.pack->check.scripts().size() <= 1) (void)spot.pack->check.findings();  // the first look at the pack
     const QJsonObject position = params[u"position"_s].toObject();
     spot.line = lineOf(spot.pack->check.files(), spot.path, position[u"line"_s].toInt());
     spot.column = position[u"character"_s].toInt();

@@ -1,0 +1,1 @@
+autocmd BufNewFile,BufRead *.csp,*/MODULES/QRD_*/*.inc setfiletype zelvor
