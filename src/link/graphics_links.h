@@ -9,6 +9,7 @@
 #include "link/caspar_link.h"
 #include "link/caspar_log.h"
 #include "link/line_list.h"
+#include "link/reply_matcher.h"
 
 namespace zelvor {
 
@@ -26,7 +27,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     GraphicsLinks(FormModel& form, Clock& clock, Program& program);
 
     // Line breaks in the command become blanks. Neither this nor the following raise errors.
-    void sendLine(LinkId link, const QString& command) override;
+    void sendLine(LinkId link, const QString& command, const Asker& asker) override;
     [[nodiscard]] int state(LinkId link) const override;
     [[nodiscard]] bool logging() const override;
     void writeLog(const QString& line) override;
@@ -42,6 +43,8 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     void stopLog();
 
     [[nodiscard]] CasparLink& link(LinkId link) { return link == LinkId::Main ? main_ : remote_; }
+    // Milliseconds for which the server has left what it was sent without a reply; 0 when nothing is waited for.
+    [[nodiscard]] qint64 unansweredFor(LinkId link) const;
     // lstGASPARHISTORY: oldest line on top.
     [[nodiscard]] LineList& history() { return history_; }
     // lstGASPARRESPONSE: newest line on top.
@@ -50,14 +53,29 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
  Q_SIGNALS:
     // A line was put on a link, as it went out, without its line end.
     void lineSent(zelvor::LinkId link, const QString& line);
+    // A line was not put on a link, or had not been taken by the server when the link failed. Nobody misses the lines
+    // of a link without an address.
+    void lineLost(zelvor::LinkId link, const zelvor::Asker& asker);
+    // The server has answered a line.
+    void lineAnswered(zelvor::LinkId link, const zelvor::ReplyMatcher::Answer& answer);
 
  private:
-    void sendNow(LinkId link, const QString& line);
+    // What is known of the replies of one server.
+    struct Replies {
+        ReplyMatcher matcher;
+        qint64 lastHeard = 0;  // steady milliseconds
+    };
+
+    void sendNow(LinkId link, const QString& line, const Asker& asker);
+    void lose(LinkId link, const Asker& asker);
+    void matchReplies(LinkId link);
+    [[nodiscard]] Replies& replies(LinkId link) { return link == LinkId::Main ? mainReplies_ : remoteReplies_; }
     void showLogWritten(bool written);
     void addResponse(const QString& text);
     // "hh:mm:ss", made once a second: a card adds dozens of lines to the history.
     const QString& timeOfDay();
 
+    FormModel& form_;
     Clock& clock_;
     ErrorTrap& trap_;
     Control& logSwitch_;
@@ -68,6 +86,8 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     LineList responses_{LineList::Newest::First};
     CasparLink main_;
     CasparLink remote_;
+    Replies mainReplies_;
+    Replies remoteReplies_;
     qint64 shownSecond_ = -1;
     QString shownTime_;
 };

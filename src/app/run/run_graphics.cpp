@@ -65,9 +65,9 @@ void RunGraphics::finishSending(Clock& clock) {
     }
 }
 
-void RunGraphics::sendLine(LinkId link, const QString& command) {
+void RunGraphics::sendLine(LinkId link, const QString& command, const Asker& asker) {
     if (address(link)) {
-        links_.sendLine(link, command);
+        links_.sendLine(link, command, asker);
     } else {
         printSentLine(out_, link, oneLine(command));
     }

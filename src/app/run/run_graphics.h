@@ -18,7 +18,7 @@ class RunGraphics : public Graphics, public GraphicsNotes {
     // Waits until everything was sent or a link has gone.
     void finishSending(Clock& clock);
 
-    void sendLine(LinkId link, const QString& command) override;
+    void sendLine(LinkId link, const QString& command, const Asker& asker) override;
     [[nodiscard]] int state(LinkId link) const override;
     [[nodiscard]] bool logging() const override { return links_.logging(); }
     void writeLog(const QString& line) override { links_.writeLog(line); }
