@@ -68,6 +68,8 @@ struct ConsoleMemory {
     };
     std::optional<CardButton> lastFired;
     bool playerSelected = false;
+    // Of cards whose line was refused or not sent, by the script's name: why, in words.
+    std::map<QString, QString> troubles;
 };
 
 // Everything process-wide that cards and rules share. Made by the composition root and passed by reference; two can

@@ -14,8 +14,7 @@ bool tellsOfError(const QString& reply) {
 }  // namespace
 
 GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
-    : form_(form),
-      clock_(clock),
+    : clock_(clock),
       trap_(program.trap),
       logSwitch_(form.at(controls.chkLOGFILE)),
       logStatus_(form.at(controls.lblLOG)),
@@ -36,13 +35,13 @@ void GraphicsLinks::matchReplies(LinkId id) {
         const auto unanswered = replies(id).matcher.forget();
         // A server that has closed may have taken them all; one that does not react has not.
         if (state != LinkState::Error) return;
-        for (const ReplyMatcher::SentLine& sent : unanswered) lose(id, sent.asker);
+        for (const ReplyMatcher::SentLine& sent : unanswered) Q_EMIT lineLost(id, sent);
     });
 }
 
 qint64 GraphicsLinks::unansweredFor(LinkId link) const {
-    const Replies& replies = link == LinkId::Main ? mainReplies_ : remoteReplies_;
-    if (replies.matcher.awaited().empty()) return 0;
+    if (!awaitsReply(link)) return 0;
+    const Replies& replies = repliesOf(link);
     const qint64 since = std::max(replies.matcher.awaited().front().at, replies.lastHeard);
     return clock_.steadyMilliseconds() - since;
 }
@@ -50,11 +49,6 @@ qint64 GraphicsLinks::unansweredFor(LinkId link) const {
 void GraphicsLinks::sendLine(LinkId link, const QString& command, const Asker& asker) {
     trap_.run({u"frmMAIN.sendLine"_s, {}, 0}, ErrorTrap::Tell::LogOnly,
               [&] { sendNow(link, oneLine(command), asker); });
-}
-
-void GraphicsLinks::lose(LinkId link, const Asker& asker) {
-    const LinkControls& its = link == LinkId::Main ? kMainLinkControls : kRemoteLinkControls;
-    if (!form_.at(its.address).text().isEmpty()) Q_EMIT lineLost(link, asker);
 }
 
 void GraphicsLinks::sendNow(LinkId id, const QString& line, const Asker& asker) {
@@ -67,7 +61,7 @@ void GraphicsLinks::sendNow(LinkId id, const QString& line, const Asker& asker) 
         replies(id).matcher.sent({line, asker, clock_.steadyMilliseconds()});
         target.send(line);
     } else {
-        lose(id, asker);
+        Q_EMIT lineLost(id, {line, asker, 0});
     }
     const QString mark = id == LinkId::Main ? QString() : u"REMOTE "_s;
     if (!isSendable(target.state())) {

@@ -43,6 +43,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     void stopLog();
 
     [[nodiscard]] CasparLink& link(LinkId link) { return link == LinkId::Main ? main_ : remote_; }
+    [[nodiscard]] bool awaitsReply(LinkId link) const { return !repliesOf(link).matcher.awaited().empty(); }
     // Milliseconds for which the server has left what it was sent without a reply; 0 when nothing is waited for.
     [[nodiscard]] qint64 unansweredFor(LinkId link) const;
     // lstGASPARHISTORY: oldest line on top.
@@ -53,9 +54,8 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
  Q_SIGNALS:
     // A line was put on a link, as it went out, without its line end.
     void lineSent(zelvor::LinkId link, const QString& line);
-    // A line was not put on a link, or had not been taken by the server when the link failed. Nobody misses the lines
-    // of a link without an address.
-    void lineLost(zelvor::LinkId link, const zelvor::Asker& asker);
+    // A line was not put on a link, or had not been taken by the server when the link failed.
+    void lineLost(zelvor::LinkId link, const zelvor::ReplyMatcher::SentLine& line);
     // The server has answered a line.
     void lineAnswered(zelvor::LinkId link, const zelvor::ReplyMatcher::Answer& answer);
 
@@ -67,15 +67,16 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     };
 
     void sendNow(LinkId link, const QString& line, const Asker& asker);
-    void lose(LinkId link, const Asker& asker);
     void matchReplies(LinkId link);
+    [[nodiscard]] const Replies& repliesOf(LinkId link) const {
+        return link == LinkId::Main ? mainReplies_ : remoteReplies_;
+    }
     [[nodiscard]] Replies& replies(LinkId link) { return link == LinkId::Main ? mainReplies_ : remoteReplies_; }
     void showLogWritten(bool written);
     void addResponse(const QString& text);
     // "hh:mm:ss", made once a second: a card adds dozens of lines to the history.
     const QString& timeOfDay();
 
-    FormModel& form_;
     Clock& clock_;
     ErrorTrap& trap_;
     Control& logSwitch_;

@@ -49,7 +49,7 @@ LinkWatch::LinkWatch(LinkId id, GraphicsLinks& links, FormModel& form, Clock& cl
     onTimer(retryTimer_, u"tmrRETRY"_s + suffix(id), kRetryInterval, &LinkWatch::retry);
     connect(&link_, &CasparLink::stateChanged, this, &LinkWatch::followLink);
     connect(&links_, &GraphicsLinks::lineLost, this, [this](LinkId lost) {
-        if (lost == id_) countLostLine();
+        if (lost == id_ && isUsed()) countLostLine();
     });
     onChange(reconnect_, {Control::Property::Checked}, this, [this] { updateRetrying(); });
     showStatus();
@@ -57,6 +57,10 @@ LinkWatch::LinkWatch(LinkId id, GraphicsLinks& links, FormModel& form, Clock& cl
 
 bool LinkWatch::wanted() const {
     return button_.tag() != kConnectTag;
+}
+
+bool LinkWatch::isUsed() const {
+    return wanted() || !address_.text().isEmpty();
 }
 
 bool LinkWatch::pressConnect() {

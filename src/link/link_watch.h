@@ -37,6 +37,8 @@ class LinkWatch : public QObject {
     void showRefusal(const QString& reply);
     // A card has gone well since the link came up again: no need to say any longer that the server was empty.
     void forgetReconnect();
+    // False while there is no such server: nobody wants a connection, and no address is given. Nobody misses its lines.
+    [[nodiscard]] bool isUsed() const;
 
  Q_SIGNALS:
     // The link has come up for that many times since the start.

@@ -76,7 +76,13 @@ class CardTableCheck {
 
     void checkCards(const CardTable& table, qsizetype at) {
         for (const FunctionKey& key : table.functionKeys) checkCard(key.script, at);
-        for (const TimedCard& timed : table.timedCards) checkCard(timed.card, at);
+        for (const TimedCard& timed : table.timedCards) {
+            checkCard(timed.card, at);
+            if (timed.interval <= 0)
+                findings_.warning(
+                    place(at),
+                    u"the timed card %1 never fires: its interval is %2"_s.arg(timed.card).arg(timed.interval));
+        }
         checkCard(table.clearCard, at);
         for (const CardTable::Set& set : table.sets) {
             for (size_t row = 1; row < set.size(); ++row) checkCard(set[row].script, at + static_cast<qsizetype>(row));

@@ -46,12 +46,16 @@ class CardConsole : public QObject {
     // "F1" when function key 1 to 10 fires the script of card button `index`; empty when none does.
     [[nodiscard]] QString keyOf(int index) const;
     [[nodiscard]] const CardEntry& card(int index) const;
+    // Why a line of card button `index` was refused or not sent, in words; empty when all is well.
+    [[nodiscard]] QString troubleOf(int index) const;
 
  Q_SIGNALS:
     // A card table was loaded and is shown.
     void loaded();
     // Something that a card button shows besides its control's properties may have changed.
     void cardsChanged();
+    // The operator clears the screen; before the clear card runs.
+    void clearing();
 
  private:
     void fire(int index, bool tagged);
