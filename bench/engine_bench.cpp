@@ -55,7 +55,7 @@ BENCHMARK(makeXmlOf40Fields);
 
 class CountedGraphics : public Graphics, public GraphicsNotes {
  public:
-    void sendLine(LinkId, const QString& command) override { units += command.size(); }
+    void sendLine(LinkId, const QString& command, const Asker&) override { units += command.size(); }
     int state(LinkId) const override { return kConnected; }
     bool logging() const override { return false; }
     void writeLog(const QString&) override {}

@@ -23,6 +23,9 @@ struct Asker {
     QString card = {};                    // the card that was asked for; empty for a deed that runs none
     std::optional<CardPlace> place = {};  // its button, for one that has one
     ScriptPlace at = {};  // the line of the running card that speaks for him; that card may be another's
+    // Set by the engine for all that happens in that run:
+    qint64 run = 0;             // its number, counted from 1
+    bool functionCard = false;  // the card leaves the on-air line to others
 
     [[nodiscard]] bool isAttended() const { return kind == Kind::Operator || kind == Kind::StartUp; }
 };

@@ -61,6 +61,11 @@ void CardButton::paintEvent(QPaintEvent*) {
         painter.fillPath(corner, theme::colour(Role::Wait));
     }
 
+    if (!face_.trouble.isEmpty()) {
+        constexpr int kLamp = 13;  // pixels
+        drawStruckLamp(painter, {small_->geometry().left() - kLamp - 5.0, body.bottom() - kLamp - 6.0, kLamp, kLamp});
+    }
+
     const QColor ink = ownText().value_or(groundColour() ? theme::readableOn(*groundColour())
                                                          : theme::colour(face_.quiet ? Role::Muted : Role::Text));
     const QString state =
@@ -90,6 +95,16 @@ void CardButton::paintEvent(QPaintEvent*) {
     } else {
         painter.drawText(inner, Qt::AlignRight | Qt::AlignVCenter, state);
     }
+}
+
+void CardButton::drawStruckLamp(QPainter& painter, const QRectF& area) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme::colour(Role::Bad), 2));
+    painter.setBrush(theme::colour(Role::Field));
+    painter.drawEllipse(area);
+    painter.drawLine(area.topRight() + QPointF(1, -1), area.bottomLeft() + QPointF(-1, 1));
+    painter.restore();
 }
 
 int CardButton::textRoom() const {

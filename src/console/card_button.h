@@ -18,7 +18,8 @@ class CardButton : public ConsoleButton {
         bool flagged = false;    // the card table's mark
         bool lastFired = false;  // has a frame of its own
         QString key;             // "F1", empty when no key fires it
-        QString fault = {};           // what breaks its template data, empty when nothing does
+        QString fault = {};      // what breaks its template data, empty when nothing does
+        QString trouble = {};    // why a line of it was refused or not sent, has a struck lamp
         bool operator==(const Face&) const = default;
     };
     void setFace(const Face& face);
@@ -41,6 +42,8 @@ class CardButton : public ConsoleButton {
     [[nodiscard]] int textRoom() const override;
 
  private:
+    void drawStruckLamp(QPainter& painter, const QRectF& area) const;
+
     ConsoleButton* small_;
     Face face_;
 };

@@ -154,8 +154,21 @@ void TextLabel::paintEvent(QPaintEvent*) {
         shown = shown.first(fit);
         shown.last() += u'…';
     }
-    for (QString& line : shown) line = fontMetrics().elidedText(line, Qt::ElideRight, area.width());
+    for (QString& line : shown) line = elided(line, area.width());
     painter.drawText(area, static_cast<int>(look_.alignment), shown.join(u'\n'));
+}
+
+QString TextLabel::elided(const QString& line, int room) const {
+    const QFontMetrics metrics = fontMetrics();
+    QStringList words = line.split(u' ');
+    if (look_.keepsEnd && words.size() > 2) {
+        constexpr int kLeast = 5;  // characters of a host's name
+        const int excess = metrics.horizontalAdvance(line) - room;
+        const int least = metrics.averageCharWidth() * kLeast;
+        const int width = std::max(metrics.horizontalAdvance(words[1]) - std::max(excess, 0), least);
+        words[1] = metrics.elidedText(words[1], Qt::ElideRight, width);
+    }
+    return metrics.elidedText(words.join(u' '), Qt::ElideRight, room);
 }
 
 void TextLabel::resizeEvent(QResizeEvent*) {

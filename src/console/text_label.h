@@ -22,6 +22,7 @@ class TextLabel : public QWidget {
         bool dashedWhenEmpty = false;  // an empty label is an outline only
         bool leadingNumber = false;    // "23 Laskaris": the number stands in a column of its own
         int padding = 6;
+        bool keepsEnd = false;  // of too long a text the second word is cut first: "main long-na… connected"
     };
 
     explicit TextLabel(const Look& look, QWidget* parent = nullptr);
@@ -57,6 +58,7 @@ class TextLabel : public QWidget {
     [[nodiscard]] bool isMarked() const;
     void updateToolTip();
     [[nodiscard]] QStringList lines() const;
+    [[nodiscard]] QString elided(const QString& line, int room) const;
     void drawNumbered(class QPainter& painter, const QRect& area, const QString& line) const;
 
     Look look_;

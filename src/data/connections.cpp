@@ -112,6 +112,7 @@ int Connections::runIntoResult(const Query& query, const Asker& asker, const QSt
             state_.QUERY_RESULT = QueryResult(count, static_cast<int>(rows.columns.size()), std::move(rows.cells));
             state_.variables.SetVar(u"@RECORDCOUNT", count);
         } catch (const RunTimeError& error) {
+            queryFailed_ = true;
             // Who has just been told that the program ends needs no second message.
             if (!program_.closing.hasBegun()) {
                 operator_.message(asker, query.errorTitle, error.text(), Operator::Severity::Warning);

@@ -46,6 +46,8 @@ class Connections : public Database {
     [[nodiscard]] State connectionState() const;
     // The number chosen last, 0 before.
     [[nodiscard]] qint16 connectionNumber() const { return number_; }
+    // Whether a query has failed since the start.
+    [[nodiscard]] bool queryFailed() const { return queryFailed_; }
 
  private:
     // Asks until the answer is a number; nullopt when the program is closing.
@@ -67,6 +69,7 @@ class Connections : public Database {
     Session utf8_;
     Session greek_;
     qint16 number_ = 0;
+    bool queryFailed_ = false;
     bool isMissing_ = false;  // no connection was found for a query that wanted one
 };
 

@@ -44,6 +44,10 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
                 std::make_shared<CardScript>(name, path, language, program_.folder, program_.files, place.asker.at);
             scripts_.keep(shownPath, script);
         }
+        if (place.asker.run == 0) {
+            place.asker.run = ++runs_;
+            place.asker.functionCard = script->functionCard();
+        }
         state_.ask.ASK_RESULT = u"0"_s;
         state_.switches.PreviewDisabled = false;
         try {

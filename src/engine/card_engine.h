@@ -47,6 +47,7 @@ class CardEngine {
     Calculator calculator_;
     CardScriptCache scripts_;
     int depth_ = 0;
+    qint64 runs_ = 0;
 };
 
 }  // namespace zelvor

@@ -103,7 +103,7 @@ void CardRun::finish() {
         if (!onAirLocked(form())) SHOW_ONAIR(state(), form(), cardFile_);
     } else {
         state().lastCard.clear();
-        showNoData(form());
+        showNoData(state(), form(), cardFile_);
     }
 }
 

@@ -11,7 +11,7 @@ void writeAppPath(ShowState& state, const AppFolder& folder) {
 void writeGameDefaults(ShowState& state, FormModel& form) {
     VariableStore& variables = state.variables;
     for (const QStringView name : {u"LASTCARDTAG", u"@SCOREA", u"@SCOREB", u"@MANUALSCOREA", u"@MANUALSCOREB",
-                                   u"@GREENSCOREA", u"@GREENSCOREB"}) {
+                                   u"@GREENSCOREA", u"@GREENSCOREB", u"@MAINCONNECTS", u"@REMOTECONNECTS"}) {
         variables.SetVar(name, u"0"_s);
     }
     form.at(controls.lblTime).setText(u"0:00"_s);

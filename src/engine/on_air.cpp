@@ -18,7 +18,8 @@ void showOnAirLine(FormModel& form, const QString& text, Colour colour, const QS
     form.at(controls.lblONAIRCARD).setText(card);
 }
 
-// The caption of the first card that runs this script, in the current set before the others; else the script's name.
+}  // namespace
+
 QString captionOf(const ShowState& state, const QString& cardFile) {
     const QString name = cardFile.left(cardFile.lastIndexOf(u'.'));
     const auto runsIt = [&](const CardEntry& entry) {
@@ -33,14 +34,12 @@ QString captionOf(const ShowState& state, const QString& cardFile) {
     return caption.isEmpty() ? name : caption;
 }
 
-}  // namespace
-
 void SHOW_ONAIR(const ShowState& state, FormModel& form, const QString& cardFile) {
     showOnAirLine(form, u"ON AIR"_s, kOnAir, captionOf(state, cardFile));
 }
 
-void showNoData(FormModel& form) {
-    showOnAirLine(form, u"NO DATA"_s, kNoData, {});
+void showNoData(const ShowState& state, FormModel& form, const QString& cardFile) {
+    showOnAirLine(form, u"NO DATA"_s, kNoData, captionOf(state, cardFile) + u" found nothing"_s);
 }
 
 void showClear(FormModel& form) {

@@ -10,10 +10,12 @@ namespace zelvor {
 
 // "ON AIR" in the on-air colours, with the card's caption.
 void SHOW_ONAIR(const ShowState& state, FormModel& form, const QString& cardFile);
-// "NO DATA" in its own colours.
-void showNoData(FormModel& form);
+// "NO DATA" in its own colours, with the caption of the card that found nothing.
+void showNoData(const ShowState& state, FormModel& form, const QString& cardFile);
 // Empty and green: nothing is on air.
 void showClear(FormModel& form);
+// The caption of the first card that runs this script, in the current set before the others; else the script's name.
+QString captionOf(const ShowState& state, const QString& cardFile);
 // True while the operator has locked the on-air label.
 bool onAirLocked(const FormModel& form);
 

@@ -51,7 +51,8 @@ class Graphics {
 
     virtual ~Graphics() = default;
     // Sends one command line, or logs that it could not. Before a line that holds "PLAY" the event loop turns.
-    virtual void sendLine(LinkId link, const QString& command) = 0;
+    // asker: whose card it is that is marked when the line is refused or not sent; none without a card.
+    virtual void sendLine(LinkId link, const QString& command, const Asker& asker) = 0;
     [[nodiscard]] virtual int state(LinkId link) const = 0;
 };
 

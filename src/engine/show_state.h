@@ -63,6 +63,8 @@ class OnAirTable {
 struct ConsoleMemory {
     std::optional<CardPlace> lastFired;  // the button of the card that went on air last
     bool playerSelected = false;
+    // Of cards whose line was refused or not sent, by the script's name: why, in words.
+    std::map<QString, QString> troubles;
 };
 
 // Everything process-wide that cards and rules share. Made by the composition root and passed by reference; two can

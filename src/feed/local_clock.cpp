@@ -28,7 +28,7 @@ int secondsOfDay(QTime time) {
 LocalClock::LocalClock(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine), form_(engine.form()) {
     timer_.setObjectName(u"tmrCLOCKS"_s);
     timer_.setTimerType(Qt::PreciseTimer);
-    timer_.setInterval(kInterval);
+    connect(&timer_, &QTimer::timeout, this, &LocalClock::aim);
     // Queued, so that a second that passes while the clock card waits is noticed.
     connect(
         &timer_, &QTimer::timeout, this,
@@ -42,11 +42,15 @@ void LocalClock::cmdCLOCKS() {
     Control& button = form_.at(controls.cmdCLOCKS);
     if (button.text() == u"Start") {
         button.setText(u"Stop"_s);
-        timer_.start();
+        aim();
     } else {
         button.setText(u"Start"_s);
         timer_.stop();
     }
+}
+
+void LocalClock::aim() {
+    timer_.start(kInterval + kBehindSecond - engine_.ports().clock.now().time().msec());
 }
 
 void LocalClock::tick() {

@@ -11,7 +11,8 @@ class LocalClock : public QuietRules {
     Q_OBJECT
 
  public:
-    static constexpr int kInterval = 1000;  // milliseconds
+    static constexpr int kInterval = 1000;    // milliseconds
+    static constexpr int kBehindSecond = 10;  // milliseconds
 
     explicit LocalClock(CardEngine& engine);
 
@@ -21,6 +22,8 @@ class LocalClock : public QuietRules {
     void tick();
 
  private:
+    // The next tick just behind the full second: however late the last one was, none is doubled or skipped.
+    void aim();
     void update();
     [[nodiscard]] QString countdown(QTime now) const;
 

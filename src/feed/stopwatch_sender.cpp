@@ -33,7 +33,8 @@ void StopwatchSender::tick() {
         graphics_.sendLine(LinkId::Main,
                            uR"(CG 1-2 UPDATE 1 "<templateData><componentData id=\"team1\">)"
                            uR"(<data type=\"txt\" ani=\"0\" value=\")"_s +
-                               value + uR"(\"></data></componentData></templateData>")"_s);
+                               value + uR"(\"></data></componentData></templateData>")"_s,
+                           {});
     });
 }
 

@@ -31,6 +31,8 @@ void TimedCards::count() {
     // By number: a card that waits may see another card table loaded.
     std::vector<TimedCard>& cards = engine_.state().cards.timedCards;
     for (std::size_t i = 0; i < cards.size(); ++i) {  // NOLINT(modernize-loop-convert)
+        // It never fires; counting it up to its overflow would end the tick before the cards behind it.
+        if (cards[i].interval <= 0) continue;
         cards[i].ticks = wholeNumber16(cards[i].ticks + 1.0);
         if (cards[i].ticks != cards[i].interval) continue;
         cards[i].ticks = 0;

@@ -18,7 +18,7 @@ class TimedCards : public QuietRules {
     // Switches tmrCARD on.
     void start();
     // Counts one tick for every timed card and runs those that are due. The timer is off meanwhile, so that ticks do
-    // not stack. A counter beyond 32767 ends the tick before the cards behind it.
+    // not stack. A card whose interval is 0 or less never fires.
     void tick();
 
  private:

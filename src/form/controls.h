@@ -20,6 +20,8 @@ struct ControlTable {
     ControlRow lblONAIR{Kind::Label, u"lblONAIR", u"What is on air"};
     ControlRow lblONAIRLAMP{Kind::Label, u"lblONAIRLAMP", u"On-air lamp: green clear, red on air"};
     ControlRow lblONAIRCARD{Kind::Label, u"lblONAIRCARD", u"The card on air"};
+    ControlRow lblONAIRTROUBLE{Kind::Label, u"lblONAIRTROUBLE",
+                               u"The card whose line was refused or not sent, and why"};
     ControlRow chkONAIRLOCK{
         Kind::CheckBox, u"chkONAIRLOCK", u"Lock: cards no longer change the on-air line", {.text = u"Lock"}};
     ControlRow lblPREVIEW{

@@ -3,9 +3,19 @@
 #include <QNetworkProxy>
 #include <QSignalBlocker>
 
+#include "link/dead_peer.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
+
+namespace {
+
+QString reasonOf(const QAbstractSocket& socket) {
+    return socket.error() == QAbstractSocket::SocketTimeoutError ? u"timed out"_s : socket.errorString();
+}
+
+}  // namespace
 
 CasparLink::CasparLink(QObject* parent) : QObject(parent) {
     socket_.setProxy(QNetworkProxy::NoProxy);
@@ -42,6 +52,7 @@ void CasparLink::send(const QString& line) {
     socket_.write(line.toUtf8() + "\r\n");
     socket_.flush();
     if (unsentBytes() <= kLargestUnsent) return;
+    discardOnClose(socket_.socketDescriptor());
     dropConnection();
     enter(LinkState::Error, u"the server does not read"_s);
 }
@@ -66,16 +77,22 @@ void CasparLink::followSocket() {
         case QAbstractSocket::ListeningState:
             return enter(LinkState::Open);
         case QAbstractSocket::ConnectedState:
-            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) return enter(LinkState::PeerClosing);
+            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) return enterClosedByServer();
             socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-            socket_.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+            endWithDeadPeer(socket_.socketDescriptor());
             return enter(LinkState::Connected);
         case QAbstractSocket::ClosingState:
-            return enter(LinkState::PeerClosing);
+            // Any other failure is known when the socket has closed.
+            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) enterClosedByServer();
+            return;
         case QAbstractSocket::UnconnectedState:
-            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) return enter(LinkState::PeerClosing);
-            return enter(LinkState::Error, socket_.errorString());
+            if (socket_.error() == QAbstractSocket::RemoteHostClosedError) return enterClosedByServer();
+            return enter(LinkState::Error, reasonOf(socket_));
     }
+}
+
+void CasparLink::enterClosedByServer() {
+    enter(LinkState::PeerClosing, u"the server closed"_s);
 }
 
 void CasparLink::enter(LinkState state, const QString& errorText) {
@@ -87,7 +104,9 @@ void CasparLink::enter(LinkState state, const QString& errorText) {
 
 void CasparLink::readReplies() {
     while (socket_.bytesAvailable() > 0) {
-        if (const auto text = decoder_.feed(socket_.read(kLargestPiece))) Q_EMIT received(*text);
+        const QByteArray bytes = socket_.read(kLargestPiece);
+        Q_EMIT arrived(bytes);
+        if (const auto text = decoder_.feed(bytes)) Q_EMIT received(*text);
     }
 }
 

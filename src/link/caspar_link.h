@@ -50,18 +50,21 @@ class CasparLink : public QObject {
     void finishSending(QDeadlineTimer deadline);
 
     [[nodiscard]] LinkState state() const { return state_; }
-    // Why the link is in state 9, in words; empty in other states.
+    // Why the link is in state 8 or 9, in words; empty in other states.
     [[nodiscard]] const QString& errorText() const { return errorText_; }
     [[nodiscard]] qint64 unsentBytes() const { return socket_.bytesToWrite(); }
 
  Q_SIGNALS:
     void stateChanged(zelvor::LinkState state);
+    // What has arrived, as it is; before received().
+    void arrived(const QByteArray& bytes);
     // Text that has arrived, every CR LF in it removed.
     void received(const QString& text);
 
  private:
     void followSocket();
     void enter(LinkState state, const QString& errorText = {});
+    void enterClosedByServer();
     void dropConnection();
     void readReplies();
 

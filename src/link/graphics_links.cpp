@@ -23,13 +23,35 @@ GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
       log_(program.folder, program.files) {
     // Only the main server's replies are shown; the remote one's are meant to be ignored.
     connect(&main_, &CasparLink::received, this, &GraphicsLinks::addResponse);
+    for (const LinkId id : {LinkId::Main, LinkId::Remote}) matchReplies(id);
 }
 
-void GraphicsLinks::sendLine(LinkId link, const QString& command) {
-    trap_.run({u"frmMAIN.sendLine"_s}, ErrorTrap::Tell::LogOnly, [&] { sendNow(link, oneLine(command)); });
+void GraphicsLinks::matchReplies(LinkId id) {
+    connect(&link(id), &CasparLink::arrived, this, [this, id](const QByteArray& bytes) {
+        replies(id).lastHeard = clock_.steadyMilliseconds();
+        for (const ReplyMatcher::Answer& answer : replies(id).matcher.read(bytes)) Q_EMIT lineAnswered(id, answer);
+    });
+    connect(&link(id), &CasparLink::stateChanged, this, [this, id](LinkState state) {
+        if (state == LinkState::Connected) return;
+        const auto unanswered = replies(id).matcher.forget();
+        // A server that has closed may have taken them all; one that does not react has not.
+        if (state != LinkState::Error) return;
+        for (const ReplyMatcher::SentLine& sent : unanswered) Q_EMIT lineLost(id, sent);
+    });
 }
 
-void GraphicsLinks::sendNow(LinkId id, const QString& line) {
+qint64 GraphicsLinks::unansweredFor(LinkId link) const {
+    if (!awaitsReply(link)) return 0;
+    const Replies& replies = repliesOf(link);
+    const qint64 since = std::max(replies.matcher.awaited().front().at, replies.lastHeard);
+    return clock_.steadyMilliseconds() - since;
+}
+
+void GraphicsLinks::sendLine(LinkId link, const QString& command, const Asker& asker) {
+    trap_.run({u"frmMAIN.sendLine"_s}, ErrorTrap::Tell::LogOnly, [&] { sendNow(link, oneLine(command), asker); });
+}
+
+void GraphicsLinks::sendNow(LinkId id, const QString& line, const Asker& asker) {
     CasparLink& target = link(id);
     const bool pauses = isSendable(target.state()) && line.contains(u"PLAY"_s);
     const int clearings = clearing_.count();
@@ -37,7 +59,12 @@ void GraphicsLinks::sendNow(LinkId id, const QString& line) {
     if (clearing_.count() != clearings) return;
 
     // The pause may have seen the link go, and so may the sending itself.
-    if (isSendable(target.state())) target.send(line);
+    if (isSendable(target.state())) {
+        replies(id).matcher.sent({line, asker, clock_.steadyMilliseconds()});
+        target.send(line);
+    } else {
+        Q_EMIT lineLost(id, {line, asker, 0});
+    }
     const QString mark = id == LinkId::Main ? QString() : u"REMOTE "_s;
     if (!isSendable(target.state())) {
         writeLog(mark + u"Connection Error. STATE:"_s + QString::number(state(id)));

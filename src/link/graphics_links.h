@@ -9,6 +9,7 @@
 #include "link/caspar_link.h"
 #include "link/caspar_log.h"
 #include "link/line_list.h"
+#include "link/reply_matcher.h"
 
 namespace zelvor {
 
@@ -28,7 +29,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     GraphicsLinks(FormModel& form, Clock& clock, Program& program);
 
     // Line breaks in the command become blanks. Neither this nor the following raise errors.
-    void sendLine(LinkId link, const QString& command) override;
+    void sendLine(LinkId link, const QString& command, const Asker& asker) override;
     [[nodiscard]] int state(LinkId link) const override;
     [[nodiscard]] bool logging() const override;
     void writeLog(const QString& line) override;
@@ -44,6 +45,9 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     void stopLog();
 
     [[nodiscard]] CasparLink& link(LinkId link) { return link == LinkId::Main ? main_ : remote_; }
+    [[nodiscard]] bool awaitsReply(LinkId link) const { return !repliesOf(link).matcher.awaited().empty(); }
+    // Milliseconds for which the server has left what it was sent without a reply; 0 when nothing is waited for.
+    [[nodiscard]] qint64 unansweredFor(LinkId link) const;
     // lstGASPARHISTORY: oldest line on top.
     [[nodiscard]] LineList& history() { return history_; }
     // lstGASPARRESPONSE: newest line on top.
@@ -52,9 +56,24 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
  Q_SIGNALS:
     // A line was put on a link, as it went out, without its line end.
     void lineSent(zelvor::LinkId link, const QString& line);
+    // A line was not put on a link, or had not been taken by the server when the link failed.
+    void lineLost(zelvor::LinkId link, const zelvor::ReplyMatcher::SentLine& line);
+    // The server has answered a line.
+    void lineAnswered(zelvor::LinkId link, const zelvor::ReplyMatcher::Answer& answer);
 
  private:
-    void sendNow(LinkId link, const QString& line);
+    // What is known of the replies of one server.
+    struct Replies {
+        ReplyMatcher matcher;
+        qint64 lastHeard = 0;  // steady milliseconds
+    };
+
+    void sendNow(LinkId link, const QString& line, const Asker& asker);
+    void matchReplies(LinkId link);
+    [[nodiscard]] const Replies& repliesOf(LinkId link) const {
+        return link == LinkId::Main ? mainReplies_ : remoteReplies_;
+    }
+    [[nodiscard]] Replies& replies(LinkId link) { return link == LinkId::Main ? mainReplies_ : remoteReplies_; }
     void showLogWritten(bool written);
     void addResponse(const QString& text);
     // "hh:mm:ss", made once a second: a card adds dozens of lines to the history.
@@ -71,6 +90,8 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     LineList responses_{LineList::Newest::First};
     CasparLink main_;
     CasparLink remote_;
+    Replies mainReplies_;
+    Replies remoteReplies_;
     qint64 shownSecond_ = -1;
     QString shownTime_;
 };

@@ -33,8 +33,8 @@ LinkConsole::LinkConsole(FormModel& form, GraphicsLinks& links, Clock& clock, Er
       links_(links),
       trap_(trap),
       expand_(std::move(expand)),
-      mainWatch_(LinkId::Main, links.link(LinkId::Main), form, clock, trap),
-      remoteWatch_(LinkId::Remote, links.link(LinkId::Remote), form, clock, trap) {
+      mainWatch_(LinkId::Main, links, form, clock, trap),
+      remoteWatch_(LinkId::Remote, links, form, clock, trap) {
     mainWatch_.setParent(this);
     remoteWatch_.setParent(this);
     Control& list = form_.at(controls.cmbCASPARREMOTELIST);
@@ -83,7 +83,7 @@ void LinkConsole::cmdMANUALSEND() {
     trapped(u"cmdMANUALSEND"_s, [&] {
         const QString typed = form_.at(controls.txtMANUALCASPAR).text();
         manualLines_.add(typed);
-        links_.sendLine(LinkId::Main, expand_(typed).replace(u'\'', u'"'));
+        links_.sendLine(LinkId::Main, expand_(typed).replace(u'\'', u'"'), {});
     });
 }
 

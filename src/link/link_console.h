@@ -34,6 +34,8 @@ class LinkConsole : public QObject {
     void recallOlder();
     void recallNewer();
 
+    [[nodiscard]] LinkWatch& watch(LinkId link) { return link == LinkId::Main ? mainWatch_ : remoteWatch_; }
+
  private:
     void choosePreset();
     void switchLog();

@@ -25,8 +25,10 @@ bool isDown(LinkState state) {
 
 }  // namespace
 
-LinkWatch::LinkWatch(LinkId id, CasparLink& link, FormModel& form, Clock& clock, ErrorTrap& trap)
-    : link_(link),
+LinkWatch::LinkWatch(LinkId id, GraphicsLinks& links, FormModel& form, Clock& clock, ErrorTrap& trap)
+    : links_(links),
+      id_(id),
+      link_(links.link(id)),
       clock_(clock),
       name_(id == LinkId::Main ? u"main"_s : u"remote"_s),
       address_(form.at(controlsOf(id).address)),
@@ -46,12 +48,19 @@ LinkWatch::LinkWatch(LinkId id, CasparLink& link, FormModel& form, Clock& clock,
     onTimer(watchTimer_, u"tmrWS"_s + suffix(id), kWatchInterval, &LinkWatch::watch);
     onTimer(retryTimer_, u"tmrRETRY"_s + suffix(id), kRetryInterval, &LinkWatch::retry);
     connect(&link_, &CasparLink::stateChanged, this, &LinkWatch::followLink);
+    connect(&links_, &GraphicsLinks::lineLost, this, [this](LinkId lost) {
+        if (lost == id_ && isUsed()) countLostLine();
+    });
     onChange(reconnect_, {Control::Property::Checked}, this, [this] { updateRetrying(); });
     showStatus();
 }
 
 bool LinkWatch::wanted() const {
     return button_.tag() != kConnectTag;
+}
+
+bool LinkWatch::isUsed() const {
+    return wanted() || !address_.text().isEmpty();
 }
 
 bool LinkWatch::pressConnect() {
@@ -69,6 +78,8 @@ void LinkWatch::connectLink() {
     hostPort_ = port_.text();
     wasConnected_ = false;
     lostAt_.clear();
+    reason_.clear();
+    lostLines_ = 0;
     button_.setBackColour(colours::kGreen);
     button_.setText(u"Disconnect"_s);
     button_.setTag(u"disconnect"_s);
@@ -82,6 +93,7 @@ void LinkWatch::disconnectLink() {
     button_.setText(u"Connect"_s);
     button_.setTag(kConnectTag);
     lostAt_.clear();
+    lostLines_ = 0;
     link_.close();
     watchTimer_.stop();
     tab_.setBackColour(std::nullopt);
@@ -92,6 +104,7 @@ void LinkWatch::disconnectLink() {
 void LinkWatch::watch() {
     if (link_.state() == LinkState::Connected) {
         tab_.setBackColour(std::nullopt);
+        watchAnswers();
     } else if (blink_ != 0) {
         tab_.setBackColour(std::nullopt);
         blink_ = 0;
@@ -101,18 +114,58 @@ void LinkWatch::watch() {
     }
 }
 
+void LinkWatch::watchAnswers() {
+    const qint64 waited = links_.unansweredFor(id_);
+    const bool wasSilent = silentFor_ > 0;
+    silentFor_ = waited >= kSilence ? waited : 0;
+    const qint64 now = clock_.steadyMilliseconds();
+    if (wasSilent && silentFor_ == 0) answersSince_ = now;
+    if (now - answersSince_ > kRelief) answersSince_ = -1;
+    showStatus();
+}
+
 void LinkWatch::retry() {
-    if (isDown(link_.state()) || link_.state() == LinkState::Connecting) link_.connectTo(host_, hostPort_);
+    if (link_.state() == LinkState::Connecting) {
+        reason_ = u"no answer"_s;
+    } else if (!isDown(link_.state())) {
+        return;
+    }
+    link_.connectTo(host_, hostPort_);
 }
 
 void LinkWatch::followLink(LinkState state) {
     if (state == LinkState::Connected) {
+        const bool again = timesUp_++ > 0;
+        upAgainAt_ = again ? clock_.now().toString(u"hh:mm"_s) : QString();
         lostAt_.clear();
-    } else if (wasConnected_ && wanted()) {
-        lostAt_ = clock_.now().toString(u"hh:mm:ss"_s);
+        reason_.clear();
+        lostLines_ = 0;
+        Q_EMIT cameUp(timesUp_);
+    } else if (isDown(state) && wanted()) {
+        // Of a lost link the loss is told, not the tries to get it back.
+        if (wasConnected_) lostAt_ = clock_.now().toString(u"hh:mm:ss"_s);
+        if (wasConnected_ || lostAt_.isEmpty()) reason_ = link_.errorText();
+        silentFor_ = 0;
+        answersSince_ = -1;
+        refusal_.clear();
     }
     wasConnected_ = state == LinkState::Connected;
     updateRetrying();
+    showStatus();
+}
+
+void LinkWatch::countLostLine() {
+    ++lostLines_;
+    showStatus();
+}
+
+void LinkWatch::showRefusal(const QString& reply) {
+    refusal_ = reply;
+    showStatus();
+}
+
+void LinkWatch::forgetReconnect() {
+    upAgainAt_.clear();
     showStatus();
 }
 
@@ -136,13 +189,28 @@ void LinkWatch::showStatus() {
 LinkWatch::Status LinkWatch::status() const {
     using Role = Control::Role;
     const QString target = host_ + u':' + hostPort_ + u' ';
-    if (link_.state() == LinkState::Connected) return {target + u"connected"_s, Role::Good};
-    if (!wanted()) return {u"not connected"_s, Role::Off};
+    QString lines;
+    if (lostLines_ > 0) lines = u", %1 %2 lost"_s.arg(lostLines_).arg(lostLines_ == 1 ? u"line"_s : u"lines"_s);
+    if (!wanted()) return {u"not connected"_s + lines, lines.isEmpty() ? Role::Off : Role::Bad};
+    if (link_.state() == LinkState::Connected) {
+        const auto [words, role] = connectedStatus();
+        return {target + words, role};
+    }
     const QString again = retryTimer_.isActive() ? u", trying again"_s : QString();
-    if (!lostAt_.isEmpty()) return {target + u"lost at "_s + lostAt_ + again, Role::Bad};
-    if (!isDown(link_.state())) return {target + u"connecting"_s, Role::Waiting};
-    const QString reason = link_.errorText().isEmpty() ? QString() : QString(u" ("_s + link_.errorText() + u')');
-    return {target + u"not connected"_s + reason + again, Role::Bad};
+    if (!lostAt_.isEmpty()) return {target + u"lost at "_s + lostAt_ + u": "_s + reason_ + lines + again, Role::Bad};
+    if (!reason_.isEmpty()) return {target + u"not connected ("_s + reason_ + u')' + lines + again, Role::Bad};
+    return {target + u"connecting"_s + lines, Role::Waiting};
+}
+
+LinkWatch::Status LinkWatch::connectedStatus() const {
+    using Role = Control::Role;
+    const QString connected = u"connected"_s;
+    if (silentFor_ > 0) return {connected + u", no answer for %1 s"_s.arg(silentFor_ / 1000), Role::Waiting};
+    if (!refusal_.isEmpty()) return {connected + u", "_s + refusal_, Role::Bad};
+    if (answersSince_ >= 0) return {connected + u", answers again"_s, Role::Good};
+    if (!upAgainAt_.isEmpty())
+        return {connected + u" again at %1: what is on air must be fired again"_s.arg(upAgainAt_), Role::Waiting};
+    return {connected, Role::Good};
 }
 
 }  // namespace zelvor

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "console_rules/card_console.h"
+#include "console_rules/card_troubles.h"
 #include "console_rules/start_up.h"
 #include "support/fake_ports.h"
 #include "support/wait.h"
@@ -30,6 +31,40 @@ class CardRules : public testing::Test {
     EngineBench bench;
     CardConsole console{bench.engine};
 };
+
+TEST_F(CardRules, MarkACardWhoseLineWasRefused) {
+    CardTroubles troubles(bench.engine);
+    QObject::connect(&console, &CardConsole::clearing, &troubles, &CardTroubles::clear);
+    const Control& line = bench.form.at(controls.lblONAIRTROUBLE);
+    const auto press = [&](int button) {
+        console.pressCard(button);
+        return bench.graphics.sentFor.back();
+    };
+    const Asker one = press(0);
+    troubles.add(one, u"404 CG ADD FAILED"_s);
+    EXPECT_EQ(line.text(), u"One: 404 CG ADD FAILED");
+    EXPECT_EQ(console.troubleOf(0), u"404 CG ADD FAILED");
+    troubles.wentWell(one);
+    EXPECT_EQ(line.text(), u"One: 404 CG ADD FAILED") << "another line of the same press";
+
+    Asker timed{Asker::Kind::TimedCard, u"two.qrd"_s, one.run + 1};
+    troubles.add(timed, u"404 CG UPDATE FAILED"_s);
+    troubles.add({}, u"400 ERROR"_s);
+    EXPECT_EQ(line.text(), u"One: 404 CG ADD FAILED") << "neither takes the operator's place";
+    console.selectBox(1);
+    EXPECT_EQ(console.troubleOf(20), u"404 CG UPDATE FAILED");
+    ++timed.run;
+    troubles.wentWell(timed);
+    EXPECT_EQ(console.troubleOf(20), QString());
+    console.selectBox(0);
+    EXPECT_EQ(console.troubleOf(0), u"404 CG ADD FAILED");
+
+    troubles.wentWell(press(0));
+    EXPECT_EQ(line.text() + console.troubleOf(0), QString());
+    troubles.add(press(0), u"not sent: main link down"_s);
+    console.CLEAR_TV();
+    EXPECT_EQ(line.text() + console.troubleOf(0), QString());
+}
 
 TEST_F(CardRules, ButtonsFireTheRowOfTheCurrentSet) {
     console.pressCard(0);

@@ -24,8 +24,8 @@ using test::DemoFolder;
 // The main link ends in a stage; every reply is remembered.
 class AirGraphics : public test::FakeGraphics {
  public:
-    void sendLine(LinkId link, const QString& command) override {
-        FakeGraphics::sendLine(link, command);
+    void sendLine(LinkId link, const QString& command, const Asker& asker) override {
+        FakeGraphics::sendLine(link, command, asker);
         const QString reply = interpreter_.answer(command, client_);
         if (!reply.startsWith(u"202"_s)) refused += command.left(60) + u": "_s + reply.trimmed();
     }

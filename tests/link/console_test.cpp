@@ -47,7 +47,7 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         EXPECT_EQ(status.role(), Control::Role::Good);
         server.stop();
         EXPECT_TRUE(studio.isIn(id, 8));
-        EXPECT_EQ(status.text(), target + u"lost at 20:31:07"_s);
+        EXPECT_EQ(status.text(), target + u"lost at 20:31:07: the server closed"_s);
         EXPECT_EQ(status.role(), Control::Role::Bad);
         tick();
         tick();
@@ -89,7 +89,7 @@ TEST(LinkConsole, TriesALostLinkAgainWhileReconnectIsChecked) {
                      [&](LinkState state) { refused += state == LinkState::Error ? 1 : 0; });
     timer->setInterval(20);
     EXPECT_TRUE(waitUntil([&] { return refused >= 3; })) << "tried until it is back";
-    EXPECT_TRUE(status.text().endsWith(u"lost at 20:31:07, trying again"_s));
+    EXPECT_TRUE(status.text().endsWith(u"lost at 20:31:07: the server closed, trying again"_s));
     server.listen(QHostAddress::LocalHost, port.toUShort());
     EXPECT_TRUE(studio.isIn(LinkId::Main, 7));
     EXPECT_FALSE(timer->isActive());
@@ -121,7 +121,7 @@ TEST(LinkConsole, TriesAHostAgainThatDoesNotAnswer) {
     studio.console.findChild<QTimer*>(u"tmrRETRY"_s)->setInterval(20);
     studio.console.cmdGASPARCONNECT();
     EXPECT_TRUE(waitUntil([&] { return tries >= 3; }));
-    EXPECT_TRUE(studio.at("lblLINKMAIN").text().endsWith(u"connecting"_s));
+    EXPECT_TRUE(studio.at("lblLINKMAIN").text().endsWith(u"not connected (no answer), trying again"_s));
     studio.console.findChild<QTimer*>(u"tmrRETRY"_s)->setInterval(LinkWatch::kRetryInterval);
     full.resumeAccepting();
     EXPECT_TRUE(studio.isIn(LinkId::Main, 7));
@@ -134,4 +134,65 @@ TEST(LinkConsole, PutsPresetAddressesInAndLocksThem) {
         EXPECT_EQ(studio.at("txtGASPARIPREMOTE").text(), u"192.168.1.10%1"_s.arg(preset == 0 ? 3 : preset));
         EXPECT_EQ(studio.at("txtGASPARIPREMOTE").enabled(), preset == 0);
     }
+}
+
+TEST(LinkConsole, ShowsThatAServerDoesNotAnswer) {
+    Studio studio;
+    Server server;
+    const Control& status = studio.at("lblLINKMAIN");
+    studio.at("txtGASPARPORT").setText(server.port());
+    studio.console.cmdGASPARCONNECT();
+    ASSERT_TRUE(studio.isIn(LinkId::Main, 7) && waitUntil([&] { return server.peer != nullptr; }));
+    const auto statusAfter = [&](qint64 seconds) {
+        studio.clock.set(60000);  // somebody sets the wall clock: no matter
+        studio.clock.time = studio.clock.time.addSecs(seconds);
+        studio.console.watch(LinkId::Main).watch();
+        return status.text().section(u' ', 2);
+    };
+    EXPECT_EQ(statusAfter(60), u"connected"_s) << "nothing was sent";
+    studio.links.sendLine(LinkId::Main, u"CG 1-20 STOP 1"_s, {});
+    studio.links.sendLine(LinkId::Main, u"CLEAR 1"_s, {});
+    EXPECT_EQ(statusAfter(2), u"connected"_s);
+    EXPECT_EQ(statusAfter(10), u"connected, no answer for 12 s"_s);
+    EXPECT_EQ(status.role(), Control::Role::Waiting);
+    const auto answer = [&](const QByteArray& bytes) {
+        server.peer->write(bytes);
+        waitUntil([&] { return studio.links.responses().text(0).endsWith(QString::fromLatin1(bytes).trimmed()); });
+    };
+    answer("202 CG OK\r\n");
+    EXPECT_EQ(statusAfter(1), u"connected, answers again"_s) << "one answer is still to come";
+    EXPECT_EQ(statusAfter(3), u"connected, no answer for 4 s"_s);
+    answer("202 CLEAR OK\r\n");
+    EXPECT_EQ(statusAfter(1), u"connected, answers again"_s);
+    EXPECT_EQ(statusAfter(6), u"connected"_s);
+    EXPECT_EQ(status.role(), Control::Role::Good);
+}
+
+TEST(LinkConsole, CountsTheLinesThatWereLost) {
+    Studio studio;
+    Server server;
+    const Control& main = studio.at("lblLINKMAIN");
+    const auto send = [&](LinkId id) { studio.links.sendLine(id, u"CLEAR 1"_s, {}); };
+    QList<int> times;
+    QObject::connect(&studio.console.watch(LinkId::Main), &LinkWatch::cameUp, &studio.form, [&](int n) { times += n; });
+    send(LinkId::Main);
+    send(LinkId::Remote);
+    EXPECT_EQ(main.text(), u"main not connected, 1 line lost"_s);
+    EXPECT_EQ(main.role(), Control::Role::Bad);
+    EXPECT_EQ(studio.at("lblLINKREMOTE").text(), u"remote not connected"_s) << "there is no remote server";
+    const QString port = server.port();
+    studio.at("txtGASPARPORT").setText(port);
+    studio.at("chkRECONNECT").setChecked(true);
+    studio.console.findChild<QTimer*>(u"tmrRETRY"_s)->setInterval(20);
+    studio.console.cmdGASPARCONNECT();
+    ASSERT_TRUE(studio.isIn(LinkId::Main, 7) && waitUntil([&] { return server.peer != nullptr; }));
+    EXPECT_TRUE(main.text().endsWith(u" connected"_s));
+    server.stop();
+    ASSERT_TRUE(waitUntil([&] { return studio.links.state(LinkId::Main) != 7; }));
+    for (int i = 0; i < 4; ++i) send(LinkId::Main);
+    EXPECT_TRUE(main.text().endsWith(u"lost at 20:31:07: the server closed, 4 lines lost, trying again"_s));
+    server.listen(QHostAddress::LocalHost, port.toUShort());
+    ASSERT_TRUE(studio.isIn(LinkId::Main, 7));
+    EXPECT_TRUE(main.text().endsWith(u"connected again at 20:31: what is on air must be fired again"_s));
+    EXPECT_EQ(times, (QList<int>{1, 2}));
 }

@@ -27,7 +27,7 @@ TEST(GraphicsLinks, PutsEachLineOnTheWireAsOneAndRecordsIt) {
         for (const Case& c : cases) {
             server.bytes.clear();
             studio.clock.turns = 0;
-            studio.links.sendLine(id, c.command);
+            studio.links.sendLine(id, c.command, {});
             EXPECT_TRUE(waitUntil([&] { return server.bytes.size() >= c.bytes.size(); }));
             EXPECT_EQ(server.bytes, c.bytes);
             EXPECT_EQ(studio.clock.turns, c.turns) << c.command.toStdString();
@@ -42,13 +42,13 @@ TEST(GraphicsLinks, LooksAgainAfterThePauseBeforePlay) {
     studio.at("chkLOGFILE").setChecked(true);
     studio.connectTo(LinkId::Main, server);
     studio.clock.duringTurns = [] { return false; };
-    studio.links.sendLine(LinkId::Main, u"PLAY 1 while closing"_s);
+    studio.links.sendLine(LinkId::Main, u"PLAY 1 while closing"_s, {});
     EXPECT_FALSE(studio.logFile().contains("PLAY"));
     studio.clock.duringTurns = [&] {
         studio.links.link(LinkId::Main).close();
         return true;
     };
-    studio.links.sendLine(LinkId::Main, u"PLAY 1 without a link"_s);
+    studio.links.sendLine(LinkId::Main, u"PLAY 1 without a link"_s, {});
     EXPECT_TRUE(studio.logFile().endsWith("\r\nConnection Error. STATE:0\r\n"));
     EXPECT_TRUE(waitUntil([&] { return server.peer->state() == QTcpSocket::UnconnectedState; }));
     EXPECT_EQ(server.bytes, "");
@@ -59,7 +59,7 @@ TEST(GraphicsLinks, SendsInStateOpen) {
     auto* socket = studio.links.link(LinkId::Main).findChild<QTcpSocket*>();
     ASSERT_TRUE(socket->bind(QHostAddress::LocalHost, 0));
     EXPECT_EQ(studio.links.state(LinkId::Main), Graphics::kOpen);
-    studio.links.sendLine(LinkId::Main, u"CLEAR 1"_s);
+    studio.links.sendLine(LinkId::Main, u"CLEAR 1"_s, {});
     EXPECT_EQ(studio.links.history().text(0), u"20:31:07 > CLEAR 1"_s);
 }
 
@@ -68,11 +68,11 @@ TEST(GraphicsLinks, LogsEverythingInItsOwnWords) {
     Server server;
     studio.links.writeLog(u"before"_s);
     studio.at("chkLOGFILE").setChecked(true);
-    studio.links.sendLine(LinkId::Main, u"A"_s);
-    studio.links.sendLine(LinkId::Remote, u"PLAY"_s);
+    studio.links.sendLine(LinkId::Main, u"A"_s, {});
+    studio.links.sendLine(LinkId::Remote, u"PLAY"_s, {});
     for (const LinkId id : {LinkId::Main, LinkId::Remote}) studio.connectTo(id, server);
-    studio.links.sendLine(LinkId::Main, u"B"_s);
-    studio.links.sendLine(LinkId::Remote, u"Γ"_s);
+    studio.links.sendLine(LinkId::Main, u"B"_s, {});
+    studio.links.sendLine(LinkId::Remote, u"Γ"_s, {});
     studio.links.writeLog(u"-CARDLOG-:two\r\nlines"_s);
     const QByteArray now = generalDateText(studio.clock.now(), QLocale::system()).toUtf8();
     const QByteArray opened = QByteArray(36, '-') + "\r\nLOG start at " + now + "\r\n";
@@ -140,7 +140,7 @@ TEST(GraphicsLinks, HandOverTheirLastBytesOrGiveUp) {
         });
         studio.links.link(LinkId::Main).connectTo(u"127.0.0.1"_s, QString::number(port.get_future().get()));
         ASSERT_TRUE(waitUntil([&] { return studio.isIn(LinkId::Main, Graphics::kConnected); }));
-        studio.links.sendLine(LinkId::Main, line);
+        studio.links.sendLine(LinkId::Main, line, {});
         studio.links.finishSending();
         EXPECT_EQ(studio.links.link(LinkId::Main).unsentBytes(), 0);
         EXPECT_EQ(received.get(), line.size() + 2);
@@ -148,7 +148,7 @@ TEST(GraphicsLinks, HandOverTheirLastBytesOrGiveUp) {
     Studio studio;
     Server server(false);
     studio.connectTo(LinkId::Main, server);
-    studio.links.sendLine(LinkId::Main, line);
+    studio.links.sendLine(LinkId::Main, line, {});
     studio.links.finishSending();
     EXPECT_GT(studio.links.link(LinkId::Main).unsentBytes(), 0);
 }

@@ -37,8 +37,9 @@ class FakeOperator : public Operator {
 
 class FakeGraphics : public Graphics, public GraphicsNotes {
  public:
-    void sendLine(LinkId link, const QString& command) override {
+    void sendLine(LinkId link, const QString& command, const Asker& asker) override {
         sent += (link == LinkId::Main ? u'm' : u'r') + command;
+        sentFor.push_back(asker);
         if (whileSending) whileSending();
     }
     int state(LinkId) const override { return kConnected; }
@@ -49,6 +50,7 @@ class FakeGraphics : public Graphics, public GraphicsNotes {
     void showLastTemplate(const QString& xml) override { lastTemplate = xml; }
 
     QStringList sent;
+    std::vector<Asker> sentFor;
     QStringList log;
     QStringList history;
     QString lastTemplate;

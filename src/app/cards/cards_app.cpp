@@ -23,6 +23,7 @@ CardsApp::CardsApp(const Options& options)
     program_.trap.setReporter([this](const ErrorPlace& place, const QString& message) { tell(place, message); });
     cards_.answer(events_);
     answerLinks();
+    tellTroubles();
     settings_.answer(events_, desktop_);
     desktop_.addForm(u"frmMAIN"_s, [this](const Asker& asker) {
         window_.show();
@@ -64,6 +65,30 @@ void CardsApp::answerLinks() {
     events_.onEnter(controls.txtMANUALCASPAR, [this](int) { linkConsole_.cmdMANUALSEND(); });
     connect(&window_, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);
     connect(&window_, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
+}
+
+void CardsApp::tellTroubles() {
+    connect(&troubles_, &CardTroubles::changed, &cards_, &CardConsole::cardsChanged);
+    connect(&cards_, &CardConsole::clearing, &troubles_, &CardTroubles::clear);
+    for (const LinkId id : {LinkId::Main, LinkId::Remote}) tellTroubles(id);
+    connect(&links_, &GraphicsLinks::lineLost, this, [this](LinkId id, const ReplyMatcher::SentLine& lost) {
+        if (!linkConsole_.watch(id).isUsed()) return;
+        troubles_.add(lost.asker, u"not sent: "_s + (id == LinkId::Main ? u"main"_s : u"remote"_s) + u" link down"_s);
+    });
+    connect(&links_, &GraphicsLinks::lineAnswered, this, [this](LinkId id, const ReplyMatcher::Answer& answer) {
+        if (!answer.refused()) return troubles_.wentWell(answer.to.asker);
+        troubles_.add(answer.to.asker, answer.reply);
+        if (!answer.to.asker.card.isEmpty()) linkConsole_.watch(id).showRefusal(answer.reply);
+    });
+}
+
+void CardsApp::tellTroubles(LinkId id) {
+    LinkWatch& watch = linkConsole_.watch(id);
+    connect(&troubles_, &CardTroubles::cleared, &watch, [&watch] { watch.showRefusal({}); });
+    connect(&troubles_, &CardTroubles::cardWentWell, &watch, &LinkWatch::forgetReconnect);
+    const QString variable = id == LinkId::Main ? u"@MAINCONNECTS"_s : u"@REMOTECONNECTS"_s;
+    connect(&watch, &LinkWatch::cameUp, this,
+            [this, variable](int times) { state_.variables.SetVar(variable, times); });
 }
 
 void CardsApp::answerDesk() {

@@ -9,6 +9,7 @@
 #include "console/input_times.h"
 #include "console/main_window.h"
 #include "console_rules/card_console.h"
+#include "console_rules/card_troubles.h"
 #include "console_rules/start_up.h"
 #include "data/connections.h"
 #include "engine/card_engine.h"
@@ -60,6 +61,8 @@ class CardsApp : public QObject {
     void answerLinks();
     void answerDesk();
     void nameServers();
+    void tellTroubles();
+    void tellTroubles(LinkId id);
     void tell(const ErrorPlace& place, const QString& message);
     void connectDatabase();
     bool mayClose();
@@ -80,6 +83,7 @@ class CardsApp : public QObject {
     Packs packs_{state_, form_, program_, boxes_};
     FormEvents events_{program_.trap};
     CardConsole cards_{engine_};
+    CardTroubles troubles_{engine_};
     GameDesk desk_{engine_};
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};

@@ -33,6 +33,9 @@ constexpr std::array kOwnVariables{
     QStringView(u"@S5H\uFFFC"),
     QStringView(u"@S11A\uFFFC"),
     QStringView(u"@S11H\uFFFC"),
+    // Graphics links
+    QStringView(u"@MAINCONNECTS"),
+    QStringView(u"@REMOTECONNECTS"),
     // Game feed and clocks
     QStringView(u"@TIMER"),
     QStringView(u"@TIMERNUMBER"),

@@ -47,7 +47,8 @@ class TerminalRun {
         GeneralVariables general(state_, program_, operator_);
         general.load();
         general.apply();
-        if (!graphics_.connectNamed(clock_, err_)) return RunStatus::NotReached;
+        for (const QStringView name : {u"@MAINCONNECTS", u"@REMOTECONNECTS"}) state_.variables.SetVar(name, 1);
+        if (!graphics_.connectNamed(clock_)) return RunStatus::NotReached;
 
         QObject::connect(&form_, &FormModel::changed, &form_, [this](Control* control, Control::Property property) {
             printFormChange(out_, *control, property);
@@ -71,7 +72,8 @@ class TerminalRun {
         switch (outcome) {
             case CardEngine::Outcome::Ran:
             case CardEngine::Outcome::NoData:
-                return RunStatus::Ran;
+                if (database_.queryFailed()) return RunStatus::Failed;
+                return graphics_.allTaken() ? RunStatus::Ran : RunStatus::NotReached;
             case CardEngine::Outcome::Cleared:
             case CardEngine::Outcome::Closed:  // nothing but a database without a connection ends the program here
                 return RunStatus::NotReached;
@@ -131,7 +133,7 @@ class TerminalRun {
     Connections database_{state_, operator_, program_, {{}, options_.connection}};
     ScriptedAsk askDialog_{state_, database_, program_.trap, options_.answers};
     GraphicsLinks links_{form_, clock_, program_};
-    RunGraphics graphics_{links_, options_, out_};
+    RunGraphics graphics_{links_, options_, out_, err_};
     Packs packs_{state_, form_, program_, operator_};
     CardEngine engine_{state_, form_, program_,
                        Ports{operator_, askDialog_, graphics_, graphics_, database_, desktop_, clock_}};

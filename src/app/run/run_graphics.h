@@ -11,14 +11,16 @@ namespace zelvor {
 // only printed.
 class RunGraphics : public Graphics, public GraphicsNotes {
  public:
-    RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextStream& out);
+    RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextStream& out, QTextStream& err);
 
-    // Connects the named links; false after saying on `err` which could not be reached.
-    bool connectNamed(Clock& clock, QTextStream& err);
-    // Waits until everything was sent or a link has gone.
+    // Connects the named links; false after saying which could not be reached.
+    bool connectNamed(Clock& clock);
+    // Waits until everything was sent and answered, or a link has gone.
     void finishSending(Clock& clock);
+    // Whether every line was sent and none refused; what was not has been said.
+    [[nodiscard]] bool allTaken() const { return allTaken_; }
 
-    void sendLine(LinkId link, const QString& command) override;
+    void sendLine(LinkId link, const QString& command, const Asker& asker) override;
     [[nodiscard]] int state(LinkId link) const override;
     [[nodiscard]] bool logging() const override { return links_.logging(); }
     void writeLog(const QString& line) override { links_.writeLog(line); }
@@ -28,11 +30,14 @@ class RunGraphics : public Graphics, public GraphicsNotes {
     void showLastTemplate(const QString&) override {}
 
  private:
+    void complain(LinkId link, const QString& what, const QString& line);
     [[nodiscard]] const std::optional<HostPort>& address(LinkId link) const;
 
     GraphicsLinks& links_;
     const RunOptions& options_;
     QTextStream& out_;
+    QTextStream& err_;
+    bool allTaken_ = true;
 };
 
 }  // namespace zelvor

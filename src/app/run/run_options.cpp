@@ -96,8 +96,8 @@ Prints, in order of happening:
   console > ...                a change of the form
   var > NAME = VALUE           with --vars, at the end
 
-Exit status: 0 the card ran, 1 a run-time error, 2 wrong usage, 3 no such script, 4 a link or the database could not
-be reached.
+Exit status: 0 the card ran, 1 a run-time error or a query that failed, 2 wrong usage, 3 no such script, 4 a link or the
+database could not be reached, or a line was not sent or was refused.
 )"_s;
 }
 

@@ -41,11 +41,15 @@ void CardGrid::showFaces() {
         face.quiet = card.script.isEmpty() && card.shownCaption().isEmpty();
         face.flagged = card.flag;
         face.lastFired = console_.isLastFired(i);
+        face.trouble = console_.troubleOf(i);
         face.key = console_.keyOf(i);
         face.fault = card.fault;
         buttons_.at(i)->setFace(face);
+        const QString hint = form_.at(controls.cmbCARD, i).hint();
+        buttons_.at(i)->setHint(face.trouble.isEmpty() ? hint : hint + u"\n"_s + face.trouble);
         QString name = u"Card %1: "_s.arg(i + 1) + (face.quiet ? u"empty"_s : card.shownCaption());
         if (const QString state = buttons_.at(i)->stateLine(); !state.isEmpty()) name += u", "_s + state;
+        if (!face.trouble.isEmpty()) name += u", "_s + face.trouble;
         buttons_.at(i)->setAccessibleName(name);
     }
 }

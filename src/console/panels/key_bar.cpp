@@ -30,6 +30,8 @@ class KeyChip : public QWidget {
                           {14, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, std::nullopt, false, false, 4});
         title->setCursor(Qt::PointingHandCursor);
         row->addWidget(title);
+        // The words beside the keys give way to them.
+        for (TextLabel* part : {key, title}) part->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
         const Control& control = mirrors.form().at(controls.lblFKEYTITLE, index);
         follow(control, {Control::Property::Visible, Control::Property::Text}, this,
                [this, &control] { setVisible(control.visible() && !control.text().isEmpty()); });
@@ -47,18 +49,30 @@ class KeyChip : public QWidget {
 KeyBar::KeyBar(const Mirrors& mirrors) {
     setFixedHeight(40);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 6, 12, 6);
+    row->setContentsMargins(12, 4, 12, 4);
     row->setSpacing(6);
     for (int i = 0; i < kShownKeys; ++i) row->addWidget(new KeyChip(mirrors, i));
-    TextLabel* note = mirrors.label(controls.lblNOTE, -1,
-                                    {13, true, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, {}, false, false, 4});
+    auto* words = new QGridLayout;
+    words->setHorizontalSpacing(10);
+    words->setVerticalSpacing(0);
+    words->setColumnStretch(0, 1);
+    const auto addWords = [&](const ControlRow& control, int line, int column) {
+        TextLabel* label = mirrors.label(
+            control, -1,
+            {12, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 2, /*keepsEnd=*/true});
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        words->addWidget(label, line, column);
+        return label;
+    };
+    TextLabel* note = addWords(controls.lblNOTE, 0, 0);
     note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    row->addWidget(note, 1);
-    for (const ControlRow* words : {&controls.lblSILENCED, &controls.lblFEED, &controls.lblLINKMAIN,
-                                    &controls.lblLINKREMOTE, &controls.lblDATABASE}) {
-        row->addWidget(
-            mirrors.label(*words, -1, {13, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 4}));
-    }
+    TextLabel* silenced = addWords(controls.lblSILENCED, 1, 0);
+    silenced->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addWords(controls.lblLINKMAIN, 0, 1);
+    addWords(controls.lblLINKREMOTE, 1, 1);
+    addWords(controls.lblFEED, 0, 2);
+    addWords(controls.lblDATABASE, 1, 2);
+    row->addLayout(words, 1);
 }
 
 void KeyBar::paintEvent(QPaintEvent*) {

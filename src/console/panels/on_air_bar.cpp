@@ -99,9 +99,17 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     TextLabel* state = mirrors.label(controls.lblONAIR, -1, {15, true, Qt::AlignLeft | Qt::AlignVCenter});
     words->addWidget(state);
     TextLabel* card = mirrors.label(controls.lblONAIRCARD, -1, {15, false, Qt::AlignLeft | Qt::AlignVCenter});
-    card->setPlaceholder(u"Nothing on air"_s);
+    const Control& lock = form_.at(controls.chkONAIRLOCK);
+    follow(lock, {Control::Property::Checked}, card, [card, &lock] {
+        card->setPlaceholder(lock.checked() ? u"Locked: does not follow the cards"_s : u"Nothing on air"_s);
+    });
     card->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     words->addWidget(card, 1);
+    TextLabel* trouble = mirrors.label(controls.lblONAIRTROUBLE, -1, {13, true, Qt::AlignRight | Qt::AlignVCenter});
+    const Control& troubleWords = form_.at(controls.lblONAIRTROUBLE);
+    follow(troubleWords, {Control::Property::Text}, trouble,
+           [trouble, &troubleWords] { trouble->setVisible(!troubleWords.text().isEmpty()); });
+    words->addWidget(trouble, 2);
     words->addWidget(mirrors.checkBox(controls.chkONAIRLOCK));
     row->addWidget(line_, 1);
 

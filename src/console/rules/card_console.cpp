@@ -103,6 +103,7 @@ void CardConsole::selectBox(int selector) {
 }
 
 void CardConsole::CLEAR_TV() {
+    Q_EMIT clearing();
     run(state_.cards.clearCard);
     if (engine_.program().closing.hasBegun()) return;
     showClear(form_);
@@ -190,6 +191,12 @@ bool CardConsole::isLastFired(int index) const {
 
 const CardEntry& CardConsole::card(int index) const {
     return state_.cards.entry(state_.currentSet, index + 1);
+}
+
+QString CardConsole::troubleOf(int index) const {
+    const auto& troubles = state_.console.troubles;
+    const auto found = troubles.find(CardEngine::scriptName(card(index).script));
+    return found == troubles.end() ? QString() : found->second;
 }
 
 QString CardConsole::keyOf(int index) const {

@@ -56,6 +56,8 @@ class CardConsole : public QObject {
     // "F1" when function key 1 to 10 fires the script of card button `index`; empty when none does.
     [[nodiscard]] QString keyOf(int index) const;
     [[nodiscard]] const CardEntry& card(int index) const;
+    // Why a line of card button `index` was refused or not sent, in words; empty when all is well.
+    [[nodiscard]] QString troubleOf(int index) const;
 
     // What fires cards from elsewhere on the form takes its turn here.
     Presses& presses() { return presses_; }
@@ -65,6 +67,8 @@ class CardConsole : public QObject {
     void loaded();
     // Something that a card button shows besides its control's properties may have changed.
     void cardsChanged();
+    // The operator clears the screen; before the clear card runs.
+    void clearing();
 
  private:
     // A card as it is seen on its button.
