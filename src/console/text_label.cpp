@@ -161,11 +161,11 @@ void TextLabel::paintEvent(QPaintEvent*) {
 QString TextLabel::elided(const QString& line, int room) const {
     const QFontMetrics metrics = fontMetrics();
     QStringList words = line.split(u' ');
-    if (look_.keepsEnd && words.size() > 2) {
+    const int excess = metrics.horizontalAdvance(line) - room;
+    if (look_.keepsEnd && words.size() > 2 && excess > 0) {
         constexpr int kLeast = 5;  // characters of a host's name
-        const int excess = metrics.horizontalAdvance(line) - room;
         const int least = metrics.averageCharWidth() * kLeast;
-        const int width = std::max(metrics.horizontalAdvance(words[1]) - std::max(excess, 0), least);
+        const int width = std::max(metrics.horizontalAdvance(words[1]) - excess, least);
         words[1] = metrics.elidedText(words[1], Qt::ElideRight, width);
     }
     return metrics.elidedText(words.join(u' '), Qt::ElideRight, room);
