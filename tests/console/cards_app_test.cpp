@@ -28,7 +28,7 @@ TEST(CardsAppTies, ClosingHandsOverThenEndsBoxesThenRuns) {
             ended = true;
             EXPECT_EQ(link.unsentBytes(), 0);
         });
-        gallery.app->links().sendLine(LinkId::Main, last);
+        gallery.app->links().sendLine(LinkId::Main, last, {});
         EXPECT_GT(link.unsentBytes(), 0);
         gallery.app->program().closing.begin();
     };

@@ -47,7 +47,8 @@ TEST_F(CardRules, MarkACardWhoseLineWasRefused) {
     troubles.wentWell(one);
     EXPECT_EQ(line.text(), u"One: 404 CG ADD FAILED") << "another line of the same press";
 
-    Asker timed{Asker::Kind::TimedCard, u"two.qrd"_s, one.run + 1};
+    Asker timed{Asker::Kind::TimedCard, u"two.qrd"_s};
+    timed.run = one.run + 1;
     troubles.add(timed, u"404 CG UPDATE FAILED"_s);
     troubles.add({}, u"400 ERROR"_s);
     EXPECT_EQ(line.text(), u"One: 404 CG ADD FAILED") << "neither takes the operator's place";

@@ -226,7 +226,7 @@ TEST(Wiring, EveryWidgetActsAsItsPlaceSays) {
             if (!how.isEmpty()) followed += changed.first + how;
         }
         if (gallery.app->links().state(LinkId::Main) == Graphics::kConnected) {
-            gallery.app->links().sendLine(LinkId::Main, u"END"_s);
+            gallery.app->links().sendLine(LinkId::Main, u"END"_s, {});
             EXPECT_TRUE(waitUntil([&] { return main.bytes.endsWith("END\r\n"); }));
             QStringList lines = main.takeLines();
             lines.removeLast();

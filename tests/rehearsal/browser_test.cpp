@@ -330,7 +330,8 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
         for (int i = 0; i < names.size(); ++i) {
             const QString& name = names[i];
             const QString path = u"/%1.html"_s.arg(name);
-            EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.className"_s); }, u"on"_s));
+            EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.className"_s); }, u"on"_s))
+                << qPrintable(name + u' ' + aspect);
             EXPECT_TRUE(becomes([&] { return frame(path, u"document.body.innerText"_s); }, u"Κωνσταντίνος"_s));
             // Also lets the animations run out.
             EXPECT_TRUE(

@@ -12,8 +12,12 @@ bool waitUntil(Condition&& holds) {
     const QDeadlineTimer deadline(30000);
     QTimer alarm;  // conditions that no event announces are looked at again
     alarm.start(20);
-    while (!holds() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return holds();
+    bool held = holds();
+    while (!held && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        held = holds();
+    }
+    return held;
 }
 
 }  // namespace zelvor::test
