@@ -14,16 +14,11 @@ namespace zelvor::rehearsal {
 namespace {
 
 const std::array kOptions{
-    CommandLine::Option{u"--amcp"_s, true},
-    CommandLine::Option{u"--http"_s, true},
-    CommandLine::Option{u"--bind"_s, true},
-    CommandLine::Option{u"--channels"_s, true},
-    CommandLine::Option{u"--mode"_s, true},
-    CommandLine::Option{u"--templates"_s, true},
-    CommandLine::Option{u"--help"_s},
-    CommandLine::Option{u"-h"_s},
-    CommandLine::Option{u"--version"_s},
-    CommandLine::Option{u"-v"_s},
+    CommandLine::Option{u"--amcp"_s, true}, CommandLine::Option{u"--http"_s, true},
+    CommandLine::Option{u"--bind"_s, true}, CommandLine::Option{u"--channels"_s, true},
+    CommandLine::Option{u"--mode"_s, true}, CommandLine::Option{u"--templates"_s, true},
+    CommandLine::Option{u"--help"_s},       CommandLine::Option{u"-h"_s},
+    CommandLine::Option{u"--version"_s},    CommandLine::Option{u"-v"_s},
 };
 
 const QString kHelp =

@@ -252,8 +252,7 @@ TEST(Evaluator, WhatBelongsToTheLanguageBesides) {
             "[|%u03A9%20a/b%27|, |Ω %zz%|, |a%Ω;|]"},
         Row{"Array(LenB('abc'), LeftB('abc',3), RightB('abc',2), MidB('abc',3,2), InStrB('abc','b'), AscB(ChrB(200)))",
             "[6, |ab|, |c|, |b|, 3, 200]"},
-        Row{"Array(IsObject(Empty), XmlText('O''N & \"<5>\" a|b#c;d\\\\'))",
-            "[False, |O’N ＆ ”‹5›” a¦b＃c;d＼＼|]"},
+        Row{"Array(IsObject(Empty), XmlText('O''N & \"<5>\" a|b#c;d\\\\'))", "[False, |O’N ＆ ”‹5›” a¦b＃c;d＼＼|]"},
     };
     check(kRows);
 }
