@@ -23,8 +23,13 @@ void throwOpenError(const QString& path, QFileDevice::FileError error, Opening o
 QByteArray readWholeFile(const QString& path) {
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
-    QByteArray bytes = file.read(TextFiles::kLargestFile + 1);
-    if (bytes.size() > TextFiles::kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
+    // In pieces: a read makes room for all it is asked for, which would be the largest file's each time.
+    constexpr qint64 kPiece = 64 * 1024;
+    QByteArray bytes;
+    for (QByteArray piece = file.read(kPiece); !piece.isEmpty(); piece = file.read(kPiece)) {
+        bytes += piece;
+        if (bytes.size() > TextFiles::kLargestFile) throw RunTimeError(ErrorNumber::OutOfMemory, path);
+    }
     if (file.error() != QFileDevice::NoError) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     return bytes;
 }

@@ -88,23 +88,21 @@ QString AmcpInterpreter::run(Request& request, AmcpClient& client) {
     }
 
     // The channel stands behind the first word, also of a command of two words.
-    auto place = tokens.size() > 1 ? parsePlace(tokens[1]) : std::nullopt;
-    if (place && !host_.stage.hasChannel(place->channel)) {
-        place.reset();
-    }
-    if (place) {
+    const Place place = parsePlace(tokens.value(1)).value_or(Place{});
+    const bool hasPlace = host_.stage.hasChannel(place.channel);
+    if (hasPlace) {
         tokens.removeAt(1);
     }
     const CommandRow* row = takeRow(tokens);
     const bool needsChannel = row != nullptr && (row->target == Target::Layer || row->target == Target::Locks);
-    if (row == nullptr || (needsChannel && !place) || tokens.size() < row->minimumParameters) {
+    if (row == nullptr || (needsChannel && !hasPlace) || tokens.size() < row->minimumParameters) {
         return reply::unknown(request.line);
     }
     Command command{.name = row->name.toString(), .parameters = tokens, .client = client.id};
-    if (place && row->target != Target::Server) {
-        command.channel = place->channel;
-        command.layer = place->layer;
-        command.at = {place->channel, place->layer.value_or(row->usualLayer)};
+    if (hasPlace && row->target != Target::Server) {
+        command.channel = place.channel;
+        command.layer = place.layer;
+        command.at = {place.channel, place.layer.value_or(row->usualLayer)};
     }
     if (!client.batch) {
         return execute(*row, command);
