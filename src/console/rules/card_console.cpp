@@ -96,6 +96,7 @@ void CardConsole::run(const QString& script, bool tagged, std::optional<CardPlac
 }
 
 void CardConsole::selectBox(int selector) {
+    down_.reset();  // a press that was let go beside its button
     state_.currentSet = selector + 1;
     for (int i = 0; i < kSelectors; ++i) form_.at(controls.GradientButtonS, i).setChecked(i == selector);
     showCurrentSet(state_, form_);
