@@ -191,7 +191,7 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
         function stop() { note("stop"); throw new Error("stops badly"); }
         function reach(what) { try { note(String(what())); } catch (fault) { note(fault.name); } }
         const spy = new WebSocket(location.origin.replace("http", "ws") + "/state");
-        spy.onmessage = () => note("spied"); spy.onclose = () => note("shut out");
+        spy.onmessage = () => note("spied"); spy.onclose = () => { document.title = "shut out"; };
         </script><img src="missing.png">)");
     file.close();
     Server server;
@@ -202,7 +202,7 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
     // Quotes, a backslash, a line break and a line separator arrive as they were sent.
     send(uR"(CG 2-1 ADD 1 CALLS 1 "{\"a\":\"<b>'\\\"</b>\\\\\n)"_s + QChar(0x2028) + uR"(\"}")"_s);
     EXPECT_TRUE(becomes(calls, u"load;update {\"a\":\"<b>'\\\"</b>\\\\\n"_s + QChar(0x2028) + u"\"};play;"_s));
-    EXPECT_TRUE(becomes(calls, u"shut out"_s));
+    EXPECT_TRUE(becomes([] { return frame(u"/calls.html"_s, u"document.title"_s); }, u"shut out"_s));
     send(u"CG 2-1 STOP 1"_s);
     send(u"CG 2-1 NEXT 1"_s);
     send(u"CG 2-1 INVOKE 1 \"reach(() => parent.document.title)\""_s);
