@@ -9,10 +9,32 @@ target_compile_options(zelvor_options INTERFACE -Wall -Wextra -Wpedantic -Wshado
 target_compile_definitions(zelvor_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER ZELVOR_VERSION="${PROJECT_VERSION}")
 
-# zelvor_room(NAME [FOLDER folder] SOURCES file... [LINKS target...])
+# Headers that most files read, parsed once a build folder; what a file needs it includes all the same.
+if(ZELVOR_PCH)
+  file(WRITE ${CMAKE_BINARY_DIR}/precompiled.cpp "")
+  foreach(kind room test)
+    add_library(precompiled_${kind} OBJECT EXCLUDE_FROM_ALL ${CMAKE_BINARY_DIR}/precompiled.cpp)
+    set_target_properties(precompiled_${kind} PROPERTIES AUTOMOC OFF)
+    target_link_libraries(precompiled_${kind} PRIVATE Qt6::Core zelvor_options)
+    target_precompile_headers(precompiled_${kind} PRIVATE
+      <algorithm> <array> <functional> <map> <memory> <optional> <span> <string> <vector>
+      <QByteArray> <QDateTime> <QFile> <QHash> <QObject> <QString> <QStringList> <QTimer>)
+  endforeach()
+  if(ZELVOR_TESTS)
+    target_link_libraries(precompiled_test PRIVATE GTest::gtest)
+    target_precompile_headers(precompiled_test PRIVATE <gtest/gtest.h>)
+  endif()
+endif()
+function(use_precompiled target kind)
+  if(ZELVOR_PCH)
+    target_precompile_headers(${target} REUSE_FROM precompiled_${kind})
+  endif()
+endfunction()
+
+# zelvor_room(NAME [FOLDER folder] [NO_QT] SOURCES file... [LINKS target...])
 # FOLDER is relative to src/ and defaults to NAME.
 function(zelvor_room name)
-  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ROOM "NO_QT" "FOLDER" "SOURCES;LINKS" ${ARGN})
   if(NOT ROOM_FOLDER)
     set(ROOM_FOLDER ${name})
   endif()
@@ -22,6 +44,9 @@ function(zelvor_room name)
   add_library(${name} STATIC ${ROOM_SOURCES})
   target_include_directories(${name} PUBLIC ${include_dir})
   target_link_libraries(${name} PUBLIC ${ROOM_LINKS} PRIVATE zelvor_options)
+  if(NOT ROOM_NO_QT)
+    use_precompiled(${name} room)
+  endif()
 endfunction()
 
 # zelvor_program(NAME SOURCES file... LINKS target...)
@@ -34,10 +59,12 @@ function(zelvor_program name)
 endfunction()
 
 # zelvor_test(NAME SOURCES file... LINKS target... [MAIN target] [TIMEOUT seconds])
-# One GoogleTest program, one CTest test. MAIN names the library that holds main() and defaults to GoogleTest's own.
+# One GoogleTest program, one CTest test. MAIN names the library that holds main() where Qt is used, and defaults to
+# GoogleTest's own.
 function(zelvor_test name)
   cmake_parse_arguments(TEST "" "MAIN;TIMEOUT" "SOURCES;LINKS" ${ARGN})
-  if(NOT TEST_MAIN)
+  set(with_qt ${TEST_MAIN})
+  if(NOT with_qt)
     set(TEST_MAIN GTest::gtest_main)
   endif()
   if(NOT TEST_TIMEOUT)
@@ -45,9 +72,31 @@ function(zelvor_test name)
   endif()
   add_executable(${name} ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE ${TEST_LINKS} ${TEST_MAIN} GTest::gtest zelvor_options)
+  if(with_qt)
+    use_precompiled(${name} test)
+  endif()
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     TIMEOUT ${TEST_TIMEOUT}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0")
+endfunction()
+
+# zelvor_fuzz(NAME MAX_LEN bytes ROOM room)
+# The fuzz target of NAME.cpp, led by the branches that its inputs take in the room and by the words of NAME.dict, and a
+# test that runs it briefly with a seed of its own each time; a longer run is `NAME -dict=NAME.dict CORPUS_FOLDER`.
+function(zelvor_fuzz name)
+  if(NOT ZELVOR_FUZZ)
+    return()
+  endif()
+  cmake_parse_arguments(FUZZ "" "MAX_LEN;ROOM" "" ${ARGN})
+  target_compile_options(${FUZZ_ROOM} PRIVATE -fsanitize=fuzzer-no-link)
+  target_link_options(${FUZZ_ROOM} INTERFACE -fsanitize=fuzzer-no-link)
+  set_target_properties(${FUZZ_ROOM} PROPERTIES DISABLE_PRECOMPILE_HEADERS ON)
+  zelvor_program(${name} SOURCES ${name}.cpp LINKS ${FUZZ_ROOM})
+  target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  add_test(NAME ${name}
+    COMMAND ${name} -runs=20000 -max_total_time=10 -timeout=10 -max_len=${FUZZ_MAX_LEN}
+      -dict=${CMAKE_CURRENT_SOURCE_DIR}/${name}.dict)
 endfunction()
