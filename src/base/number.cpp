@@ -106,7 +106,14 @@ Whole wholeNumber(QStringView text) {
 }  // namespace
 
 QString numberText(double number) {
-    return QString::fromStdString(plain::numberText(number));
+    QString text;
+    appendNumber(text, number);
+    return text;
+}
+
+void appendNumber(QString& out, double number) {
+    plain::NumberBuffer buffer;
+    out += QLatin1StringView(plain::numberText(number, buffer));
 }
 
 double Val(QStringView text) {

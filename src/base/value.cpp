@@ -1,5 +1,7 @@
 #include "base/value.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 #include "base/number.h"
@@ -90,8 +92,21 @@ QString Value::text() const {
 void Value::appendTo(QString& out) const {
     if (const auto* own = as<QString>()) {
         out += *own;
+    } else if (const auto* number = as<double>()) {
+        appendNumber(out, *number);
+    } else if (const auto* whole = as<qint64>()) {
+        std::array<char, 24> digits;
+        out += QLatin1StringView(digits.data(), std::to_chars(digits.begin(), digits.end(), *whole).ptr);
     } else {
         out += text();
+    }
+}
+
+void Value::setText(QStringView text) {
+    if (auto* own = std::get_if<QString>(&data_)) {
+        own->setUnicode(text.data(), text.size());
+    } else {
+        data_ = text.toString();
     }
 }
 

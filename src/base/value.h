@@ -59,6 +59,9 @@ class Value {
     // The value as a number: a text that is no number throws 13, Null throws 94, Empty is 0, True is -1.
     [[nodiscard]] double number() const;
 
+    // Becomes a text value; the memory of one that it holds is used again.
+    void setText(QStringView text);
+
     bool operator==(const Value&) const = default;
 
  private:

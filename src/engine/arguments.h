@@ -27,9 +27,6 @@ class Pieces {
     }
 
  private:
-    template <class Separator>
-    void split(QStringView text, Separator separator, qsizetype width);
-
     QVarLengthArray<QStringView, 8> pieces_;
 };
 

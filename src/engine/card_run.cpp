@@ -30,12 +30,24 @@ CardRun::CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, Q
       files_(engine.program().files) {}
 
 void CardRun::execute() {
-    for (lineNo_ = 1; lineNo_ <= script_->lineCount(); ++lineNo_) {
-        place_.line = lineNo_;
-        place_.asker.at = script_->place(lineNo_);
-        executeLine(script_->line(lineNo_));
+    try {
+        for (lineNo_ = 1; lineNo_ <= script_->lineCount(); ++lineNo_) {
+            reached_ = lineNo_;
+            executeLine(script_->line(lineNo_));
+        }
+        if (!abandoned_) finish();
+    } catch (...) {
+        place();
+        throw;
     }
-    if (!abandoned_) finish();
+}
+
+const ErrorPlace& CardRun::place() {
+    if (reached_ > 0) {
+        place_.line = reached_;
+        place_.asker.at = script_->place(reached_);
+    }
+    return place_;
 }
 
 void CardRun::executeLine(const ScriptLine& firstLine) {
@@ -64,7 +76,7 @@ const ScriptLine& CardRun::chooseBranch(const LineCondition& condition) {
 }
 
 void CardRun::warn(const QString& text) {
-    if (engine_.program().trap.warn(place_, text)) ports().notes.appendHistory(u" > WARNING "_s + text);
+    if (engine_.program().trap.warn(place(), text)) ports().notes.appendHistory(u" > WARNING "_s + text);
 }
 
 void CardRun::noteTemplateFaults(const QStringList& faults) {

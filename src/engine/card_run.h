@@ -13,7 +13,7 @@ namespace zelvor {
 // The state of one run of a card and nothing else. Nested runs are simply two of them.
 class CardRun {
  public:
-    // place: kept up to date with the line reached, for the error message.
+    // place: told the line reached when the run ends by an error or somebody asks for it.
     CardRun(CardEngine& engine, std::shared_ptr<const CardScript> script, QString cardFile, bool autoRun,
             bool keepStates, ErrorPlace& place);
 
@@ -30,7 +30,7 @@ class CardRun {
     [[nodiscard]] const CardScript& script() const { return *script_; }
     [[nodiscard]] const QString& cardFile() const { return cardFile_; }
     // Who asked for this run, also when another card of his has fired it.
-    [[nodiscard]] const Asker& asker() const { return place_.asker; }
+    [[nodiscard]] const Asker& asker() { return place().asker; }
     [[nodiscard]] bool autoRun() const { return autoRun_; }
     [[nodiscard]] bool keepStates() const { return keepStates_; }
     [[nodiscard]] int lineNo() const { return lineNo_; }
@@ -68,6 +68,7 @@ class CardRun {
     RecordLoop loop;  // the one active record loop
 
  private:
+    const ErrorPlace& place();
     void executeLine(const ScriptLine& line);
     const ScriptLine& chooseBranch(const LineCondition& condition);
 
@@ -78,7 +79,8 @@ class CardRun {
     bool keepStates_;
     ErrorPlace& place_;
     int clearings_;  // before this run
-    int lineNo_ = 0;
+    int lineNo_ = 0;   // a command may move it
+    int reached_ = 0;  // the line that runs or has run last; 0 before the first
     bool hasData_ = true;
     bool abandoned_ = false;
     QStringList templateFaults_;

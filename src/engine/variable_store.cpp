@@ -12,6 +12,16 @@ void VariableStore::SetVar(QStringView name, Value value) {
     entries_.splice(entries_.end(), entries_, found->second);
 }
 
+void VariableStore::setText(QStringView name, QStringView text) {
+    const auto found = index_.find(name);
+    if (found == index_.end()) {
+        add(name, text.toString());
+        return;
+    }
+    found->second->value.setText(text);
+    entries_.splice(entries_.end(), entries_, found->second);
+}
+
 const Value& VariableStore::GetVar(QStringView name) {
     const auto found = index_.find(name);
     return (found == index_.end() ? add(name, {}) : found->second)->value;
@@ -32,13 +42,12 @@ void VariableStore::remove(QStringView name) {
     if (found != index_.end()) removeEntry(found->second);
 }
 
-void VariableStore::RemoveVarsWithPrefix(QStringView prefix) {
+std::map<QStringView, VariableStore::Entries::iterator>& VariableStore::sorted() {
     if (!sorted_) {
         sorted_.emplace();
         for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) sorted_->emplace(entry->name, entry);
     }
-    for (auto at = sorted_->lower_bound(prefix); at != sorted_->end() && at->first.startsWith(prefix);)
-        removeEntry((at++)->second);
+    return *sorted_;
 }
 
 void VariableStore::clear() {

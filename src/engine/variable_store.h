@@ -22,6 +22,8 @@ class VariableStore {
 
     // Removes the name if it exists, then adds it at the end.
     void SetVar(QStringView name, Value value);
+    // The same for a text, which may not be the value's own. Faster than SetVar for a name that exists.
+    void setText(QStringView name, QStringView text);
     // The value; a name that does not exist is entered with the empty value. Valid until the name is set or removed.
     const Value& GetVar(QStringView name);
     // The value without entering the name; null when it does not exist.
@@ -30,8 +32,19 @@ class VariableStore {
     [[nodiscard]] QString text(QStringView name) const;
 
     void remove(QStringView name);
-    // Removes every name that begins with the prefix, at a cost in proportion to what it removes.
-    void RemoveVarsWithPrefix(QStringView prefix);
+    // Removes every name that begins with the prefix, at a cost in proportion to how many those are.
+    void RemoveVarsWithPrefix(QStringView prefix) {
+        RemoveVarsWithPrefix(prefix, [](QStringView) { return false; });
+    }
+    // The same but for names whose rest behind the prefix is kept.
+    template <class Keeps>
+    void RemoveVarsWithPrefix(QStringView prefix, Keeps&& keeps) {
+        auto at = sorted().lower_bound(prefix);
+        while (at != sorted_->end() && at->first.startsWith(prefix)) {
+            const auto entry = at++;
+            if (!keeps(entry->first.mid(prefix.size()))) removeEntry(entry->second);
+        }
+    }
     void clear();
 
     [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(entries_.size()); }
@@ -53,6 +66,7 @@ class VariableStore {
         size_t operator()(QStringView name) const { return qHash(name); }
     };
 
+    std::map<QStringView, Entries::iterator>& sorted();
     Entries::iterator add(QStringView name, Value value);
     void removeEntry(Entries::iterator entry);
 

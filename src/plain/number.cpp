@@ -7,14 +7,31 @@
 
 namespace zelvor::plain {
 
-std::string numberText(double number, int digits) {
+namespace {
+
+std::string_view write(double number, int digits, NumberBuffer& buffer) {
     if (number == 0) return "0";
-    std::array<char, 32> buffer{};
     char* const first = buffer.data();
     const auto [end, error] =
         std::to_chars(first, first + buffer.size(), number, std::chars_format::general, std::clamp(digits, 1, 17));
     std::replace(first, end, 'e', 'E');
     return {first, end};
+}
+
+}  // namespace
+
+std::string numberText(double number, int digits) {
+    NumberBuffer buffer;
+    return std::string(write(number, digits, buffer));
+}
+
+std::string_view numberText(double number, NumberBuffer& buffer) {
+    constexpr double kFirstWithExponent = 1E15;
+    if (std::abs(number) < kFirstWithExponent && std::trunc(number) == number) {
+        char* const first = buffer.data();
+        return {first, std::to_chars(first, first + buffer.size(), static_cast<long long>(number)).ptr};
+    }
+    return write(number, kSignificantDigits, buffer);
 }
 
 double roundHalfEven(double number) {

@@ -77,8 +77,8 @@ void REPLACE(CardRun& run, const Arguments& args) {
     QString text = pieces[0].toString();
     const QStringView find = pieces[1];
     const QStringView replacement = pieces[2];
-    if (!find.isEmpty()) text.replace(find.toString(), replacement.toString());
-    run.variables().SetVar(name, text);
+    if (!find.isEmpty()) text.replace(find.data(), find.size(), replacement.data(), replacement.size());
+    run.variables().setText(name, text);
 }
 
 using Argument = Command::Argument;

@@ -9,23 +9,23 @@ namespace {
 
 struct Field {
     QString key;
-    QString value;
+    QStringView value;  // of the arguments
 };
 
 // field;value or field;ani;value
 Field parseField(QChar type, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    if (pieces.count() == 3) return {type + u'-' + pieces[1] + u'*' + pieces[0], pieces[2].toString()};
-    return {type + u"-0*"_s + pieces[0], pieces[1].toString()};
+    if (pieces.count() == 3) return {type + u'-' + pieces[1] + u'*' + pieces[0], pieces[2]};
+    return {type + u"-0*"_s + pieces[0], pieces[1]};
 }
 
 void setField(CardRun& run, QStringView command, const Field& field) {
     run.ports().notes.appendHistory(u" > "_s + command + u'~' + field.key + u" = "_s + field.value);
-    run.state().templateData.SetVar(field.key, field.value);
+    run.state().templateData.setText(field.key, field.value);
 }
 
 void setRemoteField(CardRun& run, const Field& field) {
-    run.state().remoteTemplateData.SetVar(field.key, field.value);
+    run.state().remoteTemplateData.setText(field.key, field.value);
 }
 
 void SDATA(CardRun& run, const Arguments& args) {

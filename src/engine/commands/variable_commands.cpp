@@ -11,7 +11,7 @@ namespace {
 
 void SETVAR(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    run.variables().SetVar(pieces[0], pieces[1].toString());
+    run.variables().setText(pieces[0], pieces[1]);
 }
 
 void CHARCOUNT(CardRun& run, const Arguments& args) {
@@ -22,13 +22,24 @@ void CHARCOUNT(CardRun& run, const Arguments& args) {
     run.variables().SetVar(QString(u'@' + pieces[0]), count);
 }
 
+bool isNumberBelow(QStringView text, int limit) {
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    const bool isPlain = text.size() == 1 || (!text.isEmpty() && text[0] >= u'1' && text[0] <= u'9');
+    return isNumber && isPlain && number < limit;
+}
+
 void SPLIT(CardRun& run, const Arguments& args) {
     const QString prefix = u'@' + args.rawPieces()[2] + u'_';
     const Pieces pieces = args.pieces();
-    run.variables().RemoveVarsWithPrefix(prefix);
     const Pieces parts(pieces[0], pieces[1]);
+    run.variables().RemoveVarsWithPrefix(prefix,
+                                         [&](QStringView rest) { return isNumberBelow(rest, parts.count()); });
+    QString name = prefix;
     for (int i = 0; i < parts.count(); ++i) {
-        run.variables().SetVar(QString(prefix + QString::number(i)), parts[i].toString());
+        name.truncate(prefix.size());
+        appendNumber(name, i);
+        run.variables().setText(name, parts[i]);
     }
 }
 
