@@ -1,11 +1,11 @@
 #include "base/value.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 
 #include "base/number.h"
 #include "base/run_time_error.h"
+#include "plain/number.h"
 
 using namespace Qt::StringLiterals;
 
@@ -89,14 +89,15 @@ QString Value::text() const {
     Q_UNREACHABLE();
 }
 
-void Value::appendTo(QString& out) const {
+void Value::appendTo(TextWriter& out) const {
     if (const auto* own = as<QString>()) {
         out += *own;
     } else if (const auto* number = as<double>()) {
-        appendNumber(out, *number);
+        plain::NumberBuffer buffer;
+        out += plain::numberText(*number, buffer);
     } else if (const auto* whole = as<qint64>()) {
-        std::array<char, 24> digits;
-        out += QLatin1StringView(digits.data(), std::to_chars(digits.begin(), digits.end(), *whole).ptr);
+        plain::NumberBuffer digits;
+        out += std::string_view(digits.data(), std::to_chars(digits.begin(), digits.end(), *whole).ptr);
     } else {
         out += text();
     }

@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/text_writer.h"
+
 namespace zelvor {
 
 // What a variable, a cell of a query result and an evaluated expression hold. One type for all three, so that
@@ -52,7 +54,7 @@ class Value {
     // alone where the other is zero), numbers with 15 significant digits, an array as its elements joined by ", ".
     [[nodiscard]] QString text() const;
     // Appends text() to `out` without a copy of a text value.
-    void appendTo(QString& out) const;
+    void appendTo(TextWriter& out) const;
 
     // The leading number of the text, 0 when there is none; True is -1.
     [[nodiscard]] double leadingNumber() const;

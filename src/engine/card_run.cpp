@@ -57,7 +57,7 @@ void CardRun::executeLine(const ScriptLine& firstLine) {
 
     const QString* raw = line->hasArgument ? &line->argument.raw() : nullptr;
     const QString* text = raw;
-    if (line->hasArgument && line->command->argument == Command::Argument::Expanded) {
+    if (line->hasArgument && line->command->argument == Command::Argument::Expanded && !line->argument.isConstant()) {
         line->argument.expandInto(expanded_, variables(), state().QUERY_RESULT);
         text = &expanded_;
     }
@@ -83,9 +83,10 @@ void CardRun::noteTemplateFaults(const QStringList& faults) {
     for (const QString& fault : faults) warn(u"MAKEXML: "_s + fault);
     templateFaults_ += faults;
     templateFaults_.removeDuplicates();
+    const QString fault = templateFaults_.join(u", "_s);
     for (CardTable::Set& set : state().cards.sets) {
         for (CardEntry& card : set) {
-            if (CardEngine::scriptName(card.script) == cardFile_) card.fault = templateFaults_.join(u", "_s);
+            if (card.fault != fault && CardEngine::scriptName(card.script) == cardFile_) card.fault = fault;
         }
     }
 }

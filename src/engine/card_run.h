@@ -78,7 +78,7 @@ class CardRun {
     bool autoRun_;
     bool keepStates_;
     ErrorPlace& place_;
-    int clearings_;  // before this run
+    int clearings_;    // before this run
     int lineNo_ = 0;   // a command may move it
     int reached_ = 0;  // the line that runs or has run last; 0 before the first
     bool hasData_ = true;

@@ -146,20 +146,20 @@ ExpandableText::ExpandableText(QString text) : raw_(std::move(text)) {
 }
 
 void ExpandableText::expandInto(QString& out, VariableStore& variables, const QueryResult& result) const {
-    out.resize(0);
-    if (simple_ && appendPieces(out, variables)) return;
+    if (simple_ && writePieces(out, variables)) return;
     out = EXPAND_VARS(raw_, variables, result);
 }
 
 // False when a value holds a bracket itself: the text then needs the general expansion.
-bool ExpandableText::appendPieces(QString& out, VariableStore& variables) const {
+bool ExpandableText::writePieces(QString& text, VariableStore& variables) const {
+    TextWriter out(text);
     for (const Piece& piece : pieces_) {
         out += piece.literal;
         if (piece.name.isEmpty()) continue;
         const qsizetype start = out.size();
         variables.GetVar(piece.name).appendTo(out);
         if (out.size() > kLargestExpansion) throw RunTimeError(ErrorNumber::OutOfStackSpace, piece.name);
-        if (hasBracket(QStringView(out).mid(start))) return false;
+        if (hasBracket(out.written().mid(start))) return false;
     }
     return true;
 }

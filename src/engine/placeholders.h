@@ -28,6 +28,8 @@ class ExpandableText {
     explicit ExpandableText(QString text);
 
     [[nodiscard]] const QString& raw() const { return raw_; }
+    // True when expanding changes nothing.
+    [[nodiscard]] bool isConstant() const { return simple_ && pieces_.size() == 1; }
     // EXPAND_VARS of the text into `out`, whose memory is used again.
     void expandInto(QString& out, VariableStore& variables, const QueryResult& result) const;
 
@@ -37,7 +39,7 @@ class ExpandableText {
         QStringView literal;
         QString name;
     };
-    bool appendPieces(QString& out, VariableStore& variables) const;
+    bool writePieces(QString& text, VariableStore& variables) const;
 
     QString raw_;
     std::vector<Piece> pieces_;

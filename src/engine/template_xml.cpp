@@ -1,7 +1,6 @@
 #include "engine/template_xml.h"
 
 #include <algorithm>
-#include <array>
 
 #include "engine/arguments.h"
 
@@ -18,7 +17,9 @@ struct FieldKey {
 
 class XmlWriter {
  public:
-    XmlWriter() { xml_.reserve(4096); }
+    explicit XmlWriter(QString& xml) : xml_(xml) { xml_ += u"<templateData>"; }
+    ~XmlWriter() { xml_ += u"</templateData>"; }
+    Q_DISABLE_COPY_MOVE(XmlWriter)
 
     // A letter other than "t" and "i" keeps the type of the field before.
     void setType(QStringView letter) {
@@ -27,11 +28,11 @@ class XmlWriter {
     }
 
     void field(const FieldKey& key, QStringView value, bool verticalOffsetNeeded) {
-        xml_ += uR"(<componentData id=\")"_s;
+        xml_ += uR"(<componentData id=\")";
         text(key.id);
-        xml_ += uR"(\"><data type=\")"_s;
+        xml_ += uR"(\"><data type=\")";
         xml_ += type_;
-        xml_ += uR"(\")"_s;
+        xml_ += uR"(\")";
         attribute(u"ani", key.ani);
         if (value.contains(u'|')) {
             const Pieces parts(value, u'|');
@@ -45,46 +46,49 @@ class XmlWriter {
         } else {
             attribute(u"value", value);
         }
-        xml_ += u"></data></componentData>"_s;
-    }
-
-    QString finish() && {
-        xml_ += u"</templateData>"_s;
-        return std::move(xml_);
+        xml_ += u"></data></componentData>";
     }
 
  private:
     void attribute(QStringView name, QStringView value) {
-        xml_ += u' ';
+        xml_ += u" ";
         text(name);
-        xml_ += uR"(=\")"_s;
+        xml_ += uR"(=\")";
         text(value);
-        xml_ += uR"(\")"_s;
+        xml_ += uR"(\")";
     }
 
     void text(QStringView raw) {
         qsizetype start = 0;
-        for (qsizetype at = raw.indexOf(u'\''); at >= 0; at = raw.indexOf(u'\'', start)) {
+        for (qsizetype at = 0; at < raw.size(); ++at) {
+            if (raw[at] != u'\'') continue;
             xml_ += raw.mid(start, at - start);
-            xml_ += uR"(\")"_s;
+            xml_ += uR"(\")";
             start = at + 1;
         }
         xml_ += raw.mid(start);
     }
 
-    QString xml_ = u"<templateData>"_s;
+    TextWriter xml_;
     QStringView type_;
 };
 
-struct BreakingCharacter {
-    QChar character;
-    QStringView name;
-};
-
-constexpr std::array kBreaking{
-    BreakingCharacter{u'\'', u"a quote"}, BreakingCharacter{u'"', u"a quote"},      BreakingCharacter{u'<', u"a \"<\""},
-    BreakingCharacter{u'&', u"an \"&\""}, BreakingCharacter{u'\\', u"a backslash"},
-};
+// What a character that breaks the template data is called; empty for one that does not.
+QStringView breakingName(QChar character) {
+    switch (character.unicode()) {
+        case u'\'':
+        case u'"':
+            return u"a quote";
+        case u'<':
+            return u"a \"<\"";
+        case u'&':
+            return u"an \"&\"";
+        case u'\\':
+            return u"a backslash";
+        default:
+            return {};
+    }
+}
 
 // A field that has not all its parts is named in the error.
 template <class Action>
@@ -104,32 +108,37 @@ QStringList templateFaults(const VariableStore& fields) {
     QStringList faults;
     fields.forEach([&](const QString& key, const Value& value) {
         const QString text = value.text();
-        const auto* broken = std::ranges::find_if(
-            kBreaking, [&](const BreakingCharacter& breaking) { return text.contains(breaking.character); });
-        if (broken != kBreaking.end()) faults += key.section(u'*', 1) + u" holds "_s + broken->name;
+        const auto* broken = std::ranges::find_if_not(text, &QStringView::isEmpty, breakingName);
+        if (broken != text.end()) faults += key.section(u'*', 1) + u" holds "_s + breakingName(*broken);
     });
     return faults;
 }
 
 QString makeXml(const VariableStore& fields) {
-    XmlWriter xml;
-    forEachField(fields, [&](const QString& key, const Value& value) {
-        const Pieces parts(key, u'-');
-        xml.setType(parts[0]);
-        const Pieces animationAndId(parts[1], u'*');
-        xml.field({animationAndId[0], animationAndId[1]}, value.text(), false);
-    });
-    return std::move(xml).finish();
+    QString text;
+    {
+        XmlWriter xml(text);
+        forEachField(fields, [&](const QString& key, const Value& value) {
+            const Pieces parts(key, u'-');
+            xml.setType(parts[0]);
+            const Pieces animationAndId(parts[1], u'*');
+            xml.field({animationAndId[0], animationAndId[1]}, value.text(), false);
+        });
+    }
+    return text;
 }
 
 QString makeRemoteXml(const VariableStore& fields) {
-    XmlWriter xml;
-    forEachField(fields, [&](const QString& key, const Value& value) {
-        const QStringView characters(key);
-        xml.setType(characters.left(1));
-        xml.field({characters.mid(2, 1), characters.mid(4)}, value.text(), true);
-    });
-    return std::move(xml).finish();
+    QString text;
+    {
+        XmlWriter xml(text);
+        forEachField(fields, [&](const QString& key, const Value& value) {
+            const QStringView characters(key);
+            xml.setType(characters.left(1));
+            xml.field({characters.mid(2, 1), characters.mid(4)}, value.text(), true);
+        });
+    }
+    return text;
 }
 
 }  // namespace zelvor

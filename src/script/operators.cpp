@@ -215,17 +215,10 @@ Value difference(const Value& left, const Value& right) {
 Value join(const Value& left, const Value& right) {
     refuseArrays(left, right);
     if (left.isNull() && right.isNull()) return Value::Null{};
-    QString joined;
-    const auto* leftText = left.as<QString>();
-    const auto* rightText = right.as<QString>();
-    if (leftText != nullptr && rightText != nullptr) {
-        requireLength(leftText->size() + rightText->size());
-        joined.reserve(leftText->size() + rightText->size());
-    }
-    left.appendTo(joined);
-    right.appendTo(joined);
-    requireLength(joined.size());
-    return joined;
+    const QString leftText = left.text();
+    const QString rightText = right.text();
+    requireLength(leftText.size() + rightText.size());
+    return QString(leftText + rightText);
 }
 
 Value negated(const Value& operand) {

@@ -33,8 +33,7 @@ void SPLIT(CardRun& run, const Arguments& args) {
     const QString prefix = u'@' + args.rawPieces()[2] + u'_';
     const Pieces pieces = args.pieces();
     const Pieces parts(pieces[0], pieces[1]);
-    run.variables().RemoveVarsWithPrefix(prefix,
-                                         [&](QStringView rest) { return isNumberBelow(rest, parts.count()); });
+    run.variables().RemoveVarsWithPrefix(prefix, [&](QStringView rest) { return isNumberBelow(rest, parts.count()); });
     QString name = prefix;
     for (int i = 0; i < parts.count(); ++i) {
         name.truncate(prefix.size());
