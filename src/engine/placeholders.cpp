@@ -10,10 +10,7 @@ namespace zelvor {
 namespace {
 
 bool hasBracket(QStringView text) {
-    for (const QChar c : text) {
-        if (c == u'{' || c == u'}') return true;
-    }
-    return false;
+    return text.contains(u'{') || text.contains(u'}');
 }
 
 // Reads the text once, putting values in front of what is still to be read, so that what a value holds is expanded in
