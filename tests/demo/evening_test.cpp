@@ -68,6 +68,11 @@ class Evening : public testing::TestWithParam<const char*> {
         }
         for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
     }
+    // A message of the game clock.
+    void hear(const QString& datagram) {
+        game_.feed.handle(datagram);
+        game_.feed.runTimeCard();
+    }
     QStringList onButtons() {
         QStringList scripts;
         for (int row = 1; row <= CardTable::kCards; ++row) {
@@ -185,11 +190,11 @@ TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
 TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     state_.variables.SetVar(u"@GAMEPERIOD", 4);
     fire(u"scorebug.csp"_s);
-    game_.feed.handle(u"t2:41t"_s);
+    hear(u"t2:41t"_s);
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-20 UPDATE"_s) && lastLine().contains(u"2:41"_s))
         << qPrintable(lastLine());
     const qsizetype sentOnce = graphics_.sent.size();
-    game_.feed.handle(u"t2:41t"_s);
+    hear(u"t2:41t"_s);
     for (int tick = 0; tick < 20; ++tick) game_.timedCards.tick();
     EXPECT_EQ(sentOnce, graphics_.sent.size()) << "nothing has changed";
     form_.at(controls.lblAutoScoreA).setText(u"81"_s);
@@ -207,7 +212,7 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
         graphics_.sent.clear();
     }
     const qsizetype sent = graphics_.sent.size();
-    game_.feed.handle(u"t2:40t"_s);
+    hear(u"t2:40t"_s);
     EXPECT_EQ(sent, graphics_.sent.size());
 }
 
