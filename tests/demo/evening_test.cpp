@@ -216,6 +216,39 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     EXPECT_EQ(sent, graphics_.sent.size());
 }
 
+TEST_P(Evening, AServerThatHasForgottenIsToldAnew) {
+    const QString onAir = u"lblONAIR"_s;
+    int connects = 0;
+    const auto connect = [&] {
+        graphics_.stage.clearChannel(1);
+        state_.variables.SetVar(u"@MAINCONNECTS", ++connects);
+        graphics_.sent.clear();
+    };
+    // Fired before there was a server, with a server, and after another has taken its place.
+    for (const bool first : {true, false, false}) {
+        for (const QString& card : {u"scorebug.csp"_s, u"gameclock.csp"_s, u"crawl.csp"_s, u"player.csp"_s}) fire(card);
+        if (first) graphics_.refused.clear();
+        connect();
+        hear(u"t1:%1t"_s.arg(10 + connects));
+        EXPECT_EQ(QStringList(), graphics_.sent) << "nothing is there to be brought up to date";
+        for (const QString& card : {u"scorebug.csp"_s, u"gameclock.csp"_s, u"crawl.csp"_s, u"player.csp"_s}) {
+            fire(card);
+            EXPECT_TRUE(lastLine().contains(u" ADD 1 "_s)) << qPrintable(card + u": "_s + lastLine());
+        }
+        fire(u"crawl.csp"_s);
+    }
+    connect();
+    fire(u"graphic_off.csp"_s);
+    EXPECT_EQ("", label(onAir).toStdString()) << "nothing is on air any longer";
+    fire(u"scorebug.csp"_s);
+    fire(u"player.csp"_s);
+    fire(u"lowerthird_off.csp"_s);
+    EXPECT_EQ("ON AIR", label(onAir).toStdString());
+    fire(state_.cards.functionKey(5).script);
+    EXPECT_EQ("", QString(label(onAir) + label(u"lblONAIRCARD"_s)).toStdString());
+    EXPECT_EQ(colours::kGreen, form_.at(controls.lblONAIRLAMP).backColour());
+}
+
 TEST_P(Evening, LiveTablesTakeThePlaceOfTheDemosFigures) {
     const auto write = [&](const QString& sql) { database_.execute(sql); };
     write(
