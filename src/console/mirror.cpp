@@ -1,6 +1,8 @@
 #include "console/mirror.h"
 
+#include <QAction>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QWheelEvent>
 #include <utility>
 
@@ -136,6 +138,18 @@ QLineEdit* Mirrors::textBox(const ControlRow& row, int index) const {
             widget->setText(control.text());
         }
         if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
+    });
+    auto* sign = widget->addAction(theme::warningSign(), QLineEdit::TrailingPosition);
+    follow(control, widget, [&control, widget, sign](Property property) {
+        if (property != Property::State) return;
+        const bool wrong = !control.state().isEmpty();
+        const QString words = wrong ? QString(control.hint() + u'\n' + control.state()) : control.hint();
+        sign->setVisible(wrong);
+        sign->setToolTip(words);
+        widget->setToolTip(words);
+        widget->setAccessibleDescription(control.state());
+        widget->setProperty("wrong", wrong);
+        widget->style()->polish(widget);
     });
     QObject::connect(widget, &QLineEdit::textChanged, &control, &Control::setText);
     QObject::connect(widget, &QLineEdit::returnPressed, widget,

@@ -135,6 +135,7 @@ QLineEdit, QComboBox, QPlainTextEdit, QListView, QTableView {
 }
 QLineEdit { padding: 2px 6px; }
 QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListView:focus { border-color: @Accent; }
+QLineEdit[wrong="true"] { border-color: @Bad; }
 QLineEdit:read-only { color: @Muted; background: @Panel; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Panel; }
 QComboBox { padding: 2px 4px 2px 8px; }
@@ -176,6 +177,7 @@ QString styleSheet() {
         Named{"@Muted"_L1, Role::Muted},
         Named{"@Line"_L1, Role::Line},
         Named{"@Text"_L1, Role::Text},
+        Named{"@Bad"_L1, Role::Bad},
     };
     QString style = kStyle;
     for (const Named& named : kNames) style.replace(named.name, colour(named.role).name());
@@ -213,6 +215,18 @@ void drawSurface(QPainter& painter, const QRectF& area, const Surface& surface) 
     }
     painter.setBrush(surface.fill ? QBrush(*surface.fill) : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), surface.radius, surface.radius);
+}
+
+QIcon warningSign() {
+    constexpr int kSize = 32;  // pixels, enough for a screen of twice the usual density
+    QPixmap picture(kSize, kSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawSurface(painter, picture.rect(), {colour(Role::Bad), {}, kSize / 2});
+    painter.setPen(readableOn(colour(Role::Bad)));
+    painter.setFont(font(kSize * 3 / 4, true));
+    painter.drawText(picture.rect(), Qt::AlignCenter, u"!"_s);
+    return QIcon(picture);
 }
 
 QString ownColours(std::optional<Colour> back, std::optional<Colour> fore) {

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QIcon>
 #include <QRect>
 #include <optional>
 #include <span>
@@ -70,6 +71,9 @@ struct Surface {
     bool dashed = false;
 };
 void drawSurface(QPainter& painter, const QRectF& area, const Surface& surface);
+
+// "!" in a disc: the text beside it is wrong.
+QIcon warningSign();
 
 // Style rule of a widget whose colours a rule or a script has set, empty when neither is set.
 QString ownColours(std::optional<Colour> back, std::optional<Colour> fore);

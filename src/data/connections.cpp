@@ -1,5 +1,6 @@
 #include "data/connections.h"
 
+#include <QScopeGuard>
 #include <algorithm>
 #include <iterator>
 #include <limits>
@@ -67,14 +68,20 @@ std::optional<qint16> Connections::askNumber(const QString& menu, qint16 propose
     return std::nullopt;
 }
 
+template <class Deed>
+auto Connections::telling(Deed deed) {
+    const auto told = qScopeGuard([this] { standingTold_(); });
+    return deed();
+}
+
 void Connections::CONNECTDATABASE() {
     if (choice_.number && !choice_.opensAtOnce) return;
     program_.trap.run({u"mDATABASE.CONNECTDATABASE"_s}, ErrorTrap::Tell::Operator, [&] {
         const QString connectionString = GET_CONNECTION_STRING();
         if (connectionString.isEmpty()) return;
         setConnectionStrings(connectionString);
-        utf8_.open();
-        greek_.open();
+        telling([&] { utf8_.open(); });
+        telling([&] { greek_.open(); });
     });
 }
 
@@ -86,6 +93,7 @@ void Connections::close() {
 void Connections::setConnectionStrings(const QString& connectionString) {
     utf8_.setConnectionString(connectionString);
     greek_.setConnectionString(QString(connectionString).replace(u"'utf8'"_s, u"'greek'"_s));
+    standingTold_();
 }
 
 odbc::Rows Connections::run(Session& session, const QString& sql) {
@@ -96,7 +104,7 @@ odbc::Rows Connections::run(Session& session, const QString& sql) {
         isMissing_ = connectionString.isEmpty();
     }
     try {
-        return session.run(sql);
+        return telling([&] { return session.run(sql); });
     } catch (const RunTimeError& error) {
         throw RunTimeError::withText(error.code(), error.text() + u"\r\n"_s + sql);
     }

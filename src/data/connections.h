@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 
 #include "base/program.h"
@@ -42,6 +43,10 @@ class Connections : public Database {
     void execute(const QString& sql) override;
     NamedRows readGreek(const QString& sql) override;
 
+    // Called whenever one of the connections may stand otherwise: after each try to open it, and each statement.
+    void setStandingTold(std::function<void()> told) { standingTold_ = std::move(told); }
+    [[nodiscard]] Session::Standing utf8Standing() const { return utf8_.standing(); }
+    [[nodiscard]] Session::Standing greekStanding() const { return greek_.standing(); }
     // Failed when either connection could not be opened at the last try, or none was found.
     [[nodiscard]] State connectionState() const;
     // The number chosen last, 0 before.
@@ -55,6 +60,9 @@ class Connections : public Database {
     void setConnectionStrings(const QString& connectionString);
     // Runs a statement, the connection being chosen first where that was left to the first query.
     odbc::Rows run(Session& session, const QString& sql);
+    // Does it to the session and tells how that stands then.
+    template <class Deed>
+    auto telling(Deed deed);
     struct Query {
         Session& session;
         QString procedure;
@@ -68,6 +76,7 @@ class Connections : public Database {
     Choice choice_;
     Session utf8_;
     Session greek_;
+    std::function<void()> standingTold_ = [] {};
     qint16 number_ = 0;
     bool queryFailed_ = false;
     bool isMissing_ = false;  // no connection was found for a query that wanted one

@@ -34,6 +34,8 @@ class Connection {
 
     // How the last try to open it ended.
     [[nodiscard]] State state() const { return state_; }
+    // Whether the last statement has found the connection gone.
+    [[nodiscard]] bool isLost() const { return lost_; }
 
  private:
     class Running;

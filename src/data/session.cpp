@@ -92,4 +92,16 @@ odbc::Connection::State Session::state() const {
     return connection_ ? connection_->state() : State::NotTried;
 }
 
+Session::Standing Session::standing() const {
+    using State = odbc::Connection::State;
+    if (!connection_) return Standing::None;
+    if (silentSince_.isValid()) {
+        if (!opening_.valid()) return Standing::Down;
+        // Until then the connection is the other thread's.
+        if (opening_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return Standing::Trying;
+    }
+    if (connection_->state() == State::NotTried) return Standing::Untried;
+    return connection_->state() == State::Open && !connection_->isLost() ? Standing::Connected : Standing::Down;
+}
+
 }  // namespace zelvor

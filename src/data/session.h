@@ -36,6 +36,9 @@ class Session {
     void runTogether(const QStringList& statements);
 
     [[nodiscard]] odbc::Connection::State state() const;
+    // What is known of it now. Untried: its first statement will open it. Trying: a silent one is looked for.
+    enum class Standing { None, Untried, Trying, Connected, Down };
+    [[nodiscard]] Standing standing() const;
 
  private:
     // Runs work(connection) within the time allowed.

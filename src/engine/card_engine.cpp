@@ -1,6 +1,7 @@
 #include "engine/card_engine.h"
 
 #include <QFileInfo>
+#include <algorithm>
 
 #include "engine/card_run.h"
 #include "engine/team_labels.h"
@@ -36,9 +37,9 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
     ErrorPlace place{u"mGLOBAL.SHOW_TVCARD"_s, 0, asker};
     place.asker.at = {name};
     Outcome outcome = Outcome::Ran;
-    ++depth_;
+    running_.push_back({&place.asker});
     const bool ran = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
-        if (depth_ > kDeepestRun) throw RunTimeError(ErrorNumber::OutOfStackSpace, name);
+        if (running_.size() > kDeepestRun) throw RunTimeError(ErrorNumber::OutOfStackSpace, name);
         if (!script) {
             script =
                 std::make_shared<CardScript>(name, path, language, program_.folder, program_.files, place.asker.at);
@@ -63,9 +64,25 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
             outcome = Outcome::Closed;  // what failed was already told, with the program's end
         }
     });
-    --depth_;
+    running_.pop_back();
     if (name.compare(kStartCard, Qt::CaseInsensitive) == 0 && !closing.hasBegun()) showTeams(state_, form_);
     return ran ? outcome : Outcome::Failed;
+}
+
+void CardEngine::sendLine(LinkId link, const QString& line) {
+    const std::size_t run = running_.size() - 1;
+    running_[run].sends = true;
+    ports_.graphics.sendLine(link, line, *running_[run].asker);
+    running_[run].sends = false;
+}
+
+qint64 CardEngine::sendingByItself() const {
+    if (running_.empty() || !running_.back().sends || running_.back().asker->isAttended()) return 0;
+    return running_.back().asker->run;
+}
+
+bool CardEngine::isRunning(qint64 run) const {
+    return std::ranges::any_of(running_, [run](const Running& each) { return each.asker->run == run; });
 }
 
 }  // namespace zelvor

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <vector>
 
 #include "base/program.h"
 #include "engine/calculator.h"
@@ -15,7 +16,7 @@ namespace zelvor {
 class CardEngine {
  public:
     // Runs inside runs (a card that fires proposals, a timer in a card's pause) beyond this end with 28.
-    static constexpr int kDeepestRun = 50;
+    static constexpr std::size_t kDeepestRun = 50;
 
     // The card of the start-up, which the operator can run again. The team labels follow it each time it has run.
     inline static const QString kStartCard = QStringLiteral("GetGame.csp");
@@ -29,6 +30,12 @@ class CardEngine {
     // autoRun: ask fields take their automatic answers. keepStates: ON, OFF and OFFALL are skipped. A missing script
     // is one message; a run-time error ends the run with one message. asker: to whom boxes and messages belong.
     Outcome SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates, const Asker& asker);
+
+    // Puts a line of the newest run on a link; to that run belongs the pause before PLAY.
+    void sendLine(LinkId link, const QString& line);
+    // The number of the newest run while it sends a line and nobody at the desk has asked for it; 0 otherwise.
+    [[nodiscard]] qint64 sendingByItself() const;
+    [[nodiscard]] bool isRunning(qint64 run) const;
 
     [[nodiscard]] ShowState& state() { return state_; }
     [[nodiscard]] FormModel& form() { return form_; }
@@ -46,7 +53,11 @@ class CardEngine {
     Ports ports_;
     Calculator calculator_;
     CardScriptCache scripts_;
-    int depth_ = 0;
+    struct Running {
+        const Asker* asker;
+        bool sends = false;
+    };
+    std::vector<Running> running_;  // each inside the one before it
     qint64 runs_ = 0;
 };
 

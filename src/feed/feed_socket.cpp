@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-FeedSocket::FeedSocket(GameFeed& feed, FeedStatus& status) : feed_(feed), status_(status) {
+FeedSocket::FeedSocket(GameFeed& feed, FeedStatus& status, Clock& clock) : feed_(feed), status_(status), clock_(clock) {
     next_.setSingleShot(true);
     connect(&next_, &QTimer::timeout, this, &FeedSocket::handleWaiting);
     // Reading only queues: a slot of readyRead that lets the event loop turn would not be called for what arrives then.
@@ -34,34 +34,64 @@ bool FeedSocket::hasRoom() const {
 }
 
 void FeedSocket::read() {
+    takeArrived();
+    tellWaiting();
+    if (!handling_ && (!waiting_.empty() || cardDueSince_) && !next_.isActive()) next_.start(0);
+}
+
+void FeedSocket::takeArrived() {
     constexpr qint64 kLargestDatagram = 65536;
     while (hasRoom() && socket_.hasPendingDatagrams()) {
         QByteArray bytes(qBound(qint64{0}, socket_.pendingDatagramSize(), kLargestDatagram), Qt::Uninitialized);
-        const qint64 size = socket_.readDatagram(bytes.data(), bytes.size());
+        QHostAddress sender;
+        const qint64 size = socket_.readDatagram(bytes.data(), bytes.size(), &sender);
         if (size < 0) break;
-        waiting_.push_back(QString::fromLatin1(bytes.constData(), size));
-        waitingCharacters_ += waiting_.back().size();
-        status_.arrived();
+        waiting_.push_back({QString::fromLatin1(bytes.constData(), size), clock_.steadyMilliseconds()});
+        waitingCharacters_ += waiting_.back().text.size();
+        status_.arrived(sender);
     }
-    if (!handling_ && !waiting_.empty() && !next_.isActive()) next_.start(0);
 }
 
 void FeedSocket::handleWaiting() {
     if (handling_) return;
-    constexpr qint64 kSlice = 10;  // milliseconds, then the form has its turn
     {
         const QScopedValueRollback busy(handling_, true);
-        QElapsedTimer slice;
-        slice.start();
-        while (!waiting_.empty() && slice.elapsed() < kSlice) {
-            const QString datagram = std::move(waiting_.front());
-            waiting_.pop_front();
-            waitingCharacters_ -= datagram.size();
-            status_.handled(feed_.handle(datagram));
+        handleSlice();
+        tellWaiting();
+        const bool isNewest = waiting_.empty();
+        if (cardDueSince_ && (isNewest || clock_.steadyMilliseconds() - *cardDueSince_ > kLongestWithoutCard)) {
+            runTimeCard();
         }
     }
     // Also takes what was left to the system while there was no room.
     read();
+}
+
+void FeedSocket::handleSlice() {
+    constexpr qint64 kSlice = 10;  // milliseconds, then the form has its turn
+    QElapsedTimer slice;
+    slice.start();
+    while (!waiting_.empty() && slice.elapsed() < kSlice) {
+        const QString datagram = std::move(waiting_.front().text);
+        waiting_.pop_front();
+        waitingCharacters_ -= datagram.size();
+        const GameFeed::Outcome outcome = feed_.handle(datagram);
+        status_.handled(outcome);
+        if (outcome == GameFeed::Outcome::Clock && !cardDueSince_) cardDueSince_ = clock_.steadyMilliseconds();
+        // What has come meanwhile is newer.
+        if (waiting_.empty()) takeArrived();
+    }
+}
+
+void FeedSocket::runTimeCard() {
+    cardDueSince_.reset();
+    status_.cardBegins();
+    feed_.runTimeCard();
+    status_.cardEnds();
+}
+
+void FeedSocket::tellWaiting() {
+    status_.waits(waiting_.size(), waiting_.empty() ? 0 : waiting_.front().arrived);
 }
 
 }  // namespace zelvor

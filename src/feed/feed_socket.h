@@ -3,14 +3,15 @@
 #include <QTimer>
 #include <QUdpSocket>
 #include <deque>
+#include <optional>
 
 #include "feed/feed_status.h"
 #include "feed/game_feed.h"
 
 namespace zelvor {
 
-// wsT, the datagram socket of the game feed. Datagrams are handled one at a time in their order: what arrives while
-// one is being handled (its time card may let the event loop turn) waits its turn.
+// wsT, the datagram socket of the game feed. Datagrams are handled one at a time in their order; the time card is run
+// when the newest has been handled. What arrives while it runs (it may let the event loop turn) waits its turn.
 class FeedSocket : public QObject {
     Q_OBJECT
 
@@ -20,7 +21,10 @@ class FeedSocket : public QObject {
     static constexpr std::size_t kMostWaiting = 20'000;
     static constexpr qsizetype kMostWaitingCharacters = qsizetype{16} * 1024 * 1024;
 
-    FeedSocket(GameFeed& feed, FeedStatus& status);
+    // While messages come faster than they can be handled, the time card is run that often (milliseconds) all the same.
+    static constexpr qint64 kLongestWithoutCard = 500;
+
+    FeedSocket(GameFeed& feed, FeedStatus& status, Clock& clock);
 
     // Binds to the port on all interfaces, 0 for any free one. False when it cannot be bound; the status says why.
     bool bind(quint16 port = kPort);
@@ -29,17 +33,29 @@ class FeedSocket : public QObject {
     [[nodiscard]] std::size_t waiting() const { return waiting_.size(); }
 
  private:
+    // In steady milliseconds when it came.
+    struct Datagram {
+        QString text;
+        qint64 arrived = 0;
+    };
+
     void read();
+    void takeArrived();
     void handleWaiting();
+    void handleSlice();
+    void runTimeCard();
+    void tellWaiting();
     [[nodiscard]] bool hasRoom() const;
 
     GameFeed& feed_;
     FeedStatus& status_;
+    Clock& clock_;
     QUdpSocket socket_{this};
     QTimer next_{this};
-    std::deque<QString> waiting_;
+    std::deque<Datagram> waiting_;
     qsizetype waitingCharacters_ = 0;
     bool handling_ = false;
+    std::optional<qint64> cardDueSince_;  // steady milliseconds
 };
 
 }  // namespace zelvor

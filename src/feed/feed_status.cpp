@@ -1,5 +1,7 @@
 #include "feed/feed_status.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -8,6 +10,13 @@ namespace {
 
 QString timeOfDay(const QDateTime& when) {
     return when.toString(u"HH:mm:ss"_s);
+}
+
+// The socket hears both kinds of addresses: one of the older kind comes dressed as the newer.
+QString addressText(const QHostAddress& address) {
+    bool isIpv4 = false;
+    const quint32 ipv4 = address.toIPv4Address(&isIpv4);
+    return isIpv4 ? QHostAddress(ipv4).toString() : address.toString();
 }
 
 }  // namespace
@@ -39,31 +48,54 @@ void FeedStatus::notBound(const QString& reason) {
     showDetail();
 }
 
-void FeedStatus::arrived() {
+void FeedStatus::arrived(const QHostAddress& sender) {
     lastHeard_ = clock_.now();
     lastHeardSteady_ = clock_.steadyMilliseconds();
+    sender_ = addressText(sender);
     if (!timer_.isActive()) timer_.start();
     if (silent_) setSilent(false);
+}
+
+void FeedStatus::waits(std::size_t count, qint64 since) {
+    waiting_ = count;
+    waitingSince_ = since;
+    show();
+}
+
+void FeedStatus::cardBegins() {
+    cardSince_ = clock_.steadyMilliseconds();
+}
+
+void FeedStatus::cardEnds() {
+    cardSince_.reset();
+    show();
 }
 
 void FeedStatus::handled(GameFeed::Outcome outcome) {
     if (outcome == GameFeed::Outcome::Refused) {
         ++refused_;
+        lastRefused_ = clock_.steadyMilliseconds();
+        if (!refusedSince_) refusedSince_ = lastRefused_;
     } else {
         ++handled_;
         paused_ = outcome == GameFeed::Outcome::Pause;
+        refusedSince_.reset();
     }
     show();
 }
 
 void FeedStatus::check() {
-    if (!silent_ && lastHeard_.isValid() && clock_.steadyMilliseconds() - lastHeardSteady_ >= kSilence) setSilent(true);
+    if (!silent_ && lastHeard_.isValid() && isPast(lastHeardSteady_, kSilence)) setSilent(true);
+    show();
     showDetail();
+}
+
+bool FeedStatus::isPast(qint64 since, qint64 longest) const {
+    return clock_.steadyMilliseconds() - since >= longest;
 }
 
 void FeedStatus::setSilent(bool silent) {
     silent_ = silent;
-    time_.setForeColour(silent ? std::optional(colours::kRed) : std::nullopt);
     show();
     showDetail();
 }
@@ -74,16 +106,25 @@ FeedStatus::Status FeedStatus::status() const {
     if (!reason_.isEmpty()) return {u"not bound: "_s + reason_, Role::Bad};
     if (!lastHeard_.isValid()) return {u"bound, nothing heard"_s, Role::Waiting};
     if (silent_) return {u"silent since "_s + timeOfDay(lastHeard_), Role::Bad};
-    const QString refused = refused_ > 0 ? QString(u", "_s + QString::number(refused_) + u" refused"_s) : QString();
-    if (paused_) return {u"paused"_s + refused, Role::Waiting};
+    if (!isUnderstood()) return {u"not understood, %1 refused"_s.arg(refused_), Role::Bad};
+    QString counts;
+    const bool isLate = waiting_ > 0 && isPast(waitingSince_, kDelay);
+    if (isLate) counts += u", %1 waiting"_s.arg(waiting_);
+    if (refused_ > 0) counts += u", %1 refused"_s.arg(refused_);
+    if (cardSince_ && isPast(*cardSince_, kDelay)) return {u"held by a card"_s + counts, Role::Waiting};
+    if (paused_) return {u"paused"_s + counts, Role::Waiting};
     const QString clock = state_.variables.text(u"@FULLTIMER");
-    return {(clock.isEmpty() ? u"without a clock"_s : clock) + refused, Role::Good};
+    return {(clock.isEmpty() ? u"without a clock"_s : clock) + counts, isLate ? Role::Waiting : Role::Good};
 }
 
 void FeedStatus::show() {
     const auto [words, role] = status();
     status_.setText(u"feed "_s + words);
     status_.setRole(role);
+    const bool stands = silent_ || !isUnderstood();
+    // Only then: cards may colour it, too.
+    if (std::exchange(timeMarked_, stands) == stands) return;
+    time_.setForeColour(stands ? std::optional(colours::kRed) : std::nullopt);
 }
 
 void FeedStatus::showDetail() {
@@ -91,10 +132,11 @@ void FeedStatus::showDetail() {
         detail_.setText(u"Not bound"_s);
         return;
     }
-    const QString last =
-        lastHeard_.isValid() ? QString(u"last datagram "_s + timeOfDay(lastHeard_)) : u"nothing heard"_s;
-    detail_.setText(binding_ + u", "_s + last + u", "_s + QString::number(handled_) + u" handled, "_s +
-                    QString::number(refused_) + u" refused"_s);
+    const QString last = lastHeard_.isValid()
+                             ? QString(u"last datagram "_s + timeOfDay(lastHeard_) + u" from "_s + sender_)
+                             : u"nothing heard"_s;
+    detail_.setText(binding_ + u", "_s + QString::number(handled_) + u" handled, "_s + QString::number(refused_) +
+                    u" refused\n"_s + last);
 }
 
 }  // namespace zelvor

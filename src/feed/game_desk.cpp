@@ -5,7 +5,7 @@ namespace zelvor {
 GameDesk::GameDesk(CardEngine& engine)
     : feed(engine),
       feedStatus(engine.state(), engine.form(), engine.ports().clock),
-      feedSocket(feed, feedStatus),
+      feedSocket(feed, feedStatus, engine.ports().clock),
       localClock(engine),
       timedCards(engine),
       scoreboard(engine.form(), engine.state().variables, engine.program().trap),

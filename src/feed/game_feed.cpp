@@ -1,7 +1,9 @@
 #include "feed/game_feed.h"
 
 #include "base/number.h"
+#include "base/run_time_error.h"
 #include "engine/arguments.h"
+#include "form/follow.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +18,20 @@ QString clockText(qint32 digits) {
     return digits < 0 ? u'-' + text : text;
 }
 
+// An empty box means 0.
+qint32 thresholdOf(const QString& text) {
+    return wholeNumber32(QString(u'0' + text));
+}
+
+bool isThreshold(const QString& text) {
+    try {
+        thresholdOf(text);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 GameFeed::GameFeed(CardEngine& engine)
@@ -24,7 +40,10 @@ GameFeed::GameFeed(CardEngine& engine)
       extraAfter_(engine.form().at(controls.chkEAFTER)),
       threshold_(engine.form().at(controls.txtEAFTER)),
       time_(engine.form().at(controls.lblTime)),
-      extraTime_(engine.form().at(controls.lblETime)) {}
+      extraTime_(engine.form().at(controls.lblETime)) {
+    follow(threshold_, {Control::Property::Text}, this,
+           [this] { threshold_.setState(isThreshold(threshold_.text()) ? QString() : u"not a number"_s); });
+}
 
 GameFeed::Outcome GameFeed::handle(const QString& datagram) {
     if (datagram == u"pause") return Outcome::Pause;
@@ -44,7 +63,7 @@ void GameFeed::apply(const QString& datagram) {
         variables.SetVar(u"@SHOWEXTRATIME", 0);
         variables.SetVar(u"@EXTRATIMEONAIR", 0);
     } else {
-        const qint32 threshold = wholeNumber32(QString(u'0' + threshold_.text()));
+        const qint32 threshold = thresholdOf(threshold_.text());
         if (game == threshold) {
             variables.SetVar(u"@SHOWEXTRATIME", 1);
         } else if (game < threshold) {
@@ -65,6 +84,9 @@ void GameFeed::apply(const QString& datagram) {
     variables.SetVar(u"@TIMERNUMBER", game);
     time_.setText(gameText);
     extraTime_.setText(extraText);
+}
+
+void GameFeed::runTimeCard() {
     const CardSwitches& switches = engine_.state().switches;
     if (!switches.IsTimeCard) return;
     // By value: the card may arm another one.

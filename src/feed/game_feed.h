@@ -5,7 +5,8 @@
 namespace zelvor {
 
 // What one message of the venue's timing system does: it sets the variables of the game time, splits off extra time
-// past the operator's threshold, shows both, and runs the armed time card.
+// past the operator's threshold, and shows both. The armed time card is run by whoever knows which message is the
+// newest.
 class GameFeed : public QuietRules {
     Q_OBJECT
 
@@ -18,6 +19,8 @@ class GameFeed : public QuietRules {
     // "pause" changes nothing. A message whose clock is missing or no number is refused, and so is every message
     // while the threshold in txtEAFTER is no number.
     Outcome handle(const QString& datagram);
+    // Runs the armed time card, if there is one.
+    void runTimeCard();
 
  private:
     void apply(const QString& datagram);

@@ -1,6 +1,7 @@
 #include "feed/local_clock.h"
 
 #include "base/run_time_error.h"
+#include "form/follow.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,11 +11,16 @@ namespace {
 
 const QString kTimeOfDay = u"HH:mm:ss"_s;
 
-// "20:30:00", "8:05:00" or "20:30". Throws 13 for anything else.
-QTime timeOfDay(const QString& text) {
+// "20:30:00", "8:05:00" or "20:30"; invalid for anything else.
+QTime readTimeOfDay(const QString& text) {
     const QString trimmed = text.trimmed();
-    QTime time = QTime::fromString(trimmed, u"H:m:s"_s);
-    if (!time.isValid()) time = QTime::fromString(trimmed, u"H:m"_s);
+    const QTime time = QTime::fromString(trimmed, u"H:m:s"_s);
+    return time.isValid() ? time : QTime::fromString(trimmed, u"H:m"_s);
+}
+
+// The same; throws 13 for anything else.
+QTime timeOfDay(const QString& text) {
+    const QTime time = readTimeOfDay(text);
     if (!time.isValid()) throw RunTimeError(ErrorNumber::TypeMismatch, text);
     return time;
 }
@@ -26,6 +32,11 @@ int secondsOfDay(QTime time) {
 }  // namespace
 
 LocalClock::LocalClock(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine), form_(engine.form()) {
+    const Control& target = form_.at(controls.txtCOUNTDOWNTIME);
+    follow(target, {Control::Property::Text}, this, [this, &target] {
+        const bool isTime = readTimeOfDay(target.text()).isValid();
+        form_.at(controls.txtCOUNTDOWNTIME).setState(isTime ? QString() : u"not a time"_s);
+    });
     timer_.setObjectName(u"tmrCLOCKS"_s);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &LocalClock::aim);

@@ -5,7 +5,10 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 StopwatchSender::StopwatchSender(FormModel& form, Graphics& graphics, ErrorTrap& trap)
-    : QuietRules(trap), button_(form.at(controls.Command1)), graphics_(graphics) {
+    : QuietRules(trap),
+      button_(form.at(controls.Command1)),
+      mark_(form.at(controls.lblTESTSENDER)),
+      graphics_(graphics) {
     timer_.setObjectName(u"tmrTEST"_s);
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(kInterval);
@@ -13,7 +16,9 @@ StopwatchSender::StopwatchSender(FormModel& form, Graphics& graphics, ErrorTrap&
 }
 
 void StopwatchSender::Command1() {
-    if (button_.text() == u"START") {
+    const bool starts = button_.text() == u"START";
+    mark_.setVisible(starts);
+    if (starts) {
         button_.setText(u"STOP"_s);
         timer_.start();
     } else {

@@ -22,6 +22,7 @@ class StopwatchSender : public QuietRules {
 
  private:
     Control& button_;
+    Control& mark_;
     Graphics& graphics_;
     QTimer timer_{this};
     int fraction_ = 0;

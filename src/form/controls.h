@@ -26,6 +26,10 @@ struct ControlTable {
         Kind::CheckBox, u"chkONAIRLOCK", u"Lock: cards no longer change the on-air line", {.text = u"Lock"}};
     ControlRow lblPREVIEW{
         Kind::Label, u"lblPREVIEW", u"This is the preview instance", {.text = u"PREVIEW", .visible = false}};
+    ControlRow lblTESTSENDER{Kind::Label,
+                             u"lblTESTSENDER",
+                             u"The test sender loads the main graphics server: STOP is on the Clocks tab",
+                             {.text = u"TEST SENDER ON", .visible = false}};
     ControlRow lblFKEY{Kind::Label, u"lblFKEY", u"Function key %1", {.text = u"F1|F2|F3|F4|F5"}, {0, 4}};
     ControlRow lblFKEYTITLE{Kind::Label, u"lblFKEYTITLE", u"What function key %1 fires", {}, {0, 4}};
     ControlRow cmdTAB{

@@ -24,6 +24,10 @@ CasparLink::CasparLink(QObject* parent) : QObject(parent) {
     connect(&socket_, &QTcpSocket::readyRead, this, &CasparLink::readReplies);
 }
 
+quint16 CasparLink::portNumber(const QString& text) {
+    return text.trimmed().toUShort();
+}
+
 CasparLink::~CasparLink() {
     dropConnection();
 }
@@ -31,9 +35,8 @@ CasparLink::~CasparLink() {
 void CasparLink::connectTo(const QString& host, const QString& port) {
     dropConnection();
     decoder_.reset();
-    bool isNumber = false;
-    const quint16 number = port.trimmed().toUShort(&isNumber);
-    if (!isNumber || number == 0) {
+    const quint16 number = portNumber(port);
+    if (number == 0) {
         enter(LinkState::Error, u"port \"%1\" is not a number from 1 to 65535"_s.arg(port));
     } else if (host.trimmed().isEmpty()) {
         enter(LinkState::Error, u"no address"_s);

@@ -40,6 +40,9 @@ class CasparLink : public QObject {
     CasparLink& operator=(const CasparLink&) = delete;
     ~CasparLink() override;
 
+    // 0 for a text that is no port.
+    static quint16 portNumber(const QString& text);
+
     // Starts connecting, after closing what was there. A host or port of no use (any text is taken) leads to state 9.
     void connectTo(const QString& host, const QString& port);
     // Closes at once: state 0, what is unsent is dropped.

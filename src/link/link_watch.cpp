@@ -51,6 +51,10 @@ LinkWatch::LinkWatch(LinkId id, GraphicsLinks& links, FormModel& form, Clock& cl
     connect(&links_, &GraphicsLinks::lineLost, this, [this](LinkId lost) {
         if (lost == id_ && isUsed()) countLostLine();
     });
+    follow(port_, {Control::Property::Text}, this, [this] {
+        const bool isPort = CasparLink::portNumber(port_.text()) != 0;
+        port_.setState(isPort ? QString() : u"not a number from 1 to 65535"_s);
+    });
     onChange(reconnect_, {Control::Property::Checked}, this, [this] { updateRetrying(); });
     showStatus();
 }

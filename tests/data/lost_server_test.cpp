@@ -2,8 +2,11 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+#include "data/connection_status.h"
 #include "mariadb_server.h"
 #include "show_fixture.h"
+#include "support/fake_ports.h"
+#include "support/wait.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,16 +18,23 @@ class LostServer : public testing::Test {
     void SetUp() override {
         show.writeConnections("1==test==" + server.connectionString());
         show.make();
+        status = std::make_unique<ConnectionStatus>(*show.connections, form, clock);
         show.connections->execute(u"create table t (a integer)"_s);
         ASSERT_EQ(queries(), 2);
+        EXPECT_EQ(words(), u"database 1 connected"_s);
     }
     // How many of the two connections answer.
     int queries() {
         return show.connections->RUN_QUERY({}, u"select 1"_s) + show.connections->RUN_QUERY2({}, u"select 1"_s);
     }
 
+    QString words() const { return form.at(controls.lblDATABASE).text(); }
+
     MariaDbServer server;
     Show show;
+    FormModel form;
+    FakeClock clock;
+    std::unique_ptr<ConnectionStatus> status;
 };
 
 TEST_F(LostServer, isFoundAgainAsSoonAsItIsBack) {
@@ -32,11 +42,16 @@ TEST_F(LostServer, isFoundAgainAsSoonAsItIsBack) {
     EXPECT_EQ(show.connections->RUN_QUERY({}, u"insert into t values (1)"_s), 0);
     EXPECT_EQ(show.operatorDesk.shown.size(), 1);
     EXPECT_EQ(show.connections->connectionState(), Connections::State::Failed);
+    EXPECT_EQ(words(), u"database 1 lost at 23:59:58"_s);
+    EXPECT_EQ(form.at(controls.lblDATABASE).role(), Control::Role::Bad);
     EXPECT_EQ(queries(), 0);
     EXPECT_EQ(show.operatorDesk.shown.size(), 3);
 
     server.start();
+    EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 1);
+    EXPECT_EQ(words(), u"database 1 connected, Greek lost at 23:59:58"_s);
     EXPECT_EQ(queries(), 2);
+    EXPECT_EQ(words(), u"database 1 connected"_s);
     EXPECT_EQ(show.connections->connectionState(), Connections::State::Open);
     show.connections->RUN_QUERY({}, u"insert into t values (2)"_s);
     show.connections->RUN_QUERY({}, u"select a from t"_s);
@@ -60,7 +75,9 @@ TEST_F(LostServer, keepsNobodyWaitingWhenItSaysNothing) {
     EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), 0);
     EXPECT_LT(waited.elapsed(), 2000);
     EXPECT_TRUE(show.operatorDesk.shown.value(1).contains(u"has not answered since"_s));
+    EXPECT_EQ(words(), u"database 1 lost at 23:59:58, trying"_s);
     server.freeze(false);
+    EXPECT_TRUE(waitUntil([&] { return words() == u"database 1 connected"_s; })) << "without a statement";
     ASSERT_EQ(show.operatorDesk.shown.size(), 2);
     EXPECT_TRUE(show.operatorDesk.shown[0].contains(u"within 5 seconds"_s)) << show.operatorDesk.shown[0].toStdString();
     // Its own connection comes back as soon as the server does.

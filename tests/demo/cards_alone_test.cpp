@@ -63,6 +63,26 @@ TEST_P(CardsAlone, RunFromTheTerminal) {
     }
 }
 
+TEST_P(CardsAlone, EndWithTheStatusOfWhatWentWrong) {
+    const struct {
+        QByteArray lines;
+        RunStatus status;
+    } cases[] = {
+        {"CSPSEND~CLEAR 1\n", RunStatus::Ran},
+        {"CSPSEND~NONSENSE\nCSPSEND~CLEAR 1\n", RunStatus::NotReached},
+        {"SQL~select nothing\n", RunStatus::Failed},
+        {"CSPSEND~NONSENSE\nSQL~select nothing\n", RunStatus::Failed},
+    };
+    for (const auto& each : cases) {
+        QFile card(folder_.file(pack_, u"tried.csp"_s));
+        ASSERT_TRUE(card.open(QIODevice::WriteOnly) && card.write(each.lines) > 0);
+        card.close();
+        EXPECT_EQ(each.status, fire(u"tried.csp"_s, {u"--main"_s, server_.address()})) << each.lines.data();
+        EXPECT_EQ(each.lines.contains("NONSENSE"), errors_.contains(u"zelvor run: main: 400 ERROR"_s))
+            << qPrintable(errors_);
+    }
+}
+
 TEST_P(CardsAlone, MissWhatTheCheckerSaysIsMissing) {
     // Pick lists 5 and 6, an include, and a card of the table.
     QFile asks(folder_.file(pack_, u"ASKFIELDS.TXT"_s));

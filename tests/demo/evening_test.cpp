@@ -68,6 +68,11 @@ class Evening : public testing::TestWithParam<const char*> {
         }
         for (int tick = 0; tick < 10; ++tick) game_.timedCards.tick();
     }
+    // A message of the game clock.
+    void hear(const QString& datagram) {
+        game_.feed.handle(datagram);
+        game_.feed.runTimeCard();
+    }
     QStringList onButtons() {
         QStringList scripts;
         for (int row = 1; row <= CardTable::kCards; ++row) {
@@ -185,11 +190,11 @@ TEST_P(Evening, ProposalsAreOfferedTakenAndScanned) {
 TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
     state_.variables.SetVar(u"@GAMEPERIOD", 4);
     fire(u"scorebug.csp"_s);
-    game_.feed.handle(u"t2:41t"_s);
+    hear(u"t2:41t"_s);
     EXPECT_TRUE(lastLine().startsWith(u"mCG 1-20 UPDATE"_s) && lastLine().contains(u"2:41"_s))
         << qPrintable(lastLine());
     const qsizetype sentOnce = graphics_.sent.size();
-    game_.feed.handle(u"t2:41t"_s);
+    hear(u"t2:41t"_s);
     for (int tick = 0; tick < 20; ++tick) game_.timedCards.tick();
     EXPECT_EQ(sentOnce, graphics_.sent.size()) << "nothing has changed";
     form_.at(controls.lblAutoScoreA).setText(u"81"_s);
@@ -207,8 +212,41 @@ TEST_P(Evening, ClockScoresAndLanguageFollowWithoutATouch) {
         graphics_.sent.clear();
     }
     const qsizetype sent = graphics_.sent.size();
-    game_.feed.handle(u"t2:40t"_s);
+    hear(u"t2:40t"_s);
     EXPECT_EQ(sent, graphics_.sent.size());
+}
+
+TEST_P(Evening, AServerThatHasForgottenIsToldAnew) {
+    const QString onAir = u"lblONAIR"_s;
+    int connects = 0;
+    const auto connect = [&] {
+        graphics_.stage.clearChannel(1);
+        state_.variables.SetVar(u"@MAINCONNECTS", ++connects);
+        graphics_.sent.clear();
+    };
+    // Fired before there was a server, with a server, and after another has taken its place.
+    for (const bool first : {true, false, false}) {
+        for (const QString& card : {u"scorebug.csp"_s, u"gameclock.csp"_s, u"crawl.csp"_s, u"player.csp"_s}) fire(card);
+        if (first) graphics_.refused.clear();
+        connect();
+        hear(u"t1:%1t"_s.arg(10 + connects));
+        EXPECT_EQ(QStringList(), graphics_.sent) << "nothing is there to be brought up to date";
+        for (const QString& card : {u"scorebug.csp"_s, u"gameclock.csp"_s, u"crawl.csp"_s, u"player.csp"_s}) {
+            fire(card);
+            EXPECT_TRUE(lastLine().contains(u" ADD 1 "_s)) << qPrintable(card + u": "_s + lastLine());
+        }
+        fire(u"crawl.csp"_s);
+    }
+    connect();
+    fire(u"graphic_off.csp"_s);
+    EXPECT_EQ("", label(onAir).toStdString()) << "nothing is on air any longer";
+    fire(u"scorebug.csp"_s);
+    fire(u"player.csp"_s);
+    fire(u"lowerthird_off.csp"_s);
+    EXPECT_EQ("ON AIR", label(onAir).toStdString());
+    fire(state_.cards.functionKey(5).script);
+    EXPECT_EQ("", QString(label(onAir) + label(u"lblONAIRCARD"_s)).toStdString());
+    EXPECT_EQ(colours::kGreen, form_.at(controls.lblONAIRLAMP).backColour());
 }
 
 TEST_P(Evening, LiveTablesTakeThePlaceOfTheDemosFigures) {

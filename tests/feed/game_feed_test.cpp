@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/follow.h"
 #include "studio.h"
 
 using namespace Qt::StringLiterals;
@@ -81,7 +82,8 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     studio.clock.set(3'600'000);
     studio.desk.feedStatus.check();
     EXPECT_EQ(words.text(), u"feed 2:41, 3 refused"_s) << "setting the clock is no silence";
-    EXPECT_EQ(studio.at("lblFEEDDETAIL").text().section(u", "_s, 1), u"last datagram 20:31:07, 3 handled, 3 refused"_s);
+    EXPECT_EQ(studio.at("lblFEEDDETAIL").text().section(u", "_s, 1),
+              u"3 handled, 3 refused\nlast datagram 20:31:07 from 127.0.0.1"_s);
     studio.clock.time = studio.clock.time.addMSecs(1);
     studio.desk.feedStatus.check();
     EXPECT_EQ(words.text(), u"feed silent since 20:31:07"_s);
@@ -92,31 +94,100 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     EXPECT_EQ(words.text(), u"feed paused, 3 refused"_s);
 }
 
-TEST(FeedSocket, RunsTheTimeCardForEachTimeAndNeverInsideAnother) {
+TEST(FeedSocket, RunsTheTimeCardForTheNewestAndNeverInsideAnother) {
     Studio studio;
     studio.writeCard("clock.csp", "CG 1-1 PLAY {@TIMERNUMBER}");
     studio.state.switches.AutoTimeCard = u"clock.qrd"_s;
     studio.state.switches.IsTimeCard = true;
     ASSERT_TRUE(studio.desk.feedSocket.bind(0));
+    const Control& words = studio.at("lblFEED");
     constexpr int kMore = 1000;
+    int times = 0;
+    zelvor::onChange(studio.at("lblTime"), {Control::Property::Text}, &studio.desk.feed, [&times] { ++times; });
+    QStringList said;
     int depth = 0;
     int deepest = 0;
-    // The first card's pause lasts until a thousand more datagrams are there.
+    // The first card's pause lasts until a thousand more datagrams are there, and then for a second.
     studio.graphics.whileSending = [&] {
         deepest = std::max(deepest, ++depth);
         if (studio.graphics.sent.size() == 1) {
-            QList<QByteArray> more{"pause", "nonsense"};
+            QList<QByteArray> more;
             for (int i = 1; i <= kMore; ++i) more += 't' + QByteArray::number(i) + 't';
-            studio.sendToFeed(more);
+            studio.sendToFeed(more + QList<QByteArray>{"pause", "nonsense"});
             EXPECT_TRUE(waitUntil([&] { return studio.desk.feedSocket.waiting() == kMore + 2; }));
+            for (const int wait : {999, 1}) {
+                studio.clock.time = studio.clock.time.addMSecs(wait);
+                studio.desk.feedStatus.check();
+                said += words.text();
+            }
         }
-        QCoreApplication::processEvents();
         --depth;
     };
     studio.sendToFeed({"t0t"});
-    EXPECT_TRUE(waitUntil([&] { return studio.taken() == kMore + 3; }));
+    EXPECT_TRUE(waitUntil([&] { return studio.graphics.sent.size() == 2; }));
+    EXPECT_EQ(said, (QStringList{u"feed 0:00"_s, u"feed held by a card, 1002 waiting"_s}));
     EXPECT_EQ(deepest, 1);
-    QStringList expected;
-    for (int i = 0; i <= kMore; ++i) expected += u"mCG 1-1 PLAY "_s + QString::number(i);
-    EXPECT_EQ(studio.graphics.sent, expected);
+    EXPECT_EQ(times, kMore + 1) << "the variables follow every message";
+    EXPECT_EQ(studio.graphics.sent, (QStringList{u"mCG 1-1 PLAY 0"_s, u"mCG 1-1 PLAY 1000"_s}));
+    EXPECT_EQ(words.text(), u"feed paused, 1 refused"_s);
+}
+
+TEST(FeedStatus, SaysWhatKeepsTheClockFromFollowing) {
+    Studio studio;
+    FeedStatus& status = studio.desk.feedStatus;
+    const Control& words = studio.at("lblFEED");
+    status.bound(7699);
+    studio.state.variables.SetVar(u"@FULLTIMER", u"7:06"_s);
+    const auto hear = [&](GameFeed::Outcome outcome) {
+        status.arrived(QHostAddress(u"::ffff:10.0.0.5"_s));
+        status.handled(outcome);
+    };
+    const auto wait = [&](int milliseconds) { studio.clock.time = studio.clock.time.addMSecs(milliseconds); };
+    hear(kClock);
+    status.waits(174, studio.clock.steadyMilliseconds());
+    wait(999);
+    status.check();
+    EXPECT_EQ(words.text(), u"feed 7:06"_s);
+    EXPECT_TRUE(studio.at("lblFEEDDETAIL").text().endsWith(u" from 10.0.0.5"_s));
+    wait(1);
+    status.check();
+    EXPECT_EQ(words.text(), u"feed 7:06, 174 waiting"_s);
+    EXPECT_EQ(words.role(), Control::Role::Waiting);
+    status.waits(0, 0);
+    EXPECT_EQ(words.role(), Control::Role::Good);
+    // Refused messages alone, for less than three seconds and for three.
+    hear(kRefused);
+    wait(2999);
+    hear(kRefused);
+    EXPECT_EQ(words.text(), u"feed 7:06, 2 refused"_s);
+    wait(1);
+    hear(kRefused);
+    EXPECT_EQ(words.text(), u"feed not understood, 3 refused"_s);
+    EXPECT_EQ(words.role(), Control::Role::Bad);
+    EXPECT_EQ(studio.at("lblTime").foreColour(), colours::kRed);
+    hear(kPause);
+    EXPECT_EQ(words.text(), u"feed paused, 3 refused"_s);
+    EXPECT_EQ(studio.at("lblTime").foreColour(), std::nullopt);
+}
+
+TEST(FeedBoxes, AreMarkedWhileTheirTextIsOfNoUse) {
+    Studio studio;
+    const struct {
+        const char* box;
+        QString text;
+        bool right;
+    } cases[] = {
+        {"txtEAFTER", u""_s, true},
+        {"txtEAFTER", u"4500"_s, true},
+        {"txtEAFTER", u"45:00"_s, false},
+        {"txtEAFTER", u"99999999999"_s, false},
+        {"txtCOUNTDOWNTIME", u"8:05"_s, true},
+        {"txtCOUNTDOWNTIME", u"20:30:00"_s, true},
+        {"txtCOUNTDOWNTIME", u"24:00:00"_s, false},
+        {"txtCOUNTDOWNTIME", u""_s, false},
+    };
+    for (const auto& each : cases) {
+        studio.at(each.box).setText(each.text);
+        EXPECT_EQ(studio.at(each.box).state().isEmpty(), each.right) << each.box << each.text.toStdString();
+    }
 }

@@ -31,7 +31,6 @@ CardsApp::CardsApp(const Options& options)
         if (asker.isAttended()) window_.activateWindow();
     });
     answerDesk();
-    form_.at(controls.lblDATABASE).setText(u"database none"_s);
     connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
     connect(&window_, &MainWindow::clearKey, &cards_, &CardConsole::pressClear);
     cards_.presses().setWaited([this] { return inputTimes_.waited(); });
@@ -120,7 +119,7 @@ StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
     steps.bindFeed = [this] { desk_.feedSocket.bind(options_.feedPort); };
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(options_.pack); };
-    steps.CONNECTDATABASE = [this] { connectDatabase(); };
+    steps.CONNECTDATABASE = [this] { database_.CONNECTDATABASE(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     steps.LOAD_ASK = [this] { LOAD_ASK(state_, program_); };
     steps.LoadSelections = [this] { settings_.LoadSelections(); };
@@ -140,23 +139,6 @@ void CardsApp::tell(const ErrorPlace& place, const QString& message) {
     if (telling_) return;
     const QScopedValueRollback telling(telling_, true);
     boxes_.message(place.asker, errorTitle(place), message, Operator::Severity::Critical);
-}
-
-void CardsApp::connectDatabase() {
-    database_.CONNECTDATABASE();
-    const QString number = u"database %1 "_s.arg(database_.connectionNumber());
-    QString words = u"database none"_s;
-    auto role = Control::Role::Off;
-    if (database_.connectionState() == Connections::State::Open) {
-        words = number + u"connected"_s;
-        role = Control::Role::Good;
-    }
-    if (database_.connectionState() == Connections::State::Failed) {
-        words = number + u"failed"_s;
-        role = Control::Role::Bad;
-    }
-    form_.at(controls.lblDATABASE).setText(words);
-    form_.at(controls.lblDATABASE).setRole(role);
 }
 
 bool CardsApp::mayClose() {

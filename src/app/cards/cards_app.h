@@ -11,7 +11,7 @@
 #include "console_rules/card_console.h"
 #include "console_rules/card_troubles.h"
 #include "console_rules/start_up.h"
-#include "data/connections.h"
+#include "data/connection_status.h"
 #include "engine/card_engine.h"
 #include "engine/packs.h"
 #include "engine/show_state.h"
@@ -64,7 +64,6 @@ class CardsApp : public QObject {
     void tellTroubles();
     void tellTroubles(LinkId id);
     void tell(const ErrorPlace& place, const QString& message);
-    void connectDatabase();
     bool mayClose();
     void release();
 
@@ -77,6 +76,7 @@ class CardsApp : public QObject {
     InputTimes inputTimes_;
     GraphicsLinks links_{form_, clock_, program_};
     Connections database_;
+    ConnectionStatus databaseStatus_{database_, form_, clock_};
     AskFormDialog ask_{state_, database_, program_};
     SystemDesktop desktop_{program_.folder};
     CardEngine engine_{state_, form_, program_, {boxes_, ask_, links_, links_, database_, desktop_, clock_}};

@@ -56,22 +56,22 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     words->setHorizontalSpacing(10);
     words->setVerticalSpacing(0);
     words->setColumnStretch(0, 1);
-    const auto addWords = [&](const ControlRow& control, int line, int column) {
+    const auto addWords = [&](const ControlRow& control, int line, int column, bool keepsEnd) {
         TextLabel* label = mirrors.label(
-            control, -1,
-            {12, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 2, /*keepsEnd=*/true});
-        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+            control, -1, {12, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 2, keepsEnd});
         words->addWidget(label, line, column);
         return label;
     };
-    TextLabel* note = addWords(controls.lblNOTE, 0, 0);
-    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    TextLabel* silenced = addWords(controls.lblSILENCED, 1, 0);
-    silenced->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    addWords(controls.lblLINKMAIN, 0, 1);
-    addWords(controls.lblLINKREMOTE, 1, 1);
-    addWords(controls.lblFEED, 0, 2);
-    addWords(controls.lblDATABASE, 1, 2);
+    for (TextLabel* yields : {addWords(controls.lblNOTE, 0, 0, false), addWords(controls.lblSILENCED, 1, 0, false)})
+        yields->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // A long name of a host gives way, never a state.
+    for (TextLabel* link : {addWords(controls.lblLINKMAIN, 0, 1, true), addWords(controls.lblLINKREMOTE, 1, 1, true)})
+        link->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    for (TextLabel* kept : {addWords(controls.lblFEED, 0, 2, false), addWords(controls.lblDATABASE, 1, 2, false)}) {
+        constexpr int kWidest = 320;  // pixels
+        kept->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+        kept->setMaximumWidth(kWidest);
+    }
     row->addLayout(words, 1);
 }
 

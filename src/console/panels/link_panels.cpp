@@ -18,7 +18,7 @@ void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkCo
     grid->addWidget(PanelFrame::word(u"Port"_s), row, 1);
     grid->addWidget(mirrors.textBox(link.address), row + 1, 0);
     QLineEdit* port = mirrors.textBox(link.port);
-    port->setFixedWidth(64);
+    port->setFixedWidth(78);
     grid->addWidget(port, row + 1, 1);
     ConsoleButton* connectButton = mirrors.button(link.connect, -1, {14, true});
     connectButton->setFixedWidth(110);

@@ -87,7 +87,9 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     }
     row->addLayout(modes);
     TextLabel::Look mark{13, true, Qt::AlignCenter, Role::Wait, Role::Panel};
-    row->addWidget(mirrors.label(controls.lblPREVIEW, -1, mark));
+    for (const ControlRow* shown : {&controls.lblPREVIEW, &controls.lblTESTSENDER}) {
+        row->addWidget(mirrors.label(*shown, -1, mark));
+    }
 
     line_ = new AirLine(form_.at(controls.lblONAIR));
     auto* words = new QHBoxLayout(line_);

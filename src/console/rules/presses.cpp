@@ -1,6 +1,7 @@
 #include "console_rules/presses.h"
 
 #include <QScopedValueRollback>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -9,14 +10,24 @@ namespace zelvor {
 void Presses::press(const QString& name, std::function<void()> deed) {
     const qint64 waited = waited_ ? waited_() : 0;
     if (waited > kLongestWait) {
-        Q_EMIT late(name, QString::number(static_cast<double>(waited) / 1000, 'f', 1));
+        tellLate(name, waited);
         return;
     }
-    if (turning_) {
-        waiting_.push_back(std::move(deed));
+    if (!isHeldUp()) heldUpBy_ = engine_.sendingByItself();
+    if (!turning_ && !isHeldUp()) {
+        carryOut(deed);
         return;
     }
-    carryOut(deed);
+    waiting_.push_back({name, std::move(deed), engine_.ports().clock.steadyMilliseconds() - waited});
+    if (isHeldUp()) QTimer::singleShot(kLookInterval, this, &Presses::carryOutWaiting);
+}
+
+bool Presses::isHeldUp() const {
+    return engine_.isRunning(heldUpBy_);
+}
+
+void Presses::tellLate(const QString& name, qint64 waited) {
+    Q_EMIT late(name, QString::number(static_cast<double>(waited) / 1000, 'f', 1));
 }
 
 void Presses::clear(const std::function<void()>& deed) {
@@ -44,9 +55,18 @@ void Presses::turn() {
 
 void Presses::carryOutWaiting() {
     while (!turning_ && !waiting_.empty()) {
-        const std::function<void()> deed = std::move(waiting_.front());
+        if (isHeldUp()) {
+            QTimer::singleShot(kLookInterval, this, &Presses::carryOutWaiting);
+            return;
+        }
+        const Waiting press = std::move(waiting_.front());
         waiting_.pop_front();
-        carryOut(deed);
+        const qint64 waited = engine_.ports().clock.steadyMilliseconds() - press.since;
+        if (waited > kLongestWait) {
+            tellLate(press.name, waited);
+        } else {
+            carryOut(press.deed);
+        }
     }
 }
 

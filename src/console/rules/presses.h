@@ -10,12 +10,13 @@ namespace zelvor {
 
 // The operator's presses, carried out in the order in which they were made. Timers and sockets have a turn before and
 // after each; a press that arrives in such a turn waits for its own. While a card waits (DELAY, the pause before
-// PLAY, a question) the next press is carried out at once, inside.
+// PLAY, a question) the next press is carried out at once, inside; in the pause before PLAY of a card that runs by
+// itself it waits until that card has ended.
 class Presses : public QObject {
     Q_OBJECT
 
  public:
-    // A press that waited longer (milliseconds) is told and not carried out: the console could not even paint.
+    // A press that waited longer (milliseconds) is told and not carried out: by then it may be wrong.
     static constexpr qint64 kLongestWait = 1500;
 
     // Milliseconds that the press being delivered has waited until now.
@@ -36,13 +37,24 @@ class Presses : public QObject {
     void late(const QString& name, const QString& seconds);
 
  private:
+    struct Waiting {
+        QString name;
+        std::function<void()> deed;
+        qint64 since = 0;  // steady milliseconds
+    };
+
+    static constexpr int kLookInterval = 5;  // milliseconds, at a card that holds presses up
+
+    [[nodiscard]] bool isHeldUp() const;
+    void tellLate(const QString& name, qint64 waited);
     void carryOut(const std::function<void()>& deed);
     void turn();
     void carryOutWaiting();
 
     CardEngine& engine_;
     Waited waited_;
-    std::deque<std::function<void()>> waiting_;
+    std::deque<Waiting> waiting_;
+    qint64 heldUpBy_ = 0;  // the number of the run whose end is waited for
     bool turning_ = false;
 };
 
