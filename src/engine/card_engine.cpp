@@ -69,10 +69,10 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
     return ran ? outcome : Outcome::Failed;
 }
 
-void CardEngine::sendLine(LinkId link, const QString& line) {
+void CardEngine::sendLine(LinkId link, const QString& line, const Asker& asker) {
     const std::size_t run = running_.size() - 1;
     running_[run].sends = true;
-    ports_.graphics.sendLine(link, line, *running_[run].asker);
+    ports_.graphics.sendLine(link, line, asker);
     running_[run].sends = false;
 }
 

@@ -32,7 +32,7 @@ class CardEngine {
     Outcome SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates, const Asker& asker);
 
     // Puts a line of the newest run on a link; to that run belongs the pause before PLAY.
-    void sendLine(LinkId link, const QString& line);
+    void sendLine(LinkId link, const QString& line, const Asker& asker);
     // The number of the newest run while it sends a line and nobody at the desk has asked for it; 0 otherwise.
     [[nodiscard]] qint64 sendingByItself() const;
     [[nodiscard]] bool isRunning(qint64 run) const;

@@ -16,12 +16,12 @@ QString commandLine(const Arguments& args) {
 void CSPSEND(CardRun& run, const Arguments& args) {
     QString line = commandLine(args);
     line.replace(u"!!POC!!"_s, run.state().preview ? u"2"_s : u"1"_s);
-    run.engine().sendLine(LinkId::Main, line);
+    run.engine().sendLine(LinkId::Main, line, run.asker());
     run.goOn();
 }
 
 void CSPSENDREMOTE(CardRun& run, const Arguments& args) {
-    run.engine().sendLine(LinkId::Remote, commandLine(args));
+    run.engine().sendLine(LinkId::Remote, commandLine(args), run.asker());
     run.goOn();
 }
 
