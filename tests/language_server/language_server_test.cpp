@@ -121,7 +121,7 @@ TEST_F(LanguageServers, CompleteByWhatStandsThere) {
 TEST_F(LanguageServers, ExplainFindAndRename) {
     open(u"new.csp"_s, u"SDATA~Ω;{@TEAM} {@TEAMS}\nAUTOTIMECARD~other.qrd\n"_s);
     const QString hover = ask(u"textDocument/hover"_s, u"new.csp"_s, 0, 2)[u"contents"_s][u"value"_s].toString();
-    EXPECT_TRUE(hover.contains(u"sets a text field"_s));
+    EXPECT_TRUE(hover.contains(u"Sets a text field"_s) && hover.contains(u"```"_s)) << qPrintable(hover);
     const QJsonArray set = ask(u"textDocument/definition"_s, u"new.csp"_s, 0, 12).toArray();
     ASSERT_EQ(set.size(), 1);
     EXPECT_TRUE(set[0][u"uri"_s].toString().endsWith(u"other.csp"_s));
