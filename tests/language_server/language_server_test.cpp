@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <ctime>
 
 #include "app_language_server/message_reader.h"
 
@@ -150,15 +150,15 @@ TEST_F(LanguageServers, CompleteAtOnceInALargePack) {
         write(u"c%1.csp"_s.arg(i), "SETVAR~@V" + QByteArray::number(i) + ";1\nSDATA~A;{@V1}\n");
     open(u"new.csp"_s, u"SDATA~N;{@"_s);
     server_.idle();
-    qint64 fastest = 1000;
+    // Of the processor's time, whatever else the machine does.
+    double fastest = 1000;
     for (int i = 0; i < 5; ++i) {
         open(u"new.csp"_s, u"SDATA~N;{@"_s);
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         EXPECT_GT(labels(0, 10).size(), 1000);
-        fastest = std::min(fastest, timer.elapsed());
+        fastest = std::min(fastest, 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
-    EXPECT_LT(fastest, 50);
+    EXPECT_LT(fastest, 50) << "milliseconds";
 }
 
 TEST_F(LanguageServers, GoOnAfterWhatIsBroken) {
