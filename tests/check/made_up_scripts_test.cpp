@@ -23,7 +23,7 @@ class ScriptMaker {
     // Ends with a mark that the script's number was reached.
     QByteArray script(int number) {
         QStringList lines{u"SETVAR~@A;7"_s};
-        const int count = 1 + pick(6);
+        const int count = 1 + pick(3);
         for (int i = 0; i < count; ++i) lines += block();
         lines += u"SETVAR~@END;%1"_s.arg(number);
         return lines.join(u"\r\n"_s).toUtf8();
