@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Runs every command of the manual, in the order of its pages, in a folder that looks like a checkout with programs in it.
+"""Runs every command of the manual, in the order of its pages, in a folder that looks like a checkout with programs in it,
+and follows its links.
 
     commands.py CHECKOUT PROGRAMS_FOLDER
 
@@ -109,6 +110,9 @@ class Manual:
                 printed = "".join(self.run(page, command) for command in commands) or printed
                 continue
             paragraph = piece
+            for target in re.findall(r"\]\(([^)#:]+)[^):]*\)", piece):
+                if not os.path.exists(os.path.join(CHECKOUT, os.path.dirname(page), target)):
+                    self.faults.add(page, target, "a link that leads nowhere")
             for command in re.findall(r"`([^`\n]+)`", piece):
                 if COMMAND.match(command):
                     self.run(page, command)
