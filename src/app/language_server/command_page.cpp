@@ -28,7 +28,7 @@ QString entryOf(const QString& word) {
 
 QString commandPage(const QString& word) {
     static const QRegularExpression kElsewhere(u"Example: under \\[(.+)\\]\\(.*\\)\\."_s);
-    const QString entry = entryOf(word);
+    QString entry = entryOf(word);
     const QRegularExpressionMatch elsewhere = kElsewhere.match(entry);
     if (!elsewhere.hasMatch()) return entry;
     const QString other = entryOf(elsewhere.captured(1));
