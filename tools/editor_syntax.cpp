@@ -29,13 +29,12 @@ if exists("b:current_syntax")
 endif
 syntax case ignore
 syntax match zelvorComment "^\s*#.*$"
-syntax match zelvorPlaceholder "{[^{}]*}" containedin=ALLBUT,zelvorComment
+syntax region zelvorPlaceholder start="{" end="}" oneline contains=zelvorPlaceholder
 syntax match zelvorSeparator "[~;]"
 )"_s;
-    for (const QString& word : words()) {
-        // Behind the start of a line, or behind a quote of IFL.
-        text += u"syntax match zelvorCommand /\\(^\\s*\\|\"\\)\\zs"_s + word + u"\\ze\\s*\\(\\~\\|\"\\|$\\)/\n"_s;
-    }
+    // At the start of a line, or of a line of IFL.
+    text += u"syntax match zelvorCommand /\\(^\\s*\\|\\~\"\\)\\@<=\\("_s + words().join(u"\\|"_s) +
+            u"\\)\\ze\\s*\\(\\~\\|\"\\|$\\)/\n"_s;
     return text +
            uR"(highlight default link zelvorComment Comment
 highlight default link zelvorCommand Statement
@@ -59,9 +58,20 @@ QString kate() {
     <contexts>
       <context name="Line" attribute="Text" lineEndContext="#stay">
         <RegExpr attribute="Comment" context="Comment" String="^\s*#" column="0"/>
-        <RegExpr attribute="Placeholder" context="#stay" String="\{[^{}]*\}"/>
-        <keyword attribute="Command" context="#stay" String="commands"/>
+        <keyword attribute="Command" context="#stay" String="commands" firstNonSpace="true"/>
+        <Detect2Chars attribute="Separator" context="Branch" char="~" char1="&quot;"/>
+        <IncludeRules context="Text"/>
+      </context>
+      <context name="Branch" attribute="Text" lineEndContext="#pop" fallthroughContext="#pop">
+        <keyword attribute="Command" context="#pop" String="commands"/>
+      </context>
+      <context name="Text" attribute="Text" lineEndContext="#stay">
+        <DetectChar attribute="Placeholder" context="Placeholder" char="{"/>
         <AnyChar attribute="Separator" context="#stay" String="~;"/>
+      </context>
+      <context name="Placeholder" attribute="Placeholder" lineEndContext="#pop">
+        <DetectChar attribute="Placeholder" context="Placeholder" char="{"/>
+        <DetectChar attribute="Placeholder" context="#pop" char="}"/>
       </context>
       <context name="Comment" attribute="Comment" lineEndContext="#pop"/>
     </contexts>
@@ -90,10 +100,15 @@ QString textMate() {
   "scopeName": "source.zelvor",
   "patterns": [
     { "name": "comment.line.number-sign.zelvor", "match": "^\\s*#.*$" },
-    { "name": "keyword.control.zelvor", "match": "(?i)(?:^\\s*|(?<=\"))(?:WORDS)(?=\\s*(?:~|\"|$))" },
-    { "name": "variable.other.zelvor", "match": "\\{[^{}]*\\}" },
+    { "name": "keyword.control.zelvor", "match": "(?i)(?:^\\s*|(?<=~\"))(?:WORDS)(?=\\s*(?:~|\"|$))" },
+    { "include": "#placeholder" },
     { "name": "punctuation.separator.zelvor", "match": "[~;]" }
-  ]
+  ],
+  "repository": {
+    "placeholder": {
+      "name": "variable.other.zelvor", "begin": "\\{", "end": "\\}|$", "patterns": [{ "include": "#placeholder" }]
+    }
+  }
 }
 )-"_s;
     return QString(text).replace(u"WORDS"_s, any);

@@ -1,12 +1,15 @@
-// The packs of broken/ hold each fault that the checker knows beside sound lines of the same kind; expected.txt holds
-// what it must say, and with that what it must not.
+// The packs of broken/ hold each fault that the checker knows beside sound lines of the same kind, tests/cards what
+// cards are made of; expected.txt and expected_of_cards.txt hold what it must say of them, and with that what it must
+// not.
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 #include <array>
 
 #include "app_check/check_command.h"
@@ -35,16 +38,26 @@ struct CheckRun {
     int status = -1;
 };
 
-TEST(Check, FindsEachFaultOfTheBrokenPacks) {
-    QFile file(QStringLiteral(TEST_DATA_DIR) + u"/expected.txt"_s);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n');
-    const CheckRun check({u"--app-folder"_s, kBroken});
-    const QStringList found = check.out.split(u'\n');
-    for (qsizetype i = 0; i < qMax(found.size(), expected.size()); ++i) {
-        EXPECT_EQ(found.value(i).toStdString(), expected.value(i).toStdString());
+TEST(Check, FindsEachFaultAndNoOther) {
+    QTemporaryDir cards;
+    ASSERT_TRUE(QDir(cards.path()).mkpath(u"MODULES"_s));
+    ASSERT_TRUE(QFile::link(QStringLiteral(CARDS_FOLDER), cards.filePath(u"MODULES/QRD_TT"_s)));
+    struct Row {
+        QStringList arguments;
+        QString expected;
+    };
+    for (const Row& row :
+         {Row{{kBroken}, u"/expected.txt"_s}, Row{{cards.path(), u"TT"_s}, u"/expected_of_cards.txt"_s}}) {
+        QFile file(QStringLiteral(TEST_DATA_DIR) + row.expected);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n');
+        const CheckRun check(QStringList{u"--app-folder"_s} + row.arguments);
+        const QStringList found = check.out.split(u'\n');
+        for (qsizetype i = 0; i < qMax(found.size(), expected.size()); ++i) {
+            EXPECT_EQ(found.value(i).toStdString(), expected.value(i).toStdString());
+        }
+        EXPECT_EQ(check.status, 1);
     }
-    EXPECT_EQ(check.status, 1);
 }
 
 TEST(Check, HasNothingToSayAboutTheDemo) {

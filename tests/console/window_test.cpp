@@ -63,6 +63,24 @@ TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
     EXPECT_EQ(gallery.find<TextLabel>("lblONAIR")->text(), u"");
 }
 
+TEST_F(MainWindowTest, ACardSaysWhatInItsValuesBreaksTheGraphic) {
+    gallery.writePack({"Strap,strap.csp", "Plain,plain.csp"});
+    gallery.write(u"QRD_EN/plain.csp"_s, "CLEARDATA\r\nSDATA~NAME;Vance\r\nMAKEXML\r\n");
+    gallery.write(u"QRD_EN/strap.csp"_s, "SDATA~NAME;O'Neal\r\nSDATA~CLUB;A\"<&\\\r\nMAKEXML\r\n");
+    gallery.start();
+    gallery.click("cmbCARD", 1);
+    gallery.click("cmbCARD", 0);
+    const auto* strap = gallery.find<CardButton>("cmbCARD", 0);
+    EXPECT_TRUE(strap->face().fault.startsWith(u"NAME holds a quote, CLUB holds")) << qPrintable(strap->face().fault);
+    EXPECT_TRUE(strap->accessibleName().endsWith(strap->face().fault));
+    EXPECT_EQ(gallery.find<CardButton>("cmbCARD", 1)->face().fault, QString());
+    QFile log(gallery.folder.filePath(u"errors.log"_s));
+    EXPECT_TRUE(log.open(QIODevice::ReadOnly) && log.readAll().contains("MAKEXML: NAME holds a quote"));
+    gallery.write(u"QRD_EN/strap.csp"_s, "CLEARDATA\r\nSDATA~NAME;Neal\r\nMAKEXML\r\n");
+    gallery.click("cmbCARD", 0);
+    EXPECT_EQ(strap->face().fault, QString());
+}
+
 TEST_F(MainWindowTest, KeysBelongToTheForm) {
     startWithCards();
     gallery.connectMain(peer);

@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <ctime>
 
 #include "app_language_server/message_reader.h"
 
@@ -27,7 +27,7 @@ class LanguageServers : public testing::Test {
         write(u"ASKFIELDS.TXT"_s, "%:3\nASKTITLE:t\nGETCODE:c\nDISPLAY:d\nAUTOTAG:P\nSQL:select {@TEAM}\n");
         // Άλφα in windows-1253.
         write(u"greek.csp"_s, "SDATA~\xA2\xEB\xF6\xE1;{@TEAM}\n");
-        write(u"other.csp"_s, "EVAL~TEAM;1\nIF~1;=;1;A\nFI~A\n");
+        write(u"other.csp"_s, "EVAL~TEAM;1\nIF~1;=;1;A\nFI~A\nifl~1;=;1~\"x\"~\"EVAL~TEAM;2\"\n");
     }
 
     QString path(const QString& name) const { return folder_.filePath(u"MODULES/QRD_TT/"_s + name); }
@@ -121,9 +121,9 @@ TEST_F(LanguageServers, CompleteByWhatStandsThere) {
 TEST_F(LanguageServers, ExplainFindAndRename) {
     open(u"new.csp"_s, u"SDATA~Ω;{@TEAM} {@TEAMS}\nAUTOTIMECARD~other.qrd\n"_s);
     const QString hover = ask(u"textDocument/hover"_s, u"new.csp"_s, 0, 2)[u"contents"_s][u"value"_s].toString();
-    EXPECT_TRUE(hover.contains(u"sets a text field"_s));
+    EXPECT_TRUE(hover.contains(u"Sets a text field"_s) && hover.contains(u"```"_s)) << qPrintable(hover);
     const QJsonArray set = ask(u"textDocument/definition"_s, u"new.csp"_s, 0, 12).toArray();
-    ASSERT_EQ(set.size(), 1);
+    ASSERT_EQ(set.size(), 2);
     EXPECT_TRUE(set[0][u"uri"_s].toString().endsWith(u"other.csp"_s));
     const QJsonArray card = ask(u"textDocument/definition"_s, u"new.csp"_s, 1, 16).toArray();
     EXPECT_TRUE(card[0][u"uri"_s].toString().endsWith(u"other.csp"_s));
@@ -141,7 +141,7 @@ TEST_F(LanguageServers, ExplainFindAndRename) {
     };
     EXPECT_EQ(columns(u"new.csp"_s), u"10-14"_s);
     EXPECT_EQ(columns(u"greek.csp"_s), u"13-17"_s);
-    EXPECT_EQ(columns(u"other.csp"_s), u"5-9"_s);
+    EXPECT_EQ(columns(u"other.csp"_s), u"5-9 20-24"_s);
     EXPECT_EQ(columns(u"ASKFIELDS.TXT"_s), u"13-17"_s);
 }
 
@@ -150,15 +150,15 @@ TEST_F(LanguageServers, CompleteAtOnceInALargePack) {
         write(u"c%1.csp"_s.arg(i), "SETVAR~@V" + QByteArray::number(i) + ";1\nSDATA~A;{@V1}\n");
     open(u"new.csp"_s, u"SDATA~N;{@"_s);
     server_.idle();
-    qint64 fastest = 1000;
+    // Of the processor's time, whatever else the machine does.
+    double fastest = 1000;
     for (int i = 0; i < 5; ++i) {
         open(u"new.csp"_s, u"SDATA~N;{@"_s);
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         EXPECT_GT(labels(0, 10).size(), 1000);
-        fastest = std::min(fastest, timer.elapsed());
+        fastest = std::min(fastest, 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
-    EXPECT_LT(fastest, 50);
+    EXPECT_LT(fastest, 50) << "milliseconds";
 }
 
 TEST_F(LanguageServers, GoOnAfterWhatIsBroken) {

@@ -98,22 +98,22 @@ class BrowserTest : public testing::Test {
 
 const QString kLowerThird = u"/lowerthird.html"_s;
 const QString kName = u"document.querySelector('[data-field=NAME]').textContent"_s;
-// How far the panel is open: "inset(0px)" when it is on, "inset(0px 100% 0px 0px)" when it is off.
-const QString kPanel = u"getComputedStyle(document.querySelector('.panel')).clipPath"_s;
+// How far the strap is open: "inset(0px)" when it is on, "inset(0px 100% 0px 0px)" when it is off.
+const QString kStrap = u"getComputedStyle(document.querySelector('.strap')).clipPath"_s;
 
 TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
     Server server;
     ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
     open(server);
     const auto name = [] { return frame(kLowerThird, kName); };
-    const auto panel = [] { return frame(kLowerThird, kPanel); };
+    const auto panel = [] { return frame(kLowerThird, kStrap); };
     // The name and the panel as soon as the new page has its name.
     const auto firstSeenAfterReload = [] {
         frame(kLowerThird, u"window.isOld = true"_s);
         page(u"location.reload()"_s);
         QString seen;
         test::waitUntil([&] {
-            seen = frame(kLowerThird, u"window.isOld ? '' : `${%1} ${%2}`"_s.arg(kName, kPanel));
+            seen = frame(kLowerThird, u"window.isOld ? '' : `${%1} ${%2}`"_s.arg(kName, kStrap));
             return seen.startsWith(u"O’Neal"_s);
         });
         return seen;
@@ -167,13 +167,13 @@ TEST_F(BrowserTest, ShowsDemoCardsFiredFromTheTerminal) {
 
     EXPECT_TRUE(fire(u"EN"_s, player));
     EXPECT_TRUE(becomes([] { return frame(kLowerThird, kName); }, u"Tyler Vance"_s));
-    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kPanel); }, u"inset(0px)"_s));
+    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kStrap); }, u"inset(0px)"_s));
     frame(kLowerThird, u"window.before = 'the same page'"_s);
     EXPECT_TRUE(fire(u"GR"_s, player + onAir));
     EXPECT_TRUE(becomes([] { return frame(kLowerThird, kName); }, u"Τάιλερ Βανς"_s));
     EXPECT_EQ(frame(kLowerThird, u"window.before"_s), u"the same page"_s);
     EXPECT_TRUE(fire(u"GR"_s, QStringList{u"lowerthird_off.csp"_s} + onAir));
-    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kPanel); }, u"100%"_s));
+    EXPECT_TRUE(becomes([] { return frame(kLowerThird, kStrap); }, u"100%"_s));
     EXPECT_TRUE(fire(u"GR"_s, {u"clear.csp"_s}));
     EXPECT_TRUE(becomes([] { return page(u"`${document.querySelectorAll('iframe').length} left`"_s); }, u"0 left"_s));
     EXPECT_TRUE(server.stop());

@@ -1,1 +1,2 @@
-autocmd BufNewFile,BufRead *.csp,*/MODULES/QRD_*/*.inc setfiletype zelvor
+" Vim knows .csp as something else: set, not setfiletype.
+autocmd BufNewFile,BufRead *.csp,*/MODULES/QRD_*/*.inc set filetype=zelvor

@@ -76,7 +76,7 @@ void ArgumentCheck::check(const Command& command, qsizetype at, const GivenArgum
             return checkField(arguments.values, true, place, facts.findings);
         case Role::Proposal:
             // id|N|card|tag
-            facts.cards.push_back({arguments.values.value(1).section(u'|', 2, 2), place});
+            checkCard(arguments.values.value(1).section(u'|', 2, 2), place, facts);
             [[fallthrough]];
         default:
             return checkLiteral(role, argument, place, facts.findings);

@@ -2,10 +2,12 @@
 
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSet>
 
 #include "app_check/placeholder_scan.h"
 #include "app_check/variable_use.h"
+#include "app_language_server/command_page.h"
 #include "app_language_server/text_place.h"
 #include "expr/function_table.h"
 #include "form/form_model.h"
@@ -41,10 +43,6 @@ class Items {
     QSet<QString> known_;
     QJsonArray items_;
 };
-
-QString usageOf(const Command& command) {
-    return command.usage.isEmpty() ? command.word.toString() : command.word + u'~' + command.usage;
-}
 
 void addVariables(const OpenPack& pack, Items& items) {
     for (const auto& [path, facts] : pack.check.scripts()) {
@@ -122,12 +120,10 @@ QJsonArray completionsAt(OpenPack& pack, const QString& line, qsizetype column) 
 }
 
 QString hoverAt(const QString& line, qsizetype column) {
-    const QString word = wordAt(line, column);
+    static const QRegularExpression kWordEnd(u"[~\"\\s]"_s);
     const CommandSpot spot = spotAt(line, column);
-    if (!spot.inArgument) {
-        const Command* command = findCommand(word.toUpper());
-        return command == nullptr ? QString() : u"`"_s + usageOf(*command) + u"`\n\n"_s + command->summary;
-    }
+    if (!spot.inArgument) return commandPage(spot.word + line.mid(column).section(kWordEnd, 0, 0).toUpper());
+    const QString word = wordAt(line, column);
     if (spot.role == Role::Formula) {
         const expr::Function* function = expr::findFunction(word.toStdString());
         return function == nullptr ? QString() : QString::fromUtf8(function->meaning);

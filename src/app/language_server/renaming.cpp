@@ -18,12 +18,22 @@ bool isBareName(Role role) {
     return role == Role::VariableName || role == Role::WrittenName || role == Role::LoopName;
 }
 
-// Where a command that puts the "@" in front names it: the place of its argument, -1 for nowhere.
-qsizetype bareNameAt(const QString& text, const QString& name) {
+bool namesBare(const QString& text, const QString& name) {
     const ScriptLine line(cleanedScriptLine(text));
-    if (line.command == nullptr || !line.hasArgument || !isBareName(line.command->roles[0])) return -1;
-    if (line.argument.raw().section(u';', 0, 0) != name) return -1;
-    return text.indexOf(u'~') + 1;
+    return line.command != nullptr && line.hasArgument && isBareName(line.command->roles[0]) &&
+           line.argument.raw().section(u';', 0, 0) == name;
+}
+
+// Where commands that put the "@" in front name it: in the line, or in the quoted lines of an IFL.
+QList<qsizetype> bareNamesAt(const QString& text, const QString& name) {
+    const bool quoted = text.trimmed().startsWith(u"IFL", Qt::CaseInsensitive);
+    QList<qsizetype> places;
+    qsizetype from = 0;
+    for (const QString& part : quoted ? text.split(u'"') : QStringList{text}) {
+        if (namesBare(part, name)) places += from + part.indexOf(u'~') + 1;
+        from += part.size() + 1;
+    }
+    return places;
 }
 
 }  // namespace
@@ -48,8 +58,8 @@ std::vector<TextSpan> placesOf(OpenPack& pack, const QString& variable) {
                 const qsizetype at = match.next().capturedStart() + 1;
                 spans.push_back({path, number, at, at + name.size()});
             }
-            const qsizetype bare = bareNameAt(lines[i], name);
-            if (bare >= 0) spans.push_back({path, number, bare, bare + name.size()});
+            for (const qsizetype at : bareNamesAt(lines[i], name))
+                spans.push_back({path, number, at, at + name.size()});
         }
     }
     return spans;

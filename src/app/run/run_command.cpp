@@ -57,15 +57,14 @@ class TerminalRun {
             engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::StartUp, CardEngine::kStartCard});
         }
         for (const auto& [name, value] : options_.variables) state_.variables.SetVar(name, value);
+        // Looked at before the run: what changes while it runs counts.
+        CardFiles files(program_, state_.language(), options_.card);
         CardEngine::Outcome outcome = runOnce();
-        if (options_.watch) {
-            CardFiles files(program_, state_.language(), options_.card);
-            while (files.waitForChange(clock_)) {
-                out_ << "again > " << options_.card << '\n';
-                out_.flush();
-                askDialog_.answerWith(options_.answers);
-                outcome = runOnce();
-            }
+        while (options_.watch && files.waitForChange(clock_)) {
+            out_ << "again > " << options_.card << '\n';
+            out_.flush();
+            askDialog_.answerWith(options_.answers);
+            outcome = runOnce();
         }
         if (options_.printVariables) printVariables();
         if (database_.connectionState() == Connections::State::Failed) return RunStatus::NotReached;
