@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "console/key_filter.h"
+#include "console/key_sheet.h"
 #include "console/panels/card_grid.h"
 #include "console/panels/history_panel.h"
 #include "console/panels/key_bar.h"
@@ -31,7 +32,7 @@ constexpr int kPanelHeight = 250;  // the tallest panel's
 
 MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
                        QAbstractItemModel& responses)
-    : mirrors_(form, events), keys_(new KeyFilter(*this)) {
+    : mirrors_(form, events), keys_(new KeyFilter(*this, form)) {
     setObjectName(u"frmMAIN"_s);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
     auto* rows = new QVBoxLayout(this);
@@ -55,8 +56,27 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     // The window itself has the keyboard until the operator chooses a box: a stray key must not turn a list.
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
+    answerKeys();
+}
+
+void MainWindow::answerKeys() {
     connect(keys_, &KeyFilter::functionKey, this, &MainWindow::functionKey);
     connect(keys_, &KeyFilter::clearKey, this, &MainWindow::clearKey);
+    connect(keys_, &KeyFilter::findKey, this, &MainWindow::findKey);
+    connect(keys_, &KeyFilter::sheetKey, this, &MainWindow::showSheet);
+    connect(keys_, &KeyFilter::fullScreenKey, this, &MainWindow::changeFullScreen);
+    connect(keys_, &KeyFilter::altHeld, findChild<CardGrid*>(), &CardGrid::showLetters);
+}
+
+void MainWindow::showSheet() {
+    if (sheet_ == nullptr) sheet_ = new KeySheet(mirrors_.form(), *this);
+    sheet_->show();
+    sheet_->raise();
+    sheet_->activateWindow();
+}
+
+void MainWindow::changeFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
 void MainWindow::takeFunctionKeysOf(const QWidget& beside) {
