@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <limits>
 
 #include "console/card_button.h"
@@ -79,6 +80,9 @@ void FormKeys::lead(QWidget& widget) const {
         }
     }
     widget.setFocus(Qt::ShortcutFocusReason);
+    for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(above)) area->ensureWidgetVisible(&widget);
+    }
 }
 
 bool FormKeys::press(const QKeySequence& key, QWidget* focus) const {

@@ -11,6 +11,7 @@
 #include <QRadioButton>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -71,7 +72,10 @@ bool KeyFilter::pressCombination(const QKeyEvent& key, QWidget* focus) {
 
 void KeyFilter::watchAlt(const QKeyEvent& key) {
     // Shift makes Meta of Alt where it was pressed first.
-    if (key.key() != Qt::Key_Alt && key.key() != Qt::Key_Meta) return letAltGo();
+    if (key.key() != Qt::Key_Alt && key.key() != Qt::Key_Meta) {
+        if (!key.modifiers().testFlag(Qt::AltModifier)) letAltGo();
+        return;
+    }
     const bool held = key.type() == QEvent::KeyPress && QApplication::activeWindow() == &form_ &&
                       (key.key() == Qt::Key_Alt || key.modifiers().testFlag(Qt::ShiftModifier));
     if (held == isAltHeld_) return;

@@ -4,7 +4,9 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "console/key_filter.h"
 #include "console/key_sheet.h"
@@ -25,8 +27,20 @@ namespace zelvor {
 namespace {
 
 constexpr QSize kFirstSize{1280, 800};
-constexpr int kRightWidth = 480;   // pixels at the first size
+constexpr int kRightWidth = 480;  // pixels; where the cards would have less than kCardsWidth it is narrower,
+constexpr int kLeastRight = 300;  // down to this
+constexpr int kCardsWidth = 500;
 constexpr int kPanelHeight = 250;  // the tallest panel's
+
+// On a small screen the content scrolls.
+QScrollArea* scrolling(QWidget* content) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(content);
+    return area;
+}
 
 }  // namespace
 
@@ -41,7 +55,7 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     rows->addWidget(new OnAirBar(mirrors_));
     auto* sides = new QHBoxLayout;
     sides->setSpacing(0);
-    sides->addWidget(leftSide(console, history), 1);
+    sides->addWidget(scrolling(leftSide(console, history)), 1);
     auto* rule = new QWidget;
     rule->setFixedWidth(1);
     rule->setAutoFillBackground(true);
@@ -49,7 +63,8 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     line.setColor(QPalette::Window, theme::colour(theme::Role::Line));
     rule->setPalette(line);
     sides->addWidget(rule);
-    sides->addWidget(rightSide(responses));
+    right_ = scrolling(rightSide(responses));
+    sides->addWidget(right_);
     rows->addLayout(sides, 1);
     rows->addWidget(new KeyBar(mirrors_));
 
@@ -106,7 +121,6 @@ QWidget* MainWindow::leftSide(CardConsole& console, QAbstractItemModel& history)
 
 QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     auto* side = new QWidget;
-    side->setFixedWidth(kRightWidth);
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(10, 10, 10, 8);
     column->setSpacing(9);
@@ -146,6 +160,12 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     column->addLayout(stack);
     column->addWidget(new PlayersPanel(mirrors_), 1);
     return side;
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    // The cards shrink last.
+    right_->setFixedWidth(std::clamp(width() - kCardsWidth, kLeastRight, kRightWidth));
+    QWidget::resizeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -40,6 +40,7 @@ class MainWindow : public QWidget {
     void newerLineWanted();
 
  protected:
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -52,6 +53,7 @@ class MainWindow : public QWidget {
 
     Mirrors mirrors_;
     KeyFilter* keys_;
+    QWidget* right_ = nullptr;
     KeySheet* sheet_ = nullptr;  // made when it is first wanted
     std::function<bool()> mayClose_;
 };
