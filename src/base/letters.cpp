@@ -1,5 +1,6 @@
 #include "base/letters.h"
 
+#include <algorithm>
 #include <array>
 
 namespace zelvor {
@@ -17,6 +18,8 @@ QString foldedLetters(QStringView text) {
     static constexpr std::array<QStringView, 25> kSounds{u"a", u"v", u"g", u"d", u"e",  u"z",  u"i", u"th", u"i",
                                                          u"k", u"l", u"m", u"n", u"x",  u"o",  u"p", u"r",  u"s",
                                                          u"s", u"t", u"y", u"f", u"ch", u"ps", u"o"};
+    // Most names of scripts and variables.
+    if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; })) return text.toString().toLower();
     QString folded;
     for (const QChar c : withoutAccents(text)) {
         const QChar small = c.toLower();

@@ -358,7 +358,7 @@ TEST_F(CardRules, FoundByAnyPartInEitherAlphabet) {
     console.pressFound(entry(u"Two"_s), false);
     console.functionKey(10);
     console.pressClear();
-    EXPECT_EQ(sent(), (QStringList{u"two 20"_s, u"key 20"_s, u"clear 20"_s}));
+    EXPECT_EQ(sent(), (QStringList{u"mtwo 20"_s, u"mkey 20"_s, u"mclear 20"_s}));
     EXPECT_EQ(captions({}).first(3), (QStringList{u"Key"_s, u"Two"_s, u"One"_s})) << "CLEAR is no card";
     // What was listed is not fired once another pack's cards are there.
     const FindEntry old = entry(u"Two"_s);

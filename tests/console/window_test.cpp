@@ -128,7 +128,8 @@ TEST_F(MainWindowTest, EveryDeedHasAKey) {
     MainWindow& window = gallery.app->window();
     window.activateWindow();
     const auto key = [&](int code, Qt::KeyboardModifiers modifiers) {
-        QTest::keyClick(window.windowHandle(), static_cast<Qt::Key>(code), modifiers);
+        QKeyEvent press(QEvent::KeyPress, code, modifiers);
+        QCoreApplication::sendEvent(window.windowHandle(), &press);
         QCoreApplication::processEvents();
     };
     constexpr int kGreekAlpha = 0x391;
