@@ -32,7 +32,7 @@ CARDS = {
     "play.csp": "CSPSEND~SHOW PLAY\r\n",
     "period.csp": "CSPSEND~PERIOD {@GAMEPERIOD}\r\n",
     "other.csp": "CSPSEND~OTHER\r\n",
-    "score.csp": "CSPSEND~SCORE {@SCOREA}\r\n",
+    "score.csp": "CSPSEND~SCORE {@GREENSCOREA}\r\n",
     "clear.csp": "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n",
     "GetGame.csp": "FUNCTIONCARD\r\n",
 }
