@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "base/letters.h"
 #include "base/number.h"
 #include "base/run_time_error.h"
 #include "engine/placeholders.h"
@@ -12,14 +13,6 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 namespace {
-
-QString withoutAccents(QStringView text) {
-    QString plain;
-    for (const QChar c : text.toString().normalized(QString::NormalizationForm_D)) {
-        if (!c.isMark()) plain += c;
-    }
-    return plain;
-}
 
 enum class Word { Whole, Beginning };
 

@@ -37,9 +37,31 @@ QString CardButton::stateLine() const {
     return parts.join(u" · "_s);
 }
 
+void CardButton::setLetter(const QString& letter) {
+    if (letter == letter_) return;
+    letter_ = letter;
+    update();
+}
+
 void CardButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Q_EMIT painted();
+    drawFace(painter);
+    if (!letter_.isEmpty() && !face_.quiet) drawLetter(painter);
+    drawFocus(painter);
+}
+
+void CardButton::drawLetter(QPainter& painter) const {
+    constexpr int kSide = 24;  // pixels
+    const int right = small_->geometry().left() - 3;
+    const QRect place(right - kSide, (height() - kSide) / 2, kSide, kSide);
+    theme::drawSurface(painter, place, {theme::colour(Role::Accent), theme::colour(Role::Window)});
+    painter.setFont(theme::font(kCaptionPixels, true));
+    painter.setPen(theme::readableOn(theme::colour(Role::Accent)));
+    painter.drawText(place, Qt::AlignCenter, letter_);
+}
+
+void CardButton::drawFace(QPainter& painter) const {
     const QRectF body = QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame);
     if (face_.lastFired) theme::drawSurface(painter, rect(), {std::nullopt, theme::colour(Role::Accent), 7, 2});
 

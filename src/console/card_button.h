@@ -24,7 +24,10 @@ class CardButton : public ConsoleButton {
     };
     void setFace(const Face& face);
     [[nodiscard]] const Face& face() const { return face_; }
-    [[nodiscard]] const ConsoleButton& small() const { return *small_; }
+    // Shown large on the card while it is not empty.
+    void setLetter(const QString& letter);
+    [[nodiscard]] const QString& letter() const { return letter_; }
+    [[nodiscard]] ConsoleButton& small() const { return *small_; }
     // The line below the caption: "ON · F1".
     [[nodiscard]] QString stateLine() const;
 
@@ -42,10 +45,13 @@ class CardButton : public ConsoleButton {
     [[nodiscard]] int textRoom() const override;
 
  private:
+    void drawFace(QPainter& painter) const;
+    void drawLetter(QPainter& painter) const;
     void drawStruckLamp(QPainter& painter, const QRectF& area) const;
 
     ConsoleButton* small_;
     Face face_;
+    QString letter_;
 };
 
 }  // namespace zelvor

@@ -8,7 +8,7 @@ namespace zelvor {
 
 ConsoleButton::ConsoleButton(const Look& look, QWidget* parent) : QAbstractButton(parent), look_(look) {
     setFont(theme::font(look.pixels, look.bold));
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
@@ -40,6 +40,15 @@ void ConsoleButton::updateToolTip() {
     setToolTip(cut ? text() + u'\n' + hint_ : hint_);
 }
 
+void ConsoleButton::press() {
+    Q_EMIT goesDown();
+    click();
+}
+
+void ConsoleButton::drawFocus(QPainter& painter) const {
+    if (hasFocus()) theme::drawFocusRing(painter, rect());
+}
+
 QSize ConsoleButton::sizeHint() const {
     return {fontMetrics().horizontalAdvance(text()) + 2 * padding() + 8, fontMetrics().height() + 10};
 }
@@ -61,6 +70,7 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
         painter.fillRect(0, 0, 1, height(), theme::colour(look_.line));
         painter.setPen(theme::colour(look_.text));
         painter.drawText(rect(), Qt::AlignCenter, text());
+        drawFocus(painter);
         return;
     }
     const bool framed = selected_ && !look_.underlined;
@@ -80,6 +90,7 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     if (selected_ && look_.underlined) painter.setFont(theme::font(look_.pixels, true));
     const QRect area = rect().adjusted(padding(), 0, -padding(), 0);
     painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+    drawFocus(painter);
 }
 
 void ConsoleButton::mousePressEvent(QMouseEvent* event) {

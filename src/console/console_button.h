@@ -8,7 +8,8 @@
 namespace zelvor {
 
 // A push button of the console: elides its text (the whole joins the tool tip), takes exact colours, can be marked as
-// the selected one of a row. It never takes the keyboard: keys belong to the form.
+// the selected one of a row. Tab leads to it, a click
+// leaves the keyboard where it is.
 class ConsoleButton : public QAbstractButton {
     Q_OBJECT
 
@@ -34,6 +35,8 @@ class ConsoleButton : public QAbstractButton {
     // What the tool tip says besides a text that did not fit.
     void setHint(const QString& hint);
     void setCaption(const QString& caption);
+    // As the mouse does, from the keyboard.
+    void press();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -51,6 +54,7 @@ class ConsoleButton : public QAbstractButton {
     void leaveEvent(QEvent* event) override;
 
     [[nodiscard]] std::optional<QColor> ownText() const { return ownText_; }
+    void drawFocus(QPainter& painter) const;
     // Pixels between the side and the text, and those it may take; the tool tip holds a text that does not fit.
     [[nodiscard]] virtual int padding() const { return 8; }
     [[nodiscard]] virtual int textRoom() const { return width() - 2 * padding(); }

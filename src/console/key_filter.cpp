@@ -10,6 +10,10 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
@@ -43,13 +47,53 @@ void closePopups() {
 
 }  // namespace
 
-KeyFilter::KeyFilter(QWidget& form) : QObject(&form), form_(form) {
+KeyFilter::KeyFilter(QWidget& form, const FormModel& model) : QObject(&form), form_(form), formKeys_(form, model) {
     QApplication::instance()->installEventFilter(this);
+}
+
+std::span<const KeyFilter::WindowKey> KeyFilter::windowKeys() {
+    static constexpr std::array kKeys{
+        WindowKey{u"F12", u"Opens or closes the sheet of keys", &KeyFilter::sheetKey},
+        WindowKey{u"Ctrl+K", u"Finds cards, scripts, commands and variables", &KeyFilter::findKey},
+        WindowKey{u"Ctrl+F11", u"Fills the screen without a frame, or gives it back", &KeyFilter::fullScreenKey},
+    };
+    return kKeys;
+}
+
+bool KeyFilter::pressCombination(const QKeyEvent& key, QWidget* focus) {
+    const QKeySequence pressed = FormKeys::sequenceOf(key);
+    for (const WindowKey& each : windowKeys()) {
+        if (QKeySequence(each.key.toString()) != pressed) continue;
+        Q_EMIT(this->*each.pressed)();
+        return true;
+    }
+    return formKeys_.press(pressed, focus);
+}
+
+void KeyFilter::watchAlt(const QKeyEvent& key) {
+    // Shift makes Meta of Alt where it was pressed first.
+    if (key.key() != Qt::Key_Alt && key.key() != Qt::Key_Meta) {
+        if (!key.modifiers().testFlag(Qt::AltModifier)) letAltGo();
+        return;
+    }
+    const bool held = key.type() == QEvent::KeyPress && QApplication::activeWindow() == &form_ &&
+                      (key.key() == Qt::Key_Alt || key.modifiers().testFlag(Qt::ShiftModifier));
+    if (held == isAltHeld_) return;
+    isAltHeld_ = held;
+    Q_EMIT altHeld(held);
+}
+
+void KeyFilter::letAltGo() {
+    if (std::exchange(isAltHeld_, false)) Q_EMIT altHeld(false);
 }
 
 // True for a press that nobody is to see.
 bool KeyFilter::windowSees(const QKeyEvent& key) {
-    if (repeats_.isRepeat(key)) return !repeatsWhenHeld(key, QApplication::focusWidget());
+    watchAlt(key);
+    if (repeats_.isRepeat(key)) {
+        const bool isDeed = QApplication::activeWindow() == &form_ && formKeys_.has(FormKeys::sequenceOf(key));
+        return isDeed || !repeatsWhenHeld(key, QApplication::focusWidget());
+    }
     const bool isClear =
         key.key() == Qt::Key_Delete && key.modifiers().testFlags(Qt::ControlModifier | Qt::ShiftModifier);
     if (isClear && key.type() == QEvent::KeyPress) Q_EMIT clearKey();
@@ -57,6 +101,7 @@ bool KeyFilter::windowSees(const QKeyEvent& key) {
 }
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &form_ && event->type() == QEvent::WindowDeactivate) letAltGo();
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
     if (watched->isWindowType()) return windowSees(*static_cast<const QKeyEvent*>(event));
     if (event->type() == QEvent::KeyRelease) return false;
@@ -71,10 +116,16 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT functionKey(key->key() - Qt::Key_F1 + 1);
         return true;
     }
-    if (widget->window() != &form_) return false;
-    if (key->key() >= Qt::Key_F11 && key->key() <= Qt::Key_F35) return true;
-    if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) return false;
-    return !isInput(widget);
+    return widget->window() == &form_ && formSees(*key, widget);
+}
+
+bool KeyFilter::formSees(const QKeyEvent& key, QWidget* focus) {
+    if (pressCombination(key, focus)) return true;
+    if (key.key() >= Qt::Key_F11 && key.key() <= Qt::Key_F35) return true;
+    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) return false;
+    if (isInput(focus)) return false;
+    formKeys_.moveFocus(key, focus);
+    return true;
 }
 
 }  // namespace zelvor

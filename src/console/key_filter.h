@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <span>
 #include <vector>
 
+#include "console/form_keys.h"
 #include "console/key_repeats.h"
 
 class QWidget;
@@ -10,7 +12,8 @@ class QWidget;
 namespace zelvor {
 
 // The form sees every key before its controls: F1 to F10 are told, once a press; a focused input gets the keys it
-// edits with, Tab moves between inputs, and every other key is consumed. A window beside the form keeps its keys but
+// edits with, Tab moves between controls, combinations with Ctrl or Alt do what FormKeys knows, and every other key is
+// consumed. A window beside the form keeps its keys but
 // F1 to F10: they fire cards wherever the operator has clicked last. In every window a held key is one press, and
 // Ctrl+Shift+Delete is CLEAR.
 class KeyFilter : public QObject {
@@ -18,7 +21,15 @@ class KeyFilter : public QObject {
 
  public:
     // form: the window whose keys are filtered, and the filter's parent.
-    explicit KeyFilter(QWidget& form);
+    KeyFilter(QWidget& form, const FormModel& model);
+
+    // A key of the window, which no control has.
+    struct WindowKey {
+        QStringView key;  // "Ctrl+K"
+        QStringView deed;
+        void (KeyFilter::*pressed)();
+    };
+    [[nodiscard]] static std::span<const WindowKey> windowKeys();
 
     // A window whose F1 to F10 are the form's.
     void addBeside(const QWidget& window) { beside_.push_back(&window); }
@@ -27,6 +38,11 @@ class KeyFilter : public QObject {
     // number: 1 to 10.
     void functionKey(int number);
     void clearKey();
+    void sheetKey();
+    void findKey();
+    void fullScreenKey();
+    // Alt is held down, or is no longer, while the form is the active window.
+    void altHeld(bool held);
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,7 +50,14 @@ class KeyFilter : public QObject {
  private:
     bool windowSees(const QKeyEvent& key);
 
+    bool formSees(const QKeyEvent& key, QWidget* focus);
+    bool pressCombination(const QKeyEvent& key, QWidget* focus);
+    void watchAlt(const QKeyEvent& key);
+    void letAltGo();
+
     QWidget& form_;
+    FormKeys formKeys_;
+    bool isAltHeld_ = false;
     KeyRepeats repeats_;
     std::vector<const QWidget*> beside_;
 };

@@ -23,6 +23,7 @@ MainMenu::MainMenu(FormModel& form, QWidget* parent) : QMenu(u"Main"_s, parent) 
 void MainMenu::addItem(QMenu& menu, const QString& name, const QString& caption) {
     QAction* item = menu.addAction(caption);
     item->setObjectName(name);
+    items_.push_back({name, QString(caption).remove(u'&')});
     connect(item, &QAction::triggered, this, [this, name] { Q_EMIT chosen(name); });
 }
 

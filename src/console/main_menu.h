@@ -15,6 +15,13 @@ class MainMenu : public QMenu {
     // form: outlives the menu. parent: gives the menu its place on the screen.
     MainMenu(FormModel& form, QWidget* parent);
 
+    // What can be chosen: an item's name with its caption.
+    struct Item {
+        QString name;
+        QString caption;
+    };
+    [[nodiscard]] const std::vector<Item>& items() const { return items_; }
+
  Q_SIGNALS:
     // "mnReloadVar", "mnDisplayVars", "mnGeneralVars", "mnSet169" or "mnSet43".
     void chosen(const QString& item);
@@ -22,6 +29,8 @@ class MainMenu : public QMenu {
  private:
     void addItem(QMenu& menu, const QString& name, const QString& caption);
     void addMode(QMenu& menu, const ControlRow& mode, const QString& caption, FormModel& form);
+
+    std::vector<Item> items_;
 };
 
 }  // namespace zelvor

@@ -4,9 +4,12 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "console/key_filter.h"
+#include "console/key_sheet.h"
 #include "console/panels/card_grid.h"
 #include "console/panels/history_panel.h"
 #include "console/panels/key_bar.h"
@@ -24,14 +27,26 @@ namespace zelvor {
 namespace {
 
 constexpr QSize kFirstSize{1280, 800};
-constexpr int kRightWidth = 480;   // pixels at the first size
+constexpr int kRightWidth = 480;  // pixels; where the cards would have less than kCardsWidth it is narrower,
+constexpr int kLeastRight = 300;  // down to this
+constexpr int kCardsWidth = 500;
 constexpr int kPanelHeight = 250;  // the tallest panel's
+
+// On a small screen the content scrolls.
+QScrollArea* scrolling(QWidget* content) {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(content);
+    return area;
+}
 
 }  // namespace
 
 MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
                        QAbstractItemModel& responses)
-    : mirrors_(form, events), keys_(new KeyFilter(*this)) {
+    : mirrors_(form, events), keys_(new KeyFilter(*this, form)) {
     setObjectName(u"frmMAIN"_s);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
     auto* rows = new QVBoxLayout(this);
@@ -40,7 +55,7 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     rows->addWidget(new OnAirBar(mirrors_));
     auto* sides = new QHBoxLayout;
     sides->setSpacing(0);
-    sides->addWidget(leftSide(console, history), 1);
+    sides->addWidget(scrolling(leftSide(console, history)), 1);
     auto* rule = new QWidget;
     rule->setFixedWidth(1);
     rule->setAutoFillBackground(true);
@@ -48,15 +63,35 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     line.setColor(QPalette::Window, theme::colour(theme::Role::Line));
     rule->setPalette(line);
     sides->addWidget(rule);
-    sides->addWidget(rightSide(responses));
+    right_ = scrolling(rightSide(responses));
+    sides->addWidget(right_);
     rows->addLayout(sides, 1);
     rows->addWidget(new KeyBar(mirrors_));
 
     // The window itself has the keyboard until the operator chooses a box: a stray key must not turn a list.
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
+    answerKeys();
+}
+
+void MainWindow::answerKeys() {
     connect(keys_, &KeyFilter::functionKey, this, &MainWindow::functionKey);
     connect(keys_, &KeyFilter::clearKey, this, &MainWindow::clearKey);
+    connect(keys_, &KeyFilter::findKey, this, &MainWindow::findKey);
+    connect(keys_, &KeyFilter::sheetKey, this, &MainWindow::showSheet);
+    connect(keys_, &KeyFilter::fullScreenKey, this, &MainWindow::changeFullScreen);
+    connect(keys_, &KeyFilter::altHeld, findChild<CardGrid*>(), &CardGrid::showLetters);
+}
+
+void MainWindow::showSheet() {
+    if (sheet_ == nullptr) sheet_ = new KeySheet(mirrors_.form(), *this);
+    sheet_->show();
+    sheet_->raise();
+    sheet_->activateWindow();
+}
+
+void MainWindow::changeFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
 void MainWindow::takeFunctionKeysOf(const QWidget& beside) {
@@ -86,7 +121,6 @@ QWidget* MainWindow::leftSide(CardConsole& console, QAbstractItemModel& history)
 
 QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     auto* side = new QWidget;
-    side->setFixedWidth(kRightWidth);
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(10, 10, 10, 8);
     column->setSpacing(9);
@@ -126,6 +160,12 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     column->addLayout(stack);
     column->addWidget(new PlayersPanel(mirrors_), 1);
     return side;
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    // The cards shrink last.
+    right_->setFixedWidth(std::clamp(width() - kCardsWidth, kLeastRight, kRightWidth));
+    QWidget::resizeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -12,6 +12,7 @@ namespace zelvor {
 
 class CasparPanel;
 class KeyFilter;
+class KeySheet;
 
 // The operator's window (frmMAIN): lays the panels out around the form model and hands keys and clicks on.
 class MainWindow : public QWidget {
@@ -33,19 +34,27 @@ class MainWindow : public QWidget {
     // F1 to F10 by their numbers.
     void functionKey(int number);
     void clearKey();
+    void findKey();
     // Up and Down in the manual line.
     void olderLineWanted();
     void newerLineWanted();
 
  protected:
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
  private:
     QWidget* leftSide(CardConsole& console, QAbstractItemModel& history);
     QWidget* rightSide(QAbstractItemModel& responses);
 
+    void answerKeys();
+    void showSheet();
+    void changeFullScreen();
+
     Mirrors mirrors_;
     KeyFilter* keys_;
+    QWidget* right_ = nullptr;
+    KeySheet* sheet_ = nullptr;  // made when it is first wanted
     std::function<bool()> mayClose_;
 };
 

@@ -64,14 +64,15 @@ Control& Mirrors::begin(QWidget* widget, const ControlRow& row, int index) const
     Control& control = form_.at(row, index);
     widget->setObjectName(control.name());
     widget->setProperty("index", index);
-    widget->setToolTip(control.hint());
+    widget->setToolTip(control.tip());
     return control;
 }
 
 TextLabel* Mirrors::label(const ControlRow& row, int index, const TextLabel::Look& look) const {
     auto* widget = new TextLabel(look);
     Control& control = begin(widget, row, index);
-    widget->setHint(control.hint());
+    widget->setHint(control.tip());
+    if (!row.key.isEmpty()) widget->setFocusPolicy(Qt::TabFocus);
     follow(control, widget, [&control, widget, plain = look.text](Property property) {
         applyCommon(control, widget, property);
         if (property == Property::Text) widget->setText(control.text());
@@ -98,7 +99,7 @@ TextLabel* Mirrors::copy(const ControlRow& row, const QString& objectName, const
 }
 
 void Mirrors::bindButton(ConsoleButton* button, Control& control) const {
-    button->setHint(control.hint());
+    button->setHint(control.tip());
     follow(control, button, [&control, button](Property property) {
         applyCommon(control, button, property);
         if (property == Property::Text) button->setCaption(control.text());

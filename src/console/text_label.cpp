@@ -62,6 +62,10 @@ QColor TextLabel::textColour() const {
     return theme::colour(isEnabled() ? look_.text : theme::Role::Disabled);
 }
 
+void TextLabel::press(Qt::MouseButton button) {
+    if (isEnabled()) Q_EMIT mousePressed(button);
+}
+
 void TextLabel::setHint(const QString& hint) {
     hint_ = hint;
     updateToolTip();
@@ -126,6 +130,11 @@ void TextLabel::drawNumbered(QPainter& painter, const QRect& area, const QString
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    drawWords(painter);
+    if (hasFocus()) theme::drawFocusRing(painter, rect());
+}
+
+void TextLabel::drawWords(QPainter& painter) const {
     const bool outlineOnly = look_.dashedWhenEmpty && text_.isEmpty();
     if (outlineOnly) {
         theme::drawSurface(painter, rect(), {std::nullopt, theme::colour(theme::Role::Line), 4, 1, true});

@@ -37,6 +37,8 @@ class TextLabel : public QWidget {
     void setColours(std::optional<QColor> ground, std::optional<QColor> text);
     [[nodiscard]] std::optional<QColor> groundColour() const { return ownGround_; }
     [[nodiscard]] QColor textColour() const;
+    // As the mouse does, from the keyboard.
+    void press(Qt::MouseButton button);
     // What the tool tip says besides a text that did not fit.
     void setHint(const QString& hint);
 
@@ -50,6 +52,8 @@ class TextLabel : public QWidget {
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent*) override { update(); }
+    void focusOutEvent(QFocusEvent*) override { update(); }
     // The second press of a double click is no press of its own: a proposal would be taken twice.
     void mouseDoubleClickEvent(QMouseEvent*) override {}
 
@@ -59,6 +63,7 @@ class TextLabel : public QWidget {
     void updateToolTip();
     [[nodiscard]] QStringList lines() const;
     [[nodiscard]] QString elided(const QString& line, int room) const;
+    void drawWords(class QPainter& painter) const;
     void drawNumbered(class QPainter& painter, const QRect& area, const QString& line) const;
 
     Look look_;

@@ -229,6 +229,11 @@ QIcon warningSign() {
     return QIcon(picture);
 }
 
+void drawFocusRing(QPainter& painter, const QRectF& area) {
+    drawSurface(painter, area, {std::nullopt, QColor(Qt::black), 4, 4});
+    drawSurface(painter, area.adjusted(1, 1, -1, -1), {std::nullopt, QColor(Qt::white), 4, 2});
+}
+
 QString ownColours(std::optional<Colour> back, std::optional<Colour> fore) {
     QString rule;
     if (back) rule += u"background: %1;"_s.arg(colour(*back).name());

@@ -75,6 +75,9 @@ void drawSurface(QPainter& painter, const QRectF& area, const Surface& surface);
 // "!" in a disc: the text beside it is wrong.
 QIcon warningSign();
 
+// Around what has the keyboard: a light line within a dark one, seen on every ground.
+void drawFocusRing(QPainter& painter, const QRectF& area);
+
 // Style rule of a widget whose colours a rule or a script has set, empty when neither is set.
 QString ownColours(std::optional<Colour> back, std::optional<Colour> fore);
 

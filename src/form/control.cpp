@@ -37,6 +37,14 @@ QString Control::hint() const {
     return text.contains(u"%1") ? text.arg(place + 1) : text;
 }
 
+QString Control::key() const {
+    return elementText(row_.key, index_ - row_.elements.first);
+}
+
+QString Control::tip() const {
+    return row_.key.isEmpty() ? hint() : hint() + u" (" + key() + u')';
+}
+
 template <class T>
 void Control::change(T& member, const T& value, Property property) {
     if (member == value) return;

@@ -32,6 +32,10 @@ class Control : public QObject {
 
     // What it is for, in the operator's words: its tool tip and, before its text, its name for screen readers.
     [[nodiscard]] QString hint() const;
+    // Empty for a control without a key; of an array with one key for all, that.
+    [[nodiscard]] QString key() const;
+    // The hint with its key: "Opens the main menu (Ctrl+M)".
+    [[nodiscard]] QString tip() const;
 
     // The caption of a label or button, the text of a text box or of a list's selected item.
     [[nodiscard]] const QString& text() const { return text_; }

@@ -38,6 +38,8 @@ struct ControlRow {
     QStringView hint;  // what it is for: tool tip and accessible name; "%1" is the element's number, counted from 1
     FirstState state = {};
     ElementNumbers elements = {};
+    // What the keyboard has for it, "Ctrl+H". Of an array one each, set apart by '|'; one alone leads to its elements.
+    QStringView key = {};
 };
 
 }  // namespace zelvor

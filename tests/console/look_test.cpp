@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QKeySequence>
+#include <set>
+
 #include <QFontMetrics>
 
 #include "console/panels/history_panel.h"
@@ -81,6 +84,7 @@ TEST(Window, MirrorsEveryControl) {
     Gallery gallery;
     gallery.writePack({"Score,score.csp"});
     gallery.start();
+    std::set<QKeySequence> keys{QKeySequence(u"Ctrl+K"_s), QKeySequence(u"F12"_s), QKeySequence(u"Ctrl+F11"_s)};
     const QStringList menuItems{u"mnSet169"_s, u"mnSet43"_s};
     for (const Control* control : gallery.app->form().all()) {
         if (menuItems.contains(control->name())) continue;
@@ -90,7 +94,43 @@ TEST(Window, MirrorsEveryControl) {
         EXPECT_FALSE(control->hint().isEmpty()) << name.constData();
         EXPECT_FALSE(widget->toolTip().isEmpty()) << name.constData();
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << name.constData();
+        using Kind = Control::Kind;
+        const bool isPressed = control->kind() == Kind::Button || control->kind() == Kind::CheckBox ||
+                               control->kind() == Kind::OptionButton || name == "lblPROPOSED";
+        if (!isPressed) continue;
+        const QKeySequence key(control->key());
+        EXPECT_TRUE(keys.insert(key).second) << name.constData() << " shares " << control->key().toStdString();
+        EXPECT_NE(key[0].keyboardModifiers() & (Qt::ControlModifier | Qt::AltModifier), Qt::NoModifier)
+            << name.constData() << " would be fired by a slip";
+        EXPECT_TRUE(widget->toolTip().contains(u'(' + control->key() + u')')) << name.constData();
+        EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << name.constData();
     }
+}
+
+// At 1280 x 800 and 150 % nothing but the panels' rest lies outside; the cards keep their width.
+TEST(Window, FitsASmallScreen) {
+    Gallery gallery;
+    gallery.writePack({"Score,score.csp"});
+    gallery.start();
+    MainWindow& window = gallery.app->window();
+    constexpr QSize kSmall{853, 510};
+    window.resize(kSmall);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.size(), kSmall);
+    for (const auto& [name, index] : {std::pair{"lblDATABASE", -1},
+                                      {"GradientButtonAIR", -1},
+                                      {"lblPROPOSED", 8},
+                                      {"cmbCARD", 20},
+                                      {"cmdTAB", 0}}) {
+        const auto* widget = gallery.find<QWidget>(name, index);
+        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+        EXPECT_TRUE(window.rect().contains(place)) << name;
+    }
+    EXPECT_GE(gallery.find<QWidget>("cmbCARD", 0)->width(), 140);
+    window.resize(1280, 780);
+    QCoreApplication::processEvents();
+    const auto* player = gallery.find<QWidget>("lblAPLAYERS", 23);
+    EXPECT_TRUE(window.rect().contains({player->mapTo(&window, QPoint()), player->size()})) << "nothing scrolls";
 }
 
 }  // namespace zelvor::test

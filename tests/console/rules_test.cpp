@@ -334,4 +334,37 @@ TEST_F(CardRules, StartUpOrder) {
     EXPECT_TRUE(preview.caption().startsWith(u"Preview Zelvor Cards ("));
 }
 
+TEST_F(CardRules, FoundByAnyPartInEitherAlphabet) {
+    set(1, 2) = {u"Ο Λάσκαρης σκοράρει"_s, {}, u"scorer.csp"_s};
+    set(2, 1) = {u"Διαιτητές"_s, {}, u"referees.csp"_s};
+    const auto captions = [&](const QString& typed) {
+        QStringList found;
+        const FindList list(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
+        for (const FindEntry* each : list.narrowed(typed)) found += each->caption;
+        return found;
+    };
+    const QStringList scorer{u"Ο Λάσκαρης σκοράρει"_s};
+    for (const QString& typed : {u"λασκ"_s, u"ΛΑΣΚΑΡΗΣ"_s, u"laskar"_s, u"σκοραρ λασ"_s, u"  Laskaris"_s})
+        EXPECT_EQ(captions(typed), scorer) << typed.toStdString();
+    EXPECT_EQ(captions(u"diait"_s), QStringList{u"Διαιτητές"_s});
+    EXPECT_EQ(captions(u"laskarx"_s), QStringList());
+
+    const auto entry = [&](const QString& typed) {
+        const FindList list(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
+        return *list.narrowed(typed).front();
+    };
+    EXPECT_EQ(entry({}).caption, u"One") << "the current set's first card";
+    bench.state.console.playerSelected = true;
+    console.pressFound(entry(u"Two"_s), false);
+    console.functionKey(10);
+    console.pressClear();
+    EXPECT_EQ(sent(), (QStringList{u"mtwo 20"_s, u"mkey 20"_s, u"mclear 20"_s}));
+    EXPECT_EQ(captions({}).first(3), (QStringList{u"Key"_s, u"Two"_s, u"One"_s})) << "CLEAR is no card";
+    // What was listed is not fired once another pack's cards are there.
+    const FindEntry old = entry(u"Two"_s);
+    bench.state.variables.SetVar(u"@LANGUAGE", u"GR"_s);
+    console.pressFound(old, false);
+    EXPECT_EQ(sent(), QStringList());
+}
+
 }  // namespace zelvor::test

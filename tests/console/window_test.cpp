@@ -121,6 +121,95 @@ TEST_F(MainWindowTest, KeysBelongToTheForm) {
     EXPECT_TRUE(sent({kPlayerLine})) << "nothing else was fired before";
 }
 
+// Through the window, as the platform brings keys.
+TEST_F(MainWindowTest, EveryDeedHasAKey) {
+    startWithCards();
+    gallery.connectMain(peer);
+    MainWindow& window = gallery.app->window();
+    window.activateWindow();
+    const auto key = [&](int code, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent press(QEvent::KeyPress, code, modifiers);
+        QCoreApplication::sendEvent(window.windowHandle(), &press);
+        QCoreApplication::processEvents();
+    };
+    constexpr int kGreekAlpha = 0x391;
+    for (const int letter : {static_cast<int>(Qt::Key_A), kGreekAlpha}) {
+        key(letter, Qt::AltModifier);
+        EXPECT_TRUE(sent({kScoreLine})) << letter;
+        key(letter, Qt::AltModifier | Qt::ShiftModifier);
+        EXPECT_TRUE(sent({kScoreLine})) << letter;
+    }
+    key(Qt::Key_2, Qt::ControlModifier);
+    key(Qt::Key_A, Qt::AltModifier);
+    key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(sent({u"SECOND"_s, u"CLEAR 1"_s}));
+    // A tab leads on into its panel, a key of a box to its panel.
+    key(Qt::Key_1, Qt::AltModifier);
+    EXPECT_TRUE(gallery.at("Frame1").visible());
+    EXPECT_EQ(QApplication::focusWidget(), gallery.find<QWidget>("cmdTAB", 0));
+    key(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_TRUE(gallery.at("Frame5").visible());
+    EXPECT_EQ(QApplication::focusWidget(), gallery.find<QWidget>("txtMANUALCASPAR"));
+    key(Qt::Key_Up, Qt::ControlModifier);
+    key(Qt::Key_Up, Qt::ControlModifier);
+    key(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(gallery.at("mnSCOREA").text(), u"2");
+    EXPECT_NE(gallery.at("mnSCOREB").text(), u"0") << "typed into a text box, and still the form's";
+    // Among labels of one kind the arrows lead on; only Ctrl+Enter presses.
+    gallery.at("lblHPLAYERS", 1).setText(u"11 Orfanos"_s);
+    key(Qt::Key_P, Qt::ControlModifier);
+    key(Qt::Key_Down, Qt::NoModifier);
+    ASSERT_EQ(QApplication::focusWidget(), gallery.find<QWidget>("lblHPLAYERS", 1));
+    key(Qt::Key_Return, Qt::NoModifier);
+    key(Qt::Key_Space, Qt::NoModifier);
+    EXPECT_FALSE(gallery.app->state().console.playerSelected);
+    key(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(gallery.app->state().console.playerSelected);
+    key(Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &window);
+    // What the pack has covered has no keys.
+    gallery.at("picHideControls").setVisible(true);
+    key(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(gallery.at("mnSCOREA").text(), u"2");
+
+    const auto* card = gallery.find<CardButton>("cmbCARD", 0);
+    QTest::keyPress(window.windowHandle(), Qt::Key_Alt);
+    EXPECT_EQ(card->letter(), u"A");
+    QTest::keyRelease(window.windowHandle(), Qt::Key_Alt);
+    EXPECT_EQ(card->letter(), QString());
+    EXPECT_EQ(peer.takeLines(), QStringList());
+}
+
+TEST_F(MainWindowTest, FindsAndFires) {
+    startWithCards();
+    gallery.connectMain(peer);
+    const auto find = [&](const QString& typed, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(&gallery.app->window(), Qt::Key_K, Qt::ControlModifier);
+        auto* box = gallery.form("frmFIND")->findChild<QLineEdit*>(u"txtFIND"_s);
+        QTest::keyClicks(box, typed);
+        QTest::keyClick(box, Qt::Key_Return, modifiers);
+        return gallery.form("frmFIND")->isVisible();
+    };
+    EXPECT_FALSE(find(u"SECO"_s));
+    EXPECT_TRUE(sent({u"SECOND"_s})) << "a card of another set";
+    EXPECT_FALSE(find({}));
+    EXPECT_TRUE(sent({u"SECOND"_s})) << "fired last, first in the list";
+    EXPECT_FALSE(find(u"clear csp"_s, Qt::ShiftModifier));
+    EXPECT_TRUE(sent({u"CLEAR 1"_s})) << "a script that has no card";
+    EXPECT_TRUE(find(u"no such thing"_s));
+    gallery.form("frmFIND")->close();
+    EXPECT_FALSE(find(u"4:3"_s));
+    EXPECT_EQ(gallery.app->state().variables.text(u"@SCREEN_MODE"), u"4_3");
+    EXPECT_FALSE(find(u"@HTLNAMEEN"_s));
+    ASSERT_TRUE(gallery.form("frmVARS")->isVisible());
+    EXPECT_TRUE(gallery.form("frmVARS")
+                    ->findChild<QWidget*>(u"txtVARS"_s)
+                    ->property("plainText")
+                    .toString()
+                    .contains(u"@HTLNAMEEN = Harbour City"));
+    EXPECT_EQ(peer.takeLines(), QStringList());
+}
+
 TEST_F(MainWindowTest, WidgetsMirrorControlsBothWays) {
     startWithCards();
     const auto* player = gallery.find<TextLabel>("lblHPLAYERS", 23);

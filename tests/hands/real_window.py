@@ -32,10 +32,12 @@ CARDS = {
     "play.csp": "CSPSEND~SHOW PLAY\r\n",
     "period.csp": "CSPSEND~PERIOD {@GAMEPERIOD}\r\n",
     "other.csp": "CSPSEND~OTHER\r\n",
+    "score.csp": "CSPSEND~SCORE {@GREENSCOREA}\r\n",
     "clear.csp": "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n",
     "GetGame.csp": "FUNCTIONCARD\r\n",
 }
-KEYS = {1: "hold.csp", 2: "quick.csp", 3: "asks.csp", 4: "delay.csp", 5: "play.csp", 6: "period.csp", 7: "long.csp"}
+KEYS = {1: "hold.csp", 2: "quick.csp", 3: "asks.csp", 4: "delay.csp", 5: "play.csp", 6: "period.csp", 7: "long.csp",
+        8: "score.csp"}
 
 
 def write_pack(folder):
@@ -247,6 +249,35 @@ def lists_give_the_keyboard_back(desk):
     desk.expect_period(2)
 
 
+def evening_by_keyboard(desk):
+    desk.key("Escape")
+    desk.key("ctrl+shift+m")  # disconnects
+    desk.key("ctrl+shift+m")
+    time.sleep(0.5)
+    desk.hold("alt+b", 1.2)
+    desk.expect(["QUICK"])
+    for key in ("ctrl+2", "alt+a", "ctrl+1"):
+        desk.key(key)
+    desk.expect(["OTHER"])
+    for key in ("a", "Return", "space", "F11"):
+        desk.key(key)
+    desk.key("ctrl+k")
+    desk.wait_for_window("Find")
+    desk.type("quick")
+    desk.hold("Return", 1.2)
+    desk.expect(["QUICK"])
+    for key in ("ctrl+shift+s", "ctrl+Up", "ctrl+Up", "F8"):
+        desk.key(key)
+    desk.expect(["SCORE 2"])
+    desk.key("F12")
+    desk.wait_for_window("Keys")
+    desk.key("F12")
+    desk.key("ctrl+shift+Delete")
+    desk.expect(["CLEAR 1"])
+    desk.key("alt+F4")
+    desk.wait(lambda: desk.console.poll() is not None, "the end")
+
+
 def main():
     for tool in ("Xvfb", "openbox", "xdotool"):
         if shutil.which(tool) is None:
@@ -257,10 +288,10 @@ def main():
         desk = Desk(sys.argv[1], folder)
         try:
             for case in (order_of_presses, held_keys_and_double_clicks, late_presses, clear_ends_what_waits,
-                         pause_before_play, lists_give_the_keyboard_back):
+                         pause_before_play, lists_give_the_keyboard_back, evening_by_keyboard):
                 print(case.__name__, flush=True)
                 case(desk)
-            assert desk.console.poll() is None, "the console has ended"
+            assert desk.console.returncode == 0, "the console has crashed"
         finally:
             desk.stop()
     return 0

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app_cards/find_desk.h"
 #include "app_cards/settings_desk.h"
 #include "app_cards/system_desktop.h"
 #include "ask_dialog/ask_form.h"
@@ -88,6 +89,7 @@ class CardsApp : public QObject {
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
     SettingsDesk settings_{engine_, packs_, cards_, boxes_, window_};
+    FindDesk find_{state_, program_.folder, cards_, settings_, window_};
     StartUp startUp_;
     bool telling_ = false;
 };

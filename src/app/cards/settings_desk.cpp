@@ -36,12 +36,24 @@ void SettingsDesk::answer(FormEvents& events, SystemDesktop& desktop) {
 void SettingsDesk::choose(const QString& item) {
     if (item == u"mnReloadVar") commands_.mnReloadVar();
     if (item == u"mnDisplayVars") {
-        variablesBox_.setText(commands_.mnDisplayVars());
-        forms_.bringToFront(variablesBox_.objectName());
+        showVariable({});
     }
     if (item == u"mnGeneralVars") commands_.mnGeneralVars({});
     if (item == controls.mnSet169.name) commands_.mnSet169();
     if (item == controls.mnSet43.name) commands_.mnSet43();
+}
+
+std::vector<FindEntry> SettingsDesk::commands() const {
+    std::vector<FindEntry> found;
+    for (const MainMenu::Item& item : menu_.items())
+        found.push_back({FindEntry::Kind::Command, item.caption, u"main menu"_s, item.name});
+    return found;
+}
+
+void SettingsDesk::showVariable(const QString& name) {
+    variablesBox_.setText(commands_.mnDisplayVars());
+    variablesBox_.search(name);
+    forms_.bringToFront(variablesBox_.objectName());
 }
 
 void SettingsDesk::showGeneral() {

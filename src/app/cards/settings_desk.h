@@ -33,9 +33,14 @@ class SettingsDesk : public QObject {
 
     Pickers& pickers() { return pickers_; }
 
- private:
+    // The commands of the main menu, as they are found.
+    [[nodiscard]] std::vector<FindEntry> commands() const;
+    // An item of the main menu by its name.
     void choose(const QString& item);
+    // Shows all variables, narrowed to what holds that name.
+    void showVariable(const QString& name);
 
+ private:
     CardConsole& cards_;
     MainWindow& window_;
     FormModel& form_;

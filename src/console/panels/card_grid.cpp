@@ -19,7 +19,7 @@ CardGrid::CardGrid(const Mirrors& mirrors, CardConsole& console) : console_(cons
         buttons_.at(i) = mirrors.cardButton(i);
         connect(buttons_.at(i), &CardButton::painted, this, [&console, i] { console.cardSeen(i); });
         for (const ConsoleButton* button :
-             {static_cast<const ConsoleButton*>(buttons_.at(i)), &buttons_.at(i)->small()})
+             std::initializer_list<const ConsoleButton*>{buttons_.at(i), &buttons_.at(i)->small()})
             connect(button, &ConsoleButton::goesDown, this, [&console, i] { console.cardGoesDown(i); });
         // Cards count down the columns, as the F-keys do in the packs.
         grid->addWidget(buttons_.at(i), i % kCardRows, i / kCardRows);
@@ -31,6 +31,13 @@ CardGrid::CardGrid(const Mirrors& mirrors, CardConsole& console) : console_(cons
         if (control->is(controls.cmbCARD)) showFaces();
     });
     showFaces();
+}
+
+void CardGrid::showLetters(bool shown) {
+    for (int i = 0; i < CardConsole::kCardButtons; ++i) {
+        // The last of "Alt+A".
+        buttons_.at(i)->setLetter(shown ? form_.at(controls.cmbCARD, i).key().right(1) : QString());
+    }
 }
 
 void CardGrid::showFaces() {
@@ -45,7 +52,7 @@ void CardGrid::showFaces() {
         face.key = console_.keyOf(i);
         face.fault = card.fault;
         buttons_.at(i)->setFace(face);
-        const QString hint = form_.at(controls.cmbCARD, i).hint();
+        const QString hint = form_.at(controls.cmbCARD, i).tip();
         buttons_.at(i)->setHint(face.trouble.isEmpty() ? hint : hint + u"\n"_s + face.trouble);
         QString name = u"Card %1: "_s.arg(i + 1) + (face.quiet ? u"empty"_s : card.shownCaption());
         if (const QString state = buttons_.at(i)->stateLine(); !state.isEmpty()) name += u", "_s + state;

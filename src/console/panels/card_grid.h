@@ -15,6 +15,9 @@ class CardGrid : public QWidget {
  public:
     CardGrid(const Mirrors& mirrors, CardConsole& console);
 
+    // Shows on each card the letter that fires it, together with Alt.
+    void showLetters(bool shown);
+
  private:
     void showFaces();
 

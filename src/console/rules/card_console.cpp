@@ -1,5 +1,6 @@
 #include "console_rules/card_console.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -67,8 +68,11 @@ void CardConsole::cardGoesDown(int index) {
 
 void CardConsole::fire(int index, bool tagged) {
     const std::optional<SeenCard> seen = std::exchange(down_, std::nullopt);
-    const SeenCard card = seen && seen->place.index == index ? *seen : cardAt(index);
-    const QString name = card.caption.isEmpty() ? u"Card %1"_s.arg(index + 1) : card.caption;
+    fire(seen && seen->place.index == index ? *seen : cardAt(index), tagged);
+}
+
+void CardConsole::fire(const SeenCard& card, bool tagged) {
+    const QString name = card.caption.isEmpty() ? u"Card %1"_s.arg(card.place.index + 1) : card.caption;
     if (card.script.isEmpty()) {
         note_.say(u"%1: no card in this place"_s.arg(name));
         return;
@@ -87,8 +91,21 @@ void CardConsole::pressScript(const QString& name, const QString& script) {
     presses_.press(name, [this, script] { run(script); });
 }
 
+void CardConsole::pressFound(const FindEntry& entry, bool asks) {
+    if (entry.kind == FindEntry::Kind::Card) {
+        fire({entry.place, entry.caption, entry.target, entry.language}, !asks && state_.console.playerSelected);
+        return;
+    }
+    presses_.press(entry.caption, [this, script = entry.target] { run(script, false, placeOf(script)); });
+}
+
 void CardConsole::run(const QString& script, bool tagged, std::optional<CardPlace> place) {
     note_.clear();
+    if (script != state_.cards.clearCard) {
+        recent_.removeAll(script);
+        recent_.prepend(script);
+        recent_.resize(std::min<qsizetype>(recent_.size(), kRecent));
+    }
     engine_.SHOW_TVCARD(script, tagged, false, {Asker::Kind::Operator, script, place});
     if (engine_.program().closing.hasBegun()) return;
     showSwitches();
@@ -151,6 +168,13 @@ void CardConsole::showTab(int tab) {
         form_.at(*kTabPanels[i]).setVisible(i == tab);
         form_.at(controls.cmdTAB, i).setChecked(i == tab);
     }
+}
+
+std::optional<int> CardConsole::tabOf(QStringView panel) {
+    for (int tab = 0; tab < kTabs; ++tab) {
+        if (kTabPanels[tab]->name == panel) return tab;
+    }
+    return std::nullopt;
 }
 
 void CardConsole::clearTag() {

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <array>
 
+#include "console_rules/find_list.h"
 #include "console_rules/form_events.h"
 #include "console_rules/presses.h"
 #include "console_rules/status_note.h"
@@ -21,6 +22,7 @@ class CardConsole : public QObject {
     static constexpr int kSelectors = 5;
     static constexpr int kFiringFunctionKeys = 10;
     static constexpr int kTabs = 6;
+    static constexpr int kRecent = 10;
 
     explicit CardConsole(CardEngine& engine);
 
@@ -42,7 +44,13 @@ class CardConsole : public QObject {
     void pressClear();
     // F1 to F10 by their numbers; an empty entry fires nothing.
     void functionKey(int number);
+    // A card, function key or script that was found: fires it as it was listed. asks: whatever player is tagged.
+    void pressFound(const FindEntry& entry, bool asks);
+    // The scripts that the operator has fired last, kRecent at most, the last one in front.
+    [[nodiscard]] const QStringList& recentlyFired() const { return recent_; }
     void showTab(int tab);
+    // The tab, from 0, that shows this panel ("Frame1"); nothing for a panel of no tab.
+    [[nodiscard]] static std::optional<int> tabOf(QStringView panel);
     void clearTag();
     // Writes @RETURNKEY from the pick list answered last and runs the script that @AUTOCARD names. Its button
     // (cmdAUTOCARD) is enabled while there is such a name.
@@ -80,6 +88,7 @@ class CardConsole : public QObject {
     };
     [[nodiscard]] SeenCard cardAt(int index) const;
     void fire(int index, bool tagged);
+    void fire(const SeenCard& card, bool tagged);
     void pressScript(const QString& name, const QString& script);
     void run(const QString& script, bool tagged = false, std::optional<CardPlace> place = std::nullopt);
     [[nodiscard]] std::optional<CardPlace> placeOf(const QString& script) const;
@@ -96,6 +105,7 @@ class CardConsole : public QObject {
     std::optional<SeenCard> down_;
     QTimer switchTimer_{this};
     QString shownLanguage_;
+    QStringList recent_;
 };
 
 }  // namespace zelvor

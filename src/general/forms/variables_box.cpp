@@ -59,6 +59,10 @@ void VariablesBox::setText(const QString& text) {
     search_->setFocus();
 }
 
+void VariablesBox::search(const QString& words) {
+    search_->setText(words);
+}
+
 void VariablesBox::showLines() {
     QStringList shown = lines_.mid(0, 1);
     for (const QString& line : lines_.mid(1)) {

@@ -17,6 +17,8 @@ class VariablesBox : public QWidget {
 
     // Puts the text on the clipboard and fills the box with it, its first line being the heading.
     void setText(const QString& text);
+    // Shows the lines that hold these words.
+    void search(const QString& words);
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;
