@@ -1,7 +1,9 @@
 #pragma once
 
+#include "app_cards/remote_desk.h"
 #include "app_cards/settings_desk.h"
 #include "app_cards/system_desktop.h"
+#include "as_run/as_run_record.h"
 #include "ask_dialog/ask_form.h"
 #include "base/program.h"
 #include "command_line/host_port.h"
@@ -40,6 +42,8 @@ class CardsApp : public QObject {
         std::optional<HostPort> main = {};
         std::optional<HostPort> remote = {};
         bool connects = false;
+        bool keepsAsRun = true;  // but for the preview instance, which puts nothing on air
+        RemoteOptions remoteControl = {};
     };
 
     explicit CardsApp(const Options& options);
@@ -55,17 +59,20 @@ class CardsApp : public QObject {
     GraphicsLinks& links() { return links_; }
     SettingsDesk& settings() { return settings_; }
     GameDesk& desk() { return desk_; }
+    RemoteDesk& remote() { return remote_; }
 
  private:
     StartUp::Steps steps();
     void answerLinks();
     void answerDesk();
+    void takeProposal(int index, const Presser& presser);
     void nameServers();
     void tellTroubles();
     void tellTroubles(LinkId id);
     void tell(const ErrorPlace& place, const QString& message);
     bool mayClose();
     void release();
+    void keepAsRun();
 
     Options options_;
     ShowState state_;
@@ -89,6 +96,9 @@ class CardsApp : public QObject {
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
     SettingsDesk settings_{engine_, packs_, cards_, boxes_, window_};
     StartUp startUp_;
+    RemoteDesk remote_{engine_, cards_, desk_};
+    std::optional<AsRunFile> asRunFile_;
+    std::optional<AsRunRecord> asRun_;
     bool telling_ = false;
 };
 
