@@ -49,6 +49,10 @@ RemoteConsole::RemoteConsole(CardEngine& engine, CardConsole& cards, GameDesk& d
     });
 }
 
+RemoteConsole::~RemoteConsole() {
+    engine_.program().questions.setBeforehand({});
+}
+
 std::optional<DeedResult> RemoteConsole::refusal() {
     if (!open_ || engine_.program().closing.hasBegun()) return wrongDeed(503, u"the console is not ready"_s);
     const Question* top = engine_.program().questions.top();
@@ -74,7 +78,7 @@ void RemoteConsole::press(const QString& what, const Request& request,
     const qint64 number = ++lastNumber_;
     pending_[number].request = request;
     engine_.ports().notes.appendHistory(u" = "_s + request.from + u": "_s + what);
-    QTimer::singleShot(kLongestAnswer, this, [this, number] { tell(number, {202, {{u"outcome"_s, u"running"_s}}}); });
+    QTimer::singleShot(kLongestAnswer, this, [this, number] { tellLate(number); });
     QMetaObject::invokeMethod(
         this, [this, number, deed] { carryOut(number, deed); }, Qt::QueuedConnection);
 }
@@ -99,6 +103,15 @@ void RemoteConsole::tell(qint64 number, const DeedResult& result) {
     if (found == pending_.end() || std::exchange(found->second.told, true)) return;
     const Done done = found->second.request.done;
     done(result);
+}
+
+// What neither runs nor waits for its turn any longer was given up by the console, which has told the operator why.
+void RemoteConsole::tellLate(qint64 number) {
+    const auto found = pending_.find(number);
+    if (found == pending_.end()) return;
+    if (found->second.over && !found->second.ran && !cards_.presses().isWaiting())
+        return finish(number, wrongDeed(409, u"it was not carried out"_s));
+    tell(number, {202, {{u"outcome"_s, u"running"_s}}});
 }
 
 void RemoteConsole::finish(qint64 number, const DeedResult& result) {

@@ -39,6 +39,9 @@ class RemoteConsole : public QObject {
 
     // All must outlive it.
     RemoteConsole(CardEngine& engine, CardConsole& cards, GameDesk& desk);
+    RemoteConsole(const RemoteConsole&) = delete;
+    RemoteConsole& operator=(const RemoteConsole&) = delete;
+    ~RemoteConsole() override;
 
     // Before the start-up is over nothing is taken.
     void open() { open_ = true; }
@@ -73,6 +76,7 @@ class RemoteConsole : public QObject {
     void press(const QString& what, const Request& request, const std::function<void(const Presser&)>& deed);
     void carryOut(qint64 number, const std::function<void(const Presser&)>& deed);
     void tell(qint64 number, const DeedResult& result);
+    void tellLate(qint64 number);
     void finish(qint64 number, const DeedResult& result);
     void tellAsked();
     [[nodiscard]] Presser presserOf(qint64 number, const QString& from) const {
