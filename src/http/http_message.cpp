@@ -36,8 +36,7 @@ QByteArray HttpResponse::bytes(bool keepAlive) const {
     QByteArray head = "HTTP/1.1 " + QByteArray::number(status) + ' ' +
                       QByteArray(reason.data(), static_cast<qsizetype>(reason.size())) + "\r\nContent-Type: " + type +
                       "\r\nContent-Length: " + QByteArray::number(body.size()) +
-                      "\r\nConnection: " + (keepAlive ? "keep-alive" : "close") +
-                      "\r\nX-Content-Type-Options: nosniff\r\nCache-Control: no-store\r\n";
+                      "\r\nConnection: " + (keepAlive ? "keep-alive" : "close") + "\r\nCache-Control: no-store\r\n";
     for (const auto& [name, value] : headers) head += name + ": " + value + "\r\n";
     return head + "\r\n" + body;
 }

@@ -61,6 +61,7 @@ void HttpServer::takeConnections() {
             continue;
         }
         ++connections_;
+        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);  // events are small and follow one another
         auto* connection = new HttpConnection(socket);
         connection->setParent(this);
         connect(connection, &QObject::destroyed, this, [this] { --connections_; });

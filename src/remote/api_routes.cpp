@@ -76,7 +76,10 @@ std::span<const ApiRoute> apiRoutes() {
 HttpResponse jsonResponse(const DeedResult& result) {
     QJsonObject body = result.body;
     if (body.isEmpty()) body.insert(u"outcome"_s, u"done"_s);
-    return {result.status, "application/json", QJsonDocument(body).toJson(QJsonDocument::Compact) + '\n'};
+    return {result.status,
+            "application/json",
+            QJsonDocument(body).toJson(QJsonDocument::Compact) + '\n',
+            {{"X-Content-Type-Options", "nosniff"}}};
 }
 
 void answerApi(RemoteConsole& console, const StateView& view, const HttpRequest& request, const SendResponse& send) {

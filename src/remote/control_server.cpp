@@ -23,7 +23,12 @@ HttpResponse pageFile(const QString& name) {
                             : name.endsWith(u".css")  ? "text/css; charset=utf-8"
                             : name.endsWith(u".json") ? "application/json"
                                                       : "text/html; charset=utf-8";
-    return {200, type, file.readAll(), {{"Content-Security-Policy", kPagePolicy}, {"Referrer-Policy", "no-referrer"}}};
+    return {200,
+            type,
+            file.readAll(),
+            {{"Content-Security-Policy", kPagePolicy},
+             {"Referrer-Policy", "no-referrer"},
+             {"X-Content-Type-Options", "nosniff"}}};
 }
 
 }  // namespace
