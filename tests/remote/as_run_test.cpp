@@ -124,7 +124,8 @@ TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
     Gallery gallery;
     gallery.writePack({"Strap,strap.csp", "Bad,bad.csp"}, "CLEAR:clear.csp\r\n");
     gallery.write(u"QRD_EN/strap.csp"_s,
-                  "BREAK~Sure?\r\nSETVAR~@SPONSOR;Harbour, \"Bank\"\r\nCSPSEND~CG 1-20 ADD 1 'a' 1\r\n");
+                  "BREAK~Sure?\r\nCSPSENDREMOTE~CG 1-1 STOP 1\r\nSETVAR~@SPONSOR;Harbour, \"Bank\"\r\nCSPSEND~CG 1-20 "
+                  "ADD 1 'a' 1\r\n");
     gallery.write(u"QRD_EN/bad.csp"_s, "SETVAR~@SPONSOR;\r\nCSPSEND~CG 1-30 ADD 1 'b' 1\r\n");
     gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n");
     gallery.start();

@@ -152,7 +152,8 @@ void CardsApp::keepAsRun() {
                        u"What is on air cannot be written down: "_s + reason + u"\r\n"_s + asRunFile_->path(),
                        Operator::Severity::Warning);
     });
-    asRun_.emplace(engine_, links_, *asRunFile_);
+    asRun_.emplace(
+        engine_, links_, [this](LinkId id) { return linkConsole_.watch(id).isUsed(); }, *asRunFile_);
 }
 
 // One message at a time: while it is open further errors stand in the log alone.

@@ -32,8 +32,8 @@ QString whoAsked(const Asker& asker) {
 
 }  // namespace
 
-AsRunRecord::AsRunRecord(CardEngine& engine, const GraphicsLinks& links, AsRunFile& file)
-    : engine_(engine), file_(file) {
+AsRunRecord::AsRunRecord(CardEngine& engine, const GraphicsLinks& links, IsUsed isUsed, AsRunFile& file)
+    : engine_(engine), isUsed_(std::move(isUsed)), file_(file) {
     constexpr int kBase = 36;
     const QDateTime now = engine.ports().clock.now();
     console_ = QString::number(now.toMSecsSinceEpoch(), kBase) + u'.';
@@ -89,6 +89,7 @@ void AsRunRecord::addAnswer(const Question& question, const QString& answer) {
 }
 
 void AsRunRecord::addLine(LinkId link, const ReplyMatcher::SentLine& sent, bool lost) {
+    if (lost && !isUsed_(link)) return;
     // One that the server did not take before it went is in the record already.
     if (lost && sent.number <= lastLine_) return addReply(link, sent, u"not taken"_s);
     lastLine_ = sent.number;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 
 #include "as_run/as_run_file.h"
 #include "as_run/standing_graphics.h"
@@ -16,8 +17,11 @@ class AsRunRecord : public QObject {
     Q_OBJECT
 
  public:
+    // Whether anybody wants that link: what is not sent on one of no use is not missed.
+    using IsUsed = std::function<bool(LinkId link)>;
+
     // All must outlive the record.
-    AsRunRecord(CardEngine& engine, const GraphicsLinks& links, AsRunFile& file);
+    AsRunRecord(CardEngine& engine, const GraphicsLinks& links, IsUsed isUsed, AsRunFile& file);
 
  private:
     void write(QJsonObject happening, const QString& event, qint64 run);
@@ -28,6 +32,7 @@ class AsRunRecord : public QObject {
     void addReply(LinkId link, const ReplyMatcher::SentLine& sent, const QString& reply);
 
     CardEngine& engine_;
+    IsUsed isUsed_;
     AsRunFile& file_;
     QString console_;  // begins the names of this console's runs
     StandingGraphics graphics_;
