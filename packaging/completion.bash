@@ -34,7 +34,7 @@ _zelvor_cards()
             _filedir -d
             return
             ;;
-        --source | --record | --log)
+        --source | --record | --log | --control-token | --control-cert | --control-key)
             _filedir
             return
             ;;
@@ -51,7 +51,8 @@ _zelvor_cards()
             return
             ;;
         --codepage | --set | --answer | --connection | --main | --remote | --var | --digits | --to | --into | \
-            --from | --speed | --feed-port | --amcp | --http | --bind | --channels | --mode)
+            --from | --speed | --feed-port | --amcp | --http | --bind | --channels | --mode | --control | \
+            --osc | --osc-allow | --card)
             return
             ;;
     esac

@@ -112,8 +112,14 @@ QWidget* Boxes::over(const Asker& asker) {
     return used_ && used_->isVisible() ? used_ : window_;
 }
 
-bool Boxes::run(const Asker& asker, QDialog& box) {
+bool Boxes::run(const Question& question, QDialog& box) {
     if (program_.closing.hasBegun()) return false;
+    const Asker& asker = question.asker;
+    const Questions::Standing standing(program_.questions, question, [&box](const QString& answer) {
+        if (auto* field = box.findChild<QLineEdit*>(u"answer"_s)) field->setText(answer);
+        const bool accepts = answer != Question::kCancel && answer != Question::kNo;
+        box.done(accepts ? QDialog::Accepted : QDialog::Rejected);
+    });
     connect(&program_.closing, &Closing::begun, &box, &QDialog::reject);
     connect(&program_.clearing, &Clearing::begun, &box, &QDialog::reject);
     Q_EMIT opened(&box);
@@ -178,14 +184,22 @@ void Boxes::message(const Asker& asker, const QString& title, const QString& tex
     Box box(dialog, title, text, QDialogButtonBox::Ok);
     addSeverity(box, severity);
     addButtons(box, asker, program_.clearing);
-    run(asker, dialog);
+    run({Question::Kind::Message, asker, title, text}, dialog);
 }
 
 bool Boxes::yesNo(const Asker& asker, const QString& title, const QString& text) {
-    QDialog dialog(over(asker));
-    Box box(dialog, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
-    addButtons(box, asker, program_.clearing);
-    return run(asker, dialog);
+    const Question question{Question::Kind::YesNo, asker, title, text};
+    bool yes = false;
+    if (const auto given = program_.questions.answeredBeforehand(question)) {
+        yes = *given == Question::kYes;
+    } else {
+        QDialog dialog(over(asker));
+        Box box(dialog, title, text, QDialogButtonBox::Yes | QDialogButtonBox::No);
+        addButtons(box, asker, program_.clearing);
+        yes = run(question, dialog);
+    }
+    program_.questions.tellAnswer(question, yes ? Question::kYes : Question::kNo);
+    return yes;
 }
 
 std::optional<QString> Boxes::input(const Asker& asker, const QString& title, const QString& prompt,
@@ -199,7 +213,7 @@ std::optional<QString> Boxes::input(const Asker& asker, const QString& title, co
     addButtons(box, asker, program_.clearing);
     field->selectAll();
     field->setFocus();
-    return run(asker, dialog) ? std::optional(field->text()) : std::nullopt;
+    return run({Question::Kind::Text, asker, title, prompt}, dialog) ? std::optional(field->text()) : std::nullopt;
 }
 
 }  // namespace zelvor

@@ -41,7 +41,7 @@ class Boxes : public QObject, public Operator {
     void opened(QDialog* box);
 
  private:
-    bool run(const Asker& asker, QDialog& box);
+    bool run(const Question& question, QDialog& box);
     QWidget* over(const Asker& asker);
     void countSilenced(const QString& card);
     void showNotice(const QString& card, const QString& title, const QString& text, Severity severity);

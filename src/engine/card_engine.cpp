@@ -21,9 +21,19 @@ QString CardEngine::scriptName(const QString& cardFile) {
 
 CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRun, bool keepStates,
                                             const Asker& asker) {
-    const Closing& closing = program_.closing;
-    if (closing.hasBegun()) return Outcome::Closed;
+    if (program_.closing.hasBegun()) return Outcome::Closed;
     const QString name = scriptName(cardFile);
+    if (asker.run != 0) return runScript(name, autoRun, keepStates, asker);
+    Asker numbered = asker;
+    numbered.run = ++lastRun_;
+    Q_EMIT runs_.begun(numbered);
+    const Outcome outcome = runScript(name, autoRun, keepStates, numbered);
+    Q_EMIT runs_.ended(numbered, outcome);
+    return outcome;
+}
+
+CardEngine::Outcome CardEngine::runScript(const QString& name, bool autoRun, bool keepStates, const Asker& asker) {
+    const Closing& closing = program_.closing;
     const QString language = state_.language();
     const QString shownPath = program_.folder.packFile(language, name);
     std::shared_ptr<const CardScript> script = scripts_.current(shownPath);
@@ -34,6 +44,7 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
         return Outcome::NoScript;
     }
 
+    const bool isInside = !asker.at.card.isEmpty();
     ErrorPlace place{u"mGLOBAL.SHOW_TVCARD"_s, 0, asker};
     place.asker.at = {name};
     Outcome outcome = Outcome::Ran;
@@ -45,10 +56,7 @@ CardEngine::Outcome CardEngine::SHOW_TVCARD(const QString& cardFile, bool autoRu
                 std::make_shared<CardScript>(name, path, language, program_.folder, program_.files, place.asker.at);
             scripts_.keep(shownPath, script);
         }
-        if (place.asker.run == 0) {
-            place.asker.run = ++runs_;
-            place.asker.functionCard = script->functionCard();
-        }
+        if (!isInside) place.asker.functionCard = script->functionCard();
         state_.ask.ASK_RESULT = u"0"_s;
         state_.switches.PreviewDisabled = false;
         try {

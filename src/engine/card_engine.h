@@ -5,6 +5,7 @@
 
 #include "base/program.h"
 #include "engine/calculator.h"
+#include "engine/card_runs.h"
 #include "engine/card_script.h"
 #include "engine/ports.h"
 #include "engine/show_state.h"
@@ -23,8 +24,7 @@ class CardEngine {
 
     CardEngine(ShowState& state, FormModel& form, Program& program, const Ports& ports);
 
-    // How a run ended. A cancelled ask counts as Ran, a failed query as NoData.
-    enum class Outcome { Ran, NoData, NoScript, Failed, Cleared, Closed };
+    using Outcome = RunOutcome;
 
     // Runs the card's script to its end. cardFile: as the card table gives it, relative to the pack's folder.
     // autoRun: ask fields take their automatic answers. keepStates: ON, OFF and OFFALL are skipped. A missing script
@@ -42,11 +42,14 @@ class CardEngine {
     [[nodiscard]] Program& program() const { return program_; }
     [[nodiscard]] const Ports& ports() const { return ports_; }
     Calculator& calculator() { return calculator_; }
+    [[nodiscard]] const CardRuns& runs() const { return runs_; }
 
     // Names the pack's script of a card: ".qrd" and ".QRD" are run as ".csp", any other spelling stays.
     static QString scriptName(const QString& cardFile);
 
  private:
+    Outcome runScript(const QString& name, bool autoRun, bool keepStates, const Asker& asker);
+
     ShowState& state_;
     FormModel& form_;
     Program& program_;
@@ -58,7 +61,8 @@ class CardEngine {
         bool sends = false;
     };
     std::vector<Running> running_;  // each inside the one before it
-    qint64 runs_ = 0;
+    CardRuns runs_;
+    qint64 lastRun_ = 0;
 };
 
 }  // namespace zelvor

@@ -8,16 +8,18 @@ namespace zelvor {
 
 Proposals::Proposals(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine) {}
 
-void Proposals::lblPROPOSED(int index) {
-    quietly(u"lblPROPOSED_Click"_s, [&] { take(index); });
+void Proposals::lblPROPOSED(int index, const Presser& presser) {
+    quietly(u"lblPROPOSED_Click"_s, [&] { take(index, presser); });
 }
 
-void Proposals::take(int index) {
+void Proposals::take(int index, const Presser& presser) {
     clearPlayers();
     Control& label = engine_.form().at(controls.lblPROPOSED, index);
     if (label.tag().isEmpty()) return;
     const Proposal proposal(label);
-    proposal.fire(engine_, proposal.card(), label, {Asker::Kind::Operator, proposal.card()});
+    Asker asker{Asker::Kind::Operator, proposal.card()};
+    asker.presser = presser;
+    proposal.fire(engine_, proposal.card(), label, asker);
 }
 
 void Proposals::clearPlayers() {

@@ -15,10 +15,10 @@ class Proposals : public QuietRules {
     // (id|used|card|key:answer##...), marks it used in the database and colours it. A tag with fewer fields, or an
     // answer missing, runs nothing; a failing database leaves the colour. A card that did not run leaves it, too,
     // and the label says why.
-    void lblPROPOSED(int index);
+    void lblPROPOSED(int index, const Presser& presser = {QStringLiteral("proposal")});
 
  private:
-    void take(int index);
+    void take(int index, const Presser& presser);
     void clearPlayers();
 
     CardEngine& engine_;

@@ -54,13 +54,13 @@ bool GeneralVariables::addRow() {
     const QString pack = pack_;
     bool answered = true;
     program_.trap.run({u"frmGENERAL.cmdADDROW_Click"_s}, Tell::Operator, [&] {
-        struct Question {
+        struct Prompt {
             QStringView prompt;
             int column;
         };
-        for (const Question& question :
-             {Question{u"var", general_column::kVariable}, Question{u"title", general_column::kTitle},
-              Question{u"help", general_column::kHelp}}) {
+        for (const Prompt& question :
+             {Prompt{u"var", general_column::kVariable}, Prompt{u"title", general_column::kTitle},
+              Prompt{u"help", general_column::kHelp}}) {
             const std::optional<QString> answer = operator_.input({}, kWindowTitle, question.prompt.toString(), {});
             answered = answered && answer.has_value();
             if (!answered) return;

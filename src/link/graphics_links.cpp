@@ -59,11 +59,12 @@ void GraphicsLinks::sendNow(LinkId id, const QString& line, const Asker& asker) 
     if (clearing_.count() != clearings) return;
 
     // The pause may have seen the link go, and so may the sending itself.
+    const ReplyMatcher::SentLine sent{line, asker, clock_.steadyMilliseconds(), ++lastLine_};
     if (isSendable(target.state())) {
-        replies(id).matcher.sent({line, asker, clock_.steadyMilliseconds()});
+        replies(id).matcher.sent(sent);
         target.send(line);
     } else {
-        Q_EMIT lineLost(id, {line, asker, 0});
+        Q_EMIT lineLost(id, sent);
     }
     const QString mark = id == LinkId::Main ? QString() : u"REMOTE "_s;
     if (!isSendable(target.state())) {
@@ -72,7 +73,7 @@ void GraphicsLinks::sendNow(LinkId id, const QString& line, const Asker& asker) 
     }
     if (id == LinkId::Main) appendHistory(u" > "_s + line);
     writeLog(mark.isEmpty() ? line : QString(mark + u"> "_s + line));
-    Q_EMIT lineSent(id, line);
+    Q_EMIT lineSent(id, sent);
 }
 
 int GraphicsLinks::state(LinkId link) const {

@@ -55,7 +55,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
 
  Q_SIGNALS:
     // A line was put on a link, as it went out, without its line end.
-    void lineSent(zelvor::LinkId link, const QString& line);
+    void lineSent(zelvor::LinkId link, const zelvor::ReplyMatcher::SentLine& line);
     // A line was not put on a link, or had not been taken by the server when the link failed.
     void lineLost(zelvor::LinkId link, const zelvor::ReplyMatcher::SentLine& line);
     // The server has answered a line.
@@ -92,6 +92,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     CasparLink remote_;
     Replies mainReplies_;
     Replies remoteReplies_;
+    qint64 lastLine_ = 0;
     qint64 shownSecond_ = -1;
     QString shownTime_;
 };

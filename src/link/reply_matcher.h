@@ -20,7 +20,8 @@ class ReplyMatcher {
     struct SentLine {
         QString line;
         Asker asker;
-        qint64 at = 0;  // steady milliseconds
+        qint64 at = 0;      // steady milliseconds
+        qint64 number = 0;  // of all lines of both links, counted from 1
     };
     struct Answer {
         SentLine to;

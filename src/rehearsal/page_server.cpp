@@ -1,19 +1,16 @@
 #include "rehearsal/page_server.h"
 
 #include <QFile>
-#include <QHttpServerRequest>
-#include <QHttpServerResponder>
 #include <QMimeDatabase>
 #include <QRegularExpression>
-#include <QTcpServer>
+#include <QUrl>
+#include <QWebSocket>
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor::rehearsal {
 
 namespace {
-
-using StatusCode = QHttpServerResponder::StatusCode;
 
 constexpr auto kPagePolicy =
     "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self'; frame-src 'self'; connect-src 'self'; "
@@ -24,82 +21,51 @@ QByteArray typeOf(const QString& name) {
     return QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension).name().toLatin1();
 }
 
-void sendPageFile(QHttpServerResponder responder, const QString& name) {
-    QFile file(u":/page/"_s + name);
-    if (name.contains(u'/') || !file.open(QIODevice::ReadOnly)) {
-        responder.write("Not found\n", "text/plain", StatusCode::NotFound);
-        return;
-    }
-    responder.write(file.readAll(), {{"Content-Type", typeOf(name) + "; charset=utf-8"},
-                                     {"Content-Security-Policy", kPagePolicy},
-                                     {"Cache-Control", "no-store"}});
+HttpResponse refusal(int status, const QByteArray& words) {
+    return {status, "text/plain", words};
 }
 
-void sendTemplateFile(QHttpServerResponder responder, const TemplateFolder& folder, const QString& name) {
+HttpResponse pageFile(const QString& name) {
+    QFile file(u":/page/"_s + name);
+    if (name.contains(u'/') || !file.open(QIODevice::ReadOnly)) return refusal(404, "Not found\n");
+    return {200, typeOf(name) + "; charset=utf-8", file.readAll(), {{"Content-Security-Policy", kPagePolicy}}};
+}
+
+HttpResponse templateFile(const TemplateFolder& folder, const QString& name) {
     const std::optional<QByteArray> bytes = folder.read(name);
-    if (!bytes) {
-        responder.write("Not found\n", "text/plain", StatusCode::NotFound);
-        return;
-    }
+    if (!bytes) return refusal(404, "Not found\n");
     const QByteArray type = typeOf(name);
     // A template has no origin: its own fonts and data are only readable to it when anyone may read them.
-    responder.write(type == "text/html" ? withShim(*bytes) : *bytes, {{"Content-Type", type},
-                                                                      {"Content-Security-Policy", kTemplatePolicy},
-                                                                      {"Access-Control-Allow-Origin", "*"},
-                                                                      {"Cache-Control", "no-store"}});
+    return {200,
+            type,
+            type == "text/html" ? withShim(*bytes) : *bytes,
+            {{"Content-Security-Policy", kTemplatePolicy}, {"Access-Control-Allow-Origin", "*"}}};
+}
+
+// Only our own page may look on: not a template, not another site that is open in the same browser.
+std::optional<HttpResponse> viewerRefusal(const HttpRequest& request) {
+    if (request.pathText() != u"/state") return refusal(404, "Not found\n");
+    const QUrl origin(QString::fromLatin1(request.header("Origin")));
+    const QUrl self(u"http://"_s + QString::fromLatin1(request.header("Host")));
+    constexpr int kUsualPort = 80;
+    if (origin.host() == self.host() && origin.port(kUsualPort) == self.port(kUsualPort)) return std::nullopt;
+    return refusal(403, "Not from here\n");
 }
 
 }  // namespace
 
-PageServer::PageServer(const TemplateFolder& folder, ViewerFeed& feed) : folder_(folder), feed_(feed) {
-    connect(this, &QAbstractHttpServer::newWebSocketConnection, this, &PageServer::takeViewer);
-}
+PageServer::PageServer(const TemplateFolder& folder, ViewerFeed& feed)
+    : folder_(folder),
+      server_([this](const HttpRequest& request, const HttpReply& reply) { reply.send(answer(request)); },
+              viewerRefusal, [&feed](std::unique_ptr<QWebSocket> socket) { feed.join(std::move(socket)); }) {}
 
-QString PageServer::start(const QHostAddress& address, quint16 port) {
-    auto listener = std::make_unique<QTcpServer>();
-    if (!listener->listen(address, port)) {
-        return listener->errorString();
-    }
-    bind(listener.release());
-    return {};
-}
-
-quint16 PageServer::port() const {
-    return servers().value(0)->serverPort();
-}
-
-bool PageServer::handleRequest(const QHttpServerRequest& request, QTcpSocket* socket) {
-    const QString path = request.url().path(QUrl::FullyDecoded);
-    if (request.method() != QHttpServerRequest::Method::Get) {
-        makeResponder(request, socket).write("Only GET\n", "text/plain", StatusCode::MethodNotAllowed);
-    } else if (path == "/"_L1) {
-        sendPageFile(makeResponder(request, socket), u"index.html"_s);
-    } else if (path.startsWith("/page/"_L1)) {
-        sendPageFile(makeResponder(request, socket), path.mid(6));
-    } else if (path.startsWith("/templates/"_L1)) {
-        sendTemplateFile(makeResponder(request, socket), folder_, path.mid(11));
-    } else {
-        // The page's web socket: to say that it is ours is all there is to do, Qt answers it.
-        return path == "/state"_L1 && request.value("Upgrade").compare("websocket", Qt::CaseInsensitive) == 0;
-    }
-    return true;
-}
-
-void PageServer::missingHandler(const QHttpServerRequest& request, QTcpSocket* socket) {
-    makeResponder(request, socket).write("Not found\n", "text/plain", StatusCode::NotFound);
-}
-
-void PageServer::takeViewer() {
-    while (auto socket = nextPendingWebSocketConnection()) {
-        // Only our own page may look on: not a template, not another site that is open in the same browser.
-        const QUrl origin(socket->origin());
-        const QUrl self = socket->requestUrl();
-        if (origin.host() != self.host() || origin.port(80) != self.port(80)) {
-            socket.release()->deleteLater();  // Qt still works on it when this signal comes
-            continue;
-        }
-        feed_.join(std::move(socket));
-    }
+HttpResponse PageServer::answer(const HttpRequest& request) const {
+    const QString path = request.pathText();
+    if (request.method != "GET") return refusal(405, "Only GET\n");
+    if (path == u"/") return pageFile(u"index.html"_s);
+    if (path.startsWith(u"/page/")) return pageFile(path.mid(6));
+    if (path.startsWith(u"/templates/")) return templateFile(folder_, path.mid(11));
+    return refusal(404, "Not found\n");
 }
 
 QByteArray withShim(const QByteArray& html) {

@@ -24,7 +24,16 @@ PATIENCE = 60  # seconds
 SETS_UP = "sets up and builds the machine that this test runs on"
 HARDWARE = "speaks to a machine of the production"
 INSTALLS = "needs an installed package; packaging/test tries it"
+CONSOLE = "needs a console; tests/remote starts one"
 NOT_RUN = {
+    "zelvor-cards --control 127.0.0.1:7700 --osc 127.0.0.1:7701": CONSOLE,
+    "zelvor-cards --control 10.0.0.7:7700 --control-token token": CONSOLE,
+    "zelvor as-run": CONSOLE,
+    "zelvor as-run 2026-11-21 --csv": CONSOLE,
+    "zelvor as-run --card strap --lines": CONSOLE,
+    "zelvor as-run --from remote": CONSOLE,
+    "zelvor as-run --refused": CONSOLE,
+    "zelvor as-run --into 1": CONSOLE,
     "./run": SETS_UP,
     "./run --game": SETS_UP,
     "./run --no-display": SETS_UP,

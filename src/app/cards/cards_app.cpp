@@ -31,8 +31,8 @@ CardsApp::CardsApp(const Options& options)
         if (asker.isAttended()) window_.activateWindow();
     });
     answerDesk();
-    connect(&window_, &MainWindow::functionKey, &cards_, &CardConsole::functionKey);
-    connect(&window_, &MainWindow::clearKey, &cards_, &CardConsole::pressClear);
+    connect(&window_, &MainWindow::functionKey, &cards_, [this](int number) { cards_.functionKey(number); });
+    connect(&window_, &MainWindow::clearKey, &cards_, [this] { cards_.pressClear(); });
     cards_.presses().setWaited([this] { return inputTimes_.waited(); });
     connect(&boxes_, &Boxes::silenced, this,
             [this](const QString& words) { form_.at(controls.lblSILENCED).setText(words); });
@@ -94,14 +94,17 @@ void CardsApp::answerDesk() {
     events_.onClick(controls.cmdCLOCKS, [this](int) { desk_.localClock.cmdCLOCKS(); });
     events_.onClick(controls.Command1, [this](int) { desk_.stopwatch.Command1(); });
     events_.onClick(controls.cmdMANSCORE, [this](int index) { desk_.scoreboard.cmdMANSCORE(index); });
-    events_.onClick(controls.lblPROPOSED, [this](int index) {
-        cards_.presses().press(u"Proposal %1"_s.arg(index), [this, index] { desk_.proposals.lblPROPOSED(index); });
-    });
+    events_.onClick(controls.lblPROPOSED, [this](int index) { takeProposal(index, {u"proposal"_s}); });
     const auto players = [this](auto handler) {
         return [this, handler](int index, Qt::MouseButton button) { (desk_.players.*handler)(index, button); };
     };
     events_.onMouseDown(controls.lblAPLAYERS, players(&PlayerLabels::lblAPLAYERS));
     events_.onMouseDown(controls.lblHPLAYERS, players(&PlayerLabels::lblHPLAYERS));
+}
+
+void CardsApp::takeProposal(int index, const Presser& presser) {
+    cards_.presses().press(u"Proposal %1"_s.arg(index), presser,
+                           [this, index, presser] { desk_.proposals.lblPROPOSED(index, presser); });
 }
 
 void CardsApp::nameServers() {
@@ -130,8 +133,27 @@ StartUp::Steps CardsApp::steps() {
 
 void CardsApp::start() {
     window_.setWindowTitle(startUp_.caption());
+    if (options_.keepsAsRun && !state_.preview) keepAsRun();
     nameServers();
+    const QStringList faults = remote_.listen(options_.remoteControl);
+    if (!faults.isEmpty()) {
+        boxes_.message({Asker::Kind::StartUp}, u"Control from outside"_s,
+                       u"The console does not listen:\r\n"_s + faults.join(u"\r\n"_s), Operator::Severity::Warning);
+    }
     startUp_.run();
+    remote_.open();
+}
+
+void CardsApp::keepAsRun() {
+    asRunFile_.emplace(program_.folder, clock_.now().date());
+    // Nobody has to answer: the cards go on.
+    connect(&*asRunFile_, &AsRunFile::failed, this, [this](const QString& reason) {
+        boxes_.message({Asker::Kind::TimedCard}, u"As-run record"_s,
+                       u"What is on air cannot be written down: "_s + reason + u"\r\n"_s + asRunFile_->path(),
+                       Operator::Severity::Warning);
+    });
+    asRun_.emplace(
+        engine_, links_, [this](LinkId id) { return linkConsole_.watch(id).isUsed(); }, *asRunFile_);
 }
 
 // One message at a time: while it is open further errors stand in the log alone.

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app_cards/find_desk.h"
+#include "app_cards/remote_desk.h"
 #include "app_cards/settings_desk.h"
 #include "app_cards/system_desktop.h"
+#include "as_run/as_run_record.h"
 #include "ask_dialog/ask_form.h"
 #include "base/program.h"
 #include "command_line/host_port.h"
@@ -41,6 +43,8 @@ class CardsApp : public QObject {
         std::optional<HostPort> main = {};
         std::optional<HostPort> remote = {};
         bool connects = false;
+        bool keepsAsRun = true;  // but for the preview instance, which puts nothing on air
+        RemoteOptions remoteControl = {};
     };
 
     explicit CardsApp(const Options& options);
@@ -56,17 +60,20 @@ class CardsApp : public QObject {
     GraphicsLinks& links() { return links_; }
     SettingsDesk& settings() { return settings_; }
     GameDesk& desk() { return desk_; }
+    RemoteDesk& remote() { return remote_; }
 
  private:
     StartUp::Steps steps();
     void answerLinks();
     void answerDesk();
+    void takeProposal(int index, const Presser& presser);
     void nameServers();
     void tellTroubles();
     void tellTroubles(LinkId id);
     void tell(const ErrorPlace& place, const QString& message);
     bool mayClose();
     void release();
+    void keepAsRun();
 
     Options options_;
     ShowState state_;
@@ -91,6 +98,9 @@ class CardsApp : public QObject {
     SettingsDesk settings_{engine_, packs_, cards_, boxes_, window_};
     FindDesk find_{state_, program_.folder, cards_, settings_, window_};
     StartUp startUp_;
+    RemoteDesk remote_{engine_, cards_, desk_};
+    std::optional<AsRunFile> asRunFile_;
+    std::optional<AsRunRecord> asRun_;
     bool telling_ = false;
 };
 

@@ -6,7 +6,7 @@
 #include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
-#include <array>
+#include <algorithm>
 #include <cstdio>
 
 #include "app_cards/cards_app.h"
@@ -21,34 +21,42 @@ namespace {
 
 constexpr int kNoFolder = 1;
 
-const std::array kOptions{
-    zelvor::CommandLine::Option{u"--app-folder"_s, true}, zelvor::CommandLine::Option{u"--user-folder"_s},
-    zelvor::CommandLine::Option{u"--codepage"_s, true},   zelvor::CommandLine::Option{u"--feed-port"_s, true},
-    zelvor::CommandLine::Option{u"--pack"_s, true},       zelvor::CommandLine::Option{u"--connection"_s, true},
-    zelvor::CommandLine::Option{u"--main"_s, true},       zelvor::CommandLine::Option{u"--remote"_s, true},
-    zelvor::CommandLine::Option{u"--connect"_s},          zelvor::CommandLine::Option{u"--help"_s},
-    zelvor::CommandLine::Option{u"--version"_s}};
+std::vector<zelvor::CommandLine::Option> allOptions() {
+    std::vector<zelvor::CommandLine::Option> options{
+        {u"--app-folder"_s, true}, {u"--user-folder"_s},      {u"--codepage"_s, true}, {u"--feed-port"_s, true},
+        {u"--pack"_s, true},       {u"--connection"_s, true}, {u"--main"_s, true},     {u"--remote"_s, true},
+        {u"--connect"_s},          {u"--no-as-run"_s},        {u"--help"_s},           {u"--version"_s}};
+    std::ranges::copy(zelvor::remoteOptionNames(), std::back_inserter(options));
+    return options;
+}
 
 const QString kHelp =
     uR"(usage: zelvor-cards [options] [/PREVIEW] [CONNECTION]
 
 Fires the cards of a pack on the air, from one window.
 
-  --app-folder DIR   the folder that holds MODULES; the program's own folder without, or as an installed
-                     program the user's own
-  --user-folder      the user's own folder, ~/.local/share/zelvor-cards, made from the demo the first time
-  --codepage NAME    read and write text files in this code page, e.g. windows-1253
-  --feed-port N      hears the game feed on this UDP port, 0 for any free one; 7699 without
-  --pack CODE        loads this pack instead of asking for one
-  --connection N     takes this database connection instead of asking for one
-  --main HOST:PORT   the address of the main graphics server
-  --remote HOST:PORT the same for the remote one
-  --connect          connects the servers named so
-  --help             this text
-  --version          the program's version
+  --app-folder DIR      the folder that holds MODULES; the program's own folder without, or as an installed
+                        program the user's own
+  --user-folder         the user's own folder, ~/.local/share/zelvor-cards, made from the demo the first time
+  --codepage NAME       read and write text files in this code page, e.g. windows-1253
+  --feed-port N         hears the game feed on this UDP port, 0 for any free one; 7699 without
+  --pack CODE           loads this pack instead of asking for one
+  --connection N        takes this database connection instead of asking for one
+  --main HOST:PORT      the address of the main graphics server
+  --remote HOST:PORT    the same for the remote one
+  --connect             connects the servers named so
+  --no-as-run           keeps no record of what was on air; without it there is one a day in AS-RUN, in the folder
+  --control HOST:PORT   lets HTTP and web sockets control the console, e.g. 127.0.0.1:7700; a page for tablets is at /
+  --control-token FILE  asks them for the token in this file; needed on an address that others reach
+  --control-cert FILE   a certificate, and
+  --control-key FILE    its key: the connections are encrypted
+  --osc HOST:PORT       lets OSC control the console, e.g. 127.0.0.1:7701
+  --osc-allow ADDRESS   hears this computer, too; repeatable, needed on an address that others reach
+  --help                this text
+  --version             the program's version
 
-  /PREVIEW           starts the preview instance: no game feed
-  CONNECTION         a number: the database connection to propose; 1 without
+  /PREVIEW              starts the preview instance: no game feed
+  CONNECTION            a number: the database connection to propose; 1 without
 )"_s;
 
 // All but where the error log stands. Throws UsageError.
@@ -64,6 +72,8 @@ zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
     wanted.main = line.hostPort(u"--main");
     wanted.remote = line.hostPort(u"--remote");
     wanted.connects = line.has(u"--connect");
+    wanted.remoteControl = zelvor::readRemoteOptions(line);
+    wanted.keepsAsRun = !line.has(u"--no-as-run");
     if (wanted.connects && !wanted.main && !wanted.remote) {
         throw zelvor::UsageError{u"--connect takes --main or --remote beside it"_s};
     }
@@ -79,7 +89,8 @@ int main(int argc, char* argv[]) {
     // What needs no display is answered before one is looked for.
     QStringList words;
     for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
-    const zelvor::CommandLine asked(words, kOptions);
+    const std::vector<zelvor::CommandLine::Option> options = allOptions();
+    const zelvor::CommandLine asked(words, options);
     if (asked.has(u"--help")) {
         out << kHelp;
         return 0;
@@ -94,7 +105,7 @@ int main(int argc, char* argv[]) {
     zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
     QApplication::setWindowIcon(QIcon(u":/icon.png"_s));
-    const zelvor::CommandLine line(QApplication::arguments().mid(1), kOptions);
+    const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
     zelvor::CardsApp::Options wanted;
     try {
         wanted = readOptions(line);

@@ -8,10 +8,8 @@
 #include "app_feed/live_feed.h"
 #include "app_feed/live_source_choice.h"
 #include "app_feed/terminal_keys.h"
-#include "base/app_folder.h"
 #include "base/run_time_error.h"
-#include "base/text_file.h"
-#include "data/connection_list.h"
+#include "data/pack_connection.h"
 #include "live/table_schema.h"
 
 using namespace Qt::StringLiterals;
@@ -20,27 +18,9 @@ namespace zelvor {
 
 namespace {
 
-// Of the first pack whose folder exists.
-QString firstLanguage(const AppFolder& folder, const TextFiles& files) {
-    for (const QString& line : files.readLines(folder.resolve(folder.modulesFile(u"PACKS.TXT")))) {
-        const QString language = line.section(u';', 0, 0);
-        if (!language.trimmed().isEmpty() && folder.exists(folder.packFolder(language))) return language;
-    }
-    return {};
-}
-
-// The connection string that --into names. Throws RunTimeError.
+// Throws RunTimeError.
 QString connectionString(const LiveOptions& options) {
-    const AppFolder folder(options.appFolder);
-    const TextFiles files;
-    const QString language = options.language.isEmpty() ? firstLanguage(folder, files) : options.language;
-    const ConnectionList list(files.readLines(folder.resolve(folder.packFile(language, u"CONNECTIONS.TXT"))));
-    const QString found = list.find(*options.into);
-    if (found.isEmpty()) {
-        throw RunTimeError::withText(ErrorNumber::DatabaseError,
-                                     u"CONNECTIONS.TXT has no connection "_s + QString::number(*options.into));
-    }
-    return found;
+    return packConnection(AppFolder(options.appFolder), options.language, *options.into);
 }
 
 QString ownName() {

@@ -38,7 +38,7 @@ void waitForQuiet(CasparLink& link, Clock& clock) {
 RunGraphics::RunGraphics(GraphicsLinks& links, const RunOptions& options, QTextStream& out, QTextStream& err)
     : links_(links), options_(options), out_(out), err_(err) {
     QObject::connect(&links_, &GraphicsLinks::lineSent, &links_,
-                     [this](LinkId link, const QString& line) { printSentLine(out_, link, line); });
+                     [this](LinkId link, const ReplyMatcher::SentLine& sent) { printSentLine(out_, link, sent.line); });
     QObject::connect(
         &links_, &GraphicsLinks::lineLost, &links_,
         [this](LinkId link, const ReplyMatcher::SentLine& lost) { complain(link, u"not sent"_s, lost.line); });

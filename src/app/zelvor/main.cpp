@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <iostream>
 
+#include "app_as_run/as_run_command.h"
 #include "app_calc/calc_command.h"
 #include "app_check/check_command.h"
 #include "app_eval/eval_command.h"
@@ -39,6 +40,7 @@ const std::array kOptions{zelvor::CommandLine::Option{u"--help"_s}, zelvor::Comm
                           zelvor::CommandLine::Option{u"--version"_s}};
 
 const std::array kSubcommands{
+    Subcommand{u"as-run"_s, u"tells what was on air on a day"_s, zelvor::runAsRun},
     Subcommand{u"calc"_s, u"evaluates a formula"_s, calc},
     Subcommand{u"check"_s, u"finds what is wrong with packs without running them"_s, zelvor::runCheck},
     Subcommand{u"eval"_s, u"evaluates a script expression"_s, zelvor::runEval},

@@ -24,6 +24,18 @@ QString headerText(size_t rows) {
     return count + u": type a name or a number, then Enter. Esc ends the card."_s;
 }
 
+Question questionOf(const PickList& list, const Asker& asker) {
+    Question question{Question::Kind::List, asker, list.title()};
+    question.choices.reserve(list.rows().size());
+    for (const PickList::Row& row : list.rows()) question.choices.push_back({QString::number(row.key), row.text});
+    return question;
+}
+
+// row: -1 cancels.
+void answerList(PickList& list, int row) {
+    row < 0 ? list.cancel() : list.choose(row);
+}
+
 }  // namespace
 
 AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* parent)
@@ -76,11 +88,7 @@ void AskForm::answer() {
         QDialog::show();
         closed.exec();
     }
-    if (result() == QDialog::Accepted) {
-        list_.choose(chosenRow_);
-    } else {
-        list_.cancel();
-    }
+    answerList(list_, result() == QDialog::Accepted ? chosenRow_ : -1);
 }
 
 void AskFormDialog::show(const Asker& asker) {
@@ -89,7 +97,19 @@ void AskFormDialog::show(const Asker& asker) {
         list.cancel();
         return;
     }
-    AskForm(list, asker.isAttended(), program_, window_).answer();
+    const Question question = questionOf(list, asker);
+    if (const auto given = program_.questions.answeredBeforehand(question)) {
+        answerList(list, question.choice(*given));
+    } else {
+        AskForm form(list, asker.isAttended(), program_, window_);
+        const Questions::Standing standing(program_.questions, question, [&](const QString& answer) {
+            const int row = question.choice(answer);
+            row < 0 ? form.reject() : form.choose(row);
+        });
+        form.answer();
+    }
+    const bool cancelled = state_.ask.ASK_CANCELLED == AskState::kYes;
+    program_.questions.tellAnswer(question, cancelled ? Question::kCancel : state_.ask.ASK_RESULT);
 }
 
 }  // namespace zelvor

@@ -19,10 +19,10 @@ class AskForm : public QDialog {
     // Shows the form until it is closed and only then answers the list: a timed card that runs in the same moment
     // would overwrite an answer given earlier.
     void answer();
-
- private:
+    // The form ends with that row of the list.
     void choose(int row);
 
+ private:
     PickList& list_;
     bool attended_;
     int chosenRow_ = -1;

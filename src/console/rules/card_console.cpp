@@ -13,6 +13,13 @@ namespace zelvor {
 
 namespace {
 
+const Presser kButton{u"button"_s};
+
+// How the operator is told of it.
+QString told(const QString& name, const Presser& presser) {
+    return presser.from.isEmpty() ? name : name + u" ("_s + presser.from + u')';
+}
+
 // Frame6 ("Start 11") is meant to be missing: no tab shows or hides it.
 constexpr std::array kTabPanels{&controls.Frame1, &controls.Frame2, &controls.Frame3,
                                 &controls.Frame4, &controls.Frame5, &controls.Frame7};
@@ -25,7 +32,7 @@ CardConsole::CardConsole(CardEngine& engine)
     connect(&presses_, &Presses::late, this, [this](const QString& name, const QString& seconds) {
         note_.say(u"%1 pressed %2 s ago: not fired"_s.arg(name, seconds));
     });
-    connect(&engine.program().clearing, &Clearing::pressed, this, &CardConsole::pressClear);
+    connect(&engine.program().clearing, &Clearing::pressed, this, [this] { pressClear(); });
     // Timed cards, the feed and the general variables write what is shown here, too.
     connect(&switchTimer_, &QTimer::timeout, this, &CardConsole::showSwitches);
     switchTimer_.start(kSwitchInterval);
@@ -53,13 +60,13 @@ void CardConsole::pressCardBox(int index) {
     fire(index, false);
 }
 
-CardConsole::SeenCard CardConsole::cardAt(int index) const {
-    const CardEntry& entry = state_.cards.entry(state_.currentSet, index + 1);
-    return {{state_.currentSet, index}, entry.shownCaption(), entry.script, state_.language()};
+CardConsole::SeenCard CardConsole::cardAt(CardPlace place) const {
+    const CardEntry& entry = state_.cards.entry(place.set, place.index + 1);
+    return {place, entry.shownCaption(), entry.script, state_.language()};
 }
 
 void CardConsole::cardSeen(int index) {
-    seen_.at(index) = cardAt(index);
+    seen_.at(index) = cardAt({state_.currentSet, index});
 }
 
 void CardConsole::cardGoesDown(int index) {
@@ -68,45 +75,63 @@ void CardConsole::cardGoesDown(int index) {
 
 void CardConsole::fire(int index, bool tagged) {
     const std::optional<SeenCard> seen = std::exchange(down_, std::nullopt);
-    fire(seen && seen->place.index == index ? *seen : cardAt(index), tagged);
+    fire(seen && seen->place.index == index ? *seen : cardAt({state_.currentSet, index}), tagged, kButton);
 }
 
-void CardConsole::fire(const SeenCard& card, bool tagged) {
-    const QString name = card.caption.isEmpty() ? u"Card %1"_s.arg(card.place.index + 1) : card.caption;
+void CardConsole::fireCard(CardPlace place, const Presser& presser) {
+    fire(cardAt(place), state_.console.playerSelected, presser);
+}
+
+void CardConsole::fire(const SeenCard& card, bool tagged, const Presser& presser) {
+    const QString name = told(card.caption.isEmpty() ? u"Card %1"_s.arg(card.place.index + 1) : card.caption, presser);
     if (card.script.isEmpty()) {
         note_.say(u"%1: no card in this place"_s.arg(name));
         return;
     }
-    presses_.press(name, [this, card, name, tagged] {
+    presses_.press(name, presser, [this, card, name, tagged, presser] {
         if (card.language != state_.language()) {
             note_.say(u"%1: other cards were loaded, not fired"_s.arg(name));
             return;
         }
         state_.variables.SetVar(u"@CARD_BUTTON_INDEX", card.place.index);
-        run(card.script, tagged, card.place);
+        run(card.script, presser, tagged, card.place);
     });
 }
 
 void CardConsole::pressScript(const QString& name, const QString& script) {
-    presses_.press(name, [this, script] { run(script); });
+    fireScript(name, script, kButton);
 }
 
 void CardConsole::pressFound(const FindEntry& entry, bool asks) {
+    const Presser presser{u"find"_s};
     if (entry.kind == FindEntry::Kind::Card) {
-        fire({entry.place, entry.caption, entry.target, entry.language}, !asks && state_.console.playerSelected);
+        fire({entry.place, entry.caption, entry.target, entry.language}, !asks && state_.console.playerSelected,
+             presser);
         return;
     }
-    presses_.press(entry.caption, [this, script = entry.target] { run(script, false, placeOf(script)); });
+    presses_.press(entry.caption, presser, [this, script = entry.target, presser] {
+        run(script, presser, false, placeOf(script));
+    });
 }
 
-void CardConsole::run(const QString& script, bool tagged, std::optional<CardPlace> place) {
+void CardConsole::fireScript(const QString& name, const QString& script, const Presser& presser) {
+    presses_.press(told(name, presser), presser, [this, script, presser] { run(script, presser); });
+}
+
+void CardConsole::run(const QString& script, const Presser& presser, bool tagged, std::optional<CardPlace> place) {
     note_.clear();
+    if (!presser.from.isEmpty()) {
+        note_.say(u"%1: fired from %2"_s.arg(captionOf(state_, CardEngine::scriptName(script)), presser.from),
+                  Control::Role::Plain);
+    }
     if (script != state_.cards.clearCard) {
         recent_.removeAll(script);
         recent_.prepend(script);
         recent_.resize(std::min<qsizetype>(recent_.size(), kRecent));
     }
-    engine_.SHOW_TVCARD(script, tagged, false, {Asker::Kind::Operator, script, place});
+    Asker asker{Asker::Kind::Operator, script, place};
+    asker.presser = presser;
+    engine_.SHOW_TVCARD(script, tagged, false, asker);
     if (engine_.program().closing.hasBegun()) return;
     showSwitches();
     Q_EMIT cardsChanged();
@@ -120,9 +145,9 @@ void CardConsole::selectBox(int selector) {
     Q_EMIT cardsChanged();
 }
 
-void CardConsole::CLEAR_TV() {
+void CardConsole::CLEAR_TV(const Presser& presser) {
     Q_EMIT clearing();
-    run(state_.cards.clearCard);
+    run(state_.cards.clearCard, presser);
     if (engine_.program().closing.hasBegun()) return;
     showClear(form_);
     form_.at(controls.GradientButtonAIR).setText(u"CLEAR"_s);
@@ -137,16 +162,17 @@ void CardConsole::CLEAR_TV() {
     Q_EMIT cardsChanged();
 }
 
-void CardConsole::pressClear() {
+void CardConsole::pressClear(const Presser& presser) {
     note_.clear();
-    presses_.clear([this] { CLEAR_TV(); });
+    presses_.clear([this, presser] { CLEAR_TV(presser); });
 }
 
-void CardConsole::functionKey(int number) {
+void CardConsole::functionKey(int number, const Presser& presser) {
     if (number < 1 || number > kFiringFunctionKeys) return;
     const QString script = state_.cards.functionKey(number).script;
     if (script.isEmpty()) return;
-    presses_.press(u'F' + QString::number(number), [this, script] { run(script, false, placeOf(script)); });
+    presses_.press(told(u'F' + QString::number(number), presser), presser,
+                   [this, script, presser] { run(script, presser, false, placeOf(script)); });
 }
 
 // The button of the first card that runs this script, in the current set before the others.
@@ -218,9 +244,9 @@ const CardEntry& CardConsole::card(int index) const {
     return state_.cards.entry(state_.currentSet, index + 1);
 }
 
-QString CardConsole::troubleOf(int index) const {
+QString CardConsole::troubleOf(const CardEntry& card) const {
     const auto& troubles = state_.console.troubles;
-    const auto found = troubles.find(CardEngine::scriptName(card(index).script));
+    const auto found = troubles.find(CardEngine::scriptName(card.script));
     return found == troubles.end() ? QString() : found->second;
 }
 

@@ -33,17 +33,21 @@ class CardConsole : public QObject {
     // was never painted. An empty place is only told. An index outside of the table throws 9.
     void pressCard(int index);
     void pressCardBox(int index);
+    // A press from outside of the card that stands there now, in any set. A place outside of the table throws 9.
+    void fireCard(CardPlace place, const Presser& presser);
+    // Runs a script of the pack. name: of the press, as the operator is told of it.
+    void fireScript(const QString& name, const QString& script, const Presser& presser);
     // Card button `index` was painted as it stands now.
     void cardSeen(int index);
     // The mouse goes down on it: the card that was seen is the one its click will fire, whatever is painted meanwhile.
     void cardGoesDown(int index);
     // Selector 0 to 4 shows set 1 to 5.
     void selectBox(int selector);
-    void CLEAR_TV();
+    void CLEAR_TV(const Presser& presser = {QStringLiteral("clear")});
     // The clear button or key: ends every card that waits, then CLEAR_TV().
-    void pressClear();
+    void pressClear(const Presser& presser = {QStringLiteral("clear")});
     // F1 to F10 by their numbers; an empty entry fires nothing.
-    void functionKey(int number);
+    void functionKey(int number, const Presser& presser = {QStringLiteral("key")});
     // A card, function key or script that was found: fires it as it was listed. asks: whatever player is tagged.
     void pressFound(const FindEntry& entry, bool asks);
     // The scripts that the operator has fired last, kRecent at most, the last one in front.
@@ -65,7 +69,8 @@ class CardConsole : public QObject {
     [[nodiscard]] QString keyOf(int index) const;
     [[nodiscard]] const CardEntry& card(int index) const;
     // Why a line of card button `index` was refused or not sent, in words; empty when all is well.
-    [[nodiscard]] QString troubleOf(int index) const;
+    [[nodiscard]] QString troubleOf(int index) const { return troubleOf(card(index)); }
+    [[nodiscard]] QString troubleOf(const CardEntry& card) const;
 
     // What fires cards from elsewhere on the form takes its turn here.
     Presses& presses() { return presses_; }
@@ -86,11 +91,12 @@ class CardConsole : public QObject {
         QString script;
         QString language;
     };
-    [[nodiscard]] SeenCard cardAt(int index) const;
+    [[nodiscard]] SeenCard cardAt(CardPlace place) const;
     void fire(int index, bool tagged);
-    void fire(const SeenCard& card, bool tagged);
+    void fire(const SeenCard& card, bool tagged, const Presser& presser);
     void pressScript(const QString& name, const QString& script);
-    void run(const QString& script, bool tagged = false, std::optional<CardPlace> place = std::nullopt);
+    void run(const QString& script, const Presser& presser, bool tagged = false,
+             std::optional<CardPlace> place = std::nullopt);
     [[nodiscard]] std::optional<CardPlace> placeOf(const QString& script) const;
     void showSwitches();
 

@@ -7,8 +7,8 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-void Presses::press(const QString& name, std::function<void()> deed) {
-    const qint64 waited = waited_ ? waited_() : 0;
+void Presses::press(const QString& name, const Presser& presser, std::function<void()> deed) {
+    const qint64 waited = waited_ && presser.from.isEmpty() ? waited_() : 0;
     if (waited > kLongestWait) {
         tellLate(name, waited);
         return;

@@ -27,8 +27,11 @@ class Presses : public QObject {
     // Without one no press is ever late.
     void setWaited(Waited waited) { waited_ = std::move(waited); }
 
-    // name: of the press, as the operator is told of it ("F1"). Throws what the deed throws.
-    void press(const QString& name, std::function<void()> deed);
+    // name: of the press, as the operator is told of it ("F1"). One from outside has waited nowhere before. Throws what
+    // the deed throws.
+    void press(const QString& name, const Presser& presser, std::function<void()> deed);
+    // Whether presses wait for their turn.
+    [[nodiscard]] bool isWaiting() const { return !waiting_.empty(); }
     // CLEAR: carried out at once, before whatever waits for its turn, and that never comes.
     void clear(const std::function<void()>& deed);
 

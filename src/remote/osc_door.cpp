@@ -1,0 +1,153 @@
+#include "remote/osc_door.h"
+
+#include <QNetworkDatagram>
+
+#include "base/number.h"
+#include "remote/json_texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+constexpr int kMostInTurn = 100;  // packets; further ones wait for the next turn of the event loop
+constexpr int kHighestScore = 999;
+
+// Of an address's piece: 1 to 3 digits; -1 for anything else.
+int pieceNumber(const QString& text) {
+    constexpr qsizetype kDigits = 3;
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber && text.size() <= kDigits ? number : -1;
+}
+
+// Buttons send 1 when they are pressed and 0 when they are let go; without an argument it is a press.
+bool isRelease(const OscMessage& message) {
+    return !message.arguments.isEmpty() && !message.arguments.constFirst().isNull() &&
+           message.arguments.constFirst().userType() != QMetaType::QString &&
+           message.arguments.constFirst().toDouble() == 0;
+}
+
+}  // namespace
+
+OscDoor::OscDoor(RemoteConsole& console, StateWatch& watch, const QList<QHostAddress>& allowed)
+    : console_(console),
+      allowed_(allowed),
+      feedback_(watch, [this](const OscFeedback::Peer& peer, const OscMessage& message) { send(peer, message); }) {
+    connect(&socket_, &QUdpSocket::readyRead, this, &OscDoor::read);
+}
+
+QString OscDoor::listen(const QHostAddress& address, quint16 port) {
+    return socket_.bind(address, port, QAbstractSocket::DontShareAddress) ? QString() : socket_.errorString();
+}
+
+void OscDoor::read() {
+    for (int i = 0; i < kMostInTurn && socket_.hasPendingDatagrams(); ++i) {
+        const QNetworkDatagram datagram = socket_.receiveDatagram();
+        const QHostAddress from = datagram.senderAddress();
+        const bool isAllowed = std::ranges::any_of(allowed_, [&from](const QHostAddress& each) {
+            return each.isEqual(from, QHostAddress::TolerantConversion);
+        });
+        if (!from.isLoopback() && !isAllowed) continue;
+        const OscFeedback::Peer peer{from, static_cast<quint16>(datagram.senderPort())};
+        const auto messages = readOscPacket(datagram.data());
+        if (!messages) {
+            send(peer, {u"/zelvor/error"_s, {u""_s, u"no OSC packet"_s}});
+            continue;
+        }
+        for (const OscMessage& message : *messages) {
+            if (!take(message, peer))
+                send(peer, {u"/zelvor/error"_s, {message.address, u"there is no such address, or not with this"_s}});
+        }
+    }
+    if (socket_.hasPendingDatagrams()) QMetaObject::invokeMethod(this, &OscDoor::read, Qt::QueuedConnection);
+}
+
+bool OscDoor::take(const OscMessage& message, const OscFeedback::Peer& peer) {
+    QStringList path = message.address.split(u'/');
+    if (path.size() < 3 || path[1] != u"zelvor") return false;
+    path.remove(0, 2);
+    const QString& word = path.constFirst();
+    const QVariant argument = message.arguments.value(0);
+    const QString text = argument.toString();
+    const RemoteConsole::Request request{
+        u"OSC "_s + peer.address.toString(), {}, [this, peer, address = message.address](const DeedResult& result) {
+            const QString error = result.body["error"_L1].toString();
+            if (!error.isEmpty()) send(peer, {u"/zelvor/error"_s, {address, error}});
+        }};
+    if (word.endsWith(u"subscribe") && path.size() == 1) return takeSubscription(word, argument, peer);
+    if (word == u"score") return takeScore(path, argument, request);
+    if (word == u"variable" && path.size() == 2 && !argument.isNull()) {
+        const QString name = path[1];
+        if (!isVariableName(name) || !isOneLine(text)) return false;
+        VariableStore& variables = console_.engine().state().variables;
+        console_.act(
+            name + u" = "_s + text, [&variables, name, text] { variables.SetVar(name, text); }, request);
+        return true;
+    }
+    if (word == u"answer" && path.size() == 1 && !argument.isNull()) {
+        request.done(console_.answer(text, 0, request.from));
+        return true;
+    }
+    if (isRelease(message)) return true;
+    if (word == u"clear" && path.size() == 1) {
+        console_.clear(request);
+    } else if (word == u"card" && path.size() == 3) {
+        console_.fireCard(pieceNumber(path[1]), pieceNumber(path[2]), request);
+    } else if (word == u"key" && path.size() == 2) {
+        console_.pressKey(pieceNumber(path[1]), request);
+    } else if (word == u"script" && path.size() == 2) {
+        console_.runScript(path[1], request);
+    } else if (word == u"proposal" && path.size() == 2) {
+        console_.takeProposal(pieceNumber(path[1]), request);
+    } else if (word == u"set" && path.size() == 2) {
+        const int set = pieceNumber(path[1]);
+        if (set < 1 || set > CardConsole::kSelectors) return false;
+        CardConsole& cards = console_.cards();
+        console_.act(
+            u"set %1"_s.arg(set), [&cards, set] { cards.selectBox(set - 1); }, request);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// "/zelvor/score/home 1" steps the manual score, "/zelvor/score/home/set 12" sets it.
+bool OscDoor::takeScore(const QStringList& path, const QVariant& argument, const RemoteConsole::Request& request) {
+    const bool sets = path.value(2) == u"set";
+    bool isNumber = false;
+    const double number = argument.toDouble(&isNumber);
+    const bool isSide = path.value(1) == u"home" || path.value(1) == u"away";
+    const bool isWhole = isNumber && std::abs(number) <= kHighestScore && number == std::floor(number);
+    if (!isSide || !isWhole || path.size() != (sets ? 3 : 2)) return false;
+    const TeamControls& team = path[1] == u"home" ? kHomeControls : kAwayControls;
+    Control& manual = console_.engine().form().at(team.manualScore);
+    console_.act(
+        u"score "_s + path[1],
+        [&manual, sets, number] {
+            manual.setText(numberText(std::max(sets ? number : Val(manual.text()) + number, 0.0)));
+        },
+        request);
+    return true;
+}
+
+// "/zelvor/subscribe" to where it comes from, "/zelvor/subscribe 12321" to another port there.
+bool OscDoor::takeSubscription(const QString& word, const QVariant& argument, OscFeedback::Peer peer) {
+    if (!argument.isNull()) {
+        const int port = argument.toInt();
+        if (port < 1 || port > std::numeric_limits<quint16>::max()) return false;
+        peer.port = static_cast<quint16>(port);
+    }
+    if (word == u"unsubscribe") {
+        feedback_.unsubscribe(peer);
+        return true;
+    }
+    return word == u"subscribe" && feedback_.subscribe(peer);
+}
+
+void OscDoor::send(const OscFeedback::Peer& peer, const OscMessage& message) {
+    socket_.writeDatagram(message.bytes(), peer.address, peer.port);
+}
+
+}  // namespace zelvor

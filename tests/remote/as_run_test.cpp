@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QBuffer>
+#include <QFile>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "app_as_run/as_run_command.h"
+#include "as_run/as_run_file.h"
+#include "as_run/as_run_reader.h"
+#include "as_run/standing_graphics.h"
+#include "console/gallery.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+namespace {
+
+const QDate kDay(2026, 11, 21);
+
+QJsonObject fired(const QString& run) {
+    return {{u"event"_s, u"fired"_s}, {u"run"_s, run}, {u"caption"_s, QString(u"Λήδα \" , "_s + run)}};
+}
+
+std::vector<AsRunCard> read(const QByteArray& record) {
+    QBuffer buffer;
+    buffer.setData(record);
+    buffer.open(QIODevice::ReadOnly);
+    return readAsRun(buffer);
+}
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Wherever the program is killed, what was written before and what a later one writes can both be read.
+TEST(AsRunFile, CutAtAnyByteItGoesOn) {
+    const QTemporaryDir disk;
+    const AppFolder folder(disk.path());
+    const QString path = AsRunFile::pathOf(folder, kDay);
+    {
+        AsRunFile file(folder, kDay);
+        for (const QString& run : {u"1"_s, u"2"_s}) file.append(fired(run));
+    }
+    const QByteArray whole = bytesOf(path);
+    const qsizetype second = whole.indexOf('\n') + 1;
+    ASSERT_EQ(read(whole).size(), 2U);
+    for (qsizetype cut = second; cut < whole.size(); ++cut) {
+        QFile file(path);
+        ASSERT_TRUE(file.resize(cut));
+        AsRunFile(folder, kDay).append(fired(u"3"_s));
+        const auto cards = read(bytesOf(path));
+        // Without its line end alone the second one is whole.
+        const size_t before = cut == whole.size() - 1 ? 2 : 1;
+        ASSERT_EQ(cards.size(), before + 1) << cut;
+        ASSERT_EQ(cards.back().run, u"3") << cut;
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(whole);
+    }
+}
+
+TEST(AsRunFile, FullDiskIsToldOnceAndEndsNothing) {
+    const QTemporaryDir disk;
+    AsRunFile file(AppFolder(disk.path()), kDay);
+    int told = 0;
+    QObject::connect(&file, &AsRunFile::failed, [&] { ++told; });
+    file.append(fired(u"1"_s));
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit full{static_cast<rlim_t>(bytesOf(file.path()).size() + 10), limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+    for (int i = 0; i < 3; ++i) file.append(fired(u"lost"_s));
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(told, 1);
+    file.append(fired(u"2"_s));
+    const auto cards = read(bytesOf(file.path()));
+    ASSERT_EQ(cards.size(), 2U);
+    EXPECT_EQ(cards[1].run, u"2");
+}
+
+// Run and line, at tenths of a second; what leaves, as "run:tenths".
+TEST(AsRun, GraphicsStandUntilTheyAreTakenOff) {
+    struct Step {
+        qint64 run;
+        QString line;
+        QString gone;
+        bool refused = false;
+    };
+    const std::vector<Step> steps{
+        {1, u"CG 1-20 ADD 1 \"a\" 1 \"<x>CLEAR</x>\""_s, {}},
+        {1, u"CG 1-21 ADD 1 \"b\" 1"_s, {}},
+        {2, u"CG 1-20 UPDATE 1 \"STOP\""_s, {}},
+        {2, u"CG 1-20 ADD 1 \"c\" 1"_s, {}},
+        {3, u"CG 1-21 STOP 1"_s, u"1:3"_s},
+        {4, u"CG 1-22 ADD 1 \"d\" 0"_s, {}},
+        {5, u"CG 1-22 PLAY 1"_s, {}},
+        {5, u"CG 1-22 PLAY 1"_s, {}},
+        {6, u"PLAY 1-23 LOGO"_s, {}, true},
+        {7, u"CLEAR 1-23"_s, {}},
+        {0, u"PLAY 2-1 FILM"_s, {}},
+        {8, u"CLEAR 1"_s, u"2:8 5:5"_s},
+        {8, u"CLEAR 2"_s, {}},
+    };
+    StandingGraphics graphics;
+    qint64 at = 0;
+    for (const Step& step : steps) {
+        QStringList gone;
+        for (const auto& each : graphics.sent(LinkId::Main, step.line, step.run, at))
+            gone += u"%1:%2"_s.arg(each.run).arg(each.stood);
+        EXPECT_EQ(gone.join(u' '), step.gone) << step.line.toStdString();
+        if (step.refused) graphics.refused(LinkId::Main, step.line, step.run);
+        ++at;
+    }
+}
+
+// A card that asks, one that is refused, CLEAR and the start: who, what, how it ended.
+TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
+    LineServer server(LineServer::Manner::Listens);
+    Gallery gallery;
+    gallery.writePack({"Strap,strap.csp", "Bad,bad.csp"}, "CLEAR:clear.csp\r\n");
+    gallery.write(u"QRD_EN/strap.csp"_s,
+                  "BREAK~Sure?\r\nCSPSENDREMOTE~CG 1-1 STOP 1\r\nSETVAR~@SPONSOR;Harbour, \"Bank\"\r\nCSPSEND~CG 1-20 "
+                  "ADD 1 'a' 1\r\n");
+    gallery.write(u"QRD_EN/bad.csp"_s, "SETVAR~@SPONSOR;\r\nCSPSEND~CG 1-30 ADD 1 'b' 1\r\n");
+    gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n");
+    gallery.start();
+    gallery.connectMain(server);
+    gallery.click("cmbCARD", 0);
+    gallery.click("cmbCARD", 1);
+    ASSERT_TRUE(waitUntil([&] { return server.bytes.count('\n') == 2; }));
+    server.peer->write("202 CG OK\r\n404 CG ADD FAILED\r\n");
+    ASSERT_TRUE(waitUntil([&] { return !gallery.at("lblONAIRTROUBLE").text().isEmpty(); }));
+    gallery.click("GradientButtonAIR");
+    gallery.app.reset();
+
+    const auto tell = [&](const QStringList& arguments) -> QString {
+        QString out;
+        QString err;
+        QTextStream outStream(&out);
+        QTextStream errStream(&err);
+        const int status =
+            runAsRun(QStringList{u"--app-folder"_s, gallery.folder.path()} + arguments, outStream, errStream);
+        return QString::number(status) + out + err;
+    };
+    const QString csv = tell({u"--csv"_s});
+    EXPECT_TRUE(csv.contains(u",EN,1,1,Strap,strap.csp,button,,yes,ran,0,"_s)) << csv.toStdString();
+    EXPECT_TRUE(csv.contains(u",\"Harbour, \"\"Bank\"\"\"\n"_s)) << csv.toStdString();
+    EXPECT_TRUE(csv.contains(u",Bad,bad.csp,button,,,ran,1,,\n"_s)) << csv.toStdString();
+    EXPECT_TRUE(csv.contains(u"clear.csp,clear,,,ran,"_s)) << csv.toStdString();
+    EXPECT_TRUE(csv.contains(u"GetGame.csp,start,"_s)) << csv.toStdString();
+    const QString list = tell({u"--refused"_s, u"--lines"_s});
+    EXPECT_TRUE(list.contains(u"main > CG 1-30 ADD 1 \"b\" 1 = 404 CG ADD FAILED"_s)) << list.toStdString();
+    EXPECT_FALSE(list.contains(u"Strap"_s));
+    const QString sums = tell({u"--card"_s, u"strap"_s});
+    EXPECT_TRUE(sums.contains(u"By sponsor\n  Harbour, \"Bank\""_s)) << sums.toStdString();
+    EXPECT_TRUE(tell({u"2020-01-01"_s}).startsWith(u"1zelvor as-run: no record"_s));
+
+    // Twice: the day replaces itself.
+    for (int i = 0; i < 2; ++i) EXPECT_TRUE(tell({u"--into"_s, u"1"_s}).startsWith(u'0'));
+    Session session(gallery.folder.path());
+    session.setConnectionString(u"Driver=SQLite3;Database=test.db"_s);
+    const odbc::Rows rows =
+        session.run(u"select count(*), sum(refused) from as_run where caption in ('Strap','Bad')"_s);
+    ASSERT_EQ(rows.rowCount(), 1);
+    EXPECT_EQ(rows.cells[0].text(), u"2");
+    EXPECT_EQ(rows.cells[1].text(), u"1");
+}
+
+}  // namespace
+}  // namespace zelvor::test

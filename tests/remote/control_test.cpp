@@ -1,0 +1,315 @@
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QNetworkAccessManager>
+#include <QNetworkCookieJar>
+#include <QNetworkReply>
+#include <QWebSocket>
+#include <algorithm>
+
+#include "console/gallery.h"
+#include "remote/api_routes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::test {
+namespace {
+
+const QByteArray kToken = "a token of the test";
+
+// The whole console with a way in on a port of its own, and a client of it.
+class ControlTest : public testing::Test {
+ protected:
+    void start(const QByteArray& token = {}) {
+        gallery.writePack({"Strap,strap.csp", "Asks,asks.csp", "Waits,waits.csp", "Gone,gone.csp"},
+                          "CLEAR:clear.csp\r\n");
+        gallery.write(u"QRD_EN/strap.csp"_s, "SETVAR~@N;1\r\nCSPSEND~STRAP\r\n");
+        gallery.write(u"QRD_EN/asks.csp"_s, "BREAK~Sure?\r\nCSPSEND~SURE\r\n");
+        gallery.write(u"QRD_EN/waits.csp"_s, "DELAY~20000\r\nCSPSEND~NEVER\r\n");
+        gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEARED\r\n");
+        gallery.adjust = [&](CardsApp::Options& options) {
+            options.remoteControl.control = {{u"127.0.0.1"_s, 0}, QHostAddress::LocalHost, token, {}, {}};
+        };
+        gallery.start();
+        gallery.connectMain(server);
+        ASSERT_NE(gallery.app->remote().control(), nullptr);
+        port = gallery.app->remote().control()->port();
+    }
+    [[nodiscard]] QUrl url(const QString& path, const QString& scheme = u"http"_s) const {
+        return QUrl(scheme + u"://127.0.0.1:"_s + QString::number(port) + path);
+    }
+    QNetworkReply* send(const QByteArray& method, const QString& path, const QByteArray& body = {}) {
+        QNetworkRequest request(url(path));
+        request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
+        if (!bearer.isEmpty()) request.setRawHeader("Authorization", "Bearer " + bearer);
+        return client.sendCustomRequest(request, method, body);
+    }
+    // "200 {...}"
+    QString answerOf(QNetworkReply* reply) {
+        EXPECT_TRUE(waitUntil([&] { return reply->isFinished(); }));
+        reply->deleteLater();
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        return QString::number(status) + u' ' + QString::fromUtf8(reply->readAll()).trimmed();
+    }
+    QString post(const QString& path, const QByteArray& body = {}) { return answerOf(send("POST", path, body)); }
+    QJsonObject state() {
+        return QJsonDocument::fromJson(answerOf(send("GET", u"/api/state"_s)).mid(4).toUtf8()).object();
+    }
+    // What a raw request is answered with, until the other side closes.
+    QByteArray raw(const QByteArray& bytes) {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, port);
+        QByteArray answer;
+        QObject::connect(&socket, &QTcpSocket::connected, [&] { socket.write(bytes); });
+        waitUntil([&] {
+            answer += socket.readAll();
+            return !answer.isEmpty();
+        });
+        return answer.left(answer.indexOf("\r\n"));
+    }
+
+    LineServer server;
+    Gallery gallery;
+    QNetworkAccessManager client;
+    QByteArray bearer;
+    quint16 port = 0;
+};
+
+TEST_F(ControlTest, FiresAsTheButtonsDoAndTellsTheState) {
+    start();
+    EXPECT_EQ(post(u"/api/cards/1/1/fire"_s), uR"(200 {"outcome":"ran","run":2})");
+    EXPECT_TRUE(waitUntil([&] { return !server.bytes.isEmpty(); }));
+    EXPECT_EQ(server.takeLines(), QStringList{u"STRAP"_s});
+    EXPECT_TRUE(gallery.at("lblNOTE").text().contains(u"HTTP 127.0.0.1"_s)) << "the operator is told";
+    QJsonObject now = state();
+    EXPECT_EQ(now["onAir"_L1]["card"_L1], u"Strap"_s);
+    EXPECT_EQ(now["sets"_L1]["1"_L1]["cards"_L1]["1"_L1]["last"_L1], true);
+    EXPECT_EQ(now["variables"_L1]["@CARD_BUTTON_INDEX"_L1], u"0"_s);
+
+    EXPECT_EQ(post(u"/api/scores/mode"_s, R"({"manual":true})"), uR"(200 {"outcome":"done"})");
+    EXPECT_EQ(post(u"/api/scores/home"_s, R"({"score":9})"), uR"(200 {"outcome":"done"})");
+    EXPECT_EQ(post(u"/api/scores/home"_s, R"({"step":3})"), uR"(200 {"outcome":"done"})");
+    EXPECT_EQ(gallery.at("lblScoreA").text(), u"12");
+    post(u"/api/players/away/five/2"_s, R"({"player":7})");
+    EXPECT_EQ(gallery.at("txtS5A", 1).text(), u"7");
+    post(u"/api/set/2"_s);
+    EXPECT_EQ(gallery.at("cmbCARD", 0).text(), u"Second");
+    post(u"/api/variables/@NEW"_s, R"({"value":"Λήδα"})");
+    EXPECT_EQ(state()["variables"_L1]["@NEW"_L1], u"Λήδα"_s);
+    EXPECT_EQ(post(u"/api/scripts/strap.csp/run"_s).left(4), u"200 ");
+    EXPECT_EQ(post(u"/api/clear"_s).left(4), u"200 ");
+    EXPECT_TRUE(waitUntil([&] { return server.bytes.contains("CLEARED"); }));
+}
+
+TEST_F(ControlTest, QuestionsAreAnsweredInTheCallOrLater) {
+    start();
+    EXPECT_EQ(post(u"/api/cards/1/2/fire"_s, R"({"answers":["yes"]})"), uR"(200 {"outcome":"ran","run":2})");
+    EXPECT_EQ(gallery.shown.filter(u"Sure?"_s), QStringList()) << "no box was needed";
+    // The box waits on top of all that this test still waits for: what follows happens while it stands.
+    bool ended = false;
+    gallery.answer = [&](QDialog& box) {
+        EXPECT_EQ(post(u"/api/cards/1/1/fire"_s).left(4), u"409 ") << "a question is open";
+        EXPECT_EQ(post(u"/api/question"_s, R"({"answer":"yes","number":99})").left(4), u"409 ");
+        EXPECT_EQ(post(u"/api/question"_s, R"({"answer":"perhaps"})").left(4), u"422 ");
+        QObject::connect(&box, &QDialog::finished, [&] { ended = true; });
+        send("POST", u"/api/question"_s, R"({"answer":"yes"})");
+    };
+    const QString asked = post(u"/api/cards/1/2/fire"_s, R"({"answers":["perhaps"]})");
+    EXPECT_TRUE(asked.startsWith(u"202 "_s) && asked.contains(u"Sure?"_s)) << asked.toStdString();
+    EXPECT_TRUE(waitUntil([&] { return ended && server.bytes.count("SURE") == 2; }));
+    EXPECT_EQ(post(u"/api/question"_s, R"({"answer":"yes"})").left(4), u"404 ");
+
+    // A card that waits is answered in time; CLEAR ends it.
+    QNetworkReply* waiting = send("POST", u"/api/cards/1/3/fire"_s);
+    QString cleared;
+    QObject::connect(waiting, &QNetworkReply::finished, [&] { cleared = post(u"/api/clear"_s).left(4); });
+    EXPECT_EQ(answerOf(waiting), uR"(202 {"outcome":"running"})");
+    EXPECT_TRUE(waitUntil([&] { return cleared == u"200 "; }));
+    EXPECT_EQ(post(u"/api/cards/1/1/fire"_s).left(4), u"200 ");
+    EXPECT_FALSE(server.bytes.contains("NEVER"));
+}
+
+TEST_F(ControlTest, WrongCallsHaveAStatusEach) {
+    start();
+    struct Wrong {
+        QString path;
+        QByteArray body;
+        int status;
+        QByteArray method = "POST";
+    };
+    const std::vector<Wrong> calls{
+        {u"/api/cards/1/4/fire"_s, {}, 202},  // its script is missing: a box says so
+        {u"/api/cards/1/5/fire"_s, {}, 404},
+        {u"/api/cards/1/22/fire"_s, {}, 404},
+        {u"/api/cards/-1/1/fire"_s, {}, 404},
+        {u"/api/cards/6/0/fire"_s, {}, 404},
+        {u"/api/cards/99999999999/1/fire"_s, {}, 404},
+        {u"/api/cards/1/1/fire"_s, "{", 400},
+        {u"/api/cards/1/1/fire"_s, "[1]", 400},
+        {u"/api/cards/1/1/fire"_s, R"({"answers":{}})", 400},
+        {u"/api/cards/1/1/fire"_s, R"({"answers":[[1]]})", 400},
+        {u"/api/cards/1/1/fire"_s, QByteArray(20'000, '[') + QByteArray(20'000, ']'), 400},
+        {u"/api/cards/1/1/fire"_s, QByteArray(100'000, ' '), 413},
+        {u"/api/cards/1/1/fire"_s, {}, 405, "DELETE"},
+        {u"/api/keys/1"_s, {}, 404},
+        {u"/api/set/0"_s, {}, 404},
+        {u"/api/nothing"_s, {}, 404},
+        {u"/api/scripts/..%2F..%2FPACKS.csp/run"_s, {}, 400},
+        {u"/api/scripts/strap.txt/run"_s, {}, 400},
+        {u"/api/scripts/none.csp/run"_s, {}, 404},
+        {u"/api/variables/@X"_s, R"({"value":"a\r\nCLEAR 1"})", 400},
+        {u"/api/variables/a%0Ab"_s, R"({"value":"a"})", 400},
+        {u"/api/variables/@X"_s, R"({"value":null})", 400},
+        {u"/api/scores/home"_s, R"({"step":1.5})", 400},
+        {u"/api/scores/home"_s, R"({"step":1e99})", 400},
+        {u"/api/scores/guest"_s, R"({"step":1})", 404},
+        {u"/api/players/home/3/tag"_s, {}, 404},
+        {u"/api/players/home/five/6"_s, R"({"player":1})", 404},
+        {u"/api/proposals/1/take"_s, {}, 404},
+        {u"/api/question"_s, {}, 404, "GET"},
+        {u"/"_s, {}, 200, "GET"},
+        {u"/page/control.js"_s, {}, 200, "GET"},
+        {u"/page/..%2Flogin.html"_s, {}, 404, "GET"},
+    };
+    for (const Wrong& call : calls) {
+        const QString answer = answerOf(send(call.method, call.path, call.body));
+        EXPECT_EQ(answer.left(3), QString::number(call.status))
+            << call.path.toStdString() << call.body.left(40).toStdString();
+        const bool isOfInterface = call.path.startsWith(u"/api/"_s) && call.status >= 400 && call.status != 413;
+        EXPECT_EQ(answer.contains(u"\"error\":\""_s), isOfInterface) << answer.toStdString();
+    }
+    const QByteArray host = "Host: 127.0.0.1:" + QByteArray::number(port) + "\r\n";
+    const std::vector<std::pair<QByteArray, QByteArray>> requests{
+        {"\x16\x03\x01", "HTTP/1.1 400"},
+        {"GET / HTTP/9.9\r\n\r\n", "HTTP/1.1 400"},
+        {"GET http://x/ HTTP/1.1\r\n" + host + "\r\n", "HTTP/1.1 400"},
+        {"GET /" + QByteArray(20'000, 'x'), "HTTP/1.1 431"},
+        {"POST /api/clear HTTP/1.1\r\n" + host + "Content-Length: 1073741824\r\n\r\n", "HTTP/1.1 413"},
+        {"POST /api/clear HTTP/1.1\r\n" + host + "Transfer-Encoding: chunked\r\n\r\nFFFFFFFFFFFFFFFFF\r\n",
+         "HTTP/1.1 400"},
+        {"GET /api/state HTTP/1.1\r\nHost: evil.example\r\n\r\n", "HTTP/1.1 421"},
+        {"GET /api/state HTTP/1.1\r\n" + host + "Origin: http://evil.example\r\n\r\n", "HTTP/1.1 403"},
+        {"GET /api/events HTTP/1.1\r\n" + host + "Upgrade: websocket\r\nOrigin: http://127.0.0.1:1\r\n\r\n",
+         "HTTP/1.1 403"},
+        {"GET /api/state HTTP/1.1\r\n" + host + "Upgrade: websocket\r\n\r\n", "HTTP/1.1 404"},
+    };
+    for (const auto& [bytes, status] : requests) {
+        // What is no request at all is refused when its time is up at the latest; here by its end.
+        const QByteArray whole = bytes.contains("\r\n") || bytes.size() > 10'000 ? bytes : bytes + "\r\n\r\n";
+        EXPECT_EQ(raw(whole).left(status.size()), status) << bytes.left(60).toStdString();
+    }
+    EXPECT_EQ(server.bytes.count("STRAP"), 0);
+    EXPECT_EQ(post(u"/api/cards/1/1/fire"_s).left(4), u"200 ") << "after all that";
+}
+
+TEST_F(ControlTest, FloodsLeaveTheConsoleAsItWas) {
+    start();
+    std::vector<QNetworkReply*> replies;
+    for (int i = 0; i < 300; ++i) replies.push_back(send("POST", u"/api/cards/1/1/fire"_s));
+    std::vector<std::unique_ptr<QTcpSocket>> sockets;
+    for (int i = 0; i < 200; ++i) {
+        sockets.push_back(std::make_unique<QTcpSocket>());
+        sockets.back()->connectToHost(QHostAddress::LocalHost, port);
+    }
+    int fired = 0;
+    for (QNetworkReply* reply : replies) {
+        const QString status = answerOf(reply).left(3);
+        EXPECT_TRUE(status == u"200" || status == u"429" || status == u"503") << status.toStdString();
+        fired += status == u"200" ? 1 : 0;
+    }
+    EXPECT_GT(fired, 0);
+    EXPECT_TRUE(waitUntil([&] { return server.bytes.count("STRAP") == fired; }));
+    sockets.clear();
+    gallery.click("cmbCARD", 0);
+    EXPECT_TRUE(waitUntil([&] { return server.bytes.count("STRAP") == fired + 1; }));
+}
+
+TEST_F(ControlTest, TokenIsAskedForAndWrongOnesWait) {
+    start(kToken);
+    EXPECT_EQ(answerOf(send("GET", u"/api/state"_s)).left(3), u"401");
+    bearer = kToken;
+    EXPECT_EQ(answerOf(send("GET", u"/api/state"_s)).left(3), u"200");
+    // The page's form gives a cookie, which the client keeps.
+    bearer.clear();
+    EXPECT_TRUE(answerOf(send("GET", u"/"_s)).contains(u"name=\"token\""_s));
+    EXPECT_TRUE(answerOf(send("POST", u"/login"_s, "token=a+token+of+the+test")).contains(u"control.js"_s));
+    EXPECT_EQ(answerOf(send("GET", u"/api/state"_s)).left(3), u"200");
+    client.setCookieJar(new QNetworkCookieJar);
+    QStringList statuses;
+    for (int i = 0; i < Gatekeeper::kWrongAllowed + 1; ++i) {
+        bearer = "wrong" + QByteArray::number(i);
+        statuses += answerOf(send("GET", u"/api/state"_s)).left(3);
+    }
+    EXPECT_EQ(statuses.last(), u"429");
+    EXPECT_EQ(statuses.count(u"401"_s), Gatekeeper::kWrongAllowed);
+}
+
+TEST_F(ControlTest, EventsTellEveryChangeInOrder) {
+    start();
+    std::array<QWebSocket, 2> sockets;
+    std::array<QList<QJsonObject>, 2> told;
+    for (size_t i = 0; i < 2; ++i) {
+        QObject::connect(&sockets[i], &QWebSocket::textMessageReceived, [&told, i](const QString& text) {
+            told[i] += QJsonDocument::fromJson(text.toUtf8()).object();
+        });
+        sockets[i].open(url(u"/api/events"_s, u"ws"_s));
+        ASSERT_TRUE(waitUntil([&] { return !told[i].isEmpty(); }));
+        EXPECT_EQ(told[i][0]["event"_L1], u"state"_s);
+    }
+    QElapsedTimer since;
+    since.start();
+    post(u"/api/cards/1/1/fire"_s);
+    const auto isTold = [&](size_t who, const QString& event, const QString& part) {
+        return std::ranges::any_of(told[who], [&](const QJsonObject& each) {
+            return each["event"_L1] == event && (part.isEmpty() || each["path"_L1][0] == part);
+        });
+    };
+    for (size_t i = 0; i < 2; ++i) {
+        EXPECT_TRUE(waitUntil([&] {
+            return isTold(i, u"fired"_s, {}) && isTold(i, u"ended"_s, {}) && isTold(i, u"changed"_s, u"onAir"_s) &&
+                   isTold(i, u"changed"_s, u"variables"_s);
+        }));
+    }
+    // The changes made upon the first state give the state that is.
+    EXPECT_EQ(told[0].last()["number"_L1], told[1].last()["number"_L1]);
+    for (qsizetype i = 1; i < told[0].size(); ++i)
+        EXPECT_EQ(told[0][i]["number"_L1].toInt(), told[0][i - 1]["number"_L1].toInt() + 1);
+    // Frames that are none of a listener's.
+    sockets[0].sendTextMessage(QString(5000, u'x'));
+    EXPECT_TRUE(waitUntil([&] { return sockets[0].state() == QAbstractSocket::UnconnectedState; }));
+    sockets[1].sendBinaryMessage("x");
+    post(u"/api/set/2"_s);
+    EXPECT_TRUE(waitUntil([&] { return isTold(1, u"changed"_s, u"set"_s); }));
+}
+
+// The description says what there is, and there is what it says.
+TEST(ControlDescription, IsOfTheRoutes) {
+    QFile file(QStringLiteral(OPENAPI));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject paths = QJsonDocument::fromJson(file.readAll()).object()["paths"_L1].toObject();
+    QStringList described;
+    for (auto path = paths.begin(); path != paths.end(); ++path) {
+        const QJsonObject methods = path->toObject();
+        for (auto method = methods.begin(); method != methods.end(); ++method) {
+            described += method.key().toUpper() + u' ' + path.key();
+            QStringList named;
+            for (const auto& parameter : (*method)["parameters"_L1].toArray())
+                named += u'{' + parameter["name"_L1].toString() + u'}';
+            QStringList inPath;
+            for (const QString& piece : path.key().split(u'/')) {
+                if (piece.startsWith(u'{')) inPath += piece;
+            }
+            EXPECT_EQ(named, inPath) << path.key().toStdString();
+        }
+    }
+    QStringList routes;
+    for (const ApiRoute& route : apiRoutes()) routes += QString::fromLatin1(route.method) + u' ' + route.path;
+    described.sort();
+    routes.sort();
+    EXPECT_EQ(described, routes);
+}
+
+}  // namespace
+}  // namespace zelvor::test
