@@ -16,6 +16,7 @@
 
 #include "base/run_time_error.h"
 #include "data/connections.h"
+#include "engine/system_clock.h"
 #include "support/unused_ports.h"
 
 using namespace Qt::StringLiterals;
@@ -30,11 +31,12 @@ const QString kQuery = u"select * from query_bench"_s;
 
 void makeTable(zelvor::Connections& database) {
     try {
-        database.execute(u"drop table query_bench"_s);
+        database.execute({}, u"drop table query_bench"_s);
     } catch (const zelvor::RunTimeError&) {
         // the first time there is none
     }
     database.execute(
+        {},
         u"create table query_bench (id integer, team integer, points double precision, average double precision, "
         "name varchar(60), played timestamp)"_s);
     for (int first = 0; first < kRows; first += kRowsAnInsert) {
@@ -44,7 +46,7 @@ void makeTable(zelvor::Connections& database) {
                 u"(%1, %2, %3, %4.25, 'Παίκτης Number %1', '2026-11-21 20:31:07')"_s.arg(i).arg(i % 40).arg(i % 35).arg(
                     i % 60);
         }
-        database.execute(u"insert into query_bench values "_s + rows.join(u','));
+        database.execute({}, u"insert into query_bench values "_s + rows.join(u','));
     }
 }
 
@@ -87,7 +89,8 @@ int main(int argc, char* argv[]) {
     state.variables.SetVar(u"@LANGUAGE", u"EN"_s);
     zelvor::test::Unused unused;
     zelvor::Program program{zelvor::AppFolder(directory.path()), {}, zelvor::ErrorTrap(directory.filePath(u"log"_s))};
-    zelvor::Connections database(state, unused, program, {{}, 1});
+    zelvor::SystemClock clock(program.closing);
+    zelvor::Connections database(state, unused, program, clock, {.number = 1});
     makeTable(database);
 
     zelvor::odbc::Handle environment(SQL_HANDLE_ENV, nullptr);

@@ -26,6 +26,10 @@ bool hasWord(const QString& text, QStringView typed, Word word) {
     return false;
 }
 
+QString inOneLine(QString text) {
+    return text.replace(u"\r\n"_s, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
+}
+
 int columnNamed(const QStringList& columns, const QString& name) {
     const auto found = std::ranges::find_if(
         columns, [&](const QString& column) { return column.compare(name.trimmed(), Qt::CaseInsensitive) == 0; });
@@ -43,10 +47,11 @@ PickList::PickList(ShowState& state, Database& database, ErrorTrap& trap, const 
     : state_(state), openBefore_(state.ask.ASK_OPEN) {
     state_.ask.ASK_OPEN = AskState::kYes;
     state_.ask.ASK_RESULT = u"-1"_s;
-    trap.run({u"frmASK.Form_Load"_s, 0, asker}, ErrorTrap::Tell::Operator, [&] { readRows(database); });
+    trap.run({u"frmASK.Form_Load"_s, 0, asker}, ErrorTrap::Tell::Operator, [&] { readRows(database, asker); });
+    if (!fault_.isEmpty()) trap.warn({u"frmASK.Form_Load"_s, 0, asker}, fault_);
 }
 
-void PickList::readRows(Database& database) {
+void PickList::readRows(Database& database, const Asker& asker) {
     const AskField field = state_.ask.field(state_.ask.ASK_FIELD);
     title_ = field.title;
     QString sql = EXPAND_VARS(field.sql, state_.variables, state_.QUERY_RESULT, PreviousAnswer::LeftAlone);
@@ -56,13 +61,25 @@ void PickList::readRows(Database& database) {
         sql.replace(u'{' + name + u'}', state_.variables.text(name));
     }
 
-    const NamedRows found = database.readGreek(sql);
+    std::optional<NamedRows> answer = database.readGreek(asker, sql);
+    isGivenUp_ = !answer;
+    if (isGivenUp_) return;
+    const NamedRows found = *std::move(answer);
     const int display = columnNamed(found.columns, field.display);
     const int code = columnNamed(found.columns, field.getCode);
     std::vector<Row> read;
     read.reserve(found.rows.size());
+    int number = 0;
     for (const std::vector<Value>& row : found.rows) {
-        read.push_back({row[display].text(), wholeNumber32(row[code].number())});
+        ++number;
+        try {
+            const qint32 key = wholeNumber32(row[code].number());
+            read.push_back({inOneLine(row[display].text()), key});
+        } catch (const RunTimeError& error) {
+            if (!fault_.isEmpty()) continue;
+            fault_ = u"ask field %1, GETCODE %2, row %3: "_s.arg(state_.ask.ASK_FIELD).arg(field.getCode).arg(number) +
+                     error.text();
+        }
     }
     rows_ = std::move(read);
 }

@@ -18,12 +18,16 @@ class PickList {
         qint32 key = 0;
     };
 
-    // Reads the field's rows. An error (a field that does not exist, a query that fails or lacks a column, a key that
-    // is no whole number) is reported by the trap and leaves the list empty.
+    // Reads the field's rows. An error (a field that does not exist, a query that fails or lacks a column) is reported
+    // by the trap and leaves the list empty. A row whose key is no whole number is left out, and the first one told.
     PickList(ShowState& state, Database& database, ErrorTrap& trap, const Asker& asker);
 
     [[nodiscard]] const QString& title() const { return title_; }
     [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
+    // What is wrong with the first row that was left out; empty when none was.
+    [[nodiscard]] const QString& fault() const { return fault_; }
+    // The query was given up, and with it the card: there is nothing to show.
+    [[nodiscard]] bool isGivenUp() const { return isGivenUp_; }
     // The row that an operator means by what he has typed: the first with that number, else the first that begins with
     // the text, has a word that does, or does but for its accents, all in either case; else -1.
     [[nodiscard]] int find(QStringView typed) const;
@@ -33,12 +37,14 @@ class PickList {
     void cancel();
 
  private:
-    void readRows(Database& database);
+    void readRows(Database& database, const Asker& asker);
     void close();
 
     ShowState& state_;
     QString title_;
     std::vector<Row> rows_;
+    QString fault_;
+    bool isGivenUp_ = false;
     qint16 openBefore_;
 };
 

@@ -26,6 +26,7 @@ QString keysOf(const PickList& list) {
 
 void ScriptedAsk::show(const Asker& asker) {
     PickList list(state_, database_, trap_, asker);
+    if (list.isGivenUp()) return list.cancel();
     const QString answer = answers_.isEmpty() ? QString() : answers_.takeFirst();
     const auto& rows = list.rows();
     const auto chosen =

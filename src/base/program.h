@@ -3,6 +3,7 @@
 #include "base/app_folder.h"
 #include "base/clearing.h"
 #include "base/closing.h"
+#include "base/database_wait.h"
 #include "base/error_trap.h"
 #include "base/questions.h"
 #include "base/text_file.h"
@@ -10,7 +11,8 @@
 namespace zelvor {
 
 // What every room of one running program shares beside the show: where its files are and how they are read, what
-// becomes of errors, CLEAR, the questions that wait, and its end. Made by the composition root and passed by reference.
+// becomes of errors, CLEAR, the wait for the database, the questions that wait, and its end. Made by the composition
+// root and passed by reference.
 struct Program {
     AppFolder folder;
     TextFiles files;
@@ -18,6 +20,7 @@ struct Program {
     Closing closing{};
     Clearing clearing{};
     Questions questions{};
+    DatabaseWait databaseWait{};
 };
 
 }  // namespace zelvor

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "base/run_time_error.h"
+
+using namespace Qt::StringLiterals;
+
 namespace zelvor {
 
 namespace {
@@ -41,7 +45,8 @@ bool isAscii(QByteArrayView bytes) {
 }  // namespace
 
 CharacterSet::CharacterSet(const QByteArray& sends, const QByteArray& takes)
-    : sendsUtf8_(codecName(sends) == "UTF-8"),
+    : takes_(takes),
+      sendsUtf8_(codecName(sends) == "UTF-8"),
       decoder_(converter<QStringDecoder>(sends)),
       encoder_(converter<QStringEncoder>(takes)) {}
 
@@ -54,8 +59,25 @@ QString CharacterSet::decode(QByteArrayView bytes) {
 QByteArray CharacterSet::encode(const QString& text) {
     constexpr char kSubstitute = '\x1A';
     QByteArray bytes = encoder_.encode(text);
-    if (!text.contains(QChar(u'\x1A'))) bytes.replace(kSubstitute, '?');
+    if (bytes.contains(kSubstitute) && bytes.count(kSubstitute) > text.count(QChar(u'\x1A'))) {
+        throw RunTimeError::withText(
+            ErrorNumber::DatabaseError,
+            u"The character set %1 of the connection lacks %2."_s.arg(QString::fromLatin1(takes_), lacking(text)));
+    }
     return bytes;
+}
+
+// á (U+00E1), 日 (U+65E5)
+QString CharacterSet::lacking(const QString& text) {
+    QStringList names;
+    for (const char32_t character : text.toStdU32String()) {
+        const QString one = QString::fromUcs4(&character, 1);
+        if (character == U'\x1A' || !QByteArray(encoder_.encode(one)).contains('\x1A')) continue;
+        const QString number = QString::number(static_cast<uint>(character), 16).toUpper().rightJustified(4, u'0');
+        names += one + u" (U+"_s + number + u')';
+    }
+    names.removeDuplicates();
+    return names.join(u", "_s);
 }
 
 QString CharacterSet::decodeMessage(QByteArrayView bytes) {

@@ -18,12 +18,15 @@ class CharacterSet {
     CharacterSet(const QByteArray& sends, const QByteArray& takes);
 
     [[nodiscard]] QString decode(QByteArrayView bytes);
-    // A character that the set lacks becomes "?".
+    // Throws RunTimeError that names the characters which the set lacks.
     [[nodiscard]] QByteArray encode(const QString& text);
     // A message of the driver, which may be in UTF-8 whatever the connection speaks.
     [[nodiscard]] QString decodeMessage(QByteArrayView bytes);
 
  private:
+    [[nodiscard]] QString lacking(const QString& text);
+
+    QByteArray takes_;
     bool sendsUtf8_ = true;
     QStringDecoder decoder_{QStringConverter::Utf8, QStringConverter::Flag::Stateless};
     QStringEncoder encoder_{QStringConverter::Utf8, QStringConverter::Flag::Stateless};

@@ -7,6 +7,7 @@
 
 #include "base/number.h"
 #include "data/connection_list.h"
+#include "engine/card_engine.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,10 +23,11 @@ qint16 leadingNumber(const QString& commandLine) {
 
 }  // namespace
 
-Connections::Connections(ShowState& state, Operator& operatorDesk, Program& program, Choice choice)
+Connections::Connections(ShowState& state, Operator& operatorDesk, Program& program, Clock& clock, Choice choice)
     : state_(state),
       operator_(operatorDesk),
       program_(program),
+      clock_(clock),
       choice_(std::move(choice)),
       utf8_(program.folder.path()),
       greek_(program.folder.path()) {}
@@ -68,10 +70,27 @@ std::optional<qint16> Connections::askNumber(const QString& menu, qint16 propose
     return std::nullopt;
 }
 
-template <class Deed>
-auto Connections::telling(Deed deed) {
+int Connections::secondsFor(const Asker& asker) const {
+    const bool isStart = CardEngine::scriptName(asker.card).compare(CardEngine::kStartCard, Qt::CaseInsensitive) == 0;
+    return isStart ? std::max(choice_.seconds, kSecondsOfStart) : choice_.seconds;
+}
+
+template <class Work>
+auto Connections::waitFor(const Asker& asker, Session& session, Work work) {
     const auto told = qScopeGuard([this] { standingTold_(); });
-    return deed();
+    const DatabaseWait::Scope wait(program_.databaseWait, asker);
+    const int clearings = program_.clearing.count();
+    const auto meanwhile = [&] {
+        return clock_.waitBriefly() && program_.clearing.count() == clearings && wait.goesOn();
+    };
+    try {
+        return work(Patience{secondsFor(asker), choice_.untilCancelled, meanwhile});
+    } catch (const Session::OutOfTime&) {
+        // Both connections go to one server.
+        if (session.isSilent()) (&session == &utf8_ ? greek_ : utf8_).fallSilent();
+        program_.databaseWait.tellRanOut(asker);
+        throw;
+    }
 }
 
 void Connections::CONNECTDATABASE() {
@@ -80,8 +99,13 @@ void Connections::CONNECTDATABASE() {
         const QString connectionString = GET_CONNECTION_STRING();
         if (connectionString.isEmpty()) return;
         setConnectionStrings(connectionString);
-        telling([&] { utf8_.open(); });
-        telling([&] { greek_.open(); });
+        try {
+            for (Session* session : {&utf8_, &greek_}) {
+                waitFor({Asker::Kind::StartUp}, *session, [&](const Patience& patience) { session->open(patience); });
+            }
+        } catch (const Session::GivenUp&) {
+            // By CLEAR; the first query opens what is not open.
+        }
     });
 }
 
@@ -96,7 +120,7 @@ void Connections::setConnectionStrings(const QString& connectionString) {
     standingTold_();
 }
 
-odbc::Rows Connections::run(Session& session, const QString& sql) {
+odbc::Rows Connections::run(const Asker& asker, Session& session, const QString& sql) {
     if (choice_.number && !session.hasConnectionString()) {
         isMissing_ = true;
         const QString connectionString = GET_CONNECTION_STRING();
@@ -104,7 +128,7 @@ odbc::Rows Connections::run(Session& session, const QString& sql) {
         isMissing_ = connectionString.isEmpty();
     }
     try {
-        return telling([&] { return session.run(sql); });
+        return waitFor(asker, session, [&](const Patience& patience) { return session.run(sql, patience); });
     } catch (const RunTimeError& error) {
         throw RunTimeError::withText(error.code(), error.text() + u"\r\n"_s + sql);
     }
@@ -114,7 +138,7 @@ int Connections::runIntoResult(const Query& query, const Asker& asker, const QSt
     int count = 0;
     program_.trap.run({query.procedure, 0, asker}, ErrorTrap::Tell::LogOnly, [&] {
         try {
-            odbc::Rows rows = run(query.session, sql);
+            odbc::Rows rows = run(asker, query.session, sql);
             count = rows.rowCount();
             if (count == 0) return;
             state_.QUERY_RESULT = QueryResult(count, static_cast<int>(rows.columns.size()), std::move(rows.cells));
@@ -126,6 +150,8 @@ int Connections::runIntoResult(const Query& query, const Asker& asker, const QSt
                 operator_.message(asker, query.errorTitle, error.text(), Operator::Severity::Warning);
             }
             throw;  // for the error log
+        } catch (const Session::GivenUp&) {
+            // Whoever gave it up knows, and its run is over.
         }
     });
     // The count is a 16-bit number, @RECORDCOUNT has all of it.
@@ -142,12 +168,22 @@ int Connections::RUN_QUERY2(const Asker& asker, const QString& sql) {
     return runIntoResult({greek_, u"mDATABASE.RUN_QUERY2"_s, u"Error in Query2"_s}, asker, sql);
 }
 
-void Connections::execute(const QString& sql) {
-    run(utf8_, sql);
+bool Connections::execute(const Asker& asker, const QString& sql) {
+    try {
+        run(asker, utf8_, sql);
+        return true;
+    } catch (const Session::GivenUp&) {
+        return false;
+    }
 }
 
-NamedRows Connections::readGreek(const QString& sql) {
-    odbc::Rows read = run(greek_, sql);
+std::optional<NamedRows> Connections::readGreek(const Asker& asker, const QString& sql) {
+    odbc::Rows read;
+    try {
+        read = run(asker, greek_, sql);
+    } catch (const Session::GivenUp&) {
+        return std::nullopt;
+    }
     NamedRows named{read.columns, {}};
     const auto width = static_cast<std::ptrdiff_t>(read.columns.size());
     named.rows.reserve(read.rowCount());

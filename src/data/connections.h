@@ -19,15 +19,22 @@ class Connections : public Database {
 
     struct Choice {
         // What is left of the program's command line: a number that it begins with is proposed to the operator.
-        QString commandLine;
+        QString commandLine = {};
         // A number chosen beforehand: nobody is asked.
-        std::optional<qint16> number;
+        std::optional<qint16> number = {};
+        // For an answer; GetGame.csp gets kSecondsOfStart where that is more.
+        int seconds = Patience::kSeconds;
+        // For the end of a statement that was cancelled.
+        std::chrono::milliseconds untilCancelled = Patience().untilCancelled;
         // Opened by CONNECTDATABASE also when the number was chosen beforehand; else that waits for the first query.
         bool opensAtOnce = false;
     };
 
-    // When no connection has the chosen number, the operator is told and the program closes.
-    Connections(ShowState& state, Operator& operatorDesk, Program& program, Choice choice);
+    static constexpr int kSecondsOfStart = 60;
+
+    // clock: turns the event loop while a statement runs. When no connection has the chosen number, the operator is
+    // told and the program closes.
+    Connections(ShowState& state, Operator& operatorDesk, Program& program, Clock& clock, Choice choice);
 
     // The connection string to use, empty when there is none. Throws RunTimeError when CONNECTIONS.TXT cannot be read.
     QString GET_CONNECTION_STRING();
@@ -40,8 +47,8 @@ class Connections : public Database {
 
     int RUN_QUERY(const Asker& asker, const QString& sql) override;
     int RUN_QUERY2(const Asker& asker, const QString& sql) override;
-    void execute(const QString& sql) override;
-    NamedRows readGreek(const QString& sql) override;
+    bool execute(const Asker& asker, const QString& sql) override;
+    std::optional<NamedRows> readGreek(const Asker& asker, const QString& sql) override;
 
     // Called whenever one of the connections may stand otherwise: after each try to open it, and each statement.
     void setStandingTold(std::function<void()> told) { standingTold_ = std::move(told); }
@@ -58,11 +65,13 @@ class Connections : public Database {
     // Asks until the answer is a number; nullopt when the program is closing.
     std::optional<qint16> askNumber(const QString& menu, qint16 proposed);
     void setConnectionStrings(const QString& connectionString);
+    // Waits for work(patience), which is about a session, with turns of the event loop, and tells how it stands then.
+    // Throws as Session does.
+    template <class Work>
+    auto waitFor(const Asker& asker, Session& session, Work work);
+    [[nodiscard]] int secondsFor(const Asker& asker) const;
     // Runs a statement, the connection being chosen first where that was left to the first query.
-    odbc::Rows run(Session& session, const QString& sql);
-    // Does it to the session and tells how that stands then.
-    template <class Deed>
-    auto telling(Deed deed);
+    odbc::Rows run(const Asker& asker, Session& session, const QString& sql);
     struct Query {
         Session& session;
         QString procedure;
@@ -73,6 +82,7 @@ class Connections : public Database {
     ShowState& state_;
     Operator& operator_;
     Program& program_;
+    Clock& clock_;
     Choice choice_;
     Session utf8_;
     Session greek_;

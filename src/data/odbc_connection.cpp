@@ -8,6 +8,7 @@
 #include <array>
 
 #include "base/run_time_error.h"
+#include "data/statement_kind.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,14 +36,13 @@ class WorkingFolder {
 
 }  // namespace
 
-// The statement that another thread may cancel, for as long as this lives.
+// The statement that another thread may cancel, for as long as this lives: while the server works on it, not while its
+// rows are read, for drivers free what is being read.
 class Connection::Running {
  public:
     Running(Connection& connection, const Statement& statement) : connection_(connection) {
         const std::lock_guard lock(connection_.runningMutex_);
-        if (connection_.cancelled_) {
-            throw RunTimeError::withText(ErrorNumber::DatabaseError, u"The statement was cancelled."_s);
-        }
+        connection_.refuseCancelled();
         connection_.running_ = &statement;
     }
     Running(const Running&) = delete;
@@ -95,13 +95,14 @@ QString odbcPart(const QString& connectionString) {
     return end < 0 ? QString() : connectionString.mid(end + 1);
 }
 
-Connection::Connection(QString connectionString, QString folder)
-    : connectionString_(std::move(connectionString)), folder_(std::move(folder)) {}
+Connection::Connection(QString connectionString, QString folder, std::chrono::milliseconds idle)
+    : connectionString_(std::move(connectionString)), folder_(std::move(folder)), idle_(idle) {}
 
-void Connection::open() {
-    if (state_ == State::Open && !isDead()) return;
+void Connection::open(int seconds) {
+    if (state_ == State::Open && isUsable(seconds)) return;
     state_ = State::Failed;
     lost_ = false;
+    isWorn_ = inTransaction_ = false;
     characterSet_ = CharacterSet();
     const QByteArray text = odbcPart(connectionString_).toUtf8();
     const WorkingFolder workingFolder(folder_);
@@ -110,38 +111,51 @@ void Connection::open() {
     environment_ = Handle(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
     SQLSetEnvAttr(environment_.raw(), SQL_ATTR_ODBC_VERSION, attributeValue(SQL_OV_ODBC3), 0);
     handle_ = Handle(SQL_HANDLE_DBC, environment_.raw());
-    SQLSetConnectAttr(handle_.raw(), SQL_ATTR_LOGIN_TIMEOUT, attributeValue(kSecondsAllowed), 0);
+    SQLSetConnectAttr(handle_.raw(), SQL_ATTR_LOGIN_TIMEOUT, attributeValue(seconds), 0);
     auto* bytes = reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.constData()));
     if (!SQL_SUCCEEDED(
             SQLDriverConnect(handle_.raw(), nullptr, bytes, SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT))) {
         fail(handle_);
     }
-    askCharacterSet();
+    isMariaDbDriver_ = info(SQL_DRIVER_NAME).contains("maodbc");
+    askCharacterSet(seconds);
+    used_ = std::chrono::steady_clock::now();
     state_ = State::Open;
 }
 
-Rows Connection::run(const QString& sql) {
+Rows Connection::run(const QString& sql, int seconds) {
     if (sql.trimmed().isEmpty()) {
         throw RunTimeError::withText(ErrorNumber::DatabaseError, u"The statement is empty."_s);
     }
-    open();
-    return runOpen(sql);
+    open(seconds);
+    return runOpen(sql, seconds);
 }
 
-Rows Connection::runOpen(const QString& sql) {
-    Statement statement(handle_.raw(), kSecondsAllowed);
-    const Running running(*this, statement);
+Rows Connection::runOpen(const QString& sql, int seconds) {
+    Statement statement(handle_.raw(), seconds);
+    const QByteArray bytes = characterSet_.encode(sql);
+    note(sql);
+    {
+        const Running running(*this, statement);
+        if (!statement.execute(bytes)) fail(statement.handle());
+    }
     Rows rows;
-    if (!statement.execute(characterSet_.encode(sql))) fail(statement.handle());
-    if (statement.columnCount() > 0 && !statement.readRows(characterSet_, rows)) fail(statement.handle());
+    if (statement.columnCount() == 0) return rows;
+    if (!statement.readRows(characterSet_, rows, cancelled_)) fail(statement.handle());
+    refuseCancelled();
     return rows;
 }
 
-void Connection::runTogether(const QStringList& statements) {
-    open();
+void Connection::runTogether(const QStringList& statements, int seconds) {
+    open(seconds);
     Transaction transaction(handle_);
-    for (const QString& sql : statements) runOpen(sql);
+    for (const QString& sql : statements) runOpen(sql, seconds);
+    refuseCancelled();
     if (!transaction.commit()) fail(handle_);
+}
+
+void Connection::refuseCancelled() const {
+    if (cancelled_) throw RunTimeError::withText(ErrorNumber::DatabaseError, u"The statement was cancelled."_s);
 }
 
 void Connection::cancel() {
@@ -150,30 +164,47 @@ void Connection::cancel() {
     if (running_ != nullptr) SQLCancel(running_->handle().raw());
 }
 
+void Connection::note(const QString& sql) {
+    const QString word = firstWord(sql);
+    if (word == u"begin" || word == u"start") inTransaction_ = true;
+    if (word == u"commit" || word == u"rollback") inTransaction_ = false;
+    if (isMariaDbDriver_ && !isSafeForMariaDbDriver(word)) isWorn_ = true;
+    used_ = std::chrono::steady_clock::now();
+}
+
+bool Connection::isUsable(int seconds) {
+    // A transaction would be lost with the connection.
+    if (isDead() || (isWorn_ && !inTransaction_)) return false;
+    if (!isPostgreSql_ || std::chrono::steady_clock::now() - used_ < idle_) return true;
+    return Statement(handle_.raw(), seconds).execute("select 1");
+}
+
 bool Connection::isDead() {
     SQLUINTEGER dead = SQL_CD_FALSE;
     const SQLRETURN result = SQLGetConnectAttr(handle_.raw(), SQL_ATTR_CONNECTION_DEAD, &dead, sizeof dead, nullptr);
     return lost_ || (SQL_SUCCEEDED(result) && dead == SQL_CD_TRUE);
 }
 
-void Connection::askCharacterSet() {
-    std::array<char, 128> product{};
-    SQLGetInfo(handle_.raw(), SQL_DBMS_NAME, product.data(), product.size(), nullptr);
-    const QByteArray name = QByteArray(product.data()).toLower();
+QByteArray Connection::info(SQLUSMALLINT what) const {
+    std::array<char, 128> text{};
+    SQLGetInfo(handle_.raw(), what, text.data(), text.size(), nullptr);
+    return QByteArray(text.data()).toLower();
+}
+
+void Connection::askCharacterSet(int seconds) {
+    const QByteArray name = info(SQL_DBMS_NAME);
+    isPostgreSql_ = name.contains("postgres");
     QByteArray question;
     if (name.contains("maria") || name.contains("mysql")) {
         question = "select @@character_set_results, @@character_set_client";
-    } else if (name.contains("postgres")) {
+    } else if (isPostgreSql_) {
         question = "show client_encoding";
-    } else if (name.contains("sqlite")) {
-        // It speaks UTF-8; what it is told is not to wait longer than this for another program's lock.
-        question = "pragma busy_timeout=" + QByteArray::number(kSecondsAllowed * 1000);
     } else {
-        return;
+        return;  // UTF-8, as SQLite
     }
-    Statement statement(handle_.raw(), kSecondsAllowed);
+    Statement statement(handle_.raw(), seconds);
     Rows rows;
-    if (!statement.execute(question) || !statement.readRows(characterSet_, rows)) fail(statement.handle());
+    if (!statement.execute(question) || !statement.readRows(characterSet_, rows, cancelled_)) fail(statement.handle());
     if (rows.cells.empty()) return;
     characterSet_ =
         CharacterSet(rows.cells.front().text().toLatin1(), rows.cells[rows.columns.size() - 1].text().toLatin1());

@@ -38,4 +38,21 @@ Diagnostics diagnostics(const Handle& handle) {
     return found;
 }
 
+QStringList installedDrivers() {
+    const Handle environment(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
+    SQLSetEnvAttr(environment.raw(), SQL_ATTR_ODBC_VERSION, attributeValue(SQL_OV_ODBC3), 0);
+    QStringList names;
+    std::array<SQLCHAR, 256> name{};
+    std::array<SQLCHAR, 4096> attributes{};
+    SQLSMALLINT nameLength = 0;
+    SQLSMALLINT length = 0;
+    for (SQLUSMALLINT which = SQL_FETCH_FIRST;
+         SQL_SUCCEEDED(SQLDrivers(environment.raw(), which, name.data(), name.size(), &nameLength, attributes.data(),
+                                  attributes.size(), &length));
+         which = SQL_FETCH_NEXT) {
+        names += QString::fromUtf8(reinterpret_cast<const char*>(name.data()));
+    }
+    return names;
+}
+
 }  // namespace zelvor::odbc

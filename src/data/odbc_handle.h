@@ -4,6 +4,7 @@
 #include <sqlext.h>
 
 #include <QByteArray>
+#include <QStringList>
 #include <utility>
 
 namespace zelvor::odbc {
@@ -31,6 +32,9 @@ class Handle {
     SQLSMALLINT type_ = 0;
     SQLHANDLE raw_ = nullptr;
 };
+
+// The names of the drivers that the manager knows here.
+QStringList installedDrivers();
 
 // A number as the attribute calls of the C interface take it.
 inline SQLPOINTER attributeValue(quintptr value) {

@@ -21,27 +21,29 @@ bool Statement::execute(const QByteArray& sql) {
     auto* text = reinterpret_cast<SQLCHAR*>(const_cast<char*>(sql.constData()));
     const SQLRETURN result = SQLExecDirect(handle_.raw(), text, static_cast<SQLINTEGER>(sql.size()));
     // An UPDATE that met no row is no failure.
-    return SQL_SUCCEEDED(result) || result == SQL_NO_DATA;
+    metNone_ = result == SQL_NO_DATA;
+    return SQL_SUCCEEDED(result) || metNone_;
 }
 
 int Statement::columnCount() const {
+    if (metNone_) return 0;
     SQLSMALLINT count = 0;
     return SQL_SUCCEEDED(SQLNumResultCols(handle_.raw(), &count)) ? count : 0;
 }
 
-bool Statement::readRows(CharacterSet& characterSet, Rows& rows) {
+bool Statement::readRows(CharacterSet& characterSet, Rows& rows, const std::atomic<bool>& stop) {
     const int count = columnCount();
     columns_.resize(count);
     for (int i = 0; i < count; ++i) {
         if (!describeColumn(static_cast<SQLUSMALLINT>(i + 1), characterSet, rows)) return false;
     }
     SQLRETURN result = SQLFetch(handle_.raw());
-    for (; SQL_SUCCEEDED(result); result = SQLFetch(handle_.raw())) {
+    for (; SQL_SUCCEEDED(result) && !stop; result = SQLFetch(handle_.raw())) {
         for (int i = 0; i < count; ++i) {
             if (!readCell(static_cast<SQLUSMALLINT>(i + 1), columns_[i], characterSet, rows)) return false;
         }
     }
-    return result == SQL_NO_DATA;
+    return stop || result == SQL_NO_DATA;
 }
 
 bool Statement::describeColumn(SQLUSMALLINT number, CharacterSet& characterSet, Rows& rows) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -30,10 +31,10 @@ class Statement {
 
     // False when the driver refused; diagnostics(handle()) has its words.
     bool execute(const QByteArray& sql);
-    // 0 for a statement that gives no rows.
+    // 0 for a statement that gives no rows, also an UPDATE ... RETURNING that met none.
     [[nodiscard]] int columnCount() const;
-    // Reads every row. False when the driver failed on the way.
-    bool readRows(CharacterSet& characterSet, Rows& rows);
+    // Reads every row, until `stop` is set. False when the driver failed on the way.
+    bool readRows(CharacterSet& characterSet, Rows& rows, const std::atomic<bool>& stop);
 
     [[nodiscard]] const Handle& handle() const { return handle_; }
 
@@ -54,6 +55,7 @@ class Statement {
     bool readLongCell(SQLUSMALLINT number, const Column& column, QByteArray& bytes);
 
     Handle handle_;
+    bool metNone_ = false;
     std::vector<Column> columns_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <algorithm>
+#include <stdexcept>
 
 #include "engine/card_run.h"
 #include "engine/team_labels.h"
@@ -50,6 +51,7 @@ CardEngine::Outcome CardEngine::runScript(const QString& name, bool autoRun, boo
     Outcome outcome = Outcome::Ran;
     running_.push_back({&place.asker});
     const bool ran = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
+        if (program_.databaseWait.isOn()) throw std::logic_error("a card began while the database is waited for");
         if (running_.size() > kDeepestRun) throw RunTimeError(ErrorNumber::OutOfStackSpace, name);
         if (!script) {
             script =

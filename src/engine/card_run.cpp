@@ -102,8 +102,9 @@ void CardRun::abandon() {
 }
 
 void CardRun::goOn() const {
-    if (engine_.program().closing.hasBegun()) throw ProgramClosing();
-    if (engine_.program().clearing.count() != clearings_) throw RunCleared();
+    const Program& program = engine_.program();
+    if (program.closing.hasBegun()) throw ProgramClosing();
+    if (program.clearing.count() != clearings_ || program.databaseWait.hasEnded(place_.asker)) throw RunCleared();
 }
 
 void CardRun::finish() {

@@ -53,8 +53,8 @@ class CardRun {
     [[nodiscard]] bool hasData() const { return hasData_; }
     // Ends the script and leaves the on-air display and the last card untouched.
     void abandon();
-    // Ends the run at once when the program is closing or CLEAR was pressed since it began; called after everything
-    // that waits.
+    // Ends the run at once when the program is closing, CLEAR was pressed since it began, or it has made room for a
+    // press; called after everything that waits.
     void goOn() const;
     // Shows the card as on air, or that it had no data, and remembers it as the last one.
     void finish();
@@ -88,7 +88,7 @@ class CardRun {
     OutputFiles files_;
 };
 
-// Thrown by CardRun::goOn() and caught by CardEngine: the run ends because the program does, or by CLEAR.
+// Thrown by CardRun::goOn() and caught by CardEngine: the run ends because the program does, by CLEAR, or for a press.
 struct ProgramClosing {};
 struct RunCleared {};
 

@@ -76,7 +76,9 @@ struct NamedRows {
     std::vector<std::vector<Value>> rows;
 };
 
-// The two database connections. CONN_GREEK differs from CONN_UTF8 in the character set it asks for.
+// The two database connections. CONN_GREEK differs from CONN_UTF8 in the character set it asks for. While a statement
+// runs the event loop turns, but no card begins. A statement that is given up (CLEAR, a press while a card that runs by
+// itself waits, the program's end) gives 0, false, nullopt without a word; the run that waited for it is over.
 class Database {
  public:
     virtual ~Database() = default;
@@ -85,9 +87,9 @@ class Database {
     virtual int RUN_QUERY(const Asker& asker, const QString& sql) = 0;
     virtual int RUN_QUERY2(const Asker& asker, const QString& sql) = 0;
     // Runs a statement on CONN_UTF8 and ignores its result. Throws RunTimeError with the driver's text.
-    virtual void execute(const QString& sql) = 0;
+    virtual bool execute(const Asker& asker, const QString& sql) = 0;
     // Reads a query's rows on CONN_GREEK. Throws RunTimeError with the driver's text.
-    virtual NamedRows readGreek(const QString& sql) = 0;
+    virtual std::optional<NamedRows> readGreek(const Asker& asker, const QString& sql) = 0;
 };
 
 // What lies outside of the program's windows, and the program's other forms.

@@ -60,7 +60,7 @@ void Proposal::fire(CardEngine& engine, const QString& card, Control& label, con
     const bool isStillHere = label.tag().startsWith(id_ + u'|');
     if (isStillHere) say(label, whyNot(outcome));
     if (outcome != Outcome::Ran) return;
-    engine.ports().database.execute(u"update proposedcard set pc_used='Y' where pc_id="_s + id_);
+    if (!engine.ports().database.execute(asker, u"update proposedcard set pc_used='Y' where pc_id="_s + id_)) return;
     label.setBackColour(colours::kUsedProposal);
 }
 

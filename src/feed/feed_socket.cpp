@@ -12,6 +12,7 @@ FeedSocket::FeedSocket(GameFeed& feed, FeedStatus& status, Clock& clock) : feed_
     connect(&next_, &QTimer::timeout, this, &FeedSocket::handleWaiting);
     // Reading only queues: a slot of readyRead that lets the event loop turn would not be called for what arrives then.
     connect(&socket_, &QUdpSocket::readyRead, this, &FeedSocket::read);
+    connect(&feed_, &GameFeed::cardMayRun, this, &FeedSocket::read);
 }
 
 bool FeedSocket::bind(quint16 port) {
@@ -29,6 +30,10 @@ bool FeedSocket::bind(quint16 port) {
     return bound;
 }
 
+bool FeedSocket::mayHandle() const {
+    return !handling_ || feed_.onlyWrites();
+}
+
 bool FeedSocket::hasRoom() const {
     return waiting_.size() < kMostWaiting && waitingCharacters_ < kMostWaitingCharacters;
 }
@@ -36,7 +41,8 @@ bool FeedSocket::hasRoom() const {
 void FeedSocket::read() {
     takeArrived();
     tellWaiting();
-    if (!handling_ && (!waiting_.empty() || cardDueSince_) && !next_.isActive()) next_.start(0);
+    const bool isCardDue = cardDueSince_ && !feed_.onlyWrites();
+    if (mayHandle() && (!waiting_.empty() || isCardDue) && !next_.isActive()) next_.start(0);
 }
 
 void FeedSocket::takeArrived() {
@@ -53,13 +59,14 @@ void FeedSocket::takeArrived() {
 }
 
 void FeedSocket::handleWaiting() {
-    if (handling_) return;
+    if (!mayHandle()) return;
     {
         const QScopedValueRollback busy(handling_, true);
         handleSlice();
         tellWaiting();
         const bool isNewest = waiting_.empty();
-        if (cardDueSince_ && (isNewest || clock_.steadyMilliseconds() - *cardDueSince_ > kLongestWithoutCard)) {
+        if (cardDueSince_ && !feed_.onlyWrites() &&
+            (isNewest || clock_.steadyMilliseconds() - *cardDueSince_ > kLongestWithoutCard)) {
             runTimeCard();
         }
     }

@@ -11,7 +11,8 @@
 namespace zelvor {
 
 // wsT, the datagram socket of the game feed. Datagrams are handled one at a time in their order; the time card is run
-// when the newest has been handled. What arrives while it runs (it may let the event loop turn) waits its turn.
+// when the newest has been handled. What arrives while it runs (it may let the event loop turn) waits its turn, unless
+// the database is waited for.
 class FeedSocket : public QObject {
     Q_OBJECT
 
@@ -42,6 +43,7 @@ class FeedSocket : public QObject {
     void read();
     void takeArrived();
     void handleWaiting();
+    [[nodiscard]] bool mayHandle() const;
     void handleSlice();
     void runTimeCard();
     void tellWaiting();

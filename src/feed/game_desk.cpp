@@ -3,11 +3,12 @@
 namespace zelvor {
 
 GameDesk::GameDesk(CardEngine& engine)
-    : feed(engine),
+    : cards(engine),
+      feed(engine, cards),
       feedStatus(engine.state(), engine.form(), engine.ports().clock),
       feedSocket(feed, feedStatus, engine.ports().clock),
-      localClock(engine),
-      timedCards(engine),
+      localClock(engine, cards),
+      timedCards(engine, cards),
       scoreboard(engine.form(), engine.state().variables, engine.program().trap),
       lineUps(engine.form(), engine.state().variables, engine.program().trap),
       players(engine.form(), engine.state(), engine.program().trap),

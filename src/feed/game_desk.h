@@ -15,6 +15,7 @@ namespace zelvor {
 struct GameDesk {
     explicit GameDesk(CardEngine& engine);
 
+    UnattendedCards cards;
     GameFeed feed;
     FeedStatus feedStatus;
     FeedSocket feedSocket;

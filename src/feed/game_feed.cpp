@@ -34,15 +34,17 @@ bool isThreshold(const QString& text) {
 
 }  // namespace
 
-GameFeed::GameFeed(CardEngine& engine)
+GameFeed::GameFeed(CardEngine& engine, UnattendedCards& cards)
     : QuietRules(engine.program().trap),
       engine_(engine),
       extraAfter_(engine.form().at(controls.chkEAFTER)),
       threshold_(engine.form().at(controls.txtEAFTER)),
       time_(engine.form().at(controls.lblTime)),
-      extraTime_(engine.form().at(controls.lblETime)) {
+      extraTime_(engine.form().at(controls.lblETime)),
+      cards_(cards) {
     follow(threshold_, {Control::Property::Text}, this,
            [this] { threshold_.setState(isThreshold(threshold_.text()) ? QString() : u"not a number"_s); });
+    connect(&engine.program().databaseWait, &DatabaseWait::over, this, &GameFeed::cardMayRun);
 }
 
 GameFeed::Outcome GameFeed::handle(const QString& datagram) {
@@ -91,7 +93,7 @@ void GameFeed::runTimeCard() {
     if (!switches.IsTimeCard) return;
     // By value: the card may arm another one.
     const QString card = switches.AutoTimeCard;
-    engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::TimeCard, card});
+    cards_.run(card, Asker::Kind::TimeCard);
 }
 
 }  // namespace zelvor

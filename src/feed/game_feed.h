@@ -1,6 +1,7 @@
 #pragma once
 
 #include "feed/quiet_rules.h"
+#include "feed/unattended_cards.h"
 
 namespace zelvor {
 
@@ -13,14 +14,21 @@ class GameFeed : public QuietRules {
  public:
     enum class Outcome { Clock, Pause, Refused };
 
-    explicit GameFeed(CardEngine& engine);
+    GameFeed(CardEngine& engine, UnattendedCards& cards);
 
     // The clock is what stands between the first and the second "t", in minutes, ":" and two digits of seconds;
     // "pause" changes nothing. A message whose clock is missing or no number is refused, and so is every message
     // while the threshold in txtEAFTER is no number.
     Outcome handle(const QString& datagram);
+    // While the database is waited for a message only writes: the next one may be handled inside of another, and the
+    // time card runs afterwards.
+    [[nodiscard]] bool onlyWrites() const { return !cards_.mayBegin(); }
     // Runs the armed time card, if there is one.
     void runTimeCard();
+
+ Q_SIGNALS:
+    // The database is no longer waited for.
+    void cardMayRun();
 
  private:
     void apply(const QString& datagram);
@@ -30,6 +38,7 @@ class GameFeed : public QuietRules {
     Control& threshold_;
     Control& time_;
     Control& extraTime_;
+    UnattendedCards& cards_;
 };
 
 }  // namespace zelvor

@@ -31,7 +31,13 @@ int secondsOfDay(QTime time) {
 
 }  // namespace
 
-LocalClock::LocalClock(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine), form_(engine.form()) {
+LocalClock::LocalClock(CardEngine& engine, UnattendedCards& cards)
+    : QuietRules(engine.program().trap),
+      engine_(engine),
+      form_(engine.form()),
+      card_(engine, cards, Asker::Kind::ClockCard, u"tmrCLOCKS_Timer"_s, [&switches = engine.state().switches] {
+          return switches.IsClockCard ? std::optional(switches.AutoClockCard) : std::nullopt;
+      }) {
     const Control& target = form_.at(controls.txtCOUNTDOWNTIME);
     follow(target, {Control::Property::Text}, this, [this, &target] {
         const bool isTime = readTimeOfDay(target.text()).isValid();
@@ -57,6 +63,7 @@ void LocalClock::cmdCLOCKS() {
     } else {
         button.setText(u"Start"_s);
         timer_.stop();
+        card_.forget();
     }
 }
 
@@ -65,24 +72,10 @@ void LocalClock::aim() {
 }
 
 void LocalClock::tick() {
-    if (ticking_) {
-        missed_ = true;
-        return;
-    }
-    ticking_ = true;
-    missed_ = false;
-    quietly(u"tmrCLOCKS_Timer"_s, [&] { update(); });
-    ticking_ = false;
-    if (!missed_) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (timer_.isActive()) tick();
-        },
-        Qt::QueuedConnection);
+    if (quietly(u"tmrCLOCKS_Timer"_s, [&] { write(); })) card_.fire();
 }
 
-void LocalClock::update() {
+void LocalClock::write() {
     VariableStore& variables = engine_.state().variables;
     const QTime now = engine_.ports().clock.now().time();
     const QString nowText = now.toString(kTimeOfDay);
@@ -93,11 +86,6 @@ void LocalClock::update() {
         variables.SetVar(u"@CLOCKS", shown);
     }
     variables.SetVar(u"@LOCALTIME", nowText);
-    const CardSwitches& switches = engine_.state().switches;
-    if (!switches.IsClockCard) return;
-    // By value: the card may arm another one.
-    const QString card = switches.AutoClockCard;
-    engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::ClockCard, card});
 }
 
 QString LocalClock::countdown(QTime now) const {

@@ -2,7 +2,7 @@
 
 #include <QTimer>
 
-#include "feed/quiet_rules.h"
+#include "feed/armed_card.h"
 
 namespace zelvor {
 
@@ -14,24 +14,23 @@ class LocalClock : public QuietRules {
     static constexpr int kInterval = 1000;    // milliseconds
     static constexpr int kBehindSecond = 10;  // milliseconds
 
-    explicit LocalClock(CardEngine& engine);
+    LocalClock(CardEngine& engine, UnattendedCards& cards);
 
     // Starts or stops the clock.
     void cmdCLOCKS();
-    // One second of the clock. While its card is still running, one more second waits its turn.
+    // One second of the clock: it is written, then its card runs.
     void tick();
 
  private:
     // The next tick just behind the full second: however late the last one was, none is doubled or skipped.
     void aim();
-    void update();
+    void write();
     [[nodiscard]] QString countdown(QTime now) const;
 
     CardEngine& engine_;
     FormModel& form_;
     QTimer timer_{this};
-    bool ticking_ = false;
-    bool missed_ = false;
+    ArmedCard card_;
 };
 
 }  // namespace zelvor

@@ -8,7 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
-TimedCards::TimedCards(CardEngine& engine) : QuietRules(engine.program().trap), engine_(engine) {
+TimedCards::TimedCards(CardEngine& engine, UnattendedCards& cards)
+    : QuietRules(engine.program().trap), engine_(engine), cards_(cards) {
     timer_.setObjectName(u"tmrCARD"_s);
     timer_.setInterval(kInterval);
     connect(&timer_, &QTimer::timeout, this, &TimedCards::tick);
@@ -33,11 +34,13 @@ void TimedCards::count() {
     for (std::size_t i = 0; i < cards.size(); ++i) {  // NOLINT(modernize-loop-convert)
         // It never fires; counting it up to its overflow would end the tick before the cards behind it.
         if (cards[i].interval <= 0) continue;
-        cards[i].ticks = wholeNumber16(cards[i].ticks + 1.0);
+        const qint16 ticks = wholeNumber16(cards[i].ticks + 1.0);
+        if (ticks == cards[i].interval && !cards_.mayBegin()) continue;
+        cards[i].ticks = ticks;
         if (cards[i].ticks != cards[i].interval) continue;
         cards[i].ticks = 0;
         const QString card = cards[i].card;
-        engine_.SHOW_TVCARD(card, false, false, {Asker::Kind::TimedCard, card});
+        cards_.run(card, Asker::Kind::TimedCard);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "feed/quiet_rules.h"
+#include "feed/unattended_cards.h"
 
 namespace zelvor {
 
@@ -13,18 +14,20 @@ class TimedCards : public QuietRules {
  public:
     static constexpr int kInterval = 100;  // milliseconds
 
-    explicit TimedCards(CardEngine& engine);
+    TimedCards(CardEngine& engine, UnattendedCards& cards);
 
     // Switches tmrCARD on.
     void start();
     // Counts one tick for every timed card and runs those that are due. The timer is off meanwhile, so that ticks do
-    // not stack. A card whose interval is 0 or less never fires.
+    // not stack. A card whose interval is 0 or less never fires. One that is due while the database is waited for runs
+    // at the first tick afterwards.
     void tick();
 
  private:
     void count();
 
     CardEngine& engine_;
+    UnattendedCards& cards_;
     QTimer timer_{this};
     bool ticking_ = false;
 };

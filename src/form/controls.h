@@ -116,6 +116,8 @@ struct ControlTable {
     ControlRow lblDATABASE{Kind::Label, u"lblDATABASE", u"Database", {.role = Role::Off}};
     ControlRow lblSILENCED{
         Kind::Label, u"lblSILENCED", u"Messages of cards that were not shown", {.role = Role::Waiting}};
+    ControlRow lblBACKOFF{
+        Kind::Label, u"lblBACKOFF", u"A card that runs by itself and is left out for a while", {.role = Role::Waiting}};
     ControlRow lblNOTE{Kind::Label, u"lblNOTE", u"What happened to the last press"};
     ControlRow cmbCASPARREMOTELIST{Kind::List, u"cmbCASPARREMOTELIST", u"A remote server's preset address", {}, {},
                                    u"Ctrl+R"};

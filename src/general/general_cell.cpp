@@ -15,6 +15,11 @@ QString withoutMarkers(QString text) {
 
 }  // namespace
 
+bool GeneralCell::isWellFormed(QStringView text) {
+    const qsizetype bar = text.indexOf(u'|');
+    return bar < 0 || text.left(bar).contains(u':');
+}
+
 GeneralCell::Kind GeneralCell::kind() const {
     if (text_.contains(u'|')) return Kind::Choice;
     if (text_.contains(kFolderMarker)) return Kind::Folder;

@@ -13,6 +13,9 @@ class GeneralCell {
 
     explicit GeneralCell(QString text) : text_(std::move(text)) {}
 
+    // False for choices without a value and ":" before them: Apply would take all of it for the value.
+    static bool isWellFormed(QStringView text);
+
     // A cell that holds "|" is a choice, whatever else it holds.
     [[nodiscard]] Kind kind() const;
     // What the cell shows and its variable gets: without the list and without the markers.

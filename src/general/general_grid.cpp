@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "general_rules/row_faults.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -20,13 +22,16 @@ void GeneralGrid::append(const std::vector<GeneralRow>& rows) {
     const int first = rowCount();
     beginInsertRows({}, first, first + static_cast<int>(rows.size()) - 1);
     for (const GeneralRow& row : rows) rows_.push_back({row, std::nullopt, std::nullopt, std::nullopt});
+    lookForFaults();
     endInsertRows();
+    showMarks();
 }
 
 void GeneralGrid::setValue(int row, const QString& value) {
     const QString text = cell(row).withValue(value);
     if (text == rows_.at(row).now[kValue]) return;
     rows_[row].now[kValue] = text;
+    lookForFaults();
     Q_EMIT dataChanged(index(row, 0), index(row, kCount - 1));
     Q_EMIT headerDataChanged(Qt::Vertical, row, row);
 }
@@ -50,6 +55,10 @@ void GeneralGrid::markSaved() {
 void GeneralGrid::markApplied() {
     for (Entry& entry : rows_) entry.applied = entry.now;
     showMarks();
+}
+
+void GeneralGrid::lookForFaults() {
+    faults_ = rowFaults(rows());
 }
 
 bool GeneralGrid::hasUnsaved() const {
@@ -85,12 +94,14 @@ QVariant GeneralGrid::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GeneralGrid::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) return {};
+    const bool isTip = orientation == Qt::Vertical && role == Qt::ToolTipRole;  // where there is no room for all
+    if (role != Qt::DisplayRole && !isTip) return {};
     if (orientation == Qt::Horizontal) return QStringList{u"Value"_s, u"Title"_s, u"Variable"_s, u"Help"_s}.at(section);
     QStringList marks;
     if (isChanged(section)) marks += u"changed"_s;
     if (isUnsaved(section)) marks += u"not saved"_s;
     if (isUnapplied(section)) marks += u"not applied"_s;
+    if (!faults_[section].isEmpty()) marks += faults_[section];
     return marks.isEmpty() ? QString::number(section + 1) : marks.join(u", "_s);
 }
 
@@ -101,7 +112,12 @@ Qt::ItemFlags GeneralGrid::flags(const QModelIndex& index) const {
 
 bool GeneralGrid::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || index.column() != kValue || role != Qt::EditRole) return false;
-    setValue(index.row(), value.toString());
+    const QString typed = value.toString();
+    if (!GeneralCell::isWellFormed(typed)) {
+        Q_EMIT refused(u"\"%1\" is not taken: a choice is written VALUE:CHOICE|CHOICE, as in ON:ON|OFF."_s.arg(typed));
+        return false;
+    }
+    setValue(index.row(), typed);
     return true;
 }
 
@@ -112,7 +128,9 @@ bool GeneralGrid::removeRows(int row, int count, const QModelIndex& parent) {
         std::count_if(first, first + count, [](const Entry& entry) { return entry.saved.has_value(); }));
     beginRemoveRows({}, row, row + count - 1);
     rows_.erase(first, first + count);
+    lookForFaults();
     endRemoveRows();
+    showMarks();
     return true;
 }
 

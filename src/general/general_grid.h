@@ -35,6 +35,7 @@ class GeneralGrid : public QAbstractTableModel {
         removedUnsaved_ = 0;
         for (const GeneralRow& row : rows)
             rows_.push_back({row, row, row, isInForce(row) ? std::optional(row) : std::nullopt});
+        lookForFaults();
         endResetModel();
     }
     // Adds rows at the end: changed, unsaved and unapplied.
@@ -43,6 +44,9 @@ class GeneralGrid : public QAbstractTableModel {
     void setValue(int row, const QString& value);
     // The same with a picked folder or file, its "\" turned into "/"; an empty path leaves the cell as it was.
     void setPicked(int row, QString path);
+
+    // What is wrong with a row, in words; empty for a sound one.
+    [[nodiscard]] const QString& fault(int row) const { return faults_.at(row); }
 
     void markSaved();
     void markApplied();
@@ -56,11 +60,15 @@ class GeneralGrid : public QAbstractTableModel {
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    // The column's header, or the row's marks in words.
+    // The column's header, or the row's marks and what is wrong with it in words.
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     bool removeRows(int row, int count, const QModelIndex& parent = {}) override;
+
+ Q_SIGNALS:
+    // A value that was typed is not taken; why, in words.
+    void refused(const QString& words);
 
  private:
     struct Entry {
@@ -70,8 +78,10 @@ class GeneralGrid : public QAbstractTableModel {
         std::optional<GeneralRow> applied;
     };
     void showMarks();
+    void lookForFaults();
 
     std::vector<Entry> rows_;
+    std::vector<QString> faults_;
     int removedUnsaved_ = 0;
 };
 

@@ -92,10 +92,12 @@ void GeneralVariables::importText() {
         const ImportedRows imported = importRows(program_.files.readLines(file(u"infodata.txt")));
         grid_.append(imported.rows);
         save();
-        if (imported.remarks.isEmpty()) return;
-        QStringList shown = imported.remarks.mid(0, kShownRemarks);
-        if (imported.remarks.size() > kShownRemarks)
-            shown += u"and %1 more"_s.arg(imported.remarks.size() - kShownRemarks);
+        if (imported.remarks.empty()) return;
+        QStringList shown;
+        for (const ImportedRows::Remark& remark : imported.remarks)
+            shown += u"line %1: "_s.arg(remark.line) + remark.text;
+        if (shown.size() > kShownRemarks)
+            shown = shown.mid(0, kShownRemarks) + QStringList(u"and %1 more"_s.arg(shown.size() - kShownRemarks));
         operator_.message({}, kWindowTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
     });
 }

@@ -113,9 +113,9 @@ ImportedRows importRows(const QStringList& lines) {
         for (int column = 0; column < general_column::kCount; ++column) row[column] = fields.value(column);
         imported.rows.push_back(std::move(row));
         const qsizetype excess = fields.size() - general_column::kCount;
-        const QString where = u"line %1: %2 fields, "_s.arg(at + 1).arg(fields.size());
-        if (excess < 0) imported.remarks += where + u"filled with empty ones"_s;
-        if (excess > 0) imported.remarks += where + u"those after the fourth left out"_s;
+        if (excess == 0) continue;
+        const QString done = excess < 0 ? u"filled with empty ones"_s : u"those after the fourth left out"_s;
+        imported.remarks.push_back({static_cast<int>(at) + 1, u"%1 fields, "_s.arg(fields.size()) + done});
     }
     return imported;
 }

@@ -32,8 +32,12 @@ GridReading readGrid(const QByteArray& bytes);
 
 // The rows of a plain-text source: fields separated by "," (or TAB), a line a row.
 struct ImportedRows {
+    struct Remark {
+        int line;
+        QString text;  // "2 fields, filled with empty ones"
+    };
     std::vector<GeneralRow> rows;
-    QStringList remarks;  // "line 3: 2 fields, filled with empty ones"
+    std::vector<Remark> remarks;
 };
 ImportedRows importRows(const QStringList& lines);
 

@@ -8,7 +8,7 @@ namespace zelvor::test {
 // Answers the query of a pick list with prepared rows of "id" and "name".
 class RowsDatabase : public FakeDatabase {
  public:
-    NamedRows readGreek(const QString& sql) override {
+    std::optional<NamedRows> readGreek(const Asker&, const QString& sql) override {
         statements += sql;
         if (fails) throw RunTimeError::withText(ErrorNumber::DatabaseError, QStringLiteral("no such table"));
         return rows;

@@ -28,6 +28,24 @@ TEST(PickList, asksWithThePreviousAnswer) {
     }
 }
 
+TEST(PickList, leavesOutRowsWithoutAKey) {
+    const std::vector<std::pair<Value, QString>> cases{{Value(Value::Null()), u"Invalid use of Null"_s},
+                                                       {Value(u"B12"_s), u"Type mismatch"_s},
+                                                       {Value(1e12), u"Overflow"_s}};
+    for (const auto& [key, why] : cases) {
+        AskBench bench;
+        bench.rowsDatabase.fill({u"A"_s, u"B"_s, u"C\r\nc\nc"_s, u"D"_s});
+        bench.rowsDatabase.rows.rows[1][0] = bench.rowsDatabase.rows.rows[3][0] = key;
+        PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
+        ASSERT_EQ(list.rows().size(), 2);
+        EXPECT_EQ(list.rows()[1].text, u"C c c");
+        EXPECT_EQ(list.rows()[1].key, 102);
+        EXPECT_TRUE(list.fault().startsWith(u"ask field 2, GETCODE id, row 2: "_s + why)) << list.fault().toStdString();
+        EXPECT_TRUE(bench.operatorDesk.shown.isEmpty());
+        list.cancel();
+    }
+}
+
 TEST(PickList, isEmptyAfterOneMessageWhenItCannotBeRead) {
     struct Case {
         const char* what;
@@ -38,9 +56,6 @@ TEST(PickList, isEmptyAfterOneMessageWhenItCannotBeRead) {
         {"query", [](AskBench& bench) { bench.rowsDatabase.fails = true; }, u"no such table"_s},
         {"code column", [](AskBench& bench) { bench.state.ask.ASK_FIELDS[2].getCode = u"key"_s; }, u"\"key\""_s},
         {"text column", [](AskBench& bench) { bench.state.ask.ASK_FIELDS[2].display.clear(); }, u"no column \"\""_s},
-        {"text key", [](AskBench& bench) { bench.rowsDatabase.rows.rows[1][0] = u"B12"_s; }, u"Error 13"_s},
-        {"null key", [](AskBench& bench) { bench.rowsDatabase.rows.rows[1][0] = Value::Null(); }, u"Error 94"_s},
-        {"large key", [](AskBench& bench) { bench.rowsDatabase.rows.rows[1][0] = 1e12; }, u"Error 6"_s},
         {"no field", [](AskBench& bench) { bench.state.ask.ASK_FIELD = 3; }, u"Error 9"_s},
     };
     for (const Case& c : cases) {

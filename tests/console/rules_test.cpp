@@ -171,6 +171,48 @@ TEST_F(CardRules, ClearEndsWhatWaits) {
     EXPECT_EQ(sent(), QStringList{u"mclear 0"_s});
 }
 
+TEST_F(CardRules, NothingRunsInsideAWaitForTheDatabase) {
+    bench.write(u"QRD_TT/one.csp"_s, "CSPSEND~begins\r\nSQLU~slow\r\nCSPSEND~ends\r\n");
+    const auto pressKey = [this] { console.functionKey(10); };
+    const auto pressClear = [this] {
+        console.functionKey(10);
+        console.pressClear();
+    };
+    const auto fire = [this] { console.pressCard(0); };
+    const auto runByItself = [this] {
+        bench.engine.SHOW_TVCARD(u"one.csp"_s, false, false, {Asker::Kind::TimedCard, u"one.csp"_s});
+    };
+    const auto pressAsItBegins = [&] {
+        bench.clock.whileTurning = runByItself;
+        console.functionKey(10);
+    };
+    struct Case {
+        const char* what;
+        std::function<void()> begins;
+        std::function<void()> meanwhile;
+        QStringList sent;
+    };
+    const Case cases[] = {
+        {"his own card is waited for", fire, pressKey, {u"mbegins"_s, u"mends"_s, u"mkey 0"_s}},
+        {"one that runs by itself makes room", runByItself, pressKey, {u"mbegins"_s, u"mkey 0"_s}},
+        {"also for a press made before", pressAsItBegins, [] {}, {u"mbegins"_s, u"mkey 0"_s}},
+        {"CLEAR ends either", fire, pressClear, {u"mbegins"_s, u"mclear 0"_s}},
+        {"and comes before what waits", runByItself, pressClear, {u"mbegins"_s, u"mclear 0"_s}},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.what);
+        bench.database.whileWaiting = [&] {
+            each.meanwhile();
+            QCoreApplication::processEvents();
+            EXPECT_EQ(bench.graphics.sent, QStringList{u"mbegins"_s});
+        };
+        each.begins();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(sent(), each.sent);
+    }
+    EXPECT_TRUE(bench.operatorDesk.shown.isEmpty()) << bench.operatorDesk.shown.join(u'\n').toStdString();
+}
+
 TEST_F(CardRules, LastFiredIsTheCardThatWentOnAir) {
     console.pressCard(0);
     EXPECT_TRUE(console.isLastFired(0));

@@ -1,5 +1,8 @@
 #include "data/cell_value.h"
 
+#include "base/run_time_error.h"
+#include "data/statement_kind.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -41,6 +44,18 @@ TEST(CellValue, keepsItsKindOrBecomesAText) {
     }
 }
 
+TEST(StatementKind, isItsFirstWord) {
+    const std::vector<std::pair<QString, QString>> cases{
+        {u" \n((SELECT 1) union (select 2))"_s, u"select"_s},
+        {u"-- do\n# help\r\n/* values */Insert into t values (1)"_s, u"insert"_s},
+        {u"/*!50000 optimize table t */"_s, {}},
+        {u"/* never ends"_s, {}},
+        {u"do sleep(0)"_s, u"do"_s},
+        {u""_s, {}},
+    };
+    for (const auto& [sql, word] : cases) EXPECT_EQ(odbc::firstWord(sql), word) << sql.toStdString();
+}
+
 TEST(CharacterSet, goesByTheServersOwnName) {
     const std::vector<std::pair<QByteArray, QByteArray>> cases{
         {"utf8mb4", u"Άρης"_s.toUtf8()},
@@ -54,8 +69,14 @@ TEST(CharacterSet, goesByTheServersOwnName) {
         EXPECT_EQ(set.encode(u"Άρης"_s), bytes) << server.toStdString();
     }
     CharacterSet greek("greek", "greek");
-    EXPECT_EQ(greek.encode(u"Ωmegá 日\u001A"_s), QByteArray("\xD9meg\x1A \x1A\x1A"));
-    EXPECT_EQ(greek.encode(u"Ωmegá 日"_s), QByteArray("\xD9meg? ?"));
+    EXPECT_EQ(greek.encode(u"Ωmega\u001A"_s), QByteArray("\xD9mega\x1A"));
+    try {
+        (void)greek.encode(u"Ωmegá 日\u001A 🏀 日"_s);
+        ADD_FAILURE() << "written as something else";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.text(),
+                  u"The character set greek of the connection lacks á (U+00E1), 日 (U+65E5), 🏀 (U+1F3C0).");
+    }
     EXPECT_EQ(greek.decodeMessage(u"Πίνακας"_s.toUtf8()), u"Πίνακας"_s);
     EXPECT_EQ(greek.decodeMessage("\xD0\xDF\xED\xE1\xEA\xE1\xF2"), u"Πίνακας"_s);
 }

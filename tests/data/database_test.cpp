@@ -1,3 +1,7 @@
+#include <QElapsedTimer>
+#include <QThread>
+#include <QTimer>
+
 #include "base/run_time_error.h"
 #include "mariadb_server.h"
 #include "show_fixture.h"
@@ -33,9 +37,9 @@ class OnEachDatabase : public testing::TestWithParam<const char*> {
 
     // Makes the table anew with these columns and rows.
     void makeTable(const QString& columns, const QStringList& rows) {
-        database->execute(u"drop table if exists t"_s);
-        database->execute(u"create table t ("_s + columns + u')');
-        for (const QString& row : rows) database->execute(u"insert into t values ("_s + row + u')');
+        database->execute({}, u"drop table if exists t"_s);
+        database->execute({}, u"create table t ("_s + columns + u')');
+        for (const QString& row : rows) database->execute({}, u"insert into t values ("_s + row + u')');
     }
 
     Show show;
@@ -124,7 +128,7 @@ TEST_P(OnEachDatabase, greekIsRightOnBothConnections) {
     EXPECT_EQ(show.cell(1, 1), show.cell(2, 1));
     EXPECT_EQ(database->RUN_QUERY2({}, same), 2);
     EXPECT_EQ(show.cell(2, 0), name);
-    EXPECT_EQ(database->readGreek(u"select 'Έξι' as αριθμός from t"_s).columns, QStringList(u"αριθμός"_s));
+    EXPECT_EQ(database->readGreek({}, u"select 'Έξι' as αριθμός from t"_s)->columns, QStringList(u"αριθμός"_s));
 }
 
 TEST_P(OnEachDatabase, errorsAreShownAndNothingChanges) {
@@ -146,10 +150,73 @@ TEST_P(OnEachDatabase, errorsAreShownAndNothingChanges) {
     EXPECT_TRUE(show.operatorDesk.shown[0].endsWith(u"\r\nselect a from nowhere"_s));
     EXPECT_TRUE(show.operatorDesk.shown[1].startsWith(u"Error in Query|["_s));
 
-    EXPECT_THROW(database->execute(u"insert into nowhere values (1)"_s), RunTimeError);
-    EXPECT_THROW(database->readGreek(u"select nothing from t"_s), RunTimeError);
+    EXPECT_THROW(database->execute({}, u"insert into nowhere values (1)"_s), RunTimeError);
+    EXPECT_THROW(database->readGreek({}, u"select nothing from t"_s), RunTimeError);
     EXPECT_EQ(show.operatorDesk.shown.size(), 3);
     EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 2);
+}
+
+TEST_P(OnEachDatabase, theLoopTurnsUntilAStatementIsGivenUp) {
+    const QString slow =
+        isMariaDb() ? u"select sleep(60)"_s
+                    : u"with recursive n(i) as (select 1 union all select i + 1 from n) select max(i) from n"_s;
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+    timer.start(10);
+    DatabaseWait& wait = show.program.databaseWait;
+    const Asker timed{Asker::Kind::TimedCard, u"card.csp"_s, {}, {}, 7};
+    const Asker operators{Asker::Kind::Operator, u"card.csp"_s, {}, {}, 8};
+    for (const Asker& asker : {timed, operators}) {
+        QElapsedTimer waited;
+        waited.start();
+        wait.setPressWaits(false);
+        QTimer::singleShot(300, &timer, [&] {
+            EXPECT_TRUE(wait.isOn());
+            wait.setPressWaits(true);
+        });
+        // Nobody but CLEAR ends his own.
+        if (asker.isAttended()) QTimer::singleShot(800, &timer, [&] { show.program.clearing.begin(); });
+        EXPECT_EQ(database->RUN_QUERY2(asker, slow), 0);
+        EXPECT_GT(waited.elapsed(), asker.isAttended() ? 790 : 290);
+        EXPECT_LT(waited.elapsed(), 4000);
+        EXPECT_EQ(wait.hasEnded(asker), !asker.isAttended());
+        EXPECT_EQ(database->RUN_QUERY2({}, u"select 1"_s), 1) << "and the connection is as good as before";
+    }
+    EXPECT_GT(ticks, 20);
+    EXPECT_TRUE(show.operatorDesk.shown.isEmpty()) << show.operatorDesk.shown.join(u'\n').toStdString();
+}
+
+// Statements after which MariaDB's driver crashes or hangs.
+TEST_P(OnEachDatabase, survivesWhatTheDriverDoesNot) {
+    makeTable(u"a integer"_s, {u"1"_s});
+    const QStringList odd = isMariaDb() ? QStringList{u"optimize table t"_s, u"/* x */ (values (1), (2))"_s, u"do 1"_s,
+                                                      u"help 'select'"_s, u"repair table t"_s}
+                                        : QStringList{u"values (1), (2)"_s, u"vacuum"_s};
+    for (const QString& statement : odd) {
+        database->RUN_QUERY({}, statement);
+        EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1) << statement.toStdString();
+    }
+    for (const QString& step : {u"begin"_s, u"insert into t values (2)"_s, u"rollback"_s}) database->execute({}, step);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1);
+}
+
+TEST_P(OnEachDatabase, whatIsToldAsFailedIsNotDone) {
+    makeTable(u"a integer"_s, {});
+    const std::unique_ptr<Connections> other = std::move(show.connections);
+    show.seconds = 1;
+    show.make();
+    database = show.connections.get();
+    other->execute({}, isMariaDb() ? u"lock tables t write"_s : u"begin exclusive"_s);
+    const QString write = u"insert into t values (1)"_s;
+    EXPECT_EQ(database->RUN_QUERY({}, write), 0);
+    EXPECT_TRUE(show.operatorDesk.shown.value(0).contains(u"did not answer within 1 seconds"_s))
+        << show.operatorDesk.shown.join(u'\n').toStdString();
+    other->execute({}, isMariaDb() ? u"unlock tables"_s : u"commit"_s);
+    QThread::msleep(300);  // for a statement that was left running
+    EXPECT_EQ(other->RUN_QUERY({}, u"select a from t"_s), 0);
+    database->execute({}, write);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1);
 }
 
 TEST_P(OnEachDatabase, longResultsAreWhole) {
@@ -158,8 +225,8 @@ TEST_P(OnEachDatabase, longResultsAreWhole) {
     const std::vector<int> lengths{0, 1, 255, 256, 257, 511, 512, 513, 4095, 4096, 4097, 32767, 1'048'576 / 2};
     const auto text = [](int length, QChar filler) -> QString { return QString(length, filler) + u"end"_s; };
     for (const int length : lengths) {
-        database->execute(u"insert into t values (%1, '"_s.arg(length) + text(std::min(length, 9000), u'x') +
-                          u"', 'ab', '"_s + text(length, u'Ω') + u"')"_s);
+        database->execute({}, u"insert into t values (%1, '"_s.arg(length) + text(std::min(length, 9000), u'x') +
+                                  u"', 'ab', '"_s + text(length, u'Ω') + u"')"_s);
     }
     const QString all = u"select * from t order by a"_s;
     for (const bool greek : {false, true}) {

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "data/connections.h"
+#include "engine/system_clock.h"
 
 namespace zelvor::test {
 
@@ -45,6 +46,7 @@ struct Show {
     QTemporaryDir directory;
     Program program{AppFolder(directory.path()), {}, ErrorTrap(directory.filePath(QStringLiteral("error.log")))};
     ShowState state;
+    SystemClock clock{program.closing};
     ScriptedOperator operatorDesk{program.closing};
     std::unique_ptr<Connections> connections;
 
@@ -62,13 +64,15 @@ struct Show {
     // Connection 1 is chosen beforehand when no command line is given.
     void make(std::optional<QString> commandLine = std::nullopt) {
         Connections::Choice choice;
+        choice.seconds = seconds;
         if (commandLine) {
             choice.commandLine = *commandLine;
         } else {
             choice.number = 1;
         }
-        connections = std::make_unique<Connections>(state, operatorDesk, program, choice);
+        connections = std::make_unique<Connections>(state, operatorDesk, program, clock, choice);
     }
+    int seconds = Patience::kSeconds;  // of make()
     QString cell(int row, int field) const {
         const Value* found = state.QUERY_RESULT.find(row, field);
         return found == nullptr ? QStringLiteral("(outside)") : found->text();

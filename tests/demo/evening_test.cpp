@@ -10,6 +10,7 @@
 #include "engine/card_engine.h"
 #include "engine/defaults.h"
 #include "engine/packs.h"
+#include "engine/system_clock.h"
 #include "feed/game_desk.h"
 #include "rehearsal/amcp_interpreter.h"
 #include "support/fake_ports.h"
@@ -109,7 +110,8 @@ class Evening : public testing::TestWithParam<const char*> {
     AirGraphics graphics_;
     test::FakeClock clock_;
     test::FakeDesktop desktop_;
-    Connections database_{state_, operator_, program_, {{}, 1}};
+    SystemClock databaseClock_{program_.closing};
+    Connections database_{state_, operator_, program_, databaseClock_, {.number = 1}};
     Chooser chooser_{*this};
     Packs packs_{state_, form_, program_, operator_};
     CardEngine engine_{state_, form_, program_,
@@ -250,7 +252,7 @@ TEST_P(Evening, AServerThatHasForgottenIsToldAnew) {
 }
 
 TEST_P(Evening, LiveTablesTakeThePlaceOfTheDemosFigures) {
-    const auto write = [&](const QString& sql) { database_.execute(sql); };
+    const auto write = [&](const QString& sql) { database_.execute({}, sql); };
     write(
         u"insert into live_game (home_name, away_name, home_score, away_score, period, home_fouls, away_fouls) "
         "values ('Harbour City', 'Northfield', 97, 88, 5, 3, 4)"_s);

@@ -102,6 +102,66 @@ TEST(TimedCards, SwitchTheirTimerOffMeanwhile) {
     EXPECT_EQ(studio.operatorDesk.askers[0].card, u"card.csp");
 }
 
+TEST(UnattendedCards, FollowAWaitForTheDatabaseOnce) {
+    Studio studio;
+    studio.write(u"QRD_TT/clock.csp"_s, "FUNCTIONCARD\nSQLU~slow\nCSPSEND~{@CLOCKS}\n");
+    studio.writeCard("time.csp", "{@TIMER}");
+    studio.writeCard("tenth.csp", "tenth");
+    CardSwitches& switches = studio.state.switches;
+    switches.AutoClockCard = u"clock.csp"_s;
+    switches.AutoTimeCard = u"time.csp"_s;
+    switches.IsClockCard = switches.IsTimeCard = true;
+    studio.state.cards.timedCards = {{u"tenth.csp"_s, 3}};
+    ASSERT_TRUE(studio.desk.feedSocket.bind(0));
+    studio.clock.time.setTime(QTime(20, 0, 1));
+    studio.database.whileWaiting = [&] {
+        studio.database.whileWaiting = {};
+        studio.clock.time.setTime(QTime(20, 0, 3));
+        for (int i = 0; i < 9; ++i) studio.desk.timedCards.tick();
+        studio.desk.localClock.tick();
+        studio.sendToFeed({"t2:42t", "t2:41t", "t2:40t"});
+        EXPECT_TRUE(waitUntil([&] { return studio.taken() == 3; }));
+        EXPECT_EQ(studio.variablesText({u"@CLOCKS"_s, u"@TIMER"_s}), u"20:00:03|2:40");
+        EXPECT_EQ(studio.graphics.sent, QStringList()) << "the form follows, no card runs";
+    };
+    studio.desk.localClock.tick();
+    EXPECT_EQ(studio.graphics.sent, QStringList{u"m20:00:03"_s});
+    QCoreApplication::processEvents();
+    studio.desk.timedCards.tick();
+    EXPECT_EQ(studio.graphics.sent.size(), 4) << studio.graphics.sent.join(u' ').toStdString();
+    for (const char* line : {"m20:00:03", "m2:40", "mtenth"})
+        EXPECT_TRUE(studio.graphics.sent.mid(1).contains(QLatin1StringView(line))) << line;
+}
+
+TEST(UnattendedCards, RestWhenTheDatabaseDoesNotAnswerThem) {
+    Studio studio;
+    studio.write(u"QRD_TT/slow.csp"_s, "FUNCTIONCARD\nSQLU~slow\nCSPSEND~x\n");
+    studio.state.cards.timedCards = {{u"slow.qrd"_s, 1}};
+    bool answers = false;
+    studio.database.whileWaiting = [&] {
+        if (!answers) studio.program.databaseWait.tellRanOut({Asker::Kind::TimedCard, u"slow.qrd"_s});
+    };
+    const auto runsWithin = [&](int seconds) {
+        const qsizetype before = studio.database.statements.size();
+        for (int i = 0; i < seconds * 10; ++i) {
+            studio.clock.time = studio.clock.time.addMSecs(100);
+            studio.desk.timedCards.tick();
+        }
+        return studio.database.statements.size() - before;
+    };
+    studio.clock.time.setTime(QTime(20, 0));
+    EXPECT_EQ(runsWithin(9), 2);
+    EXPECT_EQ(studio.at("lblBACKOFF").text(), u"slow.csp rests until 20:00:10: no answer from the database in time"_s);
+    EXPECT_EQ(runsWithin(21), 1) << "10 s, then 20 s";
+    EXPECT_EQ(runsWithin(40), 1) << "40 s";
+    EXPECT_EQ(runsWithin(181), 4) << "a minute at most";
+    answers = true;
+    EXPECT_GT(runsWithin(60), 1);
+    EXPECT_EQ(studio.at("lblBACKOFF").text(), QString());
+    answers = false;
+    EXPECT_EQ(runsWithin(9), 2) << "counted anew";
+}
+
 TEST(StopwatchSender, SendsFractionsOfASixtieth) {
     Studio studio;
     for (const bool active : {true, false}) {

@@ -59,6 +59,29 @@ TEST(GeneralCell, ShowsItsValueAndKeepsItsMarkerOrList) {
     EXPECT_EQ(GeneralCell(u"[folder]"_s).withValue(u"[folder]D:/x"_s), u"[folder]D:/x");
 }
 
+TEST(GeneralGrid, MarksWhatApplyWouldNotReadAsMeant) {
+    GeneralGrid grid;
+    for (const auto& [value, name] : std::vector<std::pair<QString, QString>>{
+             {u"1"_s, u"@A"_s}, {u"a|b"_s, u"A"_s}, {u"16:9:16:9|4:3"_s, u"@A"_s}, {u"ON:ON|OFF"_s, u"@B"_s}, {}})
+        grid.append({{value, {}, name, {}}});
+    QStringList faults;
+    for (int row = 0; row < grid.rowCount(); ++row) faults += grid.fault(row);
+    EXPECT_EQ(faults, (QStringList{u"the name of row 3"_s,
+                                   u"no \"@\" before the name, choices without a value and \":\" before them"_s,
+                                   u"the name of row 1, a choice holds \":\", the value is cut there"_s,
+                                   {},
+                                   u"no name"_s}));
+    QString refused;
+    QObject::connect(&grid, &GeneralGrid::refused, [&](const QString& words) { refused = words; });
+    EXPECT_FALSE(grid.setData(grid.index(0, 0), u"a|b:c"_s, Qt::EditRole));
+    EXPECT_TRUE(refused.startsWith(u"\"a|b:c\" is not taken: "_s)) << refused.toStdString();
+    EXPECT_EQ(grid.text(0, 0), u"1");
+    EXPECT_TRUE(grid.setData(grid.index(0, 0), u"ON:ON|OFF"_s, Qt::EditRole));
+    grid.removeRows(2, 1);
+    EXPECT_EQ(grid.headerData(0, Qt::Vertical, Qt::DisplayRole), u"changed, not saved, not applied"_s);
+    EXPECT_EQ(grid.cell(0).choices(), (QStringList{u"ON"_s, u"OFF"_s}));
+}
+
 TEST(GridFile, EveryTextSurvives) {
     const std::vector<GeneralRow> rows{
         {u"a\tb\\t"_s, u"\r\n"_s, u"@Ά"_s, u"\\"_s}, {}, {u"\U0001F3C0"_s, {}, {}, u" "_s}};

@@ -92,13 +92,22 @@ class FakeDatabase : public Database {
         return 0;
     }
     int RUN_QUERY2(const Asker& asker, const QString& sql) override { return RUN_QUERY(asker, sql); }
-    void execute(const QString& sql) override { statements += sql; }
-    NamedRows readGreek(const QString& sql) override {
+    // A statement takes as long as whileWaiting.
+    bool execute(const Asker& asker, const QString& sql) override {
         statements += sql;
-        return {};
+        if (!whileWaiting) return true;
+        const DatabaseWait::Scope scope(*wait, asker);
+        whileWaiting();
+        return scope.goesOn();
+    }
+    std::optional<NamedRows> readGreek(const Asker&, const QString& sql) override {
+        statements += sql;
+        return NamedRows();
     }
 
     QStringList statements;
+    DatabaseWait* wait = nullptr;
+    std::function<void()> whileWaiting;
 };
 
 class FakeDesktop : public Desktop {
@@ -121,6 +130,7 @@ class EngineBench {
             operatorDesk.askers.push_back(place.asker);
         });
         QDir(folderOnDisk.path()).mkpath(QStringLiteral("MODULES/QRD_TT"));
+        database.wait = &program.databaseWait;
         state.variables.SetVar(u"@LANGUAGE", QStringLiteral("TT"));
     }
 

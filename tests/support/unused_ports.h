@@ -15,8 +15,8 @@ class Unused : public Operator, public AskDialog, public Database, public Deskto
     void show(const Asker&) override {}
     int RUN_QUERY(const Asker&, const QString&) override { return 0; }
     int RUN_QUERY2(const Asker&, const QString&) override { return 0; }
-    void execute(const QString&) override {}
-    NamedRows readGreek(const QString&) override { return {}; }
+    bool execute(const Asker&, const QString&) override { return true; }
+    std::optional<NamedRows> readGreek(const Asker&, const QString&) override { return NamedRows(); }
     void open(const QString&) override {}
     void loadForm(const Asker&, const QString&) override {}
 };

@@ -13,7 +13,11 @@ namespace zelvor {
 CardsApp::CardsApp(const Options& options)
     : options_(options),
       program_{AppFolder(options.appFolder), options.files, ErrorTrap(options.errorLog)},
-      database_(state_, boxes_, program_, {options.commandLine, options.connection, true}),
+      database_(state_, boxes_, program_, clock_,
+                {.commandLine = options.commandLine,
+                 .number = options.connection,
+                 .seconds = options.querySeconds,
+                 .opensAtOnce = true}),
       linkConsole_(form_, links_, clock_, program_.trap,
                    [this](const QString& text) { return EXPAND_VARS(text, state_.variables, state_.QUERY_RESULT); }),
       startUp_(engine_, cards_, steps()) {

@@ -39,6 +39,7 @@ class CardsApp : public QObject {
         // Answers to the questions of the start; without them the operator is asked.
         QString pack = {};
         std::optional<qint16> connection = {};
+        int querySeconds = Patience::kSeconds;
         // The servers' addresses, and whether those given are connected at the start.
         std::optional<HostPort> main = {};
         std::optional<HostPort> remote = {};

@@ -25,7 +25,7 @@ std::vector<zelvor::CommandLine::Option> allOptions() {
     std::vector<zelvor::CommandLine::Option> options{
         {u"--app-folder"_s, true}, {u"--user-folder"_s},      {u"--codepage"_s, true}, {u"--feed-port"_s, true},
         {u"--pack"_s, true},       {u"--connection"_s, true}, {u"--main"_s, true},     {u"--remote"_s, true},
-        {u"--connect"_s},          {u"--no-as-run"_s},        {u"--help"_s},           {u"--version"_s}};
+        {u"--connect"_s},          {u"--query-seconds"_s, true},          {u"--no-as-run"_s},        {u"--help"_s},           {u"--version"_s}};
     std::ranges::copy(zelvor::remoteOptionNames(), std::back_inserter(options));
     return options;
 }
@@ -42,6 +42,7 @@ Fires the cards of a pack on the air, from one window.
   --feed-port N         hears the game feed on this UDP port, 0 for any free one; 7699 without
   --pack CODE           loads this pack instead of asking for one
   --connection N        takes this database connection instead of asking for one
+  --query-seconds N     how long the database may take for an answer, 5 without; GetGame.csp gets 60, or N if more
   --main HOST:PORT      the address of the main graphics server
   --remote HOST:PORT    the same for the remote one
   --connect             connects the servers named so
@@ -69,6 +70,8 @@ zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
     wanted.pack = line.value(u"--pack").value_or(QString());
     if (const auto number = line.number(u"--connection", 0, INT16_MAX))
         wanted.connection = static_cast<qint16>(*number);
+    wanted.querySeconds =
+        line.number(u"--query-seconds", 1, zelvor::Patience::kMostSeconds).value_or(wanted.querySeconds);
     wanted.main = line.hostPort(u"--main");
     wanted.remote = line.hostPort(u"--remote");
     wanted.connects = line.has(u"--connect");

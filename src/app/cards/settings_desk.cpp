@@ -34,7 +34,7 @@ void SettingsDesk::answer(FormEvents& events, SystemDesktop& desktop) {
 }
 
 void SettingsDesk::choose(const QString& item) {
-    if (item == u"mnReloadVar") commands_.mnReloadVar();
+    if (item == u"mnReloadVar") cards_.presses().press(u"Reload db vars"_s, {}, [this] { commands_.mnReloadVar(); });
     if (item == u"mnDisplayVars") {
         showVariable({});
     }

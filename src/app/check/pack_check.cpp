@@ -4,10 +4,11 @@
 
 #include "app_check/ask_field_check.h"
 #include "app_check/card_table_check.h"
+#include "app_check/connection_check.h"
 #include "app_check/variable_use.h"
 #include "base/run_time_error.h"
 #include "engine/card_engine.h"
-#include "general_rules/grid_file.h"
+#include "general_rules/row_faults.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,13 +16,25 @@ namespace zelvor {
 
 namespace {
 
+// firstLine: of the file, where the first row stands.
+void checkRows(const std::vector<GeneralRow>& rows, PackFiles& files, const QString& path, int firstLine,
+               VariableUse& variables, Findings& findings) {
+    const std::vector<QString> faults = rowFaults(rows);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        variables.set(rows[i][general_column::kVariable]);
+        if (!faults[i].isEmpty()) findings.warning(files.place(path, firstLine + static_cast<int>(i)), faults[i]);
+    }
+}
+
 // The grid and its plain source; a pack need not have either.
 void readGeneralVariables(PackFiles& files, VariableUse& variables, Findings& findings) {
     const QString source = u"infodata.txt"_s;
     if (files.exists(source)) {
-        for (const GeneralRow& row : importRows(files.lines(files.path(source))).rows) {
-            variables.set(row[general_column::kVariable]);
-        }
+        const QString path = files.path(source);
+        const ImportedRows imported = importRows(files.lines(path));
+        for (const ImportedRows::Remark& remark : imported.remarks)
+            findings.warning(files.place(path, remark.line), remark.text);
+        checkRows(imported.rows, files, path, 1, variables, findings);
     }
     const QString path = files.path(u"infodata.dat");
     if (!files.exists(u"infodata.dat")) return;
@@ -31,7 +44,8 @@ void readGeneralVariables(PackFiles& files, VariableUse& variables, Findings& fi
     } catch (const RunTimeError& error) {
         findings.error(files.place(path), error.text());
     }
-    for (const GeneralRow& row : reading.rows) variables.set(row[general_column::kVariable]);
+    constexpr int kFirstLine = 2;  // below the version
+    checkRows(reading.rows, files, path, kFirstLine, variables, findings);
     if (reading.damagedLine > 0) findings.error(files.place(path, reading.damagedLine), reading.damage);
 }
 
@@ -47,10 +61,7 @@ Findings PackCheck::findings() {
         findings.warning(files_.place(files_.path(CardEngine::kStartCard)),
                          u"the script of the start-up does not exist"_s);
     }
-    const QString connections = u"CONNECTIONS.TXT"_s;
-    if (!files_.exists(connections)) {
-        findings.error(files_.place(files_.path(connections)), u"the file does not exist"_s);
-    }
+    checkConnections(files_, findings);
     readGeneralVariables(files_, variables, findings);
     const QSet<int> askFields = checkAskFields(files_, variables, findings);
     if (askFields != askFields_) scripts_.clear();

@@ -129,7 +129,14 @@ class TerminalRun {
     SystemClock clock_{program_.closing};
     TerminalOperator operator_;
     TerminalDesktop desktop_;
-    Connections database_{state_, operator_, program_, {{}, options_.connection}};
+    // What was cancelled is waited for: ending in the middle of it could leave it done.
+    Connections database_{state_,
+                          operator_,
+                          program_,
+                          clock_,
+                          {.number = options_.connection,
+                           .seconds = options_.querySeconds,
+                           .untilCancelled = std::chrono::seconds(options_.querySeconds)}};
     ScriptedAsk askDialog_{state_, database_, program_.trap, options_.answers};
     GraphicsLinks links_{form_, clock_, program_};
     RunGraphics graphics_{links_, options_, out_, err_};

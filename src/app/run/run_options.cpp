@@ -19,6 +19,7 @@ const std::array kOptions{
     CommandLine::Option{u"--set"_s, true},
     CommandLine::Option{u"--answer"_s, true},
     CommandLine::Option{u"--connection"_s, true},
+    CommandLine::Option{u"--query-seconds"_s, true},
     CommandLine::Option{u"--main"_s, true},
     CommandLine::Option{u"--remote"_s, true},
     CommandLine::Option{u"--preview"_s},
@@ -64,6 +65,7 @@ RunOptions readRunOptions(const QStringList& arguments) {
     options.watch = line.has(u"--watch");
     options.printVariables = line.has(u"--vars");
     options.connection = static_cast<qint16>(line.number(u"--connection", 0, INT16_MAX).value_or(1));
+    options.querySeconds = line.number(u"--query-seconds", 1, Patience::kMostSeconds).value_or(options.querySeconds);
     options.main = line.hostPort(u"--main");
     options.remote = line.hostPort(u"--remote");
     return options;
@@ -87,6 +89,7 @@ Runs a card of a pack without a display and prints every line that it puts on ai
   --auto               run as a card that fires by itself: ask fields take their automatic answers
   --keep-states        leave the ON and OFF of the card buttons as they are
   --connection N       the database connection (default: 1)
+  --query-seconds N    how long the database may take for an answer (default: 5; 60 for GetGame.csp, or N if more)
   --main HOST:PORT     connect the main link; without it its lines are only printed
   --remote HOST:PORT   the same for the remote link
   --vars               print every variable at the end

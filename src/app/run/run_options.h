@@ -6,6 +6,7 @@
 
 #include "base/text_file.h"
 #include "command_line/host_port.h"
+#include "data/session.h"
 
 namespace zelvor {
 
@@ -26,6 +27,7 @@ struct RunOptions {
     bool watch = false;
     bool help = false;
     qint16 connection = 1;
+    int querySeconds = Patience::kSeconds;
     std::optional<HostPort> main;
     std::optional<HostPort> remote;
 };

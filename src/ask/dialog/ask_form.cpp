@@ -47,6 +47,11 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
 
     auto* header = new QLabel(headerText(list.rows().size()), this);
     header->setObjectName(u"lblASKCOUNT"_s);
+    auto* fault = new QLabel(list.fault(), this);
+    fault->setObjectName(u"lblASKFAULT"_s);
+    fault->setTextFormat(Qt::PlainText);
+    fault->setWordWrap(true);
+    fault->setVisible(!list.fault().isEmpty());
     auto* view = new PickListView(list, this);
     auto* cancel = new QPushButton(u"Cancel"_s, this);
     cancel->setObjectName(u"cmdCANCEL"_s);
@@ -54,6 +59,7 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
     cancel->setAutoDefault(false);  // Enter belongs to the list
     auto* column = new QVBoxLayout(this);
     column->addWidget(header);
+    column->addWidget(fault);
     column->addWidget(view, 1);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(makeClearButton(program.clearing));
@@ -93,7 +99,7 @@ void AskForm::answer() {
 
 void AskFormDialog::show(const Asker& asker) {
     PickList list(state_, database_, program_.trap, asker);
-    if (program_.closing.hasBegun()) {
+    if (list.isGivenUp() || program_.closing.hasBegun()) {
         list.cancel();
         return;
     }

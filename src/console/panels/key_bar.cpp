@@ -56,13 +56,24 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     words->setHorizontalSpacing(10);
     words->setVerticalSpacing(0);
     words->setColumnStretch(0, 1);
+    const auto makeWords = [&](const ControlRow& control, bool keepsEnd) {
+        return mirrors.label(control, -1,
+                             {12, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 2, keepsEnd});
+    };
     const auto addWords = [&](const ControlRow& control, int line, int column, bool keepsEnd) {
-        TextLabel* label = mirrors.label(
-            control, -1, {12, false, Qt::AlignRight | Qt::AlignVCenter, Role::Text, {}, false, false, 2, keepsEnd});
+        TextLabel* label = makeWords(control, keepsEnd);
         words->addWidget(label, line, column);
         return label;
     };
-    for (TextLabel* yields : {addWords(controls.lblNOTE, 0, 0, false), addWords(controls.lblSILENCED, 1, 0, false)})
+    auto* ofCards = new QHBoxLayout;
+    ofCards->setSpacing(10);
+    words->addLayout(ofCards, 1, 0);
+    TextLabel* silenced = makeWords(controls.lblSILENCED, false);
+    ofCards->addWidget(silenced, 1);
+    TextLabel* backOff = makeWords(controls.lblBACKOFF, false);
+    backOff->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    ofCards->addWidget(backOff);
+    for (TextLabel* yields : {addWords(controls.lblNOTE, 0, 0, false), silenced})
         yields->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     // A long name of a host gives way, never a state.
     for (TextLabel* link : {addWords(controls.lblLINKMAIN, 0, 1, true), addWords(controls.lblLINKREMOTE, 1, 1, true)})

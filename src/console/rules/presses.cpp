@@ -7,6 +7,14 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
+Presses::Presses(CardEngine& engine) : engine_(engine) {
+    connect(&engine.program().databaseWait, &DatabaseWait::over, this, [this] {
+        // The time of a statement does not make a press late: meanwhile the console is seen to take it.
+        for (Waiting& press : waiting_) press.since = now();
+        if (!waiting_.empty()) carryOutSoon();
+    });
+}
+
 void Presses::press(const QString& name, const Presser& presser, std::function<void()> deed) {
     const qint64 waited = waited_ && presser.from.isEmpty() ? waited_() : 0;
     if (waited > kLongestWait) {
@@ -14,16 +22,29 @@ void Presses::press(const QString& name, const Presser& presser, std::function<v
         return;
     }
     if (!isHeldUp()) heldUpBy_ = engine_.sendingByItself();
-    if (!turning_ && !isHeldUp()) {
+    if (turning_ || isHeldUp() || engine_.program().databaseWait.isOn() || !waiting_.empty()) {
+        wait({name, std::move(deed), now() - waited});
+    } else {
         carryOut(deed);
-        return;
     }
-    waiting_.push_back({name, std::move(deed), engine_.ports().clock.steadyMilliseconds() - waited});
-    if (isHeldUp()) QTimer::singleShot(kLookInterval, this, &Presses::carryOutWaiting);
+}
+
+void Presses::wait(Waiting press) {
+    waiting_.push_back(std::move(press));
+    tellWait();
+    carryOutSoon();
+}
+
+void Presses::tellWait(bool another) {
+    engine_.program().databaseWait.setPressWaits(another || !waiting_.empty());
 }
 
 bool Presses::isHeldUp() const {
     return engine_.isRunning(heldUpBy_);
+}
+
+qint64 Presses::now() const {
+    return engine_.ports().clock.steadyMilliseconds();
 }
 
 void Presses::tellLate(const QString& name, qint64 waited) {
@@ -32,17 +53,24 @@ void Presses::tellLate(const QString& name, qint64 waited) {
 
 void Presses::clear(const std::function<void()>& deed) {
     waiting_.clear();
+    tellWait();
     engine_.program().clearing.begin();
-    deed();
+    if (engine_.program().databaseWait.isOn()) {
+        wait({u"CLEAR"_s, deed, now()});
+    } else {
+        deed();
+    }
 }
 
 void Presses::carryOut(const std::function<void()>& deed) {
     const Clearing& clearing = engine_.program().clearing;
     const int before = clearing.count();
+    tellWait(true);
     turn();
+    tellWait();
     if (clearing.count() != before || engine_.program().closing.hasBegun()) return;
     // What has arrived meanwhile comes after this one, or inside it where it waits.
-    QMetaObject::invokeMethod(this, &Presses::carryOutWaiting, Qt::QueuedConnection);
+    carryOutSoon();
     deed();
     turn();
     carryOutWaiting();
@@ -53,15 +81,20 @@ void Presses::turn() {
     engine_.ports().clock.turnEvents(1);
 }
 
+void Presses::carryOutSoon() {
+    QMetaObject::invokeMethod(this, &Presses::carryOutWaiting, Qt::QueuedConnection);
+}
+
 void Presses::carryOutWaiting() {
-    while (!turning_ && !waiting_.empty()) {
+    while (!turning_ && !engine_.program().databaseWait.isOn() && !waiting_.empty()) {
         if (isHeldUp()) {
             QTimer::singleShot(kLookInterval, this, &Presses::carryOutWaiting);
             return;
         }
         const Waiting press = std::move(waiting_.front());
         waiting_.pop_front();
-        const qint64 waited = engine_.ports().clock.steadyMilliseconds() - press.since;
+        tellWait();
+        const qint64 waited = now() - press.since;
         if (waited > kLongestWait) {
             tellLate(press.name, waited);
         } else {

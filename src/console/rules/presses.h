@@ -11,7 +11,8 @@ namespace zelvor {
 // The operator's presses, carried out in the order in which they were made. Timers and sockets have a turn before and
 // after each; a press that arrives in such a turn waits for its own. While a card waits (DELAY, the pause before
 // PLAY, a question) the next press is carried out at once, inside; in the pause before PLAY of a card that runs by
-// itself it waits until that card has ended.
+// itself, and while one waits for the database, it waits: for the end of a card that runs by itself, which a wait for
+// the database brings about at once, or for the operator's own statement.
 class Presses : public QObject {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ class Presses : public QObject {
     // Milliseconds that the press being delivered has waited until now.
     using Waited = std::function<qint64()>;
 
-    explicit Presses(CardEngine& engine) : engine_(engine) {}
+    explicit Presses(CardEngine& engine);
 
     // Without one no press is ever late.
     void setWaited(Waited waited) { waited_ = std::move(waited); }
@@ -32,7 +33,8 @@ class Presses : public QObject {
     void press(const QString& name, const Presser& presser, std::function<void()> deed);
     // Whether presses wait for their turn.
     [[nodiscard]] bool isWaiting() const { return !waiting_.empty(); }
-    // CLEAR: carried out at once, before whatever waits for its turn, and that never comes.
+    // CLEAR: carried out at once, before whatever waits for its turn, and that never comes. What waits for the database
+    // ends first.
     void clear(const std::function<void()>& deed);
 
  Q_SIGNALS:
@@ -53,6 +55,11 @@ class Presses : public QObject {
     void carryOut(const std::function<void()>& deed);
     void turn();
     void carryOutWaiting();
+    void carryOutSoon();
+    void wait(Waiting press);
+    [[nodiscard]] qint64 now() const;
+    // Tells the wait for the database whether a press waits, beside those in the queue.
+    void tellWait(bool another = false);
 
     CardEngine& engine_;
     Waited waited_;

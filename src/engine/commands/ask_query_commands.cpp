@@ -65,7 +65,8 @@ void SQL2(CardRun& run, const Arguments& args) {
 }
 
 void SQLU(CardRun& run, const Arguments& args) {
-    run.ports().database.execute(args.text());
+    run.ports().database.execute(run.asker(), args.text());
+    run.goOn();
 }
 
 // A mark for whoever reads the script.

@@ -22,6 +22,7 @@ constexpr QSize kFrame{20, 60};  // what a window manager may put around it
 constexpr int kValueWidth = 240;
 constexpr int kTitleWidth = 200;
 constexpr int kVariableWidth = 160;
+constexpr int kMarkMargin = 24;
 
 QString countOf(int rows, const QString& words) {
     return rows == 1 ? u"1 row "_s + words : u"%1 rows "_s.arg(rows) + words;
@@ -62,6 +63,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     connect(&grid, &GeneralGrid::rowsInserted, this, &GeneralForm::showState);
     connect(&grid, &GeneralGrid::rowsRemoved, this, &GeneralForm::showState);
     connect(&grid, &GeneralGrid::modelReset, this, &GeneralForm::showState);
+    connect(&grid, &GeneralGrid::refused, help_, &QLabel::setText);
     showState();
 }
 
@@ -82,6 +84,10 @@ QWidget* GeneralForm::gridView() {
     view_->setColumnWidth(general_column::kTitle, kTitleWidth);
     view_->setColumnWidth(general_column::kVariable, kVariableWidth);
     view_->horizontalHeader()->setStretchLastSection(true);
+    // Wide enough for the marks: the columns stay where they are when some appear.
+    QHeaderView* marks = view_->verticalHeader();
+    marks->setFixedWidth(marks->fontMetrics().horizontalAdvance(u"changed, not saved, not applied"_s) + kMarkMargin);
+    marks->setTextElideMode(Qt::ElideRight);
     view_->setToolTip(u"Enter edits the value, Alt+Down opens its list or picker"_s);
     connect(&delegate_, &ValueDelegate::buttonPressed, this, &GeneralForm::pressCellButton);
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &GeneralForm::showHelp);
@@ -173,7 +179,11 @@ void GeneralForm::showState() {
 }
 
 void GeneralForm::showHelp() {
-    help_->setText(view_->currentIndex().siblingAtColumn(general_column::kHelp).data().toString());
+    const QModelIndex current = view_->currentIndex();
+    QStringList words{current.siblingAtColumn(general_column::kHelp).data().toString()};
+    if (current.isValid()) words += general_.grid().fault(shown_.mapToSource(current).row());
+    words.removeAll(QString());
+    help_->setText(words.join(u'\n'));
 }
 
 void GeneralForm::keyPressEvent(QKeyEvent* event) {

@@ -1,0 +1,46 @@
+#include "data/statement_kind.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor::odbc {
+
+namespace {
+
+// Behind the mark that ends what begins at `from`; the text's end without one.
+qsizetype behind(const QString& text, const QString& mark, qsizetype from) {
+    const qsizetype found = text.indexOf(mark, from);
+    return found < 0 ? text.size() : found + mark.size();
+}
+
+}  // namespace
+
+QString firstWord(const QString& sql) {
+    qsizetype at = 0;
+    while (at < sql.size()) {
+        const QStringView rest = QStringView(sql).mid(at);
+        if (rest.front().isSpace() || rest.front() == u'(') {
+            ++at;
+        } else if (rest.startsWith(u"/*") && !rest.startsWith(u"/*!") && !rest.startsWith(u"/*M!")) {
+            at = behind(sql, u"*/"_s, at + 2);
+        } else if (rest.startsWith(u'#') || rest.startsWith(u"--")) {
+            at = behind(sql, u"\n"_s, at);
+        } else {
+            break;
+        }
+    }
+    qsizetype end = at;
+    while (end < sql.size() && sql[end].isLetter()) ++end;
+    return sql.mid(at, end - at).toLower();
+}
+
+bool isSafeForMariaDbDriver(const QString& firstWord) {
+    static const QSet<QString> kSafe{u"select"_s, u"insert"_s, u"update"_s, u"delete"_s,   u"replace"_s,
+                                     u"call"_s,   u"with"_s,   u"show"_s,   u"explain"_s,  u"set"_s,
+                                     u"create"_s, u"drop"_s,   u"alter"_s,  u"describe"_s, u"truncate"_s,
+                                     u"begin"_s,  u"start"_s,  u"commit"_s, u"rollback"_s};
+    return kSafe.contains(firstWord);
+}
+
+}  // namespace zelvor::odbc

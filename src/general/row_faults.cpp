@@ -1,0 +1,48 @@
+#include "general_rules/row_faults.h"
+
+#include <QHash>
+
+#include "general_rules/general_cell.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zelvor {
+
+namespace {
+
+QString choiceFault(const QString& value) {
+    const GeneralCell cell(value);
+    if (cell.kind() != GeneralCell::Kind::Choice) return {};
+    if (!GeneralCell::isWellFormed(value)) return u"choices without a value and \":\" before them"_s;
+    return cell.choices().join(u'|').contains(u':') ? u"a choice holds \":\", the value is cut there"_s : QString();
+}
+
+}  // namespace
+
+std::vector<QString> rowFaults(const std::vector<GeneralRow>& rows) {
+    QHash<QString, QList<qsizetype>> rowsOfName;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        rowsOfName[rows[i][general_column::kVariable]] += static_cast<qsizetype>(i);
+    std::vector<QString> faults;
+    faults.reserve(rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const QString& name = rows[i][general_column::kVariable];
+        QStringList words;
+        if (name.trimmed().isEmpty()) {
+            words += u"no name"_s;
+        } else if (!name.startsWith(u'@')) {
+            words += u"no \"@\" before the name"_s;
+        }
+        const QList<qsizetype>& same = rowsOfName[name];
+        if (same.size() > 1 && !name.trimmed().isEmpty()) {
+            const qsizetype other = same.front() == static_cast<qsizetype>(i) ? same[1] : same.front();
+            words += u"the name of row %1"_s.arg(other + 1);
+        }
+        const QString choice = choiceFault(rows[i][general_column::kValue]);
+        if (!choice.isEmpty()) words += choice;
+        faults.push_back(words.join(u", "_s));
+    }
+    return faults;
+}
+
+}  // namespace zelvor
