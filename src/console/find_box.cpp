@@ -97,7 +97,7 @@ FindBox::FindBox(QWidget& console)
     connect(view_, &QListView::clicked, this, [this] { choose(false); });
 }
 
-void FindBox::open(FindList list) {
+void FindBox::showWith(FindList list) {
     list_.emplace(std::move(list));
     typed_->clear();
     narrow();

@@ -21,7 +21,7 @@ class FindBox : public QDialog {
     // console: the window it lies over.
     explicit FindBox(QWidget& console);
 
-    void open(FindList list);
+    void showWith(FindList list);
 
  Q_SIGNALS:
     // asks: chosen with Shift.

@@ -33,7 +33,7 @@ void addChanges(const QJsonObject& before, const QJsonObject& after, const QJson
     };
     for (auto now = after.begin(); now != after.end(); ++now) {
         const auto was = before.find(now.key());
-        if (was != before.end() && *was == *now) continue;
+        if (was != before.end() && QJsonValue(*was) == QJsonValue(*now)) continue;
         const bool isDeeper = was != before.end() && was->isObject() && now->isObject();
         if (isDeeper) {
             addChanges(was->toObject(), now->toObject(), below(now.key()), changes);

@@ -6,7 +6,7 @@ FindDesk::FindDesk(const ShowState& state, const AppFolder& folder, CardConsole&
                    MainWindow& window)
     : cards_(cards), settings_(settings), box_(window) {
     connect(&window, &MainWindow::findKey, this, [this, &state, &folder] {
-        box_.open(FindList(findable(state, folder, settings_.commands()), cards_.recentlyFired()));
+        box_.showWith(FindList(findable(state, folder, settings_.commands()), cards_.recentlyFired()));
     });
     connect(&box_, &FindBox::chosen, this, &FindDesk::choose);
 }

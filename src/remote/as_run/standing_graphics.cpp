@@ -59,8 +59,9 @@ std::vector<StandingGraphics::Gone> StandingGraphics::sent(LinkId link, const QS
     std::erase_if(gone, [&](const Gone& each) { return each.run == 0 || stands(each.run); });
     std::ranges::sort(gone,
                       [](const Gone& a, const Gone& b) { return a.run != b.run ? a.run < b.run : a.stood > b.stood; });
-    const auto again = std::ranges::unique(gone, {}, &Gone::run);
-    gone.erase(again.begin(), again.end());
+    const auto again =
+        std::unique(gone.begin(), gone.end(), [](const Gone& a, const Gone& b) { return a.run == b.run; });
+    gone.erase(again, gone.end());
     return gone;
 }
 
