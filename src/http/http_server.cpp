@@ -87,6 +87,9 @@ void HttpServer::takeWebSocket(HttpConnection* connection, const HttpRequest& re
     const HttpResponse none{404, "text/plain; charset=utf-8", "No web socket here\n"};
     if (const auto refused = refusal_ ? refusal_(request) : none) return connection->respond(*refused);
     QTcpSocket* socket = connection->release();
+    // Whoever takes the web socket owns that, not what is below it.
+    socket->setParent(this);
+    connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     connection->deleteLater();
     webSockets_.handleConnection(socket);
 }

@@ -4,6 +4,7 @@
 
 #include <QtEndian>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -21,19 +22,27 @@ struct FreeMessage {
 };
 using Message = std::unique_ptr<std::remove_pointer_t<lo_message>, FreeMessage>;
 
+// Not read through lo_arg, which is aligned to 8 bytes where the arguments of a message are to 4.
+template <class Number>
+Number numberAt(const lo_arg* value) {
+    Number number{};
+    std::memcpy(&number, static_cast<const void*>(value), sizeof number);
+    return number;
+}
+
 QVariant argumentOf(char type, const lo_arg* value) {
     switch (type) {
         case LO_INT32:
-            return value->i;
+            return numberAt<qint32>(value);
         case LO_INT64:
-            return static_cast<qlonglong>(value->h);
+            return numberAt<qlonglong>(value);
         case LO_FLOAT:
-            return static_cast<double>(value->f);
+            return static_cast<double>(numberAt<float>(value));
         case LO_DOUBLE:
-            return value->d;
+            return numberAt<double>(value);
         case LO_STRING:
         case LO_SYMBOL:
-            return QString::fromUtf8(&value->s);
+            return QString::fromUtf8(reinterpret_cast<const char*>(value));
         case LO_TRUE:
             return true;
         case LO_FALSE:

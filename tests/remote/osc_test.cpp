@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <lo/lo.h>
 
+#include <cstring>
+
 #include "console/gallery.h"
 
 using namespace Qt::StringLiterals;
@@ -9,6 +11,8 @@ namespace zelvor::test {
 namespace {
 
 // The console behind OSC, and a client of liblo's own.
+constexpr lo_timetag kAtOnce{0, 1};  // LO_TT_IMMEDIATE is no C++
+
 class OscTest : public testing::Test {
  protected:
     void SetUp() override {
@@ -32,8 +36,13 @@ class OscTest : public testing::Test {
     }
     static int hear(const char* path, const char* types, lo_arg** values, int count, lo_message, void* self) {
         QString text = QString::fromUtf8(path);
-        for (int i = 0; i < count; ++i)
-            text += u' ' + (types[i] == 's' ? QString::fromUtf8(&values[i]->s) : QString::number(values[i]->i));
+        for (int i = 0; i < count; ++i) {
+            // Not through lo_arg, which is aligned to 8 bytes where OSC is to 4.
+            const auto* bytes = reinterpret_cast<const char*>(values[i]);
+            qint32 number = 0;
+            std::memcpy(&number, bytes, sizeof number);
+            text += u' ' + (types[i] == 's' ? QString::fromUtf8(bytes) : QString::number(number));
+        }
         static_cast<OscTest*>(self)->heard += text;
         return 0;
     }
@@ -54,7 +63,7 @@ class OscTest : public testing::Test {
 };
 
 TEST_F(OscTest, PressesAndIsToldWhatIsOn) {
-    lo_send_from(address, client, LO_TT_IMMEDIATE, "/zelvor/subscribe", "");
+    lo_send_from(address, client, kAtOnce, "/zelvor/subscribe", "");
     EXPECT_TRUE(hears(u"/zelvor/state/caption/1/1 Strap"_s));
     EXPECT_TRUE(hears(u"/zelvor/state/last/1/1 0"_s));
     lo_send(address, "/zelvor/card/1/1", "i", 1);
@@ -71,7 +80,7 @@ TEST_F(OscTest, PressesAndIsToldWhatIsOn) {
     EXPECT_EQ(server.bytes.count("STRAP"), 1);
     for (const char* path : {"/zelvor/nothing", "/other", "/zelvor/card/1/99", "/zelvor/script/..%2Fx.csp"}) {
         heard.clear();
-        lo_send_from(address, client, LO_TT_IMMEDIATE, path, "");
+        lo_send_from(address, client, kAtOnce, path, "");
         const auto isError = [](const QString& text) { return text.startsWith(u"/zelvor/error"_s); };
         EXPECT_TRUE(waitUntil([&] {
             while (lo_server_recv_noblock(client, 0) > 0) {
