@@ -41,7 +41,8 @@ Game::Game(ConsoleDesk& desk, MariaDbDemo& database, double seconds)
 
 void Game::play() {
     GraphicsLinks& links = desk_.app().links();
-    connect(&links, &GraphicsLinks::lineSent, this, [this](LinkId, const ReplyMatcher::SentLine& line) { noteSent(line.line); });
+    connect(&links, &GraphicsLinks::lineSent, this,
+            [this](LinkId, const ReplyMatcher::SentLine& line) { noteSent(line.line); });
     connect(&links.link(LinkId::Main), &CasparLink::stateChanged, this, [this](LinkState state) {
         if (state == LinkState::Connected) sent_.beginConnection();
     });

@@ -23,9 +23,10 @@ constexpr int kNoFolder = 1;
 
 std::vector<zelvor::CommandLine::Option> allOptions() {
     std::vector<zelvor::CommandLine::Option> options{
-        {u"--app-folder"_s, true}, {u"--user-folder"_s},      {u"--codepage"_s, true}, {u"--feed-port"_s, true},
-        {u"--pack"_s, true},       {u"--connection"_s, true}, {u"--main"_s, true},     {u"--remote"_s, true},
-        {u"--connect"_s},          {u"--query-seconds"_s, true},          {u"--no-as-run"_s},        {u"--help"_s},           {u"--version"_s}};
+        {u"--app-folder"_s, true}, {u"--user-folder"_s},         {u"--codepage"_s, true}, {u"--feed-port"_s, true},
+        {u"--pack"_s, true},       {u"--connection"_s, true},    {u"--main"_s, true},     {u"--remote"_s, true},
+        {u"--connect"_s},          {u"--query-seconds"_s, true}, {u"--no-as-run"_s},      {u"--help"_s},
+        {u"--version"_s}};
     std::ranges::copy(zelvor::remoteOptionNames(), std::back_inserter(options));
     return options;
 }

@@ -109,9 +109,8 @@ void CardConsole::pressFound(const FindEntry& entry, bool asks) {
              presser);
         return;
     }
-    presses_.press(entry.caption, presser, [this, script = entry.target, presser] {
-        run(script, presser, false, placeOf(script));
-    });
+    presses_.press(entry.caption, presser,
+                   [this, script = entry.target, presser] { run(script, presser, false, placeOf(script)); });
 }
 
 void CardConsole::fireScript(const QString& name, const QString& script, const Presser& presser) {
