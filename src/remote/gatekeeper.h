@@ -17,7 +17,7 @@ class Gatekeeper {
     static constexpr qint64 kLongestWait = 60'000;
 
     // token: empty where none is asked for. hostName: as it was named on the command line.
-    Gatekeeper(QByteArray token, const QString& hostName) : token_(std::move(token)), hostName_(hostName) {}
+    Gatekeeper(QByteArray token, QString hostName) : token_(std::move(token)), hostName_(std::move(hostName)) {}
 
     // The refusal of a request, nullopt for one that may pass.
     std::optional<HttpResponse> refusal(const HttpRequest& request);
@@ -33,7 +33,7 @@ class Gatekeeper {
         qint64 waitsUntil = 0;
     };
     [[nodiscard]] bool isToken(const QByteArray& given) const;
-    std::optional<HttpResponse> waitRefusal(const QHostAddress& peer) const;
+    [[nodiscard]] std::optional<HttpResponse> waitRefusal(const QHostAddress& peer) const;
     void countWrong(const QHostAddress& peer);
     [[nodiscard]] qint64 now() const { return clock_.elapsed(); }
 
