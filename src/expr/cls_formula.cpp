@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 #include <random>
+#include <span>
 
-#include "expr/elementary.h"
 #include "plain/number.h"
 
 namespace zelvor::expr {
@@ -23,21 +23,10 @@ char upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-double truth(bool condition) {
-    return condition ? 1 : 0;
-}
-
 }  // namespace
 
 std::string_view operationName(const Row& row) {
     return row.function != nullptr ? row.function->name : kSymbols[static_cast<std::size_t>(row.operation)];
-}
-
-Operation callOf(const Function& function) {
-    if (std::holds_alternative<Unary>(function.body)) return Operation::CallUnary;
-    if (std::holds_alternative<Angular>(function.body)) return Operation::CallAngular;
-    if (std::holds_alternative<Binary>(function.body)) return Operation::CallBinary;
-    return Operation::CallOther;
 }
 
 bool isComparison(Operation operation) {
@@ -134,86 +123,39 @@ bool clsFormula::AngleUnit(std::string_view unit) {
 }
 
 double clsFormula::Eval() {
+    if (error_ != ErrorCode::None || storeError_.code != ErrorCode::None || unassigned_ > 0) [[unlikely]] {
+        if (!isReady()) return 0;
+    }
+    context_.warning = {};
+    const double value = evaluate(table_, context_);
+    return std::isnan(value) ? failEvaluation() : value;
+}
+
+// Clears the last error, and sets the one that a formula not stored or a variable without a value is.
+bool clsFormula::isReady() {
     clearError();
     context_.warning = {};
-    if (storeError_.code != ErrorCode::None) [[unlikely]] {
+    if (storeError_.code != ErrorCode::None) {
         const std::string position = std::to_string(characterPosition(expression_, storeError_.position));
         if (storeError_.detail.empty()) {
             setError(storeError_.code, storeError_.position, {position});
         } else {
             setError(storeError_.code, storeError_.position, {storeError_.detail, position});
         }
-        return 0;
+        return false;
     }
-    if (unassigned_ > 0) {
-        notAssignedError();
-        return 0;
-    }
-    double* const slots = table_.slots.data();
-    for (const Row& row : table_.rows) {
-        const double value = compute(row, slots[row.first], slots[row.second]);
-        if (!std::isfinite(value)) [[unlikely]] {
-            evaluationError(row);
-            return 0;
-        }
-        slots[row.result] = value;
-    }
-    return slots[table_.value];
+    if (unassigned_ > 0) notAssignedError();
+    return unassigned_ == 0;
 }
 
-inline double clsFormula::compute(const Row& row, double a, double b) {
-    switch (row.operation) {
-        case Operation::Add:
-            return a + b;
-        case Operation::Subtract:
-            return a - b;
-        case Operation::Multiply:
-            return a * b;
-        case Operation::Divide:
-            return b == 0 ? kFailed : a / b;
-        case Operation::IntegerDivide:
-            return integerQuotient(a, b);
-        case Operation::Power:
-            return b == 2 ? a * a : std::pow(a, b);
-        case Operation::Percent:
-            return a / 100;
-        case Operation::Negate:
-            return -a;
-        case Operation::Equal:
-            return truth(a == b);
-        case Operation::Less:
-            return truth(a < b);
-        case Operation::Greater:
-            return truth(a > b);
-        case Operation::LessOrEqual:
-            return truth(a <= b);
-        case Operation::GreaterOrEqual:
-            return truth(a >= b);
-        case Operation::NotEqual:
-            return truth(a != b);
-        case Operation::CallUnary:
-            return (*std::get_if<Unary>(&row.function->body))(a);
-        case Operation::CallAngular:
-            return (*std::get_if<Angular>(&row.function->body))(a, context_.angle);
-        case Operation::CallBinary:
-            return (*std::get_if<Binary>(&row.function->body))(a, b);
-        case Operation::CallOther:
-            break;
-    }
-    return call(row);
-}
-
-// Functions of more than two arguments, of any number, or with a need for more than their arguments.
-double clsFormula::call(const Row& row) {
-    const Arguments values(table_.slots.data(), table_.arguments.data() + row.argumentsAt, row.argumentCount);
-    const auto& body = row.function->body;
-    if (const auto* const variadic = std::get_if<Variadic>(&body)) return (*variadic)(values);
-    if (const auto* const ternary = std::get_if<Ternary>(&body)) return (*ternary)(values[0], values[1], values[2]);
-    if (const auto* const quaternary = std::get_if<Quaternary>(&body)) {
-        return (*quaternary)(values[0], values[1], values[2], values[3]);
-    }
-    const auto* const contextual = std::get_if<Contextual>(&body);
-    return contextual != nullptr ? (*contextual)(values, context_) : kFailed;
+// Says which row failed first. What was computed after it is none of the formula's results.
+double clsFormula::failEvaluation() {
+    const auto results = std::span(table_.slots).subspan(EvaluationTable::kFirstResult, table_.rows.size());
+    const auto failed = std::ranges::find_if_not(results, [](double result) { return std::isfinite(result); });
+    const auto row = static_cast<std::size_t>(failed - results.begin());
+    evaluationError(table_.rows[row]);
+    std::fill(failed, results.end(), kFailed);
+    return 0;
 }
 
 double clsFormula::Eval1(double x) {

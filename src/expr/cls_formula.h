@@ -84,8 +84,8 @@ class clsFormula {
 
     void keepValues();
     void restoreValues();
-    double compute(const Row& row, double a, double b);
-    double call(const Row& row);
+    bool isReady();
+    double failEvaluation();
     bool isVariable(int index);
     int indexOf(std::string_view name) const;
     void clearError();

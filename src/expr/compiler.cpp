@@ -119,7 +119,7 @@ void Compiler::scanOperator() {
         case '%':
             return postfix(Operation::Percent, nullptr);
         case '!':
-            return postfix(callOf(factorialFunction()), &factorialFunction());
+            return postfix(Operation::Call, &factorialFunction());
         case '|':
             return closeBar();
         case kArgumentSeparator:
@@ -140,6 +140,7 @@ void Compiler::finish() {
     reduceToOpener();
     table_->value = operands_.back().slot;
     orderRows();
+    makeSteps(*table_);
 }
 
 void Compiler::takeNumber() {
@@ -156,7 +157,7 @@ void Compiler::takeNumber() {
     at_ += number.length;
     operandExpected_ = false;
     if (number.degrees && !group && reserveRow(position)) {
-        emit({Kind::Call, callOf(degreesFunction()), &degreesFunction(), priority(kHighestLevel),
+        emit({Kind::Call, Operation::Call, &degreesFunction(), priority(kHighestLevel),
               static_cast<std::uint32_t>(position), 1},
              1);
     }
@@ -181,7 +182,7 @@ void Compiler::takeName() {
         table_->slots.push_back(constant->value);
     } else if (const Function* const moment = findMoment(name)) {
         if (!reserveRow(at_)) return;
-        emit({Kind::Call, callOf(*moment), moment, priority(kHighestLevel), static_cast<std::uint32_t>(at_), 0}, 0);
+        emit({Kind::Call, Operation::Call, moment, priority(kHighestLevel), static_cast<std::uint32_t>(at_), 0}, 0);
     } else if (function != nullptr) {
         return fail(ErrorCode::FunctionMissing, at_, name);
     } else {
@@ -207,15 +208,15 @@ void Compiler::takeVariable(std::string_view name) {
 }
 
 void Compiler::open(Kind kind, std::size_t length) {
-    pending_.push_back({kind, callOf(absoluteValue()), kind == Kind::Bar ? &absoluteValue() : nullptr,
-                        priority(kHighestLevel), static_cast<std::uint32_t>(at_), 1});
+    pending_.push_back({kind, Operation::Call, kind == Kind::Bar ? &absoluteValue() : nullptr, priority(kHighestLevel),
+                        static_cast<std::uint32_t>(at_), 1});
     ++depth_;
     at_ += length;
 }
 
 void Compiler::openCall(const Function& function, std::string_view name, std::size_t bracket) {
     if (!reserveRow(at_)) return;
-    pending_.push_back({Kind::Call, callOf(function), &function, priority(kHighestLevel),
+    pending_.push_back({Kind::Call, Operation::Call, &function, priority(kHighestLevel),
                         static_cast<std::uint32_t>(name.data() - formula_.data()), 1});
     ++depth_;
     at_ = bracket + 1;

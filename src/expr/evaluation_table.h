@@ -27,10 +27,7 @@ enum class Operation : std::uint8_t {
     LessOrEqual,
     GreaterOrEqual,
     NotEqual,
-    CallUnary,
-    CallAngular,
-    CallBinary,
-    CallOther,
+    Call,
 };
 
 // One operation of a compiled formula. Arguments and result are indexes into the table's slots.
@@ -50,6 +47,24 @@ struct Row {
     std::uint32_t position = 0;
 };
 
+struct Evaluation;
+
+// A row as it is evaluated: computes its result and goes on with the step behind it. `spoilt` is not a number once a
+// result was no finite one, so that not each has to be looked at. Gives the formula's value, NaN when one was.
+struct Step {
+    double (*run)(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) = nullptr;
+    // The function of a call, by its shape; the row where it is none of these.
+    union {
+        const Row* row = nullptr;
+        Unary unary;
+        Angular angular;
+        Binary binary;
+    };
+    std::uint32_t first = 0;
+    std::uint32_t second = 0;
+    std::uint32_t result = 0;
+};
+
 struct Variable {
     std::string name;
     // Byte of the formula where it first appears, from 0.
@@ -64,6 +79,8 @@ struct EvaluationTable {
 
     std::vector<double> slots = std::vector<double>(kFirstNumber);
     std::vector<Row> rows;
+    // One a row, in the same order, and the formula's end.
+    std::vector<Step> steps;
     std::vector<std::uint32_t> arguments;
     // Kept longer than `variableCount`, so that names find their storage again.
     std::vector<Variable> variables;
@@ -75,8 +92,11 @@ struct EvaluationTable {
 // How an operation reads in messages and in the dump: its symbol, or its function's name.
 std::string_view operationName(const Row& row);
 
-// How a function is called, by the shape of its body.
-Operation callOf(const Function& function);
+// Makes the steps of the rows, which stay where they are from then on.
+void makeSteps(EvaluationTable& table);
+
+// The formula's value; NaN when a row failed, whose slot is then the first result that is no finite number.
+double evaluate(EvaluationTable& table, Context& context);
 
 bool isComparison(Operation operation);
 

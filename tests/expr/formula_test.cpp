@@ -121,6 +121,9 @@ TEST(Formula, ReportsWhatIsWrongAndWhere) {
         {"1/0", 16, 2, "Evaluation error < 1 / 0 > at pos: 2"},
         {"(0-8)^0.5", 16, 6, "Evaluation error < -8 ^ 0.5 > at pos: 6"},
         {"1E300*1E+10", 16, 6, "Evaluation error < 1E+300 * 10000000000 > at pos: 6"},
+        // The quotient by what is no finite number would be one again, and no function is given it.
+        {"1/(1E300*1E300)", 16, 9, "Evaluation error < 1E+300 * 1E+300 > at pos: 9"},
+        {"fact(1/0)+2/0", 16, 7, "Evaluation error < 1 / 0 > at pos: 7"},
         {"clip(1,3,2)", 17, 1, "Evaluation error < Clip(1, 3, 2) > at pos: 1"},
         {"2*a", 18, 3, "Variable < a > not assigned"},
     };
