@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <algorithm>
 #include <list>
 #include <map>
 #include <optional>
@@ -71,12 +72,16 @@ class VariableStore {
         }
     };
 
+    struct Equal {
+        bool operator()(QStringView a, QStringView b) const { return std::equal(a.begin(), a.end(), b.begin(), b.end()); }
+    };
+
     std::map<QStringView, Entries::iterator>& sorted();
     Entries::iterator add(QStringView name, Value value);
     void removeEntry(Entries::iterator entry);
 
     Entries entries_;  // in the order of the table; an entry keeps its place in memory
-    std::unordered_map<QStringView, Entries::iterator, Hash> index_;  // the names are views of the entries' own
+    std::unordered_map<QStringView, Entries::iterator, Hash, Equal> index_;  // the names are views of the entries' own
     // The names in sorted order, made when prefixes are first removed and kept from then on.
     std::optional<std::map<QStringView, Entries::iterator>> sorted_;
 };
