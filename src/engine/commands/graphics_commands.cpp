@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "engine/card_run.h"
 
 using namespace Qt::StringLiterals;
@@ -8,8 +10,10 @@ namespace {
 
 // Packs write single quotes where the command line needs double ones.
 QString commandLine(const Arguments& args) {
-    QString line = args.text();
-    line.replace(u'\'', u'"');
+    // Without a branch, so that compilers take many characters at a time.
+    const QString& written = args.text();
+    QString line(written.size(), Qt::Uninitialized);
+    std::transform(written.begin(), written.end(), line.begin(), [](QChar c) { return c == u'\'' ? u'"' : c; });
     return line;
 }
 
