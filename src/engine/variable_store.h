@@ -73,7 +73,9 @@ class VariableStore {
     };
 
     struct Equal {
-        bool operator()(QStringView a, QStringView b) const { return std::equal(a.begin(), a.end(), b.begin(), b.end()); }
+        bool operator()(QStringView a, QStringView b) const {
+            return std::equal(a.begin(), a.end(), b.begin(), b.end());
+        }
     };
 
     std::map<QStringView, Entries::iterator>& sorted();

@@ -13,26 +13,37 @@ constexpr int kCodeLength = 3;
 constexpr qsizetype kLongestLine = qsizetype{16} * 1024 * 1024;
 
 // 404 of "404 CG ADD FAILED", 0 when the line begins no reply.
-int codeOf(const QString& line) {
+int codeOf(QStringView line) {
     if (line.size() <= kCodeLength || line[kCodeLength] != u' ') return 0;
     bool isNumber = false;
     const int code = line.left(kCodeLength).toInt(&isNumber);
     return isNumber && code >= 100 && code < 600 ? code : 0;
 }
 
-// The words behind "REQ id" or "RES id", or all of them.
-QString withoutRequestId(const QString& line, QStringView mark) {
-    return line.section(u' ', 0, 0).compare(mark, Qt::CaseInsensitive) == 0 ? line.section(u' ', 2) : line;
+QStringView firstWord(QStringView line) {
+    const qsizetype end = line.indexOf(u' ');
+    return end < 0 ? line : line.left(end);
 }
 
-QString commandWord(const QString& line) {
-    return withoutRequestId(line.trimmed(), u"REQ").section(u' ', 0, 0);
+// What stands behind the first `count` words.
+QStringView behindWords(QStringView line, int count) {
+    for (; count > 0 && !line.isEmpty(); --count) line = line.mid(firstWord(line).size() + 1);
+    return line;
+}
+
+// The words behind "REQ id" or "RES id", or all of them.
+QStringView withoutRequestId(QStringView line, QStringView mark) {
+    return firstWord(line).compare(mark, Qt::CaseInsensitive) == 0 ? behindWords(line, 2) : line;
+}
+
+QStringView commandWord(QStringView line) {
+    return firstWord(withoutRequestId(line.trimmed(), u"REQ"));
 }
 
 }  // namespace
 
 void ReplyMatcher::sent(SentLine line) {
-    if (line.line.trimmed().isEmpty()) return;
+    if (QStringView(line.line).trimmed().isEmpty()) return;
     awaited_.push_back(std::move(line));
     if (awaited_.size() > kMostAwaited) awaited_.pop_front();
 }
@@ -73,9 +84,9 @@ std::optional<ReplyMatcher::Answer> ReplyMatcher::takeLine(const QString& line) 
     Q_UNREACHABLE();
 }
 
-std::optional<ReplyMatcher::Answer> ReplyMatcher::takeReply(QString line) {
-    line = withoutRequestId(line, u"RES");
-    const bool pong = line.section(u' ', 0, 0) == u"PONG";
+std::optional<ReplyMatcher::Answer> ReplyMatcher::takeReply(const QString& whole) {
+    const QString line = withoutRequestId(whole, u"RES").toString();
+    const bool pong = firstWord(line) == u"PONG";
     const int code = codeOf(line);
     if (code < 200 && !pong) return std::nullopt;
     if (code == 400) {
@@ -85,7 +96,7 @@ std::optional<ReplyMatcher::Answer> ReplyMatcher::takeReply(QString line) {
     }
     if (code == 200) next_ = Next::List;
     if (code == 201) next_ = Next::DataLine;
-    const QString word = pong ? u"PING"_s : line.section(u' ', 1, 1);
+    const QStringView word = pong ? u"PING" : firstWord(behindWords(line, 1));
     return answer(line,
                   [&](const SentLine& sent) { return commandWord(sent.line).compare(word, Qt::CaseInsensitive) == 0; });
 }

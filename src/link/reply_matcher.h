@@ -41,7 +41,7 @@ class ReplyMatcher {
     enum class Next { Reply, DataLine, Echo, List };
 
     std::optional<Answer> takeLine(const QString& line);
-    std::optional<Answer> takeReply(QString line);
+    std::optional<Answer> takeReply(const QString& whole);
     // The first awaited line for which matches(line) holds, or else the first of all.
     template <class Matches>
     std::optional<Answer> answer(const QString& reply, Matches matches);
