@@ -1,6 +1,7 @@
 #include "console/console_button.h"
 
 #include <QPainter>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -10,6 +11,8 @@ ConsoleButton::ConsoleButton(const Look& look, QWidget* parent) : QAbstractButto
     setFont(theme::font(look.pixels, look.bold));
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    // Told just before the click.
+    connect(this, &QAbstractButton::released, this, [this] { setUpdatesEnabled(true); });
 }
 
 void ConsoleButton::setColours(std::optional<QColor> ground, std::optional<QColor> text) {
@@ -24,6 +27,7 @@ void ConsoleButton::setSelected(bool selected) {
 }
 
 void ConsoleButton::setHint(const QString& hint) {
+    if (hint == hint_) return;
     hint_ = hint;
     updateToolTip();
 }
@@ -91,6 +95,14 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     const QRect area = rect().adjusted(padding(), 0, -padding(), 0);
     painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
     drawFocus(painter);
+}
+
+// The base paints the button before it tells of the click: what the click sends is not to wait for that.
+void ConsoleButton::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointer<ConsoleButton> button(this);
+    setUpdatesEnabled(false);
+    QAbstractButton::mouseReleaseEvent(event);
+    if (button) setUpdatesEnabled(true);
 }
 
 void ConsoleButton::mousePressEvent(QMouseEvent* event) {

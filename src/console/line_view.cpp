@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QTimer>
+#include <utility>
 
 #include "console/theme.h"
 #include "link/line_list.h"
@@ -48,14 +50,26 @@ LineView::LineView(QAbstractItemModel& lines, Newest newest, QWidget* parent) : 
 
     connect(&lines, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
         const QScrollBar* bar = verticalScrollBar();
-        following_ = bar->value() >= bar->maximum() - 1;
+        if (!followsSoon_) following_ = bar->value() >= bar->maximum() - 1;
     });
     connect(&lines, &QAbstractItemModel::rowsInserted, this, [this] {
-        if (following_) scrollToBottom();
+        if (following_) followSoon();
+    });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        if (followsSoon_ && value < verticalScrollBar()->maximum() - 1) following_ = false;
     });
     // The oldest lines go as new ones come; the bar counts lines.
     connect(&lines, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex&, int first, int last) {
         if (!following_ && first == 0) verticalScrollBar()->setValue(verticalScrollBar()->value() - (last + 1));
+    });
+}
+
+// Once for all lines that a card writes: to lay the list out for each would hold up what the card sends.
+void LineView::followSoon() {
+    if (std::exchange(followsSoon_, true)) return;
+    QTimer::singleShot(0, this, [this] {
+        followsSoon_ = false;
+        if (following_) scrollToBottom();
     });
 }
 

@@ -22,8 +22,11 @@ class LineView : public QListView {
     void showEvent(QShowEvent* event) override;
 
  private:
+    void followSoon();
+
     Newest newest_;
     bool following_ = true;
+    bool followsSoon_ = false;
 };
 
 }  // namespace zelvor

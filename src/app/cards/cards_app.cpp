@@ -38,6 +38,7 @@ CardsApp::CardsApp(const Options& options)
     connect(&window_, &MainWindow::functionKey, &cards_, [this](int number) { cards_.functionKey(number); });
     connect(&window_, &MainWindow::clearKey, &cards_, [this] { cards_.pressClear(); });
     cards_.presses().setWaited([this] { return inputTimes_.waited(); });
+    connect(&cards_.presses(), &Presses::turnBefore, &paintHold_, &PaintHold::hold);
     connect(&boxes_, &Boxes::silenced, this,
             [this](const QString& words) { form_.at(controls.lblSILENCED).setText(words); });
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });

@@ -11,6 +11,7 @@
 #include "console/boxes.h"
 #include "console/input_times.h"
 #include "console/main_window.h"
+#include "console/paint_hold.h"
 #include "console_rules/card_console.h"
 #include "console_rules/card_troubles.h"
 #include "console_rules/start_up.h"
@@ -96,6 +97,7 @@ class CardsApp : public QObject {
     GameDesk desk_{engine_};
     LinkConsole linkConsole_;
     MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
+    PaintHold paintHold_{window_};
     SettingsDesk settings_{engine_, packs_, cards_, boxes_, window_};
     FindDesk find_{state_, program_.folder, cards_, settings_, window_};
     StartUp startUp_;

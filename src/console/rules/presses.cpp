@@ -66,7 +66,9 @@ void Presses::carryOut(const std::function<void()>& deed) {
     const Clearing& clearing = engine_.program().clearing;
     const int before = clearing.count();
     tellWait(true);
+    Q_EMIT turnBefore(true);
     turn();
+    Q_EMIT turnBefore(false);
     tellWait();
     if (clearing.count() != before || engine_.program().closing.hasBegun()) return;
     // What has arrived meanwhile comes after this one, or inside it where it waits.

@@ -40,6 +40,8 @@ class Presses : public QObject {
  Q_SIGNALS:
     // seconds: how long it has waited, "3.1".
     void late(const QString& name, const QString& seconds);
+    // The turn before a deed begins and ends.
+    void turnBefore(bool begins);
 
  private:
     struct Waiting {
