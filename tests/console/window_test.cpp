@@ -447,7 +447,8 @@ TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
     EXPECT_EQ(told(u"broken.csp"_s), 1);
 }
 
-TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOverALink) {
+TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOrUnsaved) {
+    gallery.write(u"QRD_EN/infodata.dat"_s, "zelvor-grid 1\nhello\t\t@GREETING\t\n");
     startWithCards();
     const auto closes = [&] {
         gallery.shown.clear();
