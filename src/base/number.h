@@ -7,6 +7,7 @@ namespace zelvor {
 
 // A number as text: at most 15 significant digits, "." as decimal sign, "1E+15" and "1E-07" outside 1E-4 .. 1E+15.
 QString numberText(double number);
+// The same at the end of a text, without one of its own.
 void appendNumber(QString& out, double number);
 
 // The leading number of a text, 0 when there is none. Blanks are skipped wherever they stand; a sign, digits, one ".",

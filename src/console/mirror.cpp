@@ -29,7 +29,9 @@ void follow(Control& control, QWidget* widget, Apply apply) {
 
 // What is the same for widgets of every kind.
 void applyCommon(const Control& control, QWidget* widget, Property property) {
-    if (property == Property::Visible) widget->setVisible(control.visible());
+    // Shown before it stands in a panel it would come up as a window of its own; it shows with its panel.
+    if (property == Property::Visible && (widget->parentWidget() != nullptr || !control.visible()))
+        widget->setVisible(control.visible());
     if (property == Property::Enabled) widget->setEnabled(control.enabled());
     if (property == Property::Text) {
         const QString hint = control.hint();

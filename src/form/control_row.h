@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringView>
 #include <optional>
 
@@ -12,6 +13,8 @@ enum class ControlKind { Label, TextBox, Button, CheckBox, OptionButton, List, P
 // What a control tells besides its text: all is well, something is waited for, something is wrong, or it is switched
 // off. The rule that writes the words sets it; the console draws it. Plain: the text is all there is to tell.
 enum class ControlRole { Plain, Good, Waiting, Bad, Off };
+// "plain", "good", "waiting", "bad", "off".
+QString roleText(ControlRole role);
 
 // A control's properties before anything has happened.
 struct FirstState {

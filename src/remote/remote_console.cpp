@@ -183,6 +183,7 @@ void RemoteConsole::clear(const Request& request) {
     pending_[number].request = request;
     engine_.ports().notes.appendHistory(u" = "_s + request.from + u": CLEAR"_s);
     const auto deed = [this](const Presser& presser) { cards_.pressClear(presser); };
+    QTimer::singleShot(kLongestAnswer, this, [this, number] { tellLate(number); });
     QMetaObject::invokeMethod(
         this, [this, number, deed] { carryOut(number, deed); }, Qt::QueuedConnection);
 }

@@ -8,22 +8,6 @@ namespace zelvor {
 
 namespace {
 
-QString roleText(Control::Role role) {
-    switch (role) {
-        case Control::Role::Plain:
-            return u"plain"_s;
-        case Control::Role::Good:
-            return u"good"_s;
-        case Control::Role::Waiting:
-            return u"waiting"_s;
-        case Control::Role::Bad:
-            return u"bad"_s;
-        case Control::Role::Off:
-            return u"off"_s;
-    }
-    return {};
-}
-
 void addChanges(const QJsonObject& before, const QJsonObject& after, const QJsonArray& path,
                 std::vector<StateChange>& changes) {
     const auto below = [&path](const QString& key) {

@@ -37,11 +37,26 @@ class MainWindowTest : public testing::Test {
     Gallery gallery;
 };
 
+// Notes which windows come up.
+class WindowWatch : public QObject {
+ public:
+    WindowWatch() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* widget = qobject_cast<QWidget*>(object);
+        const bool comesUp = event->type() == QEvent::Show && widget != nullptr && widget->isWindow();
+        if (comesUp && qobject_cast<QDialog*>(object) == nullptr) names += widget->objectName();
+        return false;
+    }
+    QStringList names;
+};
+
 const QString kScoreLine = u"CG 1-20 ADD 1 \"score\" 1"_s;
 const QString kPlayerLine = u"CG 1-21 ADD 1 \"player\" 1"_s;
 
 TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
+    const WindowWatch windows;
     startWithCards();
+    EXPECT_EQ(windows.names, (QStringList{u"frmMAIN"_s, u"frmGENERAL"_s}));
     ASSERT_EQ(gallery.shown.size(), 2);
     EXPECT_TRUE(gallery.shown[0].startsWith(u"Project Pack Selection|1. EN-Basketball"));
     EXPECT_EQ(gallery.app->window().windowTitle(), u"Zelvor Cards (" ZELVOR_VERSION ")");
@@ -433,7 +448,8 @@ TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
     EXPECT_EQ(told(u"broken.csp"_s), 1);
 }
 
-TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOverALink) {
+TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOrUnsaved) {
+    gallery.write(u"QRD_EN/infodata.dat"_s, "zelvor-grid 1\nhello\t\t@GREETING\t\n");
     startWithCards();
     const auto closes = [&] {
         gallery.shown.clear();
@@ -448,8 +464,14 @@ TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOverALink) {
     EXPECT_FALSE(closes());
     EXPECT_EQ(gallery.shown, QStringList{u"Close the console?|Something is on air."_s});
     gallery.at("lblONAIR").setText({});
-    EXPECT_TRUE(closes());
-    EXPECT_EQ(gallery.shown, QStringList());
+    gallery.app->settings().showGeneral();
+    auto* grid = gallery.form("frmGENERAL")->findChild<QAbstractItemView*>(u"vsDATA"_s)->model();
+    grid->setData(grid->index(0, 0), u"edited"_s);
+    EXPECT_FALSE(closes());
+    EXPECT_EQ(gallery.shown, QStringList{u"Close the console?|General variables are not saved."_s});
+    gallery.app->program().closing.begin();  // the program's own end asks nothing
+    EXPECT_FALSE(gallery.app->window().isVisible());
+    EXPECT_EQ(gallery.shown.size(), 1);
 }
 
 TEST_F(MainWindowTest, ACommandLineAnswersTheStartAndAHiddenPanelStillConnects) {

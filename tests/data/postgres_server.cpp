@@ -17,10 +17,10 @@ namespace zelvor::test {
 
 namespace {
 
-constexpr int kPatience = 60'000;  // milliseconds; on a busy machine too
+constexpr int kServerPatience = 60'000;  // milliseconds; on a busy machine too
 
 // Debian keeps each version in a folder of its own.
-QString program(const QString& name) {
+QString postgresProgram(const QString& name) {
     const QDir versions(u"/usr/lib/postgresql"_s);
     for (const QString& version : versions.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::Reversed)) {
         const QString path = versions.filePath(version + u"/bin/"_s + name);
@@ -37,7 +37,7 @@ const passwd* ordinaryUser() {
 
 bool PostgresServer::isInstalled() {
     QFile drivers(u"/etc/odbcinst.ini"_s);
-    return !program(u"initdb"_s).isEmpty() && drivers.open(QIODevice::ReadOnly) &&
+    return !postgresProgram(u"initdb"_s).isEmpty() && drivers.open(QIODevice::ReadOnly) &&
            drivers.readAll().contains("PostgreSQL Unicode");
 }
 
@@ -58,9 +58,9 @@ PostgresServer::PostgresServer() {
         throw std::runtime_error("the folder cannot be given to the server");
     QProcess initdb;
     prepare(initdb);
-    initdb.start(program(u"initdb"_s), {u"-D"_s, folder_.filePath(u"data"_s), u"-U"_s, u"show"_s, u"-A"_s, u"trust"_s,
-                                        u"-E"_s, u"UTF8"_s, u"--locale=C"_s, u"--no-sync"_s});
-    if (!initdb.waitForFinished(kPatience) || initdb.exitCode() != 0) throw std::runtime_error("initdb failed");
+    initdb.start(postgresProgram(u"initdb"_s), {u"-D"_s, folder_.filePath(u"data"_s), u"-U"_s, u"show"_s, u"-A"_s,
+                                                u"trust"_s, u"-E"_s, u"UTF8"_s, u"--locale=C"_s, u"--no-sync"_s});
+    if (!initdb.waitForFinished(kServerPatience) || initdb.exitCode() != 0) throw std::runtime_error("initdb failed");
     prepare(process_);
     start();
 }
@@ -70,23 +70,23 @@ PostgresServer::~PostgresServer() {
 }
 
 void PostgresServer::start() {
-    process_.start(program(u"postgres"_s), {u"-D"_s, folder_.filePath(u"data"_s), u"-k"_s, folder_.path(), u"-h"_s,
-                                            QString(), u"-c"_s, u"fsync=off"_s});
+    process_.start(postgresProgram(u"postgres"_s), {u"-D"_s, folder_.filePath(u"data"_s), u"-k"_s, folder_.path(),
+                                                    u"-h"_s, QString(), u"-c"_s, u"fsync=off"_s});
     QProcess ready;
-    const QDeadlineTimer patience(kPatience);
+    const QDeadlineTimer patience(kServerPatience);
     do {
         if (process_.state() == QProcess::NotRunning || patience.hasExpired())
             throw std::runtime_error("the PostgreSQL server did not start");
         QThread::msleep(50);
-        ready.start(program(u"pg_isready"_s), {u"-q"_s, u"-h"_s, folder_.path()});
-    } while (!ready.waitForFinished(kPatience) || ready.exitCode() != 0);
+        ready.start(postgresProgram(u"pg_isready"_s), {u"-q"_s, u"-h"_s, folder_.path()});
+    } while (!ready.waitForFinished(kServerPatience) || ready.exitCode() != 0);
 }
 
 void PostgresServer::kill() {
     if (process_.state() == QProcess::NotRunning) return;
     // Its children go with it.
     ::kill(static_cast<pid_t>(process_.processId()), SIGQUIT);
-    process_.waitForFinished(kPatience);
+    process_.waitForFinished(kServerPatience);
 }
 
 QByteArray PostgresServer::connectionString() const {

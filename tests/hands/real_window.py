@@ -69,11 +69,9 @@ class Server:
     def serve(self):
         while True:
             peer, _ = self.listener.accept()
-            with peer.makefile("rw", newline="\r\n") as stream:
-                for line in stream:
-                    self.lines.append(line.strip())
-                    stream.write("202 OK\r\n")
-                    stream.flush()
+            for line in peer.makefile("rb"):
+                self.lines.append(line.decode().strip())
+                peer.sendall(b"202 OK\r\n")
 
 
 class Desk:

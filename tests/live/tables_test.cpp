@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "../data/mariadb_server.h"
+#include "../data/postgres_server.h"
 #include "base/run_time_error.h"
 #include "live/clock_text.h"
 #include "live/livestats_decoder.h"
@@ -27,6 +28,10 @@ class LiveTables : public testing::TestWithParam<const char*> {
         if (QByteArrayView(GetParam()) == "MariaDB") {
             server_ = std::make_unique<MariaDbServer>();
             connection = server_->connectionString();
+        } else if (QByteArrayView(GetParam()) == "PostgreSQL") {
+            if (!PostgresServer::isInstalled()) GTEST_SKIP() << "there is no PostgreSQL";
+            postgres_ = std::make_unique<PostgresServer>();
+            connection = postgres_->connectionString();
         }
         connection_ = QString::fromLatin1(connection);
         session_.setConnectionString(connection_);
@@ -61,11 +66,12 @@ class LiveTables : public testing::TestWithParam<const char*> {
 
     QTemporaryDir folder_;
     std::unique_ptr<MariaDbServer> server_;
+    std::unique_ptr<PostgresServer> postgres_;
     QString connection_;
     Session session_{folder_.path()};
 };
 
-INSTANTIATE_TEST_SUITE_P(Suite, LiveTables, testing::Values("SQLite", "MariaDB"),
+INSTANTIATE_TEST_SUITE_P(Suite, LiveTables, testing::Values("SQLite", "MariaDB", "PostgreSQL"),
                          [](const auto& database) { return std::string(database.param); });
 
 TEST_P(LiveTables, EndAsTheGameHasEnded) {

@@ -136,6 +136,13 @@ TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
     server.peer->write("202 CG OK\r\n404 CG ADD FAILED\r\n");
     ASSERT_TRUE(waitUntil([&] { return !gallery.at("lblONAIRTROUBLE").text().isEmpty(); }));
     gallery.click("GradientButtonAIR");
+    // Of the runs of a timed card those that put something on air are told, the others counted.
+    gallery.write(u"QRD_EN/tick.csp"_s, "IFL~{@GO};=;1~\"CSPSEND~TICK\"\r\n");
+    gallery.app->state().cards.timedCards = {{u"tick.csp"_s, 1}};
+    for (const int go : {0, 0, 1, 0}) {
+        gallery.app->state().variables.SetVar(u"@GO", go);
+        gallery.app->desk().timedCards.tick();
+    }
     gallery.app.reset();
 
     const auto tell = [&](const QStringList& arguments) -> QString {
@@ -149,10 +156,14 @@ TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
     };
     const QString csv = tell({u"--csv"_s});
     EXPECT_TRUE(csv.contains(u",EN,1,1,Strap,strap.csp,button,,yes,ran,0,"_s)) << csv.toStdString();
-    EXPECT_TRUE(csv.contains(u",\"Harbour, \"\"Bank\"\"\"\n"_s)) << csv.toStdString();
-    EXPECT_TRUE(csv.contains(u",Bad,bad.csp,button,,,ran,1,,\n"_s)) << csv.toStdString();
+    EXPECT_TRUE(csv.contains(u",\"Harbour, \"\"Bank\"\"\",1\n"_s)) << csv.toStdString();
+    EXPECT_TRUE(csv.contains(u",Bad,bad.csp,button,,,ran,1,,,1\n"_s)) << csv.toStdString();
     EXPECT_TRUE(csv.contains(u"clear.csp,clear,,,ran,"_s)) << csv.toStdString();
     EXPECT_TRUE(csv.contains(u"GetGame.csp,start,"_s)) << csv.toStdString();
+    const QString ticks = tell({u"--from"_s, u"timer"_s, u"--csv"_s});
+    EXPECT_EQ(ticks.count(u",tick,tick.csp,timer,,,ran,"_s), 2) << ticks.toStdString();
+    EXPECT_TRUE(ticks.contains(u"ran,0,,,3\n"_s)) << ticks.toStdString();
+    EXPECT_FALSE(ticks.contains(u"Strap"_s) || csv.contains(u"tick"_s));
     const QString list = tell({u"--refused"_s, u"--lines"_s});
     EXPECT_TRUE(list.contains(u"main > CG 1-30 ADD 1 \"b\" 1 = 404 CG ADD FAILED"_s)) << list.toStdString();
     EXPECT_FALSE(list.contains(u"Strap"_s));

@@ -21,6 +21,7 @@ QString askedText(const AsRunCard& card) {
 // What is to be known beside the outcome.
 QString endText(const AsRunCard& card) {
     QStringList words{card.outcome.isEmpty() ? u"broken off"_s : card.outcome};
+    if (card.times > 1) words += u"%1 times, nothing sent"_s.arg(card.times);
     if (card.refused()) words += u"REFUSED"_s;
     if (card.stood) words += u"stood "_s + stoodText(*card.stood);
     if (!card.answers.isEmpty()) words += u"answers "_s + card.answers.join(u" | "_s);
@@ -78,7 +79,7 @@ void printAsRun(QTextStream& out, const std::vector<AsRunCard>& cards, bool line
 }
 
 void printAsRunCsv(QTextStream& out, const std::vector<AsRunCard>& cards) {
-    out << "at,pack,set,row,caption,script,by,from,answers,outcome,refused,stood_ms,sponsor\n";
+    out << "at,pack,set,row,caption,script,by,from,answers,outcome,refused,stood_ms,sponsor,times\n";
     for (const AsRunCard& card : cards) {
         const QStringList fields{card.at.toString(Qt::ISODateWithMs),
                                  card.pack,
@@ -92,7 +93,8 @@ void printAsRunCsv(QTextStream& out, const std::vector<AsRunCard>& cards) {
                                  card.outcome,
                                  card.refused() ? u"1"_s : u"0"_s,
                                  card.stood ? QString::number(*card.stood) : QString(),
-                                 card.sponsor};
+                                 card.sponsor,
+                                 QString::number(card.times)};
         QStringList written;
         std::ranges::transform(fields, std::back_inserter(written), csvField);
         out << written.join(u',') << '\n';
@@ -103,7 +105,7 @@ void printAsRunSums(QTextStream& out, const std::vector<AsRunCard>& cards) {
     std::map<QString, Sum> byCard;
     std::map<QString, Sum> bySponsor;
     const auto add = [](Sum& sum, const AsRunCard& card) {
-        ++sum.times;
+        sum.times += card.times;
         sum.refused += card.refused() ? 1 : 0;
         sum.stood += card.stood.value_or(0);
     };

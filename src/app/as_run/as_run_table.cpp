@@ -17,7 +17,7 @@ constexpr qsizetype kLong = 4000;
 const QString kColumns =
     u"day varchar(10), run varchar(40), fired_at varchar(29), pack varchar(120), card_set integer, card_row integer, "
     u"caption varchar(120), script varchar(120), asked_by varchar(120), asked_from varchar(120), "
-    u"answers varchar(120), outcome varchar(120), refused integer, stood_ms integer, sponsor varchar(120), lines text"_s;
+    u"answers varchar(120), outcome varchar(120), refused integer, stood_ms integer, sponsor varchar(120), lines text, times integer"_s;
 
 // As every server takes it: no backslashes and control characters but line feeds, cut to its column.
 QString quoted(const QString& text, qsizetype width = kShort) {
@@ -45,7 +45,8 @@ QString rowOf(const QString& day, const AsRunCard& card) {
                              card.refused() ? u"1"_s : u"0"_s,
                              number(card.stood.has_value(), card.stood.value_or(0)),
                              quoted(card.sponsor),
-                             quoted(asRunLines(card), kLong)};
+                             quoted(asRunLines(card), kLong),
+                             QString::number(card.times)};
     return u'(' + values.join(u", "_s) + u')';
 }
 

@@ -1,7 +1,11 @@
 #include "app_cards/remote_desk.h"
 
+#include <openssl/evp.h>
+#include <openssl/x509.h>
+
 #include <QFile>
 #include <QSslKey>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -9,19 +13,44 @@ namespace zelvor {
 
 namespace {
 
+const unsigned char* bytesOf(const QByteArray& text) {
+    return reinterpret_cast<const unsigned char*>(text.constData());
+}
+
+// With another one's key every connection would fail, and nobody would know why.
+bool isKeyOf(const QSslCertificate& certificate, const QSslKey& key) {
+    const QByteArray keyText = key.toDer();
+    const QByteArray certificateText = certificate.toDer();
+    const unsigned char* keyBytes = bytesOf(keyText);
+    const unsigned char* certificateBytes = bytesOf(certificateText);
+    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> privateKey(
+        d2i_AutoPrivateKey(nullptr, &keyBytes, static_cast<long>(keyText.size())), &EVP_PKEY_free);
+    const std::unique_ptr<X509, decltype(&X509_free)> x509(
+        d2i_X509(nullptr, &certificateBytes, static_cast<long>(certificateText.size())), &X509_free);
+    return privateKey && x509 && X509_check_private_key(x509.get(), privateKey.get()) == 1;
+}
+
+// Empty, with the reason, for a file that cannot be read.
+QByteArray bytesIn(const QString& path, QString& fault) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) fault = path + u": "_s + file.errorString();
+    return file.isOpen() ? file.readAll() : QByteArray();
+}
+
 // nullopt, with the reason, when one of the files is none of the kind.
 std::optional<QSslConfiguration> readTls(const RemoteOptions::Control& options, QString& fault) {
-    QFile file(options.key);
-    if (!file.open(QIODevice::ReadOnly)) {
-        fault = options.key + u": "_s + file.errorString();
-        return std::nullopt;
+    const QByteArray keyBytes = bytesIn(options.key, fault);
+    const QList<QSslCertificate> chain = QSslCertificate::fromData(bytesIn(options.certificate, fault));
+    if (!fault.isEmpty()) return std::nullopt;
+    QSslKey key(keyBytes, QSsl::Rsa);
+    if (key.isNull()) key = QSslKey(keyBytes, QSsl::Ec);
+    if (key.isNull()) {
+        fault = options.key + u": no private key of RSA or EC in PEM, or one with a password"_s;
+    } else if (chain.isEmpty()) {
+        fault = options.certificate + u": no certificate in PEM"_s;
+    } else if (!isKeyOf(chain.constFirst(), key)) {
+        fault = options.key + u": not the key of the certificate "_s + options.certificate;
     }
-    const QByteArray bytes = file.readAll();
-    QSslKey key(bytes, QSsl::Rsa);
-    if (key.isNull()) key = QSslKey(bytes, QSsl::Ec);
-    const QList<QSslCertificate> chain = QSslCertificate::fromPath(options.certificate);
-    if (key.isNull()) fault = options.key + u": no private key"_s;
-    if (chain.isEmpty()) fault = options.certificate + u": no certificate"_s;
     if (!fault.isEmpty()) return std::nullopt;
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setLocalCertificateChain(chain);

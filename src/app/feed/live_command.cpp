@@ -38,8 +38,8 @@ class StatusPrinter {
     void print() {
         if (terminal_) {
             out_ << "\r\x1b[K" << feed_.statusLine();
-        } else if (const QString words = feed_.statusWords(); words != said_) {
-            said_ = words;
+        } else if (const QString news = feed_.news(); news != said_) {
+            said_ = news;
             out_ << feed_.statusLine() << '\n';
         }
         out_.flush();

@@ -31,10 +31,11 @@ class LiveFeed : public QObject {
 
     // What a terminal says: what is heard, from where, how old it is, what was refused.
     [[nodiscard]] QString statusLine() const;
-    // The same without what changes by the second.
-    [[nodiscard]] QString statusWords() const;
+    // What of it is worth a line of its own when it changes: no clock, score and age.
+    [[nodiscard]] QString news() const { return link_ + statusWords(); }
 
  private:
+    [[nodiscard]] QString statusWords() const;
     void take(const QByteArray& message);
     void connected();
     void lost(const QString& why);

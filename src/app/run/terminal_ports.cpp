@@ -14,22 +14,6 @@ QString yesOrNo(bool value) {
     return value ? u"True"_s : u"False"_s;
 }
 
-QString roleWord(Control::Role role) {
-    switch (role) {
-        case Control::Role::Plain:
-            return u"plain"_s;
-        case Control::Role::Good:
-            return u"good"_s;
-        case Control::Role::Waiting:
-            return u"waiting"_s;
-        case Control::Role::Bad:
-            return u"bad"_s;
-        case Control::Role::Off:
-            return u"off"_s;
-    }
-    Q_UNREACHABLE();
-}
-
 struct ShownProperty {
     QString name;
     QString value;
@@ -56,7 +40,7 @@ ShownProperty shownProperty(const Control& control, Control::Property property) 
         case Property::State:
             return {u"State"_s, control.state()};
         case Property::Role:
-            return {u"Role"_s, roleWord(control.role())};
+            return {u"Role"_s, roleText(control.role())};
         case Property::Items:
             return {u"ListCount"_s, QString::number(control.items().size())};
     }

@@ -22,6 +22,8 @@ AsRunCard begunCard(const QJsonObject& fired) {
     card.row = fired["row"_L1].toInt();
     card.caption = fired["caption"_L1].toString();
     card.script = fired["script"_L1].toString();
+    card.outcome = fired["outcome"_L1].toString();
+    card.times = fired["times"_L1].toInt(1);
     return card;
 }
 
@@ -62,13 +64,14 @@ std::vector<AsRunCard> readAsRun(QIODevice& record) {
         const QJsonObject happening = QJsonDocument::fromJson(record.readLine()).object();
         const QString event = happening["event"_L1].toString();
         const QString run = happening["run"_L1].toString();
-        if (event == u"fired") {
-            places.insert(run, cards.size());
+        if (event == u"fired" || event == u"quiet") {
+            if (!run.isEmpty()) places.insert(run, cards.size());
             cards.push_back(begunCard(happening));
         } else if (const auto place = places.constFind(run); place != places.constEnd()) {
             addTo(cards[*place], event, happening);
         }
     }
+    std::ranges::stable_sort(cards, {}, &AsRunCard::at);
     return cards;
 }
 

@@ -36,6 +36,7 @@ struct AsRunCard {
     std::vector<Line> lines;
     QString outcome;  // "ran", "no data", ...; empty when the record ends before
     QString sponsor;
+    int times = 1;                // more for a card that ran by itself so often within a minute and put nothing on air
     std::optional<qint64> stood;  // milliseconds; none while a graphic of it stands, or when it had none
 
     [[nodiscard]] bool refused() const;

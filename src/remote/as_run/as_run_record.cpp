@@ -8,6 +8,8 @@ namespace zelvor {
 
 namespace {
 
+constexpr int kQuietInterval = 60'000;  // milliseconds
+
 // With the time zone: "2026-11-21T20:15:03.123+02:00".
 QString momentText(const QDateTime& moment) {
     return moment.toOffsetFromUtc(moment.offsetFromUtc()).toString(Qt::ISODateWithMs);
@@ -37,6 +39,9 @@ AsRunRecord::AsRunRecord(CardEngine& engine, const GraphicsLinks& links, IsUsed 
     constexpr int kBase = 36;
     const QDateTime now = engine.ports().clock.now();
     console_ = QString::number(now.toMSecsSinceEpoch(), kBase) + u'.';
+    quietTimer_.setSingleShot(true);
+    quietTimer_.setInterval(kQuietInterval);
+    connect(&quietTimer_, &QTimer::timeout, this, &AsRunRecord::writeQuiet);
     connect(&engine.runs(), &CardRuns::begun, this, &AsRunRecord::begin);
     connect(&engine.runs(), &CardRuns::ended, this, &AsRunRecord::end);
     connect(&engine.program().questions, &Questions::answered, this, &AsRunRecord::addAnswer);
@@ -50,9 +55,17 @@ AsRunRecord::AsRunRecord(CardEngine& engine, const GraphicsLinks& links, IsUsed 
     });
 }
 
+AsRunRecord::~AsRunRecord() {
+    writeQuiet();
+}
+
+QString AsRunRecord::now() const {
+    return momentText(engine_.ports().clock.now());
+}
+
 void AsRunRecord::write(QJsonObject happening, const QString& event, qint64 run) {
     happening.insert(u"event"_s, event);
-    happening.insert(u"at"_s, momentText(engine_.ports().clock.now()));
+    if (!happening.contains("at"_L1)) happening.insert(u"at"_s, now());
     if (run != 0) happening.insert(u"run"_s, QString(console_ + QString::number(run)));
     file_.append(happening);
 }
@@ -70,10 +83,33 @@ void AsRunRecord::begin(const Asker& asker) {
         fired.insert(u"row"_s, row);
         fired.insert(u"caption"_s, state.cards.entry(asker.place->set, row).shownCaption());
     }
-    write(fired, u"fired"_s, asker.run);
+    if (asker.isAttended()) return write(fired, u"fired"_s, asker.run);
+    fired.insert(u"at"_s, now());
+    untold_[asker.run] = fired;
+}
+
+void AsRunRecord::tellOf(qint64 run) {
+    if (const auto untold = untold_.extract(run)) write(untold.mapped(), u"fired"_s, run);
+}
+
+void AsRunRecord::countQuiet(const QJsonObject& fired, const QString& outcome) {
+    Quiet& quiet = quiet_[fired["by"_L1].toString() + u' ' + fired["script"_L1].toString() + u' ' + outcome];
+    if (++quiet.times > 1) return;
+    quiet.card = fired;
+    quiet.card.insert(u"outcome"_s, outcome);
+    if (!quietTimer_.isActive()) quietTimer_.start();
+}
+
+void AsRunRecord::writeQuiet() {
+    for (auto& [card, quiet] : std::exchange(quiet_, {})) {
+        quiet.card.insert(u"times"_s, quiet.times);
+        quiet.card.insert(u"until"_s, now());
+        write(quiet.card, u"quiet"_s, 0);
+    }
 }
 
 void AsRunRecord::end(const Asker& asker, RunOutcome outcome) {
+    if (const auto untold = untold_.extract(asker.run)) return countQuiet(untold.mapped(), outcomeText(outcome));
     QJsonObject ran{{u"outcome"_s, outcomeText(outcome)}};
     const QString sponsor = engine_.state().variables.text(u"@SPONSOR");
     if (!sponsor.isEmpty()) ran.insert(u"sponsor"_s, sponsor);
@@ -85,6 +121,7 @@ void AsRunRecord::addAnswer(const Question& question, const QString& answer) {
                       {u"answer"_s, answer}};
     const int choice = question.choice(answer);
     if (choice >= 0) given.insert(u"text"_s, question.choices[static_cast<size_t>(choice)].text);
+    tellOf(question.asker.run);
     write(given, u"answer"_s, question.asker.run);
 }
 
@@ -93,6 +130,7 @@ void AsRunRecord::addLine(LinkId link, const ReplyMatcher::SentLine& sent, bool 
     // One that the server did not take before it went is in the record already.
     if (lost && sent.number <= lastLine_) return addReply(link, sent, u"not taken"_s);
     lastLine_ = sent.number;
+    tellOf(sent.asker.run);
     QJsonObject line{{u"link"_s, link == LinkId::Main ? u"main"_s : u"remote"_s},
                      {u"line"_s, sent.line},
                      {u"number"_s, sent.number}};

@@ -33,6 +33,7 @@ function showButtons(box, wanted) {
     button.onclick = want.press;
     button.className = want.classes ?? "";
     if (want.pressed !== undefined) button.setAttribute("aria-pressed", want.pressed);
+    if (want.label) button.setAttribute("aria-label", want.label);
     const text = want.note ? `${want.text}\u0000${want.note}` : want.text;
     if (button.dataset.text !== text) {
       button.dataset.text = text;
@@ -74,7 +75,8 @@ function makeScores() {
   for (const side of ["home", "away"]) {
     const box = document.createElement("div");
     box.className = "score";
-    box.innerHTML = "<h3></h3><button type=button>−</button><output></output><button type=button>+</button>";
+    box.innerHTML =
+      "<h3></h3><button type=button>−</button><output></output><button type=button>+</button><small></small>";
     box.id = `score-${side}`;
     const [less, more] = box.querySelectorAll("button");
     less.onclick = () => ask(`/api/scores/${side}`, { step: -1 });
@@ -91,8 +93,12 @@ function showScores() {
     const box = at(`score-${side}`);
     const name = state.teams[side].name || side;
     const score = state.scores[side];
-    box.querySelector("h3").textContent = state.scores.manual ? name : `${name}, on air ${score.inUse}`;
-    box.querySelector("output").textContent = score.manual;
+    box.querySelector("h3").textContent = name;
+    const shown = box.querySelector("output");
+    shown.setAttribute("aria-label", name);
+    if (shown.textContent !== score.inUse) shown.textContent = score.inUse;
+    // What the steppers step, where another score is in use.
+    box.querySelector("small").textContent = state.scores.manual ? "" : `manual ${score.manual}`;
     const [less, more] = box.querySelectorAll("button");
     less.setAttribute("aria-label", `${name} one less`);
     more.setAttribute("aria-label", `${name} one more`);
@@ -111,8 +117,8 @@ function showFives() {
     const team = state.teams[side];
     box.querySelector("h3").textContent = team.name || side;
     showButtons(box.querySelector(".five"), Object.entries(team.five).map(([number, player]) => ({ key: number,
-      text: player, pressed: place?.side === side && place.number === number,
-      press: () => { place = { side, number }; show(); } })));
+      text: player, label: `${team.name || side}, place ${number}: ${player}`,
+      pressed: place?.side === side && place.number === number, press: () => { place = { side, number }; show(); } })));
     showButtons(box.querySelector(".players"), Object.entries(team.players).sort(([a], [b]) => a - b)
       .map(([index, player]) => ({ key: index, text: player.text, pressed: player.tagged !== "",
         press: () => choosePlayer(side, index, player) })));
