@@ -26,7 +26,7 @@ class KeyFilter : public QObject {
     // A key of the window, which no control has.
     struct WindowKey {
         QStringView key;  // "Ctrl+K"
-        QStringView deed;
+        const char* deed;  // marked for translation
         void (KeyFilter::*pressed)();
     };
     [[nodiscard]] static std::span<const WindowKey> windowKeys();
