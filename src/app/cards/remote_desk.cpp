@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QSslKey>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -20,8 +22,8 @@ std::optional<QSslConfiguration> readTls(const RemoteOptions::Control& options, 
     QSslKey key(bytes, QSsl::Rsa);
     if (key.isNull()) key = QSslKey(bytes, QSsl::Ec);
     const QList<QSslCertificate> chain = QSslCertificate::fromPath(options.certificate);
-    if (key.isNull()) fault = options.key + u": no private key"_s;
-    if (chain.isEmpty()) fault = options.certificate + u": no certificate"_s;
+    if (key.isNull()) fault = translate("cards", "%1: no private key").arg(options.key);
+    if (chain.isEmpty()) fault = translate("cards", "%1: no certificate").arg(options.certificate);
     if (!fault.isEmpty()) return std::nullopt;
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setLocalCertificateChain(chain);
