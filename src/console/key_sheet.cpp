@@ -69,19 +69,29 @@ KeySheet::KeySheet(const FormModel& form, QWidget& console) : QDialog(&console) 
     grid->setHorizontalSpacing(12);
     const std::vector<Line> all = lines(form);
     const int rows = (static_cast<int>(all.size()) + kColumns - 1) / kColumns;
+    std::vector<QLabel*> deeds;
     for (int i = 0; i < static_cast<int>(all.size()); ++i) {
         grid->addWidget(word(all[i].key, true), i % rows, i / rows * 2);
-        grid->addWidget(word(all[i].deed, false), i % rows, i / rows * 2 + 1);
+        deeds.push_back(word(all[i].deed, false));
+        grid->addWidget(deeds.back(), i % rows, i / rows * 2 + 1);
+        grid->setColumnStretch(i / rows * 2 + 1, 1);
     }
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
     area->setWidget(sheet);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 4, 4);
     column->addWidget(area);
     const int bar = area->verticalScrollBar()->sizeHint().width();
-    const QSize wanted = sheet->sizeHint() + QSize(bar + 12, bar + 12);
-    resize(wanted.boundedTo(console.screen()->availableSize() - QSize(20, 60)));
+    const QSize frame(bar + 12, bar + 12);
+    const QSize room = console.screen()->availableSize() - QSize(20, 60);
+    QSize wanted = sheet->sizeHint() + frame;
+    if (wanted.width() > room.width()) {
+        for (QLabel* deed : deeds) deed->setWordWrap(true);
+        wanted = {room.width(), grid->heightForWidth(room.width() - frame.width()) + frame.height()};
+    }
+    resize(wanted.boundedTo(room));
 }
 
 void KeySheet::keyPressEvent(QKeyEvent* event) {

@@ -33,7 +33,7 @@ void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkCo
 NetworkPanel::NetworkPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.Frame4) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 10, 12, 12);
-    grid->addWidget(word(translate("console", "Remote server")), 0, 0);
+    grid->addWidget(word(translate("console", "Remote server")), 0, 0, 1, 4);
     grid->addWidget(mirrors.list(controls.cmbCASPARREMOTELIST), 1, 0, 1, 4);
     addAddress(mirrors, grid, 2, kRemoteLinkControls);
     grid->setRowStretch(4, 1);

@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>Tries a lost main link again every 2 seconds</source>
-        <translation>Δοκιμάζει ξανά κάθε 2 δευτερόλεπτα μια χαμένη κύρια σύνδεση</translation>
+        <translation>Δοκιμάζει τη χαμένη κύρια σύνδεση κάθε 2 δευτερόλεπτα</translation>
     </message>
     <message>
         <source>Address of the remote graphics server; Enter connects</source>
@@ -661,7 +661,7 @@
     </message>
     <message>
         <source>Tries a lost remote link again every 2 seconds</source>
-        <translation>Δοκιμάζει ξανά κάθε 2 δευτερόλεπτα μια χαμένη απομακρυσμένη σύνδεση</translation>
+        <translation>Δοκιμάζει τη χαμένη απομακρυσμένη σύνδεση κάθε 2 δευτερόλεπτα</translation>
     </message>
     <message>
         <source>Main graphics link</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>A command line for the main server; Enter sends, Up recalls earlier ones</source>
-        <translation>Γραμμή εντολής για τον κύριο διακομιστή· το Enter στέλνει, το πάνω βέλος φέρνει παλαιότερες</translation>
+        <translation>Γραμμή εντολής του κύριου διακομιστή· Enter: αποστολή, πάνω βέλος: παλαιότερες</translation>
     </message>
     <message>
         <source>Sends the command line</source>
@@ -849,7 +849,7 @@
     </message>
     <message>
         <source>Away player %1: left button tags, right button tags as the other</source>
-        <translation>Παίκτης φιλοξενουμένων %1: το αριστερό κουμπί τον επιλέγει, το δεξί ως δεύτερο</translation>
+        <translation>Φιλοξενούμενος %1: αριστερό κουμπί τον επιλέγει, δεξί ως δεύτερο</translation>
     </message>
     <message>
         <source>Away team</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>Home player %1: left button tags, right button tags as the other</source>
-        <translation>Παίκτης γηπεδούχων %1: το αριστερό κουμπί τον επιλέγει, το δεξί ως δεύτερο</translation>
+        <translation>Γηπεδούχος %1: αριστερό κουμπί τον επιλέγει, δεξί ως δεύτερο</translation>
     </message>
     <message>
         <source>Home team</source>
