@@ -888,7 +888,7 @@
     </message>
     <message>
         <source>changed, not saved, not applied</source>
-        <translation>άλλαξε, δεν αποθηκεύτηκε, δεν εφαρμόστηκε</translation>
+        <translation>άλλαξε, μη αποθηκευμένη, μη ενεργή</translation>
     </message>
     <message>
         <source>Enter edits the value, Alt+Down opens its list or picker</source>
@@ -944,19 +944,19 @@
     </message>
     <message>
         <source>1 row not saved</source>
-        <translation>1 γραμμή δεν αποθηκεύτηκε</translation>
+        <translation>1 γραμμή μη αποθηκευμένη</translation>
     </message>
     <message>
         <source>%1 rows not saved</source>
-        <translation>%1 γραμμές δεν αποθηκεύτηκαν</translation>
+        <translation>%1 γραμμές μη αποθηκευμένες</translation>
     </message>
     <message>
         <source>1 row not applied</source>
-        <translation>1 γραμμή δεν εφαρμόστηκε</translation>
+        <translation>1 γραμμή μη ενεργή</translation>
     </message>
     <message>
         <source>%1 rows not applied</source>
-        <translation>%1 γραμμές δεν εφαρμόστηκαν</translation>
+        <translation>%1 γραμμές μη ενεργές</translation>
     </message>
     <message>
         <source>There are changes that are not saved. Close without them?</source>
@@ -1000,11 +1000,11 @@
     </message>
     <message>
         <source>not saved</source>
-        <translation>δεν αποθηκεύτηκε</translation>
+        <translation>μη αποθηκευμένη</translation>
     </message>
     <message>
         <source>not applied</source>
-        <translation>δεν εφαρμόστηκε</translation>
+        <translation>μη ενεργή</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not taken: a choice is written VALUE:CHOICE|CHOICE, as in ON:ON|OFF.</source>
