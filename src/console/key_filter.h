@@ -25,7 +25,7 @@ class KeyFilter : public QObject {
 
     // A key of the window, which no control has.
     struct WindowKey {
-        QStringView key;  // "Ctrl+K"
+        QStringView key;   // "Ctrl+K"
         const char* deed;  // marked for translation
         void (KeyFilter::*pressed)();
     };
