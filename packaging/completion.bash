@@ -46,6 +46,10 @@ _zelvor_cards()
             COMPREPLY=($(compgen -W 'text json sarif' -- "$cur"))
             return
             ;;
+        --language-ui)
+            COMPREPLY=($(compgen -W 'en el' -- "$cur"))
+            return
+            ;;
         --language | --pack)
             COMPREPLY=($(compgen -W "$(_zelvor_packs)" -- "$cur"))
             return

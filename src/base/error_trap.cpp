@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -15,7 +17,7 @@ QString errorMessage(const ErrorPlace& place, int number, const QString& text) {
 
 QString errorTitle(const ErrorPlace& place) {
     const ScriptPlace& at = place.asker.at;
-    return at.card.isEmpty() ? QString() : u"Error in "_s + at.text();
+    return at.card.isEmpty() ? QString() : translate("base", "Error in %1").arg(at.text());
 }
 
 QString errorLogPath(const QString& executablePath, const QString& appFolder) {

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "ask_dialog/clear_button.h"
+#include "base/translate.h"
 #include "console/theme.h"
 #include "engine/card_engine.h"
 
@@ -31,9 +32,9 @@ QString severityWord(Severity severity) {
         case Severity::Information:
             return {};
         case Severity::Warning:
-            return u"Warning"_s;
+            return translate("console", "Warning");
         case Severity::Critical:
-            return u"Error"_s;
+            return translate("console", "Error");
     }
     return {};
 }
@@ -150,7 +151,7 @@ void Boxes::showNotice(const QString& card, const QString& title, const QString&
     notice_->setAttribute(Qt::WA_ShowWithoutActivating);
     Box box(*notice_, title, text, QDialogButtonBox::Ok);
     addSeverity(box, severity);
-    auto* quiet = new QCheckBox(u"Do not show this again for this card until cards are reloaded"_s);
+    auto* quiet = new QCheckBox(translate("console", "Do not show this again for this card until cards are reloaded"));
     quiet->setObjectName(u"quiet"_s);
     box.column->addWidget(quiet);
     connect(notice_, &QDialog::finished, this, [this, card, quiet] {
@@ -165,8 +166,10 @@ void Boxes::countSilenced(const QString& card) {
     ++silenced_[CardEngine::scriptName(card)];
     int all = 0;
     for (const auto& [name, count] : silenced_) all += count;
-    const QString whose = silenced_.size() == 1 ? silenced_.begin()->first : u"%1 cards"_s.arg(silenced_.size());
-    Q_EMIT silenced((all == 1 ? u"1 message of "_s : u"%1 messages of "_s.arg(all)) + whose + u" not shown"_s);
+    const QString whose =
+        silenced_.size() == 1 ? silenced_.begin()->first : translate("console", "%1 cards").arg(silenced_.size());
+    Q_EMIT silenced(all == 1 ? translate("console", "1 message of %1 not shown").arg(whose)
+                             : translate("console", "%1 messages of %2 not shown").arg(QString::number(all), whose));
 }
 
 void Boxes::forgetQuietCards() {

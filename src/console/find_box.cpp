@@ -9,6 +9,7 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include "base/translate.h"
 #include "console/theme.h"
 
 using namespace Qt::StringLiterals;
@@ -77,18 +78,18 @@ class FindDelegate : public QStyledItemDelegate {
 FindBox::FindBox(QWidget& console)
     : QDialog(&console), model_(new FindModel(this)), typed_(new QLineEdit), view_(new QListView) {
     setObjectName(u"frmFIND"_s);
-    setWindowTitle(u"Find"_s);
+    setWindowTitle(translate("console", "Find"));
     typed_->setObjectName(u"txtFIND"_s);
-    typed_->setPlaceholderText(u"Card, key, script, command or variable"_s);
-    typed_->setAccessibleName(u"What to find"_s);
+    typed_->setPlaceholderText(translate("console", "Card, key, script, command or variable"));
+    typed_->setAccessibleName(translate("console", "What to find"));
     typed_->installEventFilter(this);
     view_->setObjectName(u"lstFIND"_s);
-    view_->setAccessibleName(u"Found"_s);
+    view_->setAccessibleName(translate("console", "Found"));
     view_->setModel(model_);
     view_->setItemDelegate(new FindDelegate(this));
     view_->setUniformItemSizes(true);
     view_->setFocusPolicy(Qt::NoFocus);
-    auto* help = new QLabel(u"Enter fires, Shift+Enter fires and asks, Esc leaves"_s);
+    auto* help = new QLabel(translate("console", "Enter fires, Shift+Enter fires and asks, Esc leaves"));
     auto* column = new QVBoxLayout(this);
     column->addWidget(typed_);
     column->addWidget(view_, 1);

@@ -53,9 +53,11 @@ KeyFilter::KeyFilter(QWidget& form, const FormModel& model) : QObject(&form), fo
 
 std::span<const KeyFilter::WindowKey> KeyFilter::windowKeys() {
     static constexpr std::array kKeys{
-        WindowKey{u"F12", u"Opens or closes the sheet of keys", &KeyFilter::sheetKey},
-        WindowKey{u"Ctrl+K", u"Finds cards, scripts, commands and variables", &KeyFilter::findKey},
-        WindowKey{u"Ctrl+F11", u"Fills the screen without a frame, or gives it back", &KeyFilter::fullScreenKey},
+        WindowKey{u"F12", QT_TRANSLATE_NOOP("console", "Opens or closes the sheet of keys"), &KeyFilter::sheetKey},
+        WindowKey{u"Ctrl+K", QT_TRANSLATE_NOOP("console", "Finds cards, scripts, commands and variables"),
+                  &KeyFilter::findKey},
+        WindowKey{u"Ctrl+F11", QT_TRANSLATE_NOOP("console", "Fills the screen without a frame, or gives it back"),
+                  &KeyFilter::fullScreenKey},
     };
     return kKeys;
 }

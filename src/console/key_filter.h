@@ -25,8 +25,8 @@ class KeyFilter : public QObject {
 
     // A key of the window, which no control has.
     struct WindowKey {
-        QStringView key;  // "Ctrl+K"
-        QStringView deed;
+        QStringView key;   // "Ctrl+K"
+        const char* deed;  // marked for translation
         void (KeyFilter::*pressed)();
     };
     [[nodiscard]] static std::span<const WindowKey> windowKeys();

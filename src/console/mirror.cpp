@@ -35,7 +35,7 @@ void applyCommon(const Control& control, QWidget* widget, Property property) {
     if (property == Property::Enabled) widget->setEnabled(control.enabled());
     if (property == Property::Text) {
         const QString hint = control.hint();
-        widget->setAccessibleName(control.text().isEmpty() ? hint : hint + u": "_s + control.text());
+        widget->setAccessibleName(control.text().isEmpty() ? hint : hint + u": "_s + control.shownText());
     }
 }
 
@@ -77,7 +77,7 @@ TextLabel* Mirrors::label(const ControlRow& row, int index, const TextLabel::Loo
     if (!row.key.isEmpty()) widget->setFocusPolicy(Qt::TabFocus);
     follow(control, widget, [&control, widget, plain = look.text](Property property) {
         applyCommon(control, widget, property);
-        if (property == Property::Text) widget->setText(control.text());
+        if (property == Property::Text) widget->setText(control.shownText());
         if (property == Property::Role) widget->setTextRole(textRole(control, plain));
         if (isColour(property)) widget->setColours(shown(control.backColour()), shown(control.foreColour()));
     });
@@ -95,7 +95,7 @@ TextLabel* Mirrors::copy(const ControlRow& row, const QString& objectName, const
     widget->setHint(control.hint());
     follow(control, widget, [&control, widget](Property property) {
         applyCommon(control, widget, property);
-        if (property == Property::Text) widget->setText(control.text());
+        if (property == Property::Text) widget->setText(control.shownText());
     });
     return widget;
 }
@@ -104,7 +104,7 @@ void Mirrors::bindButton(ConsoleButton* button, Control& control) const {
     button->setHint(control.tip());
     follow(control, button, [&control, button](Property property) {
         applyCommon(control, button, property);
-        if (property == Property::Text) button->setCaption(control.text());
+        if (property == Property::Text) button->setCaption(control.shownText());
         if (property == Property::Checked) button->setSelected(control.checked());
         if (isColour(property)) button->setColours(shown(control.backColour()), shown(control.foreColour()));
     });
@@ -167,7 +167,7 @@ Button* bindCheckable(Button* widget, Control& control) {
     follow(control, widget, [&control, widget](Property property) {
         applyCommon(control, widget, property);
         const QSignalBlocker quiet(widget);
-        if (property == Property::Text) widget->setText(control.text());
+        if (property == Property::Text) widget->setText(control.shownText());
         if (property == Property::Checked) widget->setChecked(control.checked());
         if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
     });

@@ -1,5 +1,7 @@
 #include "data/connection_status.h"
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -21,15 +23,16 @@ void ConnectionStatus::show() {
     const bool tries = utf8_.standing == Standing::Trying || greek_.standing == Standing::Trying;
     if (tries != timer_.isActive()) tries ? timer_.start() : timer_.stop();
     if (utf8_.standing == Standing::None) {
-        label_.setText(u"database none"_s);
+        label_.setText(translate("data", "database none"));
         label_.setRole(Role::Off);
         return;
     }
     const bool isGreek = utf8_.standing == Standing::Connected &&
                          (greek_.standing == Standing::Trying || greek_.standing == Standing::Down);
     const Side& worse = isGreek ? greek_ : utf8_;
-    label_.setText(u"database %1 "_s.arg(connections_.connectionNumber()) +
-                   (isGreek ? u"connected, Greek "_s : QString()) + words(worse));
+    const QString text =
+        isGreek ? translate("data", "database %1 connected, Greek %2") : translate("data", "database %1 %2");
+    label_.setText(text.arg(QString::number(connections_.connectionNumber()), words(worse)));
     label_.setRole(roleOf(worse));
 }
 
@@ -44,10 +47,10 @@ void ConnectionStatus::look(Side& side, Standing standing) const {
 }
 
 QString ConnectionStatus::words(const Side& side) {
-    if (side.standing == Standing::Connected) return u"connected"_s;
+    if (side.standing == Standing::Connected) return translate("data", "connected");
     const bool down = side.standing == Standing::Down;
-    if (side.lostAt.isEmpty()) return down ? u"failed"_s : u"trying"_s;
-    return u"lost at "_s + side.lostAt + (down ? QString() : u", trying"_s);
+    if (side.lostAt.isEmpty()) return down ? translate("data", "failed") : translate("data", "trying");
+    return (down ? translate("data", "lost at %1") : translate("data", "lost at %1, trying")).arg(side.lostAt);
 }
 
 Control::Role ConnectionStatus::roleOf(const Side& side) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -39,7 +41,7 @@ void SHOW_ONAIR(const ShowState& state, FormModel& form, const QString& cardFile
 }
 
 void showNoData(const ShowState& state, FormModel& form, const QString& cardFile) {
-    showOnAirLine(form, u"NO DATA"_s, kNoData, captionOf(state, cardFile) + u" found nothing"_s);
+    showOnAirLine(form, u"NO DATA"_s, kNoData, translate("engine", "%1 found nothing").arg(captionOf(state, cardFile)));
 }
 
 void showClear(FormModel& form) {

@@ -4,6 +4,7 @@
 #include <tuple>
 #include <utility>
 
+#include "base/translate.h"
 #include "engine/card_table_reader.h"
 #include "engine/on_air.h"
 
@@ -69,7 +70,8 @@ bool Packs::choosePack(const PackList& packs, const QString& code) {
         number = named->data;
     } else {
         if (!code.isEmpty()) {
-            operator_.message({Asker::Kind::StartUp}, {}, u"PACKS.TXT offers no pack \"%1\"."_s.arg(code),
+            operator_.message({Asker::Kind::StartUp}, {},
+                              translate("engine", "PACKS.TXT offers no pack \"%1\".").arg(code),
                               Operator::Severity::Warning);
         }
         number = askNumber(prompt, languages.size());

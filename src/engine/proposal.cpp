@@ -1,5 +1,6 @@
 #include "engine/proposal.h"
 
+#include "base/translate.h"
 #include "engine/auto_tags.h"
 
 using namespace Qt::StringLiterals;
@@ -14,11 +15,11 @@ using Outcome = CardEngine::Outcome;
 QString whyNot(Outcome outcome) {
     switch (outcome) {
         case Outcome::Failed:
-            return u"failed"_s;
+            return translate("engine", "failed");
         case Outcome::NoScript:
-            return u"no such card"_s;
+            return translate("engine", "no such card");
         case Outcome::NoData:
-            return u"no data"_s;
+            return translate("engine", "no data");
         default:
             return {};
     }

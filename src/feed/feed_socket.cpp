@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <QScopedValueRollback>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -25,7 +27,7 @@ bool FeedSocket::bind(quint16 port) {
         status_.bound(socket_.localPort());
     } else {
         const bool taken = socket_.error() == QAbstractSocket::AddressInUseError;
-        status_.notBound(taken ? u"port in use"_s : socket_.errorString());
+        status_.notBound(taken ? translate("feed", "port in use") : socket_.errorString());
     }
     return bound;
 }

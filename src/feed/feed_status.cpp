@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -35,14 +37,14 @@ FeedStatus::FeedStatus(const ShowState& state, FormModel& form, Clock& clock)
 }
 
 void FeedStatus::bound(quint16 port) {
-    binding_ = u"Bound to port "_s + QString::number(port);
+    binding_ = translate("feed", "Bound to port %1").arg(port);
     reason_.clear();
     show();
     showDetail();
 }
 
 void FeedStatus::notBound(const QString& reason) {
-    binding_ = u"Not bound: "_s + reason;
+    binding_ = translate("feed", "Not bound: %1").arg(reason);
     reason_ = reason;
     show();
     showDetail();
@@ -102,24 +104,25 @@ void FeedStatus::setSilent(bool silent) {
 
 FeedStatus::Status FeedStatus::status() const {
     using Role = Control::Role;
-    if (binding_.isEmpty()) return {u"off"_s, Role::Off};
-    if (!reason_.isEmpty()) return {u"not bound: "_s + reason_, Role::Bad};
-    if (!lastHeard_.isValid()) return {u"bound, nothing heard"_s, Role::Waiting};
-    if (silent_) return {u"silent since "_s + timeOfDay(lastHeard_), Role::Bad};
-    if (!isUnderstood()) return {u"not understood, %1 refused"_s.arg(refused_), Role::Bad};
+    if (binding_.isEmpty()) return {translate("feed", "off"), Role::Off};
+    if (!reason_.isEmpty()) return {translate("feed", "not bound: %1").arg(reason_), Role::Bad};
+    if (!lastHeard_.isValid()) return {translate("feed", "bound, nothing heard"), Role::Waiting};
+    if (silent_) return {translate("feed", "silent since %1").arg(timeOfDay(lastHeard_)), Role::Bad};
+    if (!isUnderstood()) return {translate("feed", "not understood, %1 refused").arg(refused_), Role::Bad};
     QString counts;
     const bool isLate = waiting_ > 0 && isPast(waitingSince_, kDelay);
-    if (isLate) counts += u", %1 waiting"_s.arg(waiting_);
-    if (refused_ > 0) counts += u", %1 refused"_s.arg(refused_);
-    if (cardSince_ && isPast(*cardSince_, kDelay)) return {u"held by a card"_s + counts, Role::Waiting};
-    if (paused_) return {u"paused"_s + counts, Role::Waiting};
+    if (isLate) counts += translate("feed", ", %1 waiting").arg(waiting_);
+    if (refused_ > 0) counts += translate("feed", ", %1 refused").arg(refused_);
+    if (cardSince_ && isPast(*cardSince_, kDelay)) return {translate("feed", "held by a card") + counts, Role::Waiting};
+    if (paused_) return {translate("feed", "paused") + counts, Role::Waiting};
     const QString clock = state_.variables.text(u"@FULLTIMER");
-    return {(clock.isEmpty() ? u"without a clock"_s : clock) + counts, isLate ? Role::Waiting : Role::Good};
+    return {(clock.isEmpty() ? translate("feed", "without a clock") : clock) + counts,
+            isLate ? Role::Waiting : Role::Good};
 }
 
 void FeedStatus::show() {
     const auto [words, role] = status();
-    status_.setText(u"feed "_s + words);
+    status_.setText(translate("feed", "feed %1").arg(words));
     status_.setRole(role);
     const bool stands = silent_ || !isUnderstood();
     // Only then: cards may colour it, too.
@@ -129,14 +132,14 @@ void FeedStatus::show() {
 
 void FeedStatus::showDetail() {
     if (binding_.isEmpty()) {
-        detail_.setText(u"Not bound"_s);
+        detail_.setText(translate("feed", "Not bound"));
         return;
     }
     const QString last = lastHeard_.isValid()
-                             ? QString(u"last datagram "_s + timeOfDay(lastHeard_) + u" from "_s + sender_)
-                             : u"nothing heard"_s;
-    detail_.setText(binding_ + u", "_s + QString::number(handled_) + u" handled, "_s + QString::number(refused_) +
-                    u" refused\n"_s + last);
+                             ? translate("feed", "last datagram %1 from %2").arg(timeOfDay(lastHeard_), sender_)
+                             : translate("feed", "nothing heard");
+    const QString counts = translate("feed", "%1 handled, %2 refused").arg(handled_).arg(refused_);
+    detail_.setText(binding_ + u", "_s + counts + u'\n' + last);
 }
 
 }  // namespace zelvor

@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "base/run_time_error.h"
+#include "base/translate.h"
 #include "engine/arguments.h"
 #include "form/follow.h"
 
@@ -42,8 +43,9 @@ GameFeed::GameFeed(CardEngine& engine, UnattendedCards& cards)
       time_(engine.form().at(controls.lblTime)),
       extraTime_(engine.form().at(controls.lblETime)),
       cards_(cards) {
-    follow(threshold_, {Control::Property::Text}, this,
-           [this] { threshold_.setState(isThreshold(threshold_.text()) ? QString() : u"not a number"_s); });
+    follow(threshold_, {Control::Property::Text}, this, [this] {
+        threshold_.setState(isThreshold(threshold_.text()) ? QString() : translate("feed", "not a number"));
+    });
     connect(&engine.program().databaseWait, &DatabaseWait::over, this, &GameFeed::cardMayRun);
 }
 

@@ -1,6 +1,7 @@
 #include "feed/local_clock.h"
 
 #include "base/run_time_error.h"
+#include "base/translate.h"
 #include "form/follow.h"
 
 using namespace Qt::StringLiterals;
@@ -41,7 +42,7 @@ LocalClock::LocalClock(CardEngine& engine, UnattendedCards& cards)
     const Control& target = form_.at(controls.txtCOUNTDOWNTIME);
     follow(target, {Control::Property::Text}, this, [this, &target] {
         const bool isTime = readTimeOfDay(target.text()).isValid();
-        form_.at(controls.txtCOUNTDOWNTIME).setState(isTime ? QString() : u"not a time"_s);
+        form_.at(controls.txtCOUNTDOWNTIME).setState(isTime ? QString() : translate("feed", "not a time"));
     });
     timer_.setObjectName(u"tmrCLOCKS"_s);
     timer_.setTimerType(Qt::PreciseTimer);

@@ -1,5 +1,7 @@
 #include "feed/unattended_cards.h"
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -55,8 +57,8 @@ void UnattendedCards::showPaused() {
     }
     shown_.start(static_cast<int>(next));
     const QString time = engine_.ports().clock.now().addMSecs(next).toString(u"HH:mm:ss"_s);
-    const QString whose = cards.size() == 1 ? cards.constFirst() : u"%1 cards"_s.arg(cards.size());
-    label.setText(whose + u" rests until %1: no answer from the database in time"_s.arg(time));
+    const QString whose = cards.size() == 1 ? cards.constFirst() : translate("feed", "%1 cards").arg(cards.size());
+    label.setText(translate("feed", "%1 rests until %2: no answer from the database in time").arg(whose, time));
 }
 
 }  // namespace zelvor

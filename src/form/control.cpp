@@ -3,23 +3,28 @@
 #include <algorithm>
 
 #include "base/run_time_error.h"
+#include "base/translate.h"
 
 namespace zelvor {
 
 namespace {
 
 // An element's own text where the row has one for each.
-QString elementText(QStringView texts, int place) {
-    return texts.contains(u'|') ? texts.split(u'|').at(place).toString() : texts.toString();
+QString elementText(const QString& texts, int place) {
+    return texts.contains(u'|') ? texts.split(u'|').at(place) : texts;
 }
 
 }  // namespace
+
+QString ControlRow::shownHint() const {
+    return translate("form", hint);
+}
 
 Control::Control(const ControlRow& row, int index)
     : row_(row),
       name_(row.name.toString()),
       index_(index),
-      text_(elementText(row.state.text, index - row.elements.first)),
+      text_(elementText(QString::fromUtf8(row.state.text), index - row.elements.first)),
       tag_(row.state.tag.toString()),
       foreColour_(row.state.foreColour),
       visible_(row.state.visible),
@@ -33,16 +38,22 @@ QString Control::displayName() const {
 
 QString Control::hint() const {
     const int place = index_ - row_.elements.first;
-    const QString text = elementText(row_.hint, place);
+    const QString text = elementText(row_.shownHint(), place);
     return text.contains(u"%1") ? text.arg(place + 1) : text;
 }
 
 QString Control::key() const {
-    return elementText(row_.key, index_ - row_.elements.first);
+    return elementText(row_.key.toString(), index_ - row_.elements.first);
 }
 
 QString Control::tip() const {
     return row_.key.isEmpty() ? hint() : hint() + u" (" + key() + u')';
+}
+
+QString Control::shownText() const {
+    const int place = index_ - row_.elements.first;
+    const bool isRows = text_ == elementText(QString::fromUtf8(row_.state.text), place);
+    return isRows && !text_.isEmpty() ? elementText(translate("caption", row_.state.text), place) : text_;
 }
 
 template <class T>

@@ -39,6 +39,8 @@ class Control : public QObject {
 
     // The caption of a label or button, the text of a text box or of a list's selected item.
     [[nodiscard]] const QString& text() const { return text_; }
+    // The text as the operator sees it: the row's own in his language, any other as it is.
+    [[nodiscard]] QString shownText() const;
     [[nodiscard]] const QString& tag() const { return tag_; }
     // nullopt: the theme's own colour.
     [[nodiscard]] std::optional<Colour> backColour() const { return backColour_; }

@@ -18,7 +18,7 @@ QString roleText(ControlRole role);
 
 // A control's properties before anything has happened.
 struct FirstState {
-    QStringView text = {};
+    const char* text = "";
     QStringView tag = {};
     std::optional<Colour> foreColour = {};
     bool visible = true;
@@ -34,15 +34,19 @@ struct ElementNumbers {
 };
 
 // What is known of a control, or of an array of them, beforehand; and the handle by which rules and panels name it.
-// Hint and text of an array: one for all elements, or one each, set apart by '|'.
+// Hint and text of an array: one for all elements, or one each, set apart by '|'. Both are UTF-8; what is marked for
+// translation is shown in the operator's language, while scripts see the text as it stands.
 struct ControlRow {
     ControlKind kind;
     QStringView name;  // as scripts write it
-    QStringView hint;  // what it is for: tool tip and accessible name; "%1" is the element's number, counted from 1
+    const char* hint;  // what it is for: tool tip and accessible name; "%1" is the element's number, counted from 1
     FirstState state = {};
     ElementNumbers elements = {};
     // What the keyboard has for it, "Ctrl+H". Of an array one each, set apart by '|'; one alone leads to its elements.
     QStringView key = {};
+
+    // The hint in the operator's language, of an array for all elements.
+    [[nodiscard]] QString shownHint() const;
 };
 
 }  // namespace zelvor

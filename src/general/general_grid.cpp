@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/translate.h"
 #include "general_rules/row_faults.h"
 
 using namespace Qt::StringLiterals;
@@ -96,11 +97,14 @@ QVariant GeneralGrid::data(const QModelIndex& index, int role) const {
 QVariant GeneralGrid::headerData(int section, Qt::Orientation orientation, int role) const {
     const bool isTip = orientation == Qt::Vertical && role == Qt::ToolTipRole;  // where there is no room for all
     if (role != Qt::DisplayRole && !isTip) return {};
-    if (orientation == Qt::Horizontal) return QStringList{u"Value"_s, u"Title"_s, u"Variable"_s, u"Help"_s}.at(section);
+    if (orientation == Qt::Horizontal)
+        return QStringList{translate("general", "Value"), translate("general", "Title"),
+                           translate("general", "Variable"), translate("general", "Help")}
+            .at(section);
     QStringList marks;
-    if (isChanged(section)) marks += u"changed"_s;
-    if (isUnsaved(section)) marks += u"not saved"_s;
-    if (isUnapplied(section)) marks += u"not applied"_s;
+    if (isChanged(section)) marks += translate("general", "changed");
+    if (isUnsaved(section)) marks += translate("general", "not saved");
+    if (isUnapplied(section)) marks += translate("general", "not applied");
     if (!faults_[section].isEmpty()) marks += faults_[section];
     return marks.isEmpty() ? QString::number(section + 1) : marks.join(u", "_s);
 }
@@ -114,7 +118,9 @@ bool GeneralGrid::setData(const QModelIndex& index, const QVariant& value, int r
     if (!index.isValid() || index.column() != kValue || role != Qt::EditRole) return false;
     const QString typed = value.toString();
     if (!GeneralCell::isWellFormed(typed)) {
-        Q_EMIT refused(u"\"%1\" is not taken: a choice is written VALUE:CHOICE|CHOICE, as in ON:ON|OFF."_s.arg(typed));
+        Q_EMIT refused(
+            translate("general", "\"%1\" is not taken: a choice is written VALUE:CHOICE|CHOICE, as in ON:ON|OFF.")
+                .arg(typed));
         return false;
     }
     setValue(index.row(), typed);

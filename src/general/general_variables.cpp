@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -42,10 +44,10 @@ void GeneralVariables::keepDamaged(const QByteArray& bytes, const GridReading& r
     // A copy: until the grid is saved, the file itself keeps what it holds.
     const bool kept = program_.trap.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator,
                                         [&] { replaceFile(file(u"infodata.dat") + u".bad"_s, bytes); });
-    QString text = u"infodata.dat is damaged in line %1 (%2).\r\nRows before it: %3."_s.arg(reading.damagedLine)
-                       .arg(reading.damage)
-                       .arg(reading.rows.size());
-    if (kept) text += u"\r\nThe damaged file is kept as infodata.dat.bad."_s;
+    QString text = translate("general", "infodata.dat is damaged in line %1 (%2).")
+                       .arg(QString::number(reading.damagedLine), reading.damage) +
+                   u"\r\n"_s + translate("general", "Rows before it: %1.").arg(reading.rows.size());
+    if (kept) text += u"\r\n"_s + translate("general", "The damaged file is kept as infodata.dat.bad.");
     operator_.message({}, kWindowTitle, text, Operator::Severity::Warning);
 }
 
@@ -78,10 +80,10 @@ void GeneralVariables::removeRows(const QList<int>& rows) {
     // Another pack's rows may be loaded while the question is open.
     QList<QPersistentModelIndex> chosen;
     for (const int row : rows) chosen += QPersistentModelIndex(grid_.index(row, 0));
-    const QString what = rows.size() > 1 ? u"%1 rows"_s.arg(rows.size())
+    const QString what = rows.size() > 1 ? translate("general", "%1 rows").arg(rows.size())
                                          : grid_.text(rows[0], general_column::kTitle) + u' ' +
                                                grid_.text(rows[0], general_column::kVariable);
-    if (!operator_.yesNo({}, kWindowTitle, u"Remove "_s + what.trimmed() + u'?')) return;
+    if (!operator_.yesNo({}, kWindowTitle, translate("general", "Remove %1?").arg(what.trimmed()))) return;
     for (const QPersistentModelIndex& row : chosen) {
         if (row.isValid()) grid_.removeRow(row.row());
     }
@@ -95,9 +97,10 @@ void GeneralVariables::importText() {
         if (imported.remarks.empty()) return;
         QStringList shown;
         for (const ImportedRows::Remark& remark : imported.remarks)
-            shown += u"line %1: "_s.arg(remark.line) + remark.text;
+            shown += translate("general", "line %1: %2").arg(QString::number(remark.line), remark.text);
         if (shown.size() > kShownRemarks)
-            shown = shown.mid(0, kShownRemarks) + QStringList(u"and %1 more"_s.arg(shown.size() - kShownRemarks));
+            shown = shown.mid(0, kShownRemarks) +
+                    QStringList(translate("general", "and %1 more").arg(shown.size() - kShownRemarks));
         operator_.message({}, kWindowTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
     });
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -57,12 +59,13 @@ std::optional<QString> unescaped(QStringView field) {
 QString readRow(const QByteArray& line, GeneralRow& row) {
     QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
     const QString text = utf8.decode(line);
-    if (utf8.hasError()) return u"not UTF-8"_s;
+    if (utf8.hasError()) return translate("general", "not UTF-8");
     const QStringList fields = text.split(u'\t');
-    if (fields.size() != general_column::kCount) return u"%1 fields instead of 4"_s.arg(fields.size());
+    if (fields.size() != general_column::kCount)
+        return translate("general", "%1 fields instead of 4").arg(fields.size());
     for (int column = 0; column < general_column::kCount; ++column) {
         const std::optional<QString> field = unescaped(fields[column]);
-        if (!field) return u"unknown escape in field %1"_s.arg(column + 1);
+        if (!field) return translate("general", "unknown escape in field %1").arg(column + 1);
         row[column] = *field;
     }
     return {};
@@ -93,14 +96,15 @@ GridReading readGrid(const QByteArray& bytes) {
         reading.damage = damage;
         return reading;
     };
-    if (lines.isEmpty() || lines[0] != kVersionLine) return damaged(1, u"no version line known here"_s);
+    if (lines.isEmpty() || lines[0] != kVersionLine)
+        return damaged(1, translate("general", "no version line known here"));
     for (qsizetype at = 1; at < lines.size(); ++at) {
         GeneralRow row;
         const QString damage = readRow(lines[at], row);
         if (!damage.isEmpty()) return damaged(at + 1, damage);
         reading.rows.push_back(std::move(row));
     }
-    if (!cutOff.isEmpty()) return damaged(lines.size() + 1, u"cut off"_s);
+    if (!cutOff.isEmpty()) return damaged(lines.size() + 1, translate("general", "cut off"));
     return reading;
 }
 
@@ -114,8 +118,9 @@ ImportedRows importRows(const QStringList& lines) {
         imported.rows.push_back(std::move(row));
         const qsizetype excess = fields.size() - general_column::kCount;
         if (excess == 0) continue;
-        const QString done = excess < 0 ? u"filled with empty ones"_s : u"those after the fourth left out"_s;
-        imported.remarks.push_back({static_cast<int>(at) + 1, u"%1 fields, "_s.arg(fields.size()) + done});
+        const QString text = excess < 0 ? translate("general", "%1 fields, filled with empty ones")
+                                        : translate("general", "%1 fields, those after the fourth left out");
+        imported.remarks.push_back({static_cast<int>(at) + 1, text.arg(fields.size())});
     }
     return imported;
 }

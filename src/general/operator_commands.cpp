@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 
 #include "base/number.h"
+#include "base/translate.h"
 #include "engine/defaults.h"
 
 using namespace Qt::StringLiterals;
@@ -134,7 +135,8 @@ bool OperatorCommands::hasCards(const QString& language) {
 bool OperatorCommands::mayLeaveGeneral() {
     return !general_.grid().hasUnsaved() ||
            engine_.ports().operatorDesk.yesNo(
-               {}, u"General Vars"_s, u"There are changes that are not saved. Change the language without them?"_s);
+               {}, u"General Vars"_s,
+               translate("general", "There are changes that are not saved. Change the language without them?"));
 }
 
 QString OperatorCommands::mnDisplayVars() const {

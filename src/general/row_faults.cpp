@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include "base/translate.h"
 #include "general_rules/general_cell.h"
 
 using namespace Qt::StringLiterals;
@@ -13,8 +14,10 @@ namespace {
 QString choiceFault(const QString& value) {
     const GeneralCell cell(value);
     if (cell.kind() != GeneralCell::Kind::Choice) return {};
-    if (!GeneralCell::isWellFormed(value)) return u"choices without a value and \":\" before them"_s;
-    return cell.choices().join(u'|').contains(u':') ? u"a choice holds \":\", the value is cut there"_s : QString();
+    if (!GeneralCell::isWellFormed(value)) return translate("general", "choices without a value and \":\" before them");
+    return cell.choices().join(u'|').contains(u':')
+               ? translate("general", "a choice holds \":\", the value is cut there")
+               : QString();
 }
 
 }  // namespace
@@ -29,14 +32,14 @@ std::vector<QString> rowFaults(const std::vector<GeneralRow>& rows) {
         const QString& name = rows[i][general_column::kVariable];
         QStringList words;
         if (name.trimmed().isEmpty()) {
-            words += u"no name"_s;
+            words += translate("general", "no name");
         } else if (!name.startsWith(u'@')) {
-            words += u"no \"@\" before the name"_s;
+            words += translate("general", "no \"@\" before the name");
         }
         const QList<qsizetype>& same = rowsOfName[name];
         if (same.size() > 1 && !name.trimmed().isEmpty()) {
             const qsizetype other = same.front() == static_cast<qsizetype>(i) ? same[1] : same.front();
-            words += u"the name of row %1"_s.arg(other + 1);
+            words += translate("general", "the name of row %1").arg(other + 1);
         }
         const QString choice = choiceFault(rows[i][general_column::kValue]);
         if (!choice.isEmpty()) words += choice;

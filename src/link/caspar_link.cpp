@@ -3,6 +3,7 @@
 #include <QNetworkProxy>
 #include <QSignalBlocker>
 
+#include "base/translate.h"
 #include "link/dead_peer.h"
 
 using namespace Qt::StringLiterals;
@@ -12,7 +13,8 @@ namespace zelvor {
 namespace {
 
 QString reasonOf(const QAbstractSocket& socket) {
-    return socket.error() == QAbstractSocket::SocketTimeoutError ? u"timed out"_s : socket.errorString();
+    return socket.error() == QAbstractSocket::SocketTimeoutError ? translate("link", "timed out")
+                                                                 : socket.errorString();
 }
 
 }  // namespace
@@ -37,9 +39,9 @@ void CasparLink::connectTo(const QString& host, const QString& port) {
     decoder_.reset();
     const quint16 number = portNumber(port);
     if (number == 0) {
-        enter(LinkState::Error, u"port \"%1\" is not a number from 1 to 65535"_s.arg(port));
+        enter(LinkState::Error, translate("link", "port \"%1\" is not a number from 1 to 65535").arg(port));
     } else if (host.trimmed().isEmpty()) {
-        enter(LinkState::Error, u"no address"_s);
+        enter(LinkState::Error, translate("link", "no address"));
     } else {
         socket_.connectToHost(host.trimmed(), number);
     }
@@ -57,7 +59,7 @@ void CasparLink::send(const QString& line) {
     if (unsentBytes() <= kLargestUnsent) return;
     discardOnClose(socket_.socketDescriptor());
     dropConnection();
-    enter(LinkState::Error, u"the server does not read"_s);
+    enter(LinkState::Error, translate("link", "the server does not read"));
 }
 
 void CasparLink::finishSending(QDeadlineTimer deadline) {
@@ -95,7 +97,7 @@ void CasparLink::followSocket() {
 }
 
 void CasparLink::enterClosedByServer() {
-    enter(LinkState::PeerClosing, u"the server closed"_s);
+    enter(LinkState::PeerClosing, translate("link", "the server closed"));
 }
 
 void CasparLink::enter(LinkState state, const QString& errorText) {

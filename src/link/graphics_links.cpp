@@ -1,5 +1,7 @@
 #include "link/graphics_links.h"
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -130,7 +132,7 @@ void GraphicsLinks::stopLog() {
 
 // The box stays ticked whether the file can be written or not: the words beside it tell.
 void GraphicsLinks::showLogWritten(bool written) {
-    logStatus_.setText(written ? u"writing"_s : u"cannot be written"_s);
+    logStatus_.setText(written ? translate("link", "writing") : translate("link", "cannot be written"));
     logStatus_.setRole(written ? Control::Role::Plain : Control::Role::Bad);
 }
 

@@ -1,5 +1,6 @@
 #include "link/link_watch.h"
 
+#include "base/translate.h"
 #include "form/follow.h"
 
 using namespace Qt::StringLiterals;
@@ -30,7 +31,7 @@ LinkWatch::LinkWatch(LinkId id, GraphicsLinks& links, FormModel& form, Clock& cl
       id_(id),
       link_(links.link(id)),
       clock_(clock),
-      name_(id == LinkId::Main ? u"main"_s : u"remote"_s),
+      name_(id == LinkId::Main ? translate("link", "main %1") : translate("link", "remote %1")),
       address_(form.at(controlsOf(id).address)),
       port_(form.at(controlsOf(id).port)),
       button_(form.at(controlsOf(id).connect)),
@@ -53,7 +54,7 @@ LinkWatch::LinkWatch(LinkId id, GraphicsLinks& links, FormModel& form, Clock& cl
     });
     follow(port_, {Control::Property::Text}, this, [this] {
         const bool isPort = CasparLink::portNumber(port_.text()) != 0;
-        port_.setState(isPort ? QString() : u"not a number from 1 to 65535"_s);
+        port_.setState(isPort ? QString() : translate("link", "not a number from 1 to 65535"));
     });
     onChange(reconnect_, {Control::Property::Checked}, this, [this] { updateRetrying(); });
     showStatus();
@@ -130,7 +131,7 @@ void LinkWatch::watchAnswers() {
 
 void LinkWatch::retry() {
     if (link_.state() == LinkState::Connecting) {
-        reason_ = u"no answer"_s;
+        reason_ = translate("link", "no answer");
     } else if (!isDown(link_.state())) {
         return;
     }
@@ -186,7 +187,7 @@ void LinkWatch::updateRetrying() {
 
 void LinkWatch::showStatus() {
     const auto [words, role] = status();
-    status_.setText(name_ + u' ' + words);
+    status_.setText(name_.arg(words));
     status_.setRole(role);
 }
 
@@ -194,27 +195,32 @@ LinkWatch::Status LinkWatch::status() const {
     using Role = Control::Role;
     const QString target = host_ + u':' + hostPort_ + u' ';
     QString lines;
-    if (lostLines_ > 0) lines = u", %1 %2 lost"_s.arg(lostLines_).arg(lostLines_ == 1 ? u"line"_s : u"lines"_s);
-    if (!wanted()) return {u"not connected"_s + lines, lines.isEmpty() ? Role::Off : Role::Bad};
+    if (lostLines_ == 1) lines = translate("link", ", 1 line lost");
+    if (lostLines_ > 1) lines = translate("link", ", %1 lines lost").arg(lostLines_);
+    if (!wanted()) return {translate("link", "not connected") + lines, lines.isEmpty() ? Role::Off : Role::Bad};
     if (link_.state() == LinkState::Connected) {
         const auto [words, role] = connectedStatus();
         return {target + words, role};
     }
-    const QString again = retryTimer_.isActive() ? u", trying again"_s : QString();
-    if (!lostAt_.isEmpty()) return {target + u"lost at "_s + lostAt_ + u": "_s + reason_ + lines + again, Role::Bad};
-    if (!reason_.isEmpty()) return {target + u"not connected ("_s + reason_ + u')' + lines + again, Role::Bad};
-    return {target + u"connecting"_s + lines, Role::Waiting};
+    const QString again = retryTimer_.isActive() ? translate("link", ", trying again") : QString();
+    if (!lostAt_.isEmpty())
+        return {target + translate("link", "lost at %1: %2").arg(lostAt_, reason_) + lines + again, Role::Bad};
+    if (!reason_.isEmpty())
+        return {target + translate("link", "not connected (%1)").arg(reason_) + lines + again, Role::Bad};
+    return {target + translate("link", "connecting") + lines, Role::Waiting};
 }
 
 LinkWatch::Status LinkWatch::connectedStatus() const {
     using Role = Control::Role;
-    const QString connected = u"connected"_s;
-    if (silentFor_ > 0) return {connected + u", no answer for %1 s"_s.arg(silentFor_ / 1000), Role::Waiting};
-    if (!refusal_.isEmpty()) return {connected + u", "_s + refusal_, Role::Bad};
-    if (answersSince_ >= 0) return {connected + u", answers again"_s, Role::Good};
-    if (!upAgainAt_.isEmpty())
-        return {connected + u" again at %1: what is on air must be fired again"_s.arg(upAgainAt_), Role::Waiting};
-    return {connected, Role::Good};
+    if (silentFor_ > 0)
+        return {translate("link", "connected, no answer for %1 s").arg(silentFor_ / 1000), Role::Waiting};
+    if (!refusal_.isEmpty()) return {translate("link", "connected, %1").arg(refusal_), Role::Bad};
+    if (answersSince_ >= 0) return {translate("link", "connected, answers again"), Role::Good};
+    if (!upAgainAt_.isEmpty()) {
+        return {translate("link", "connected again at %1: what is on air must be fired again").arg(upAgainAt_),
+                Role::Waiting};
+    }
+    return {translate("link", "connected"), Role::Good};
 }
 
 }  // namespace zelvor

@@ -91,7 +91,7 @@ class Desk:
         self.environment = dict(os.environ, DISPLAY=f":{int(number)}", QT_QPA_PLATFORM="xcb")
         self.start(["openbox"])
         self.feed = free_port()
-        self.console = self.start([program, "--app-folder", folder, "--feed-port", str(self.feed)])
+        self.console = self.start([program, "--language-ui", "en", "--app-folder", folder, "--feed-port", str(self.feed)])
         for box in ("Project Pack Selection", "Επιλογή σύνδεσης"):
             self.wait_for_window(box)
             self.key("Return")

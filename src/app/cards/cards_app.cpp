@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 
 #include "ask/ask_fields.h"
+#include "base/translate.h"
 #include "command_line/command_line.h"
 #include "engine/placeholders.h"
 
@@ -77,7 +78,8 @@ void CardsApp::tellTroubles() {
     for (const LinkId id : {LinkId::Main, LinkId::Remote}) tellTroubles(id);
     connect(&links_, &GraphicsLinks::lineLost, this, [this](LinkId id, const ReplyMatcher::SentLine& lost) {
         if (!linkConsole_.watch(id).isUsed()) return;
-        troubles_.add(lost.asker, u"not sent: "_s + (id == LinkId::Main ? u"main"_s : u"remote"_s) + u" link down"_s);
+        troubles_.add(lost.asker, id == LinkId::Main ? translate("cards", "not sent: main link down")
+                                                     : translate("cards", "not sent: remote link down"));
     });
     connect(&links_, &GraphicsLinks::lineAnswered, this, [this](LinkId id, const ReplyMatcher::Answer& answer) {
         if (!answer.refused()) return troubles_.wentWell(answer.to.asker);
@@ -108,7 +110,7 @@ void CardsApp::answerDesk() {
 }
 
 void CardsApp::takeProposal(int index, const Presser& presser) {
-    cards_.presses().press(u"Proposal %1"_s.arg(index), presser,
+    cards_.presses().press(translate("cards", "Proposal %1").arg(index), presser,
                            [this, index, presser] { desk_.proposals.lblPROPOSED(index, presser); });
 }
 
@@ -142,8 +144,9 @@ void CardsApp::start() {
     nameServers();
     const QStringList faults = remote_.listen(options_.remoteControl);
     if (!faults.isEmpty()) {
-        boxes_.message({Asker::Kind::StartUp}, u"Control from outside"_s,
-                       u"The console does not listen:\r\n"_s + faults.join(u"\r\n"_s), Operator::Severity::Warning);
+        boxes_.message({Asker::Kind::StartUp}, translate("cards", "Control from outside"),
+                       translate("cards", "The console does not listen:") + u"\r\n"_s + faults.join(u"\r\n"_s),
+                       Operator::Severity::Warning);
     }
     startUp_.run();
     remote_.open();
@@ -153,8 +156,9 @@ void CardsApp::keepAsRun() {
     asRunFile_.emplace(program_.folder, clock_.now().date());
     // Nobody has to answer: the cards go on.
     connect(&*asRunFile_, &AsRunFile::failed, this, [this](const QString& reason) {
-        boxes_.message({Asker::Kind::TimedCard}, u"As-run record"_s,
-                       u"What is on air cannot be written down: "_s + reason + u"\r\n"_s + asRunFile_->path(),
+        boxes_.message({Asker::Kind::TimedCard}, translate("cards", "As-run record"),
+                       translate("cards", "What is on air cannot be written down: %1").arg(reason) + u"\r\n"_s +
+                           asRunFile_->path(),
                        Operator::Severity::Warning);
     });
     asRun_.emplace(
@@ -172,9 +176,10 @@ bool CardsApp::mayClose() {
     QStringList reasons;
     const bool isLinked =
         links_.state(LinkId::Main) == Graphics::kConnected || links_.state(LinkId::Remote) == Graphics::kConnected;
-    if (isLinked && !form_.at(controls.lblONAIR).text().isEmpty()) reasons += u"Something is on air."_s;
-    if (settings_.hasUnsaved()) reasons += u"General variables are not saved."_s;
-    return reasons.isEmpty() || boxes_.yesNo({}, u"Close the console?"_s, reasons.join(u"\r\n"_s));
+    if (isLinked && !form_.at(controls.lblONAIR).text().isEmpty())
+        reasons += translate("cards", "Something is on air.");
+    if (settings_.hasUnsaved()) reasons += translate("cards", "General variables are not saved.");
+    return reasons.isEmpty() || boxes_.yesNo({}, translate("cards", "Close the console?"), reasons.join(u"\r\n"_s));
 }
 
 void CardsApp::release() {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
+#include <QLocale>
 #include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
@@ -10,6 +11,7 @@
 #include <cstdio>
 
 #include "app_cards/cards_app.h"
+#include "app_cards/ui_language.h"
 #include "app_cards/user_folder.h"
 #include "command_line/command_line.h"
 #include "console/theme.h"
@@ -22,11 +24,20 @@ namespace {
 constexpr int kNoFolder = 1;
 
 std::vector<zelvor::CommandLine::Option> allOptions() {
-    std::vector<zelvor::CommandLine::Option> options{
-        {u"--app-folder"_s, true}, {u"--user-folder"_s},         {u"--codepage"_s, true}, {u"--feed-port"_s, true},
-        {u"--pack"_s, true},       {u"--connection"_s, true},    {u"--main"_s, true},     {u"--remote"_s, true},
-        {u"--connect"_s},          {u"--query-seconds"_s, true}, {u"--no-as-run"_s},      {u"--help"_s},
-        {u"--version"_s}};
+    std::vector<zelvor::CommandLine::Option> options{{u"--app-folder"_s, true},
+                                                     {u"--user-folder"_s},
+                                                     {u"--codepage"_s, true},
+                                                     {u"--feed-port"_s, true},
+                                                     {u"--pack"_s, true},
+                                                     {u"--connection"_s, true},
+                                                     {u"--main"_s, true},
+                                                     {u"--remote"_s, true},
+                                                     {u"--connect"_s},
+                                                     {u"--query-seconds"_s, true},
+                                                     {u"--no-as-run"_s},
+                                                     {u"--language-ui"_s, true},
+                                                     {u"--help"_s},
+                                                     {u"--version"_s}};
     std::ranges::copy(zelvor::remoteOptionNames(), std::back_inserter(options));
     return options;
 }
@@ -47,6 +58,8 @@ Fires the cards of a pack on the air, from one window.
   --main HOST:PORT      the address of the main graphics server
   --remote HOST:PORT    the same for the remote one
   --connect             connects the servers named so
+  --language-ui CODE    the console's own words: en for English, el for Greek; the desktop's language without, English
+                        where the console does not speak it
   --no-as-run           keeps no record of what was on air; without it there is one a day in AS-RUN, in the folder
   --control HOST:PORT   lets HTTP and web sockets control the console, e.g. 127.0.0.1:7700; a page for tablets is at /
   --control-token FILE  asks them for the token in this file; needed on an address that others reach
@@ -85,6 +98,15 @@ zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
     return wanted;
 }
 
+// Throws UsageError.
+QString uiLanguage(const zelvor::CommandLine& line) {
+    const auto asked = line.value(u"--language-ui");
+    if (!asked) return zelvor::UiLanguage::firstSpoken(QLocale::system().uiLanguages());
+    const QStringList known = zelvor::UiLanguage::all();
+    if (!known.contains(*asked)) throw zelvor::UsageError{u"--language-ui takes "_s + known.join(u" or "_s)};
+    return *asked;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -111,12 +133,15 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(QIcon(u":/icon.png"_s));
     const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
     zelvor::CardsApp::Options wanted;
+    QString language;
     try {
         wanted = readOptions(line);
+        language = uiLanguage(line);
     } catch (const zelvor::UsageError& error) {
         err << error.line(u"zelvor-cards"_s);
         return zelvor::UsageError::kExitStatus;
     }
+    const zelvor::UiLanguage spoken(language);
     const QString programFolder = QApplication::applicationDirPath();
     const bool namesNone = !line.has(u"--user-folder") && !line.has(u"--app-folder");
     if (line.has(u"--user-folder") || (namesNone && zelvor::worksOnUserFolder(programFolder))) {

@@ -7,6 +7,8 @@
 #include <QSslKey>
 #include <memory>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -45,11 +47,11 @@ std::optional<QSslConfiguration> readTls(const RemoteOptions::Control& options, 
     QSslKey key(keyBytes, QSsl::Rsa);
     if (key.isNull()) key = QSslKey(keyBytes, QSsl::Ec);
     if (key.isNull()) {
-        fault = options.key + u": no private key of RSA or EC in PEM, or one with a password"_s;
+        fault = translate("cards", "%1: no private key of RSA or EC in PEM, or one with a password").arg(options.key);
     } else if (chain.isEmpty()) {
-        fault = options.certificate + u": no certificate in PEM"_s;
+        fault = translate("cards", "%1: no certificate in PEM").arg(options.certificate);
     } else if (!isKeyOf(chain.constFirst(), key)) {
-        fault = options.key + u": not the key of the certificate "_s + options.certificate;
+        fault = translate("cards", "%1: not the key of the certificate %2").arg(options.key, options.certificate);
     }
     if (!fault.isEmpty()) return std::nullopt;
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();

@@ -2,6 +2,8 @@
 
 #include <QCursor>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -46,7 +48,7 @@ void SettingsDesk::choose(const QString& item) {
 std::vector<FindEntry> SettingsDesk::commands() const {
     std::vector<FindEntry> found;
     for (const MainMenu::Item& item : menu_.items())
-        found.push_back({FindEntry::Kind::Command, item.caption, u"main menu"_s, item.name});
+        found.push_back({FindEntry::Kind::Command, item.caption, translate("cards", "main menu"), item.name});
     return found;
 }
 

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -37,13 +39,14 @@ bool worksOnUserFolder(const QString& programFolder) {
 
 QString makeUserFolder(const QString& folder, const QString& demo) {
     if (QFile::exists(folder)) return {};
-    if (!QFile::exists(demo + u"/MODULES"_s)) return u"There is no demo to copy: %1"_s.arg(demo);
+    if (!QFile::exists(demo + u"/MODULES"_s)) return translate("cards", "There is no demo to copy: %1").arg(demo);
     QDir().mkpath(QFileInfo(folder).path());
     // Copied beside it first, so that a copy that broke off is never taken for a whole one.
     const QTemporaryDir part(folder + u"-XXXXXX"_s);
     const QString whole = part.filePath(u"demo"_s);
     if (part.isValid() && QDir().mkpath(whole) && copyTree(demo, whole) && QDir().rename(whole, folder)) return {};
-    return QFile::exists(folder) ? QString() : u"The folder %1 could not be made from %2"_s.arg(folder, demo);
+    return QFile::exists(folder) ? QString()
+                                 : translate("cards", "The folder %1 could not be made from %2").arg(folder, demo);
 }
 
 }  // namespace zelvor

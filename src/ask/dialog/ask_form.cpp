@@ -9,6 +9,7 @@
 
 #include "ask_dialog/clear_button.h"
 #include "ask_dialog/pick_list_view.h"
+#include "base/translate.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,8 +21,8 @@ constexpr int kRowsShown = 20;
 constexpr int kWidth = 460;  // pixels
 
 QString headerText(size_t rows) {
-    const QString count = rows == 1 ? u"1 row"_s : u"%1 rows"_s.arg(rows);
-    return count + u": type a name or a number, then Enter. Esc ends the card."_s;
+    const QString count = rows == 1 ? translate("ask", "1 row") : translate("ask", "%1 rows").arg(rows);
+    return translate("ask", "%1: type a name or a number, then Enter. Esc ends the card.").arg(count);
 }
 
 Question questionOf(const PickList& list, const Asker& asker) {
@@ -53,9 +54,9 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
     fault->setWordWrap(true);
     fault->setVisible(!list.fault().isEmpty());
     auto* view = new PickListView(list, this);
-    auto* cancel = new QPushButton(u"Cancel"_s, this);
+    auto* cancel = new QPushButton(translate("ask", "Cancel"), this);
     cancel->setObjectName(u"cmdCANCEL"_s);
-    cancel->setToolTip(u"Ends the card without an answer (Esc)"_s);
+    cancel->setToolTip(translate("ask", "Ends the card without an answer (Esc)"));
     cancel->setAutoDefault(false);  // Enter belongs to the list
     auto* column = new QVBoxLayout(this);
     column->addWidget(header);

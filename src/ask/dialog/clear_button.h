@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "base/clearing.h"
+#include "base/translate.h"
 
 namespace zelvor {
 
@@ -11,7 +12,7 @@ namespace zelvor {
 inline QPushButton* makeClearButton(Clearing& clearing) {
     auto* button = new QPushButton(QStringLiteral("CLEAR"));
     button->setObjectName(QStringLiteral("cmdCLEAR"));
-    button->setToolTip(QStringLiteral("Ends the card without an answer and clears the screen (Ctrl+Shift+Delete)"));
+    button->setToolTip(translate("ask", "Ends the card without an answer and clears the screen (Ctrl+Shift+Delete)"));
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     QObject::connect(button, &QPushButton::clicked, &clearing, &Clearing::press);

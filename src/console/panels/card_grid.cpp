@@ -2,6 +2,8 @@
 
 #include <QGridLayout>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -54,7 +56,9 @@ void CardGrid::showFaces() {
         buttons_.at(i)->setFace(face);
         const QString hint = form_.at(controls.cmbCARD, i).tip();
         buttons_.at(i)->setHint(face.trouble.isEmpty() ? hint : hint + u"\n"_s + face.trouble);
-        QString name = u"Card %1: "_s.arg(i + 1) + (face.quiet ? u"empty"_s : card.shownCaption());
+        QString name =
+            translate("console", "Card %1: %2")
+                .arg(QString::number(i + 1), face.quiet ? translate("console", "empty") : card.shownCaption());
         if (const QString state = buttons_.at(i)->stateLine(); !state.isEmpty()) name += u", "_s + state;
         if (!face.trouble.isEmpty()) name += u", "_s + face.trouble;
         buttons_.at(i)->setAccessibleName(name);

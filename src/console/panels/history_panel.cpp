@@ -6,6 +6,7 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include "base/translate.h"
 #include "console/line_view.h"
 #include "form/follow.h"
 
@@ -22,12 +23,12 @@ HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
     column->setContentsMargins(10, 6, 10, 8);
     column->setSpacing(4);
     auto* head = new QHBoxLayout;
-    head->addWidget(word(u"Socket history"_s));
+    head->addWidget(word(translate("console", "Socket history")));
     head->addStretch(1);
     raw_->setCheckable(true);
-    raw_->setCaption(u"As sent"_s);
-    raw_->setHint(u"Shows the template data as it was sent"_s);
-    raw_->setAccessibleName(u"Template data as it was sent"_s);
+    raw_->setCaption(translate("console", "As sent"));
+    raw_->setHint(translate("console", "Shows the template data as it was sent"));
+    raw_->setAccessibleName(translate("console", "Template data as it was sent"));
     head->addWidget(raw_);
     head->addWidget(mirrors.button(controls.cmdLASTXML));
     head->addWidget(mirrors.button(controls.cmdGASPHISTCLOSE));

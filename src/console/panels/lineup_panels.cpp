@@ -1,5 +1,7 @@
 #include "console/panels/lineup_panels.h"
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -25,8 +27,8 @@ QGridLayout* lineUps(const Mirrors& mirrors, const ControlRow& home, const Contr
             grid->addWidget(number, row, player + 1);
         }
     };
-    addSide(1, u"Home"_s, home);
-    addSide(2, u"Away"_s, away);
+    addSide(1, translate("console", "Home"), home);
+    addSide(2, translate("console", "Away"), away);
     return grid;
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "base/translate.h"
 #include "console/line_view.h"
 #include "form/follow.h"
 
@@ -14,8 +15,8 @@ namespace {
 
 // Address, port, connect button and "Reconnect" box of a link, a row each for boxes and their names.
 void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkControls& link) {
-    grid->addWidget(PanelFrame::word(u"Address"_s), row, 0);
-    grid->addWidget(PanelFrame::word(u"Port"_s), row, 1);
+    grid->addWidget(PanelFrame::word(translate("console", "Address")), row, 0);
+    grid->addWidget(PanelFrame::word(translate("console", "Port")), row, 1);
     grid->addWidget(mirrors.textBox(link.address), row + 1, 0);
     QLineEdit* port = mirrors.textBox(link.port);
     port->setFixedWidth(78);
@@ -32,7 +33,7 @@ void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkCo
 NetworkPanel::NetworkPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.Frame4) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 10, 12, 12);
-    grid->addWidget(word(u"Remote server"_s), 0, 0);
+    grid->addWidget(word(translate("console", "Remote server")), 0, 0, 1, 4);
     grid->addWidget(mirrors.list(controls.cmbCASPARREMOTELIST), 1, 0, 1, 4);
     addAddress(mirrors, grid, 2, kRemoteLinkControls);
     grid->setRowStretch(4, 1);
@@ -51,7 +52,7 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
     auto* manual = new QHBoxLayout;
     manual->setSpacing(6);
     QLineEdit* line = mirrors.textBox(controls.txtMANUALCASPAR);
-    line->setPlaceholderText(u"Command line"_s);
+    line->setPlaceholderText(translate("console", "Command line"));
     line->installEventFilter(this);
     manual->addWidget(line, 1);
     manual->addWidget(mirrors.button(controls.cmdMANUALSEND));
@@ -71,12 +72,14 @@ ControlsCover::ControlsCover(const Mirrors& mirrors, QWidget& covered) {
     mirrors.panel(this, controls.picHideControls);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 10, 12, 12);
-    grid->addWidget(PanelFrame::word(u"This pack hides the controls. Links can be connected here."_s), 0, 0, 1, 4);
+    grid->addWidget(
+        PanelFrame::word(translate("console", "This pack hides the controls. Links can be connected here.")), 0, 0, 1,
+        4);
     grid->setRowMinimumHeight(1, 12);
-    grid->addWidget(PanelFrame::word(u"Main server"_s), 2, 0, 1, 4);
+    grid->addWidget(PanelFrame::word(translate("console", "Main server")), 2, 0, 1, 4);
     addAddress(mirrors, grid, 3, kMainLinkControls);
     grid->setRowMinimumHeight(5, 12);
-    grid->addWidget(PanelFrame::word(u"Remote server"_s), 6, 0, 1, 4);
+    grid->addWidget(PanelFrame::word(translate("console", "Remote server")), 6, 0, 1, 4);
     addAddress(mirrors, grid, 7, kRemoteLinkControls);
     grid->setRowStretch(9, 1);
 

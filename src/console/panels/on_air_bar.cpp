@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "base/translate.h"
 #include "form/follow.h"
 
 using namespace Qt::StringLiterals;
@@ -81,7 +82,8 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
         follow(control, {Control::Property::BackColour, Control::Property::Text}, button, [button, &control] {
             const bool on = control.backColour() == colours::kScreenModeOn;
             button->setSelected(on);
-            button->setAccessibleName(control.text() + (on ? u", on"_s : u", off"_s));
+            button->setAccessibleName(
+                (on ? translate("console", "%1, on") : translate("console", "%1, off")).arg(control.text()));
         });
         modes->addWidget(button);
     }
@@ -103,7 +105,8 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     TextLabel* card = mirrors.label(controls.lblONAIRCARD, -1, {15, false, Qt::AlignLeft | Qt::AlignVCenter});
     const Control& lock = form_.at(controls.chkONAIRLOCK);
     follow(lock, {Control::Property::Checked}, card, [card, &lock] {
-        card->setPlaceholder(lock.checked() ? u"Locked: does not follow the cards"_s : u"Nothing on air"_s);
+        card->setPlaceholder(lock.checked() ? translate("console", "Locked: does not follow the cards")
+                                            : translate("console", "Nothing on air"));
     });
     card->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     words->addWidget(card, 1);

@@ -2,6 +2,8 @@
 
 #include <QGridLayout>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -21,11 +23,11 @@ PlayersPanel::PlayersPanel(const Mirrors& mirrors) {
     column->setSpacing(3);
     auto* heads = new QHBoxLayout;
     heads->setSpacing(6);
-    heads->addWidget(teamName(mirrors, controls.lblHTEAM, u"Home"_s), 1);
+    heads->addWidget(teamName(mirrors, controls.lblHTEAM, translate("console", "Home")), 1);
     ConsoleButton* clear = mirrors.button(controls.cmdCLEARTAG, -1, {12, false});
     clear->setFixedHeight(24);
     heads->addWidget(clear);
-    heads->addWidget(teamName(mirrors, controls.lblATEAM, u"Away"_s), 1);
+    heads->addWidget(teamName(mirrors, controls.lblATEAM, translate("console", "Away")), 1);
     column->addLayout(heads);
     auto* teams = new QHBoxLayout;
     teams->setSpacing(8);

@@ -1,5 +1,6 @@
 #include "console/panels/scores_panel.h"
 
+#include "base/translate.h"
 #include "form/follow.h"
 
 using namespace Qt::StringLiterals;
@@ -35,8 +36,8 @@ ScoresPanel::ScoresPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
 
-    addSide(mirrors, grid, 0, kHomeControls, u"Home"_s, 0);
-    addSide(mirrors, grid, 2, kAwayControls, u"Away"_s, 2);
+    addSide(mirrors, grid, 0, kHomeControls, translate("console", "Home"), 0);
+    addSide(mirrors, grid, 2, kAwayControls, translate("console", "Away"), 2);
 
     TextLabel* live = mirrors.label(controls.lblLIVEBLINK, -1, {12, true, Qt::AlignCenter, Role::Field, Role::OnLine});
     // Hidden and shown as it blinks: its place stays.
@@ -47,14 +48,14 @@ ScoresPanel::ScoresPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.
     // In its place stands what must not be overlooked.
     auto* manual = new TextLabel({12, true, Qt::AlignCenter, Role::AirText, Role::AirFill});
     manual->setObjectName(u"manualMark"_s);
-    manual->setText(u"MANUAL"_s);
+    manual->setText(translate("console", "MANUAL"));
     const Control& manualMode = mirrors.form().at(controls.chkMANUAL);
     follow(manualMode, {Control::Property::Checked}, manual,
            [manual, &manualMode] { manual->setVisible(manualMode.checked()); });
     grid->addWidget(manual, 0, 1, Qt::AlignCenter);
     auto* period = new QVBoxLayout;
     period->setSpacing(2);
-    period->addWidget(word(u"Period"_s), 0, Qt::AlignHCenter);
+    period->addWidget(word(translate("console", "Period")), 0, Qt::AlignHCenter);
     QComboBox* periods = mirrors.list(controls.cbQt);
     periods->setFixedWidth(60);
     period->addWidget(periods, 0, Qt::AlignHCenter);
@@ -97,7 +98,7 @@ QLayout* ScoresPanel::times(const Mirrors& mirrors) {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     const TextLabel::Look digits{22, true};
-    row->addWidget(timeBox(word(u"Game"_s), mirrors.label(controls.lblTime, -1, digits)), 1);
+    row->addWidget(timeBox(word(translate("console", "Game")), mirrors.label(controls.lblTime, -1, digits)), 1);
     row->addWidget(timeBox(word(u"Extra time"_s), mirrors.label(controls.lblETime, -1, digits)), 1);
     QLineEdit* threshold = mirrors.textBox(controls.txtEAFTER);
     threshold->setAlignment(Qt::AlignCenter);

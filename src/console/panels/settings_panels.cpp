@@ -1,5 +1,7 @@
 #include "console/panels/settings_panels.h"
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -8,7 +10,8 @@ EffectPanel::EffectPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 12, 12, 12);
     grid->setHorizontalSpacing(16);
-    const QStringList names{u"Fade in"_s, u"Fade out"_s, u"Roll speed"_s, u"Wipe"_s};
+    const QStringList names{translate("console", "Fade in"), translate("console", "Fade out"),
+                            translate("console", "Roll speed"), translate("console", "Wipe")};
     for (int i = 0; i < names.size(); ++i) {
         const int row = i / 2 * 2;
         grid->addWidget(word(names[i]), row, i % 2);
@@ -29,9 +32,9 @@ ClocksPanel::ClocksPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.
     grid->addWidget(mirrors.button(controls.cmdCLOCKS, -1, {14, true}), 1, 2, 2, 1);
     grid->addWidget(mirrors.label(controls.lblFEEDDETAIL, -1, {12, false, Qt::AlignLeft | Qt::AlignVCenter}), 3, 0, 1,
                     3);
-    grid->addWidget(word(u"Extra time for cards"_s), 4, 0);
+    grid->addWidget(word(translate("console", "Extra time for cards")), 4, 0);
     grid->addWidget(mirrors.textBox(controls.txtEXTRATIME), 4, 1);
-    grid->addWidget(word(u"Test sender"_s), 5, 0);
+    grid->addWidget(word(translate("console", "Test sender")), 5, 0);
     grid->addWidget(mirrors.button(controls.Command1), 5, 2);
     grid->setRowStretch(0, 1);
 }

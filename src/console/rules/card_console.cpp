@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "base/translate.h"
 #include "engine/on_air.h"
 #include "engine/packs.h"
 
@@ -30,7 +31,7 @@ static_assert(kTabPanels.size() == CardConsole::kTabs);
 CardConsole::CardConsole(CardEngine& engine)
     : engine_(engine), state_(engine.state()), form_(engine.form()), presses_(engine), note_(engine.form()) {
     connect(&presses_, &Presses::late, this, [this](const QString& name, const QString& seconds) {
-        note_.say(u"%1 pressed %2 s ago: not fired"_s.arg(name, seconds));
+        note_.say(translate("console", "%1 pressed %2 s ago: not fired").arg(name, seconds));
     });
     connect(&engine.program().clearing, &Clearing::pressed, this, [this] { pressClear(); });
     // Timed cards, the feed and the general variables write what is shown here, too.
@@ -44,8 +45,9 @@ void CardConsole::answer(FormEvents& events) {
     events.onClick(controls.GradientButtonS, [this](int index) { selectBox(index); });
     events.onClick(controls.GradientButtonAIR, [this](int) { pressClear(); });
     events.onClick(controls.cmdTAB, [this](int index) { showTab(index); });
-    events.onClick(controls.cmdINVOKE, [this](int) { pressScript(u"Invoke"_s, u"invoke.csp"_s); });
-    events.onClick(controls.cmdAUTO5ADA, [this](int) { pressScript(u"Auto five"_s, u"auto5ada.csp"_s); });
+    events.onClick(controls.cmdINVOKE, [this](int) { pressScript(translate("caption", "Invoke"), u"invoke.csp"_s); });
+    events.onClick(controls.cmdAUTO5ADA,
+                   [this](int) { pressScript(translate("caption", "Auto five"), u"auto5ada.csp"_s); });
     events.onClick(controls.cmdAUTOCARD, [this](int) { SHOW_AUTO_CARD(); });
     events.onClick(controls.cmdCLEARTAG, [this](int) { clearTag(); });
     events.onClick(controls.lblFKEYTITLE, [this](int index) { functionKey(index + 1); });
@@ -83,14 +85,15 @@ void CardConsole::fireCard(CardPlace place, const Presser& presser) {
 }
 
 void CardConsole::fire(const SeenCard& card, bool tagged, const Presser& presser) {
-    const QString name = told(card.caption.isEmpty() ? u"Card %1"_s.arg(card.place.index + 1) : card.caption, presser);
+    const QString name = told(
+        card.caption.isEmpty() ? translate("console", "Card %1").arg(card.place.index + 1) : card.caption, presser);
     if (card.script.isEmpty()) {
-        note_.say(u"%1: no card in this place"_s.arg(name));
+        note_.say(translate("console", "%1: no card in this place").arg(name));
         return;
     }
     presses_.press(name, presser, [this, card, name, tagged, presser] {
         if (card.language != state_.language()) {
-            note_.say(u"%1: other cards were loaded, not fired"_s.arg(name));
+            note_.say(translate("console", "%1: other cards were loaded, not fired").arg(name));
             return;
         }
         state_.variables.SetVar(u"@CARD_BUTTON_INDEX", card.place.index);
@@ -120,7 +123,8 @@ void CardConsole::fireScript(const QString& name, const QString& script, const P
 void CardConsole::run(const QString& script, const Presser& presser, bool tagged, std::optional<CardPlace> place) {
     note_.clear();
     if (!presser.from.isEmpty()) {
-        note_.say(u"%1: fired from %2"_s.arg(captionOf(state_, CardEngine::scriptName(script)), presser.from),
+        note_.say(translate("console", "%1: fired from %2")
+                      .arg(captionOf(state_, CardEngine::scriptName(script)), presser.from),
                   Control::Role::Plain);
     }
     if (script != state_.cards.clearCard) {
@@ -215,7 +219,7 @@ void CardConsole::clearTag() {
 
 void CardConsole::SHOW_AUTO_CARD() {
     state_.variables.SetVar(u"@RETURNKEY", state_.ask.lastItemData);
-    pressScript(u"Auto card"_s, state_.variables.GetVar(u"@AUTOCARD").text());
+    pressScript(translate("caption", "Auto card"), state_.variables.GetVar(u"@AUTOCARD").text());
 }
 
 void CardConsole::showLoaded() {

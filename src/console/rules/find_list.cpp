@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/letters.h"
+#include "base/translate.h"
 #include "engine/card_engine.h"
 
 using namespace Qt::StringLiterals;
@@ -48,7 +49,7 @@ std::vector<FindEntry> findable(const ShowState& state, const AppFolder& folder,
     }
     const QDir pack(folder.resolve(folder.packFolder(state.language())));
     for (const QString& script : pack.entryList({u"*.csp"_s}, QDir::Files))
-        entries.push_back({Kind::Script, script, u"script"_s, script, {}, state.language()});
+        entries.push_back({Kind::Script, script, translate("console", "script"), script, {}, state.language()});
     entries.insert(entries.end(), commands.begin(), commands.end());
     state.variables.forEach([&](const QString& name, const Value& value) {
         entries.push_back({Kind::Variable, name, value.text().left(kShownValue), name});

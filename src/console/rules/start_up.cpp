@@ -1,5 +1,6 @@
 #include "console_rules/start_up.h"
 
+#include "base/translate.h"
 #include "engine/defaults.h"
 #include "engine/on_air.h"
 #include "engine/team_labels.h"
@@ -65,8 +66,9 @@ void StartUp::fillEffects() {
 void StartUp::tellOfNoModules() {
     engine_.ports().operatorDesk.message(
         {Asker::Kind::StartUp}, {},
-        u"There is no folder MODULES in\r\n"_s + engine_.program().folder.path() +
-            u"\r\nStart with --app-folder FOLDER, the folder that holds it, or with --user-folder."_s,
+        translate("console", "There is no folder MODULES in") + u"\r\n"_s + engine_.program().folder.path() +
+            u"\r\n"_s +
+            translate("console", "Start with --app-folder FOLDER, the folder that holds it, or with --user-folder."),
         Operator::Severity::Warning);
 }
 

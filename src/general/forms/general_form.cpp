@@ -11,6 +11,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -24,8 +26,8 @@ constexpr int kTitleWidth = 200;
 constexpr int kVariableWidth = 160;
 constexpr int kMarkMargin = 24;
 
-QString countOf(int rows, const QString& words) {
-    return rows == 1 ? u"1 row "_s + words : u"%1 rows "_s.arg(rows) + words;
+QString countOf(int rows, const QString& one, const QString& several) {
+    return rows == 1 ? one : several.arg(rows);
 }
 
 }  // namespace
@@ -43,8 +45,8 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     setAttribute(Qt::WA_QuitOnClose, false);
     resize(kEditorSize.boundedTo(screen()->availableSize() - kFrame));
     search_->setObjectName(u"txtSEARCH"_s);
-    search_->setPlaceholderText(u"Search"_s);
-    search_->setToolTip(u"Shows the rows that hold this text"_s);
+    search_->setPlaceholderText(translate("general", "Search"));
+    search_->setToolTip(translate("general", "Shows the rows that hold this text"));
     search_->setClearButtonEnabled(true);
     help_->setObjectName(u"lblHELP"_s);
     help_->setWordWrap(true);
@@ -86,9 +88,10 @@ QWidget* GeneralForm::gridView() {
     view_->horizontalHeader()->setStretchLastSection(true);
     // Wide enough for the marks: the columns stay where they are when some appear.
     QHeaderView* marks = view_->verticalHeader();
-    marks->setFixedWidth(marks->fontMetrics().horizontalAdvance(u"changed, not saved, not applied"_s) + kMarkMargin);
+    marks->setFixedWidth(
+        marks->fontMetrics().horizontalAdvance(translate("general", "changed, not saved, not applied")) + kMarkMargin);
     marks->setTextElideMode(Qt::ElideRight);
-    view_->setToolTip(u"Enter edits the value, Alt+Down opens its list or picker"_s);
+    view_->setToolTip(translate("general", "Enter edits the value, Alt+Down opens its list or picker"));
     connect(&delegate_, &ValueDelegate::buttonPressed, this, &GeneralForm::pressCellButton);
     connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &GeneralForm::showHelp);
     // Enter, or a double click on a cell that is no value. F2 and F4, as elsewhere, fire cards.
@@ -116,16 +119,21 @@ QWidget* GeneralForm::buttonRow() {
         });
         line->addWidget(button);
     };
-    add(u"cmdADDROW"_s, u"A&dd row"_s, u"Asks for name, title and help of a new variable"_s, [this] {
-        if (!general_.addRow()) return;
-        search_->clear();
-        view_->setCurrentIndex(shown_.index(shown_.rowCount() - 1, general_column::kValue));
-    });
-    add(u"cmdREMOVEROW"_s, u"&Remove row"_s, u"Takes the chosen rows away; Save makes it last"_s,
+    add(u"cmdADDROW"_s, translate("general", "A&dd row"),
+        translate("general", "Asks for name, title and help of a new variable"), [this] {
+            if (!general_.addRow()) return;
+            search_->clear();
+            view_->setCurrentIndex(shown_.index(shown_.rowCount() - 1, general_column::kValue));
+        });
+    add(u"cmdREMOVEROW"_s, translate("general", "&Remove row"),
+        translate("general", "Takes the chosen rows away; Save makes it last"),
         [this] { general_.removeRows(chosenRows()); });
-    add(u"cmdIMPORT"_s, u"&Import"_s, u"Adds the lines of infodata.txt and saves"_s, [this] { general_.importText(); });
-    add(u"cmdSAVE"_s, u"&Save"_s, u"Saves all rows to infodata.dat"_s, [this] { general_.save(); });
-    add(u"cmdAPPLY"_s, u"&Apply"_s, u"Gives the cards all values"_s, [this] { general_.apply(); });
+    add(u"cmdIMPORT"_s, translate("general", "&Import"),
+        translate("general", "Adds the lines of infodata.txt and saves"), [this] { general_.importText(); });
+    add(u"cmdSAVE"_s, translate("general", "&Save"), translate("general", "Saves all rows to infodata.dat"),
+        [this] { general_.save(); });
+    add(u"cmdAPPLY"_s, translate("general", "&Apply"), translate("general", "Gives the cards all values"),
+        [this] { general_.apply(); });
     return row;
 }
 
@@ -171,9 +179,14 @@ void GeneralForm::showState() {
         unapplied += grid.isUnapplied(row) ? 1 : 0;
     }
     QStringList words;
-    if (grid.removedUnsaved() > 0) words += countOf(grid.removedUnsaved(), u"removed but not saved"_s);
-    if (unsaved > 0) words += countOf(unsaved, u"not saved"_s);
-    if (unapplied > 0) words += countOf(unapplied, u"not applied"_s);
+    if (grid.removedUnsaved() > 0)
+        words += countOf(grid.removedUnsaved(), translate("general", "1 row removed but not saved"),
+                         translate("general", "%1 rows removed but not saved"));
+    if (unsaved > 0)
+        words += countOf(unsaved, translate("general", "1 row not saved"), translate("general", "%1 rows not saved"));
+    if (unapplied > 0)
+        words +=
+            countOf(unapplied, translate("general", "1 row not applied"), translate("general", "%1 rows not applied"));
     marks_->setText(words.join(u", "_s));
     showHelp();
 }
@@ -198,7 +211,8 @@ void GeneralForm::closeEvent(QCloseEvent* event) {
     endEditing();
     const bool leave =
         !general_.grid().hasUnsaved() ||
-        operator_.yesNo({}, windowTitle(), u"There are changes that are not saved. Close without them?"_s);
+        operator_.yesNo({}, windowTitle(),
+                        translate("general", "There are changes that are not saved. Close without them?"));
     event->setAccepted(leave);
 }
 

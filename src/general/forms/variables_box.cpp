@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/translate.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -25,17 +27,17 @@ VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit)
     setAttribute(Qt::WA_QuitOnClose, false);
     resize(kBoxSize);
     search_->setObjectName(u"txtSEARCH"_s);
-    search_->setPlaceholderText(u"Search"_s);
-    search_->setToolTip(u"Shows the lines that hold this text"_s);
+    search_->setPlaceholderText(translate("general", "Search"));
+    search_->setToolTip(translate("general", "Shows the lines that hold this text"));
     search_->setClearButtonEnabled(true);
     view_->setObjectName(u"txtVARS"_s);
     view_->setAccessibleName(windowTitle());
     view_->setReadOnly(true);
     view_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    auto* copy = new QPushButton(u"&Copy"_s);
+    auto* copy = new QPushButton(translate("general", "&Copy"));
     copy->setObjectName(u"cmdCOPY"_s);
-    copy->setToolTip(u"Copies the lines shown"_s);
-    auto* leave = new QPushButton(u"C&lose"_s);
+    copy->setToolTip(translate("general", "Copies the lines shown"));
+    auto* leave = new QPushButton(translate("general", "C&lose"));
     leave->setObjectName(u"cmdCLOSE"_s);
 
     auto* column = new QVBoxLayout(this);
