@@ -10,7 +10,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     test::require((reading.damagedLine == 0) == reading.damage.isEmpty());
     for (const auto& rows : {reading.rows, importRows(test::fuzzLines(data, size)).rows}) {
         const GridReading again = readGrid(gridBytes(rows));
-        test::require(again.damagedLine == 0 && again.rows == rows);
+        test::require(again.damagedLine == 0 && again.rows.size() == rows.size());
+        // Half a character, which a file in UTF-16 may hold, cannot be written.
+        test::require(again.rows == rows || QString::fromUtf8(gridBytes(rows)).contains(QChar::ReplacementCharacter));
         for (const GeneralRow& row : rows) {
             const GeneralCell cell(row[general_column::kValue]);
             test::require(cell.kind() == GeneralCell::Kind::Choice || cell.choices().isEmpty());
