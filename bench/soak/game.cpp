@@ -31,6 +31,8 @@ constexpr int kDatabaseLocked = 2000;  // milliseconds
 constexpr double kDatabaseSlow = 5;    // seconds
 constexpr double kDiskFull = 60.0 / GamePlan::kSpeed;
 
+constexpr qsizetype kShownOfLog = 2000;
+
 QString clockText(qint64 second) {
     const qint64 left = kQuarterSeconds - second % kQuarterSeconds;
     return u"%1:%2"_s.arg(left / 60).arg(left % 60, 2, 10, QChar(u'0'));
@@ -39,7 +41,7 @@ QString clockText(qint64 second) {
 }  // namespace
 
 GamePlan GamePlan::evening(unsigned seed) {
-    constexpr int kFiresAMinute = 2 * kQuestionsAMinute;  // every second of them asks
+    constexpr int kFiresAMinute = 10;  // about every third of them asks
     return {kEveningSeconds, 10, kEveningSeconds / 60 * kFiresAMinute, true, seed, kEveningSeconds / kSpeed};
 }
 
@@ -336,11 +338,11 @@ void Game::checkFlat(long late) {
     constexpr long kFlat = 2048;  // KiB
     if (late - early > kFlat) fault(u"memory grew by %1 KiB in the last third"_s.arg(late - early));
     if (handles > handlesEarly_) fault(u"%1 handles more in the last third"_s.arg(handles - handlesEarly_));
-    if (desk_.picked() < plan_.gameSeconds / 60 * kQuestionsAMinute / 2) fault(u"too few questions"_s);
+    if (desk_.picked() < plan_.gameSeconds / 60 * kQuestionsAMinute) fault(u"too few questions"_s);
 }
 
 // What has arrived of a connection is what was sent on it, from its beginning on and in its order. The rest was told as
-// lost; where the server ended in order there is none.
+// lost. A server that was killed may have taken its last lines or not: nobody can tell.
 void Game::checkLines() {
     const auto sent = sent_.connections();
     const auto arrived = arrived_.connections();
@@ -350,7 +352,7 @@ void Game::checkLines() {
                     toldLost_.at(i));
         if (arrived[i].size() > sent[i].size() || !std::equal(arrived[i].begin(), arrived[i].end(), sent[i].begin()))
             fault(u"connection %1: lines differ"_s.arg(i + 1));
-        else if (sent[i].size() - arrived[i].size() > toldLost_.at(i))
+        else if (i + 2 != sent.size() && sent[i].size() - arrived[i].size() > toldLost_.at(i))
             fault(u"connection %1: lines lost"_s.arg(i + 1));
     }
     std::printf(" %d told as lost without a link\n", neverPut_);
@@ -398,7 +400,8 @@ void Game::checkLeftovers() {
     }
     if (plan_.hasTroubles && ofFullDisk != 1) fault(u"the full disk was told %1 times"_s.arg(ofFullDisk));
     if (desk_.read(u"errors.log"_s) != errorsAfterOutage_)
-        fault(u"error log: "_s + QString::fromUtf8(desk_.read(u"errors.log"_s).mid(errorsAfterOutage_.size())));
+        fault(u"error log: "_s +
+              QString::fromUtf8(desk_.read(u"errors.log"_s).mid(errorsAfterOutage_.size()).left(kShownOfLog)));
     if (!lastClockLine_.contains(u"0:00")) fault(u"the clock on air is not the newest: "_s + lastClockLine_);
     for (const int score : automatic_)
         if (!lastScoreLine_.contains(QString::number(score))) fault(u"the score on air is old: "_s + lastScoreLine_);
