@@ -15,6 +15,7 @@ constexpr int kScoreChanges = 100;     // a tenth of a point a second of game ti
 constexpr double kServerAway = 1;      // seconds
 constexpr double kReconnected = 4;     // seconds after the server went: its way back takes two seconds at most
 constexpr long kMemoryAllowed = 4096;  // KiB
+constexpr int kReloaded = 2000;        // milliseconds
 constexpr int kQuarterSeconds = 600;
 constexpr int kFunctionKeysFired = 4;  // the fifth clears
 
@@ -31,6 +32,7 @@ constexpr int kDatabaseLocked = 2000;  // milliseconds
 constexpr double kDatabaseSlow = 5;    // seconds
 constexpr double kDiskFull = 60.0 / GamePlan::kSpeed;
 
+constexpr int kAsking = 4;  // one in so many cards of an evening asks for certain
 constexpr qsizetype kShownOfLog = 2000;
 
 QString clockText(qint64 second) {
@@ -109,7 +111,10 @@ void Game::planFires() {
     const CardTable& table = desk_.app().state().cards;
     for (int set = 1; set <= CardConsole::kSelectors; ++set)
         for (int row = 1; row <= CardTable::kCards; ++row)
-            if (!table.sets.at(set).at(row).script.isEmpty()) cards_.emplace_back(set, row - 1);
+            if (const QString& script = table.sets.at(set).at(row).script; !script.isEmpty()) {
+                cards_.emplace_back(set, row - 1);
+                if (script == u"player.csp") asking_ = cards_.back();
+            }
     for (int i = 0; i < plan_.fires; ++i)
         events_.push_back({seconds_ * (i + 0.5) / plan_.fires, [this, i] { fire(i); }});
 }
@@ -238,7 +243,8 @@ void Game::fireCard(int number) {
         desk_.click("lblHPLAYERS", number / 6 % 12);
         desk_.click("lblAPLAYERS", number / 7 % 12, Qt::RightButton);
     }
-    const auto [set, button] = cards_[chance_() % cards_.size()];
+    const bool asks = plan_.hasTroubles && number % kAsking == 1;
+    const auto [set, button] = asks ? asking_ : cards_[chance_() % cards_.size()];
     desk_.click("GradientButtonS", set - 1);
     desk_.click("cmbCARD", button);
 }
@@ -255,7 +261,12 @@ void Game::changeScore(int number) {
         desk_.choose("mnReloadVar");
         ++reloads_;
     }
-    if (!databaseOut_) checkScores();
+    if (databaseOut_) return;
+    // Reading anew takes its turn behind what runs.
+    const QDeadlineTimer turn(kReloaded);
+    while (shownScores() != wantedScores() && !turn.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, kPace);
+    checkScores();
 }
 
 void Game::writeScores() {
@@ -271,11 +282,17 @@ void Game::setManual(bool manual) {
     checkScores();
 }
 
-void Game::checkScores() {
+QString Game::shownScores() const {
+    return desk_.at("lblScoreA").text() + u'-' + desk_.at("lblScoreB").text();
+}
+
+QString Game::wantedScores() const {
     const std::array<int, 2>& scores = isManual_ ? manual_ : automatic_;
-    const QString wanted = u"%1-%2"_s.arg(scores[0]).arg(scores[1]);
-    const QString shown = desk_.at("lblScoreA").text() + u'-' + desk_.at("lblScoreB").text();
-    if (shown != wanted) fault(u"score %1 instead of %2"_s.arg(shown, wanted));
+    return u"%1-%2"_s.arg(scores[0]).arg(scores[1]);
+}
+
+void Game::checkScores() {
+    if (shownScores() != wantedScores()) fault(u"score %1 instead of %2"_s.arg(shownScores(), wantedScores()));
 }
 
 void Game::checkConnected(const QString& when) {
@@ -325,7 +342,8 @@ void Game::report() {
     if (databaseOut_) fault(u"the database did not come back"_s);
     if (fired_ != plan_.fires) fault(u"%1 cards fired"_s.arg(fired_));
     if (timedLines_ == 0 || feedLines_ == 0) fault(u"no card has run by itself"_s);
-    if (const long grown = late - memory_.front(); grown > kMemoryAllowed) fault(u"memory grew by %1 KiB"_s.arg(grown));
+    if (const long grown = late - memory_.front(); grown > kMemoryAllowed && !plan_.hasTroubles)
+        fault(u"memory grew by %1 KiB"_s.arg(grown));
     checkLeftovers();
 }
 

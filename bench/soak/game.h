@@ -70,6 +70,8 @@ class Game : public QObject {
     void changeScore(int number);
     void writeScores();
     void setManual(bool manual);
+    [[nodiscard]] QString shownScores() const;
+    [[nodiscard]] QString wantedScores() const;
     void checkScores();
     void checkConnected(const QString& when);
     void checkFlat(long late);
@@ -100,6 +102,7 @@ class Game : public QObject {
     std::vector<Event> events_;
     std::size_t nextEvent_ = 0;
     std::vector<std::pair<int, int>> cards_;  // set and button
+    std::pair<int, int> asking_{1, 0};        // one with a pick list
     QElapsedTimer time_;
     QTimer pace_;
     QUdpSocket feed_;
