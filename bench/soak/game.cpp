@@ -32,7 +32,7 @@ constexpr int kDatabaseLocked = 2000;  // milliseconds
 constexpr double kDatabaseSlow = 5;    // seconds
 constexpr double kDiskFull = 60.0 / GamePlan::kSpeed;
 
-constexpr int kAsking = 4;  // one in so many cards of an evening asks for certain
+constexpr int kAsking = 3;  // one in so many cards of an evening asks for certain
 constexpr qsizetype kShownOfLog = 2000;
 
 QString clockText(qint64 second) {
@@ -43,7 +43,7 @@ QString clockText(qint64 second) {
 }  // namespace
 
 GamePlan GamePlan::evening(unsigned seed) {
-    constexpr int kFiresAMinute = 10;  // about every third of them asks
+    constexpr int kFiresAMinute = 6;
     return {kEveningSeconds, 10, kEveningSeconds / 60 * kFiresAMinute, true, seed, kEveningSeconds / kSpeed};
 }
 
