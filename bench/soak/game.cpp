@@ -32,7 +32,7 @@ constexpr int kDatabaseLocked = 2000;  // milliseconds
 constexpr double kDatabaseSlow = 5;    // seconds
 constexpr double kDiskFull = 60.0 / GamePlan::kSpeed;
 
-constexpr int kAsking = 3;  // one in so many cards of an evening asks for certain
+constexpr int kAsking = 3;  // all but one in so many cards of an evening ask for certain
 constexpr qsizetype kShownOfLog = 2000;
 
 QString clockText(qint64 second) {
@@ -243,7 +243,7 @@ void Game::fireCard(int number) {
         desk_.click("lblHPLAYERS", number / 6 % 12);
         desk_.click("lblAPLAYERS", number / 7 % 12, Qt::RightButton);
     }
-    const bool asks = plan_.hasTroubles && number % kAsking == 1;
+    const bool asks = plan_.hasTroubles && number % kAsking != 0;
     const auto [set, button] = asks ? asking_ : cards_[chance_() % cards_.size()];
     desk_.click("GradientButtonS", set - 1);
     desk_.click("cmbCARD", button);
