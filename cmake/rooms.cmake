@@ -79,24 +79,33 @@ function(zelvor_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     TIMEOUT ${TEST_TIMEOUT}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp")
 endfunction()
 
-# zelvor_fuzz(NAME MAX_LEN bytes ROOM room)
-# The fuzz target of NAME.cpp, led by the branches that its inputs take in the room and by the words of NAME.dict, and a
-# test that runs it briefly with a seed of its own each time; a longer run is `NAME -dict=NAME.dict CORPUS_FOLDER`.
+# zelvor_fuzz(NAME MAX_LEN bytes ROOM room [SEEDS glob...])
+# The fuzz target of NAME.cpp, led by the branches that its inputs take in the room, by the words of NAME.dict where there
+# is one, and by the files of SEEDS (relative to the project). A test runs it for ZELVOR_FUZZ_SECONDS, with a seed of
+# its own each time.
 function(zelvor_fuzz name)
   if(NOT ZELVOR_FUZZ)
     return()
   endif()
-  cmake_parse_arguments(FUZZ "" "MAX_LEN;ROOM" "" ${ARGN})
+  cmake_parse_arguments(FUZZ "" "MAX_LEN;ROOM" "SEEDS" ${ARGN})
   target_compile_options(${FUZZ_ROOM} PRIVATE -fsanitize=fuzzer-no-link)
   target_link_options(${FUZZ_ROOM} INTERFACE -fsanitize=fuzzer-no-link)
   set_target_properties(${FUZZ_ROOM} PROPERTIES DISABLE_PRECOMPILE_HEADERS ON)
-  zelvor_program(${name} SOURCES ${name}.cpp LINKS ${FUZZ_ROOM})
+  zelvor_program(${name} SOURCES ${name}.cpp LINKS ${FUZZ_ROOM} test_support)
   target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
   target_link_options(${name} PRIVATE -fsanitize=fuzzer)
-  add_test(NAME ${name}
-    COMMAND ${name} -runs=20000 -max_total_time=10 -timeout=10 -max_len=${FUZZ_MAX_LEN}
-      -dict=${CMAKE_CURRENT_SOURCE_DIR}/${name}.dict)
+  set(options -max_total_time=${ZELVOR_FUZZ_SECONDS} -timeout=10 -max_len=${FUZZ_MAX_LEN})
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${name}.dict)
+    list(APPEND options -dict=${CMAKE_CURRENT_SOURCE_DIR}/${name}.dict)
+  endif()
+  if(FUZZ_SEEDS)
+    list(TRANSFORM FUZZ_SEEDS PREPEND ${PROJECT_SOURCE_DIR}/)
+    file(GLOB seeds CONFIGURE_DEPENDS ${FUZZ_SEEDS})
+    list(JOIN seeds "," seeds)
+    list(APPEND options -seed_inputs=${seeds})
+  endif()
+  add_test(NAME ${name} COMMAND ${name} ${options})
 endfunction()

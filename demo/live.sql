@@ -33,7 +33,7 @@ create view live_now as
 -- Its players, found by side and shirt.
 create view live_roster as
   select n.game_id, p.player_id, l.*
-  from live_player l, live_now n
+  from live_player l cross join live_now n
   join player p on p.team_id = case l.side when 'H' then n.home_id else n.away_id end
     and p.shirt = cast(l.shirt as integer);
 
@@ -53,14 +53,14 @@ create view evening_five as
 
 -- A player's points in a quarter; overtimes are one.
 create view live_points as
-  select min(period, 5) as quarter, side, case kind when '3pt' then 3 when '2pt' then 2 else 1 end as points
+  select case when period > 5 then 5 else period end as quarter, side, case kind when '3pt' then 3 when '2pt' then 2 else 1 end as points
   from live_action where kind in ('2pt', '3pt', 'freethrow') and success = 1;
 
 create view live_quarters as
   select q.quarter,
     (select coalesce(sum(points), 0) from live_points p where p.quarter = q.quarter and side = 'H') as home,
     (select coalesce(sum(points), 0) from live_points p where p.quarter = q.quarter and side = 'A') as away
-  from (select distinct min(period, 5) as quarter from live_action where period > 0) q;
+  from (select distinct case when period > 5 then 5 else period end as quarter from live_action where period > 0) q;
 
 -- Null for a quarter that has not been played; q5 is the overtime.
 create view evening_quarters as

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPointer>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -26,10 +27,12 @@ void sendMouse(QWidget& widget, QEvent::Type type, Qt::MouseButton button) {
     QApplication::sendEvent(&widget, &event);
 }
 
+// What the key has fired may have ended the widget before the key is let go.
 void sendKey(QWidget& widget, Qt::Key key) {
+    const QPointer<QWidget> held = &widget;
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, Qt::NoModifier);
-        QApplication::sendEvent(&widget, &event);
+        if (held) QApplication::sendEvent(held, &event);
     }
 }
 
@@ -142,6 +145,10 @@ long residentKilobytes() {
     if (!status.open(QIODevice::ReadOnly)) return 0;
     const QByteArray text = status.readAll();
     return text.mid(text.indexOf("VmRSS:") + 6).simplified().split(' ').first().toLong();
+}
+
+std::size_t openHandles() {
+    return static_cast<std::size_t>(QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size());
 }
 
 }  // namespace zelvor

@@ -42,6 +42,8 @@ class ConsoleDesk : public QObject {
     // Boxes and lists that stand open, by their titles.
     [[nodiscard]] static QStringList openDialogs();
 
+    [[nodiscard]] int picked() const { return picked_; }
+
     // Every box that was shown, as title|text.
     QStringList boxes;
 
@@ -58,5 +60,7 @@ class ConsoleDesk : public QObject {
 
 // Memory of this program that is in use, VmRSS.
 long residentKilobytes();
+// Its open files, sockets and the like.
+std::size_t openHandles();
 
 }  // namespace zelvor

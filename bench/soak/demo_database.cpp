@@ -8,9 +8,11 @@ using namespace Qt::StringLiterals;
 namespace zelvor {
 
 void DemoDatabase::fill() const {
-    QFile sql(QStringLiteral(DEMO_FOLDER) + u"/demo.sql"_s);
-    if (!sql.open(QIODevice::ReadOnly) || !change(sql.readAll()))
-        qFatal("cannot make the demo's database: is its client program installed?");
+    for (const QString& name : {u"/demo.sql"_s, u"/live.sql"_s}) {
+        QFile sql(QStringLiteral(DEMO_FOLDER) + name);
+        if (!sql.open(QIODevice::ReadOnly) || !change(sql.readAll()))
+            qFatal("cannot make the demo's database: is its client program installed?");
+    }
 }
 
 QByteArray SqliteDemo::connectionString() const {

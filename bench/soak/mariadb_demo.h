@@ -13,6 +13,7 @@ class MariaDbDemo : public DemoDatabase {
     [[nodiscard]] QByteArray connectionString() const override { return server_.connectionString(); }
     [[nodiscard]] bool change(const QByteArray& sql) const override { return server_.execute("use `show`;" + sql); }
 
+    void freeze(bool frozen) { server_.freeze(frozen); }
     void kill() { server_.kill(); }
     // Returns at once; isUp() tells when it answers.
     void beginStart() { server_.beginStart(); }

@@ -90,7 +90,10 @@ void replaceFile(const QString& path, const QByteArray& bytes) {
     if (info.exists() && !info.isFile()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) throwOpenError(path, file.error(), Opening::ForWriting);
-    file.write(bytes);
+    // What is written only in commit() could fail there unnoticed, and an empty file would take the place of the old
+    // one.
+    const bool written = file.write(bytes) == bytes.size() && file.flush();
+    if (!written) file.cancelWriting();
     if (!file.commit()) {
         const bool full = file.error() == QFileDevice::WriteError || file.error() == QFileDevice::ResourceError;
         throw RunTimeError(full ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccessError, path);

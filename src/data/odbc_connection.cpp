@@ -140,8 +140,9 @@ Rows Connection::runOpen(const QString& sql, int seconds) {
         if (!statement.execute(bytes)) fail(statement.handle());
     }
     Rows rows;
-    if (statement.columnCount() == 0) return rows;
-    if (!statement.readRows(characterSet_, rows, cancelled_)) fail(statement.handle());
+    const std::optional<int> columns = statement.columnCount();
+    if (columns == 0) return rows;
+    if (!columns || !statement.readRows(characterSet_, rows, cancelled_)) fail(statement.handle());
     refuseCancelled();
     return rows;
 }

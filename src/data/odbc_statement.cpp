@@ -25,14 +25,17 @@ bool Statement::execute(const QByteArray& sql) {
     return SQL_SUCCEEDED(result) || metNone_;
 }
 
-int Statement::columnCount() const {
+std::optional<int> Statement::columnCount() const {
     if (metNone_) return 0;
     SQLSMALLINT count = 0;
-    return SQL_SUCCEEDED(SQLNumResultCols(handle_.raw(), &count)) ? count : 0;
+    if (!SQL_SUCCEEDED(SQLNumResultCols(handle_.raw(), &count))) return std::nullopt;
+    return count;
 }
 
 bool Statement::readRows(CharacterSet& characterSet, Rows& rows, const std::atomic<bool>& stop) {
-    const int count = columnCount();
+    const std::optional<int> found = columnCount();
+    if (!found) return false;
+    const int count = *found;
     columns_.resize(count);
     for (int i = 0; i < count; ++i) {
         if (!describeColumn(static_cast<SQLUSMALLINT>(i + 1), characterSet, rows)) return false;

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "base/value.h"
@@ -31,8 +32,8 @@ class Statement {
 
     // False when the driver refused; diagnostics(handle()) has its words.
     bool execute(const QByteArray& sql);
-    // 0 for a statement that gives no rows, also an UPDATE ... RETURNING that met none.
-    [[nodiscard]] int columnCount() const;
+    // 0 for a statement that gives no rows, also an UPDATE ... RETURNING that met none; nullopt when the driver failed.
+    [[nodiscard]] std::optional<int> columnCount() const;
     // Reads every row, until `stop` is set. False when the driver failed on the way.
     bool readRows(CharacterSet& characterSet, Rows& rows, const std::atomic<bool>& stop);
 

@@ -120,7 +120,12 @@ void OperatorCommands::changeLanguage(const QString& language) {
         general_.apply();
     }
     if (reopens) forms_.show(kGeneralForm);
-    mnReloadVar();
+    // No card begins while the database is waited for.
+    if (engine_.program().databaseWait.isOn()) {
+        Q_EMIT reloadWanted();
+    } else {
+        mnReloadVar();
+    }
 }
 
 bool OperatorCommands::hasCards(const QString& language) {

@@ -42,6 +42,8 @@ class OperatorCommands : public QObject {
  Q_SIGNALS:
     // A language change has read its cards; what shows them follows.
     void cardsLoaded();
+    // The start card of the language that was chosen is to run in its turn.
+    void reloadWanted();
 
  private:
     void take(const Control& control, const QString& event);

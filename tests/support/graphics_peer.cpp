@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <string>
 
 namespace zelvor::test {
@@ -69,6 +70,7 @@ void GraphicsPeer::converse(int socket) {
     std::string rest;
     std::array<char, 65536> buffer{};
     for (ssize_t size = 0; (size = recv(socket, buffer.data(), buffer.size(), 0)) > 0;) {
+        while (frozen_ && !killed_) std::this_thread::sleep_for(std::chrono::milliseconds(1));
         if (killed_) return;
         rest.append(buffer.data(), static_cast<std::size_t>(size));
         std::string replies;

@@ -29,6 +29,8 @@ class GraphicsPeer {
     bool start();
     // Returns at once; an orderly end may take until the other side has closed.
     void stop(End end);
+    // A frozen server takes and answers nothing until it goes on; no connection ends by that.
+    void freeze(bool frozen) { frozen_ = frozen; }
 
     [[nodiscard]] quint16 port() const { return port_; }
 
@@ -42,6 +44,7 @@ class GraphicsPeer {
     int listening_ = -1;
     std::atomic<int> socket_ = -1;
     std::atomic<bool> killed_ = false;
+    std::atomic<bool> frozen_ = false;
 };
 
 }  // namespace zelvor::test

@@ -24,6 +24,7 @@ SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards,
     for (const QWidget* form : std::initializer_list<const QWidget*>{&generalForm_, &variablesBox_})
         window.takeFunctionKeysOf(*form);
     connect(&commands_, &OperatorCommands::cardsLoaded, &cards_, &CardConsole::showLoaded);
+    connect(&commands_, &OperatorCommands::reloadWanted, this, [this] { choose(u"mnReloadVar"_s); });
     connect(&menu_, &MainMenu::chosen, this, &SettingsDesk::choose);
 }
 
