@@ -131,6 +131,8 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
 void OnAirBar::showFrame() {
     const bool empty = form_.at(controls.lblONAIR).text().isEmpty();
     line_->findChild<TextLabel*>(controls.lblONAIR.name.toString())->setMaximumWidth(empty ? 0 : QWIDGETSIZE_MAX);
+    line_->findChild<QWidget*>(controls.lblONAIRLAMP.name.toString())
+        ->setAccessibleDescription(empty ? u"clear"_s : u"on air"_s);
     line_->update();
     for (QWidget* part : line_->findChildren<QWidget*>()) part->update();
 }

@@ -1,5 +1,6 @@
 #include "general_forms/general_form.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHeaderView>
@@ -45,7 +46,9 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(u"Search"_s);
     search_->setToolTip(u"Shows the rows that hold this text"_s);
+    search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
+    search_->findChild<QAction*>()->setText(u"Shows all again"_s);
     help_->setObjectName(u"lblHELP"_s);
     help_->setWordWrap(true);
     help_->setTextFormat(Qt::PlainText);

@@ -1,5 +1,6 @@
 #include "general_forms/variables_box.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -27,7 +28,9 @@ VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit)
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(u"Search"_s);
     search_->setToolTip(u"Shows the lines that hold this text"_s);
+    search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
+    search_->findChild<QAction*>()->setText(u"Shows all again"_s);
     view_->setObjectName(u"txtVARS"_s);
     view_->setAccessibleName(windowTitle());
     view_->setReadOnly(true);
