@@ -277,6 +277,37 @@ TEST_F(MainWindowTest, LooksAsItDidLast) {
     EXPECT_TRUE(screen.contains(gallery.app->window().geometry().center()));
 }
 
+TEST_F(MainWindowTest, OnTwoScreensBoxesOpenOverTheirWindow) {
+    if (QGuiApplication::screens().size() < 2) GTEST_SKIP() << "this platform has one screen";
+    const QRect second = QGuiApplication::screens().at(1)->availableGeometry();
+    startWithCards();
+    gallery.app->window().setGeometry(second.adjusted(60, 60, -60, -60));
+    gallery.app->window().close();
+    gallery.write(u"QRD_EN/player.csp"_s, "BREAK~Ready?\r\n");
+    startWithCards();
+    gallery.app->showWindow();
+    QStringList elsewhere;
+    const auto look = [&](const QWidget* shown) {
+        EXPECT_TRUE(waitUntil([&] { return shown->isVisible(); }));
+        if (!second.contains(shown->geometry())) elsewhere += shown->objectName() + shown->windowTitle();
+    };
+    look(&gallery.app->window());
+    gallery.answer = [&](QDialog& box) {
+        look(&box);
+        box.accept();
+    };
+    gallery.shown.clear();
+    gallery.press(Qt::Key_F4);
+    EXPECT_EQ(gallery.shown.size(), 1);
+    QTest::keyClick(&gallery.app->window(), Qt::Key_K, Qt::ControlModifier);
+    look(gallery.form("frmFIND"));
+    QTest::keyClick(&gallery.app->window(), Qt::Key_F12);
+    look(gallery.form("frmKEYS"));
+    gallery.click("cmdMenu");
+    look(gallery.app->window().findChild<QWidget*>(u"mnMain"_s));
+    EXPECT_EQ(elsewhere, QStringList());
+}
+
 TEST_F(MainWindowTest, FindsAndFires) {
     startWithCards();
     gallery.connectMain(peer);

@@ -48,7 +48,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     search_->setToolTip(u"Shows the rows that hold this text"_s);
     search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
-    search_->findChild<QAction*>()->setText(u"Shows all again"_s);
+    search_->findChild<QAction*>()->setText(u"Show all"_s);
     help_->setObjectName(u"lblHELP"_s);
     help_->setWordWrap(true);
     help_->setTextFormat(Qt::PlainText);

@@ -30,7 +30,7 @@ VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit)
     search_->setToolTip(u"Shows the lines that hold this text"_s);
     search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
-    search_->findChild<QAction*>()->setText(u"Shows all again"_s);
+    search_->findChild<QAction*>()->setText(u"Show all"_s);
     view_->setObjectName(u"txtVARS"_s);
     view_->setAccessibleName(windowTitle());
     view_->setReadOnly(true);
