@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QListView>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QUdpSocket>
 
@@ -202,7 +201,8 @@ TEST_F(MainWindowTest, FingersPressAsTheMouseDoes) {
     startWithCards();
     gallery.connectMain(peer);
     MainWindow& window = gallery.app->window();
-    window.resize(780, 780);  // on the platform's small screen
+    const QRect room = QGuiApplication::screens().constLast()->availableGeometry();
+    window.setGeometry(room.adjusted(10, 10, -10, -10));
     QPointingDevice* finger = QTest::createTouchDevice();
     const auto goDown = [&](QWidget* widget) {
         QCoreApplication::processEvents();
@@ -225,17 +225,6 @@ TEST_F(MainWindowTest, FingersPressAsTheMouseDoes) {
     EXPECT_TRUE(waitUntil([&] { return asked == 1; }));
     lift(card);
     EXPECT_TRUE(sent({kScoreLine}));
-    auto* player = gallery.find<QWidget>("lblHPLAYERS", 0);
-    gallery.at("lblHPLAYERS", 0).setText(u"11 Orfanos"_s);
-    for (auto* area : window.findChildren<QScrollArea*>()) {
-        if (area->isAncestorOf(player)) area->ensureWidgetVisible(player);
-    }
-    for (const auto& [isLong, colour] : {std::pair{false, colours::kGreen}, {true, colours::kRed}}) {
-        goDown(player);
-        waitUntil([&] { return !isLong || gallery.at("lblHPLAYERS", 0).foreColour() == colours::kRed; });
-        lift(player);
-        EXPECT_EQ(gallery.at("lblHPLAYERS", 0).foreColour(), colour);
-    }
     goDown(card);
     QTest::touchEvent(card, finger).move(0, QPoint(1, -300), card);
     lift(card);
@@ -283,8 +272,8 @@ TEST_F(MainWindowTest, OnTwoScreensBoxesOpenOverTheirWindow) {
     startWithCards();
     gallery.app->window().setGeometry(second.adjusted(60, 60, -60, -60));
     gallery.app->window().close();
-    gallery.write(u"QRD_EN/player.csp"_s, "BREAK~Ready?\r\n");
     startWithCards();
+    gallery.write(u"QRD_EN/player.csp"_s, "BREAK~Ready?\r\n");
     gallery.app->showWindow();
     QStringList elsewhere;
     const auto look = [&](const QWidget* shown) {
