@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +15,7 @@ namespace {
 constexpr int kCaptionPixels = 15;
 constexpr int kStatePixels = 11;
 constexpr int kSmallWidth = 26;
+constexpr int kSmallMargin = 2;
 constexpr int kFrame = 3;  // pixels kept free around the button for the frame of the card fired last
 }  // namespace
 
@@ -24,7 +27,8 @@ CardButton::CardButton(ConsoleButton* small, QWidget* parent)
 
 void CardButton::setFace(const Face& face) {
     if (face == face_) return;
-    face_ = face;
+    const bool wasOn = std::exchange(face_, face).on;
+    if (wasOn != face.on) tellOn();
     small_->setVisible(!face.quiet);
     update();
 }
@@ -68,9 +72,9 @@ void CardButton::drawFace(QPainter& painter) const {
     QColor ground = theme::colour(face_.on ? Role::CardOn : face_.quiet ? Role::Cell : Role::Card);
     if (groundColour()) ground = *groundColour();
     if (isDown()) {
-        ground = ground.darker(135);
+        ground = theme::pressed(ground);
     } else if (underMouse() && !face_.quiet) {
-        ground = ground.lighter(115);
+        ground = theme::hovered(ground);
     }
     const Role line = face_.on ? Role::OnLine : Role::Line;
     theme::drawSurface(painter, body, {ground, theme::colour(line), 5, face_.on ? 2 : 1, face_.quiet && !face_.on});
@@ -88,8 +92,8 @@ void CardButton::drawFace(QPainter& painter) const {
         drawStruckLamp(painter, {small_->geometry().left() - kLamp - 5.0, body.bottom() - kLamp - 6.0, kLamp, kLamp});
     }
 
-    const QColor ink = ownText().value_or(groundColour() ? theme::readableOn(*groundColour())
-                                                         : theme::colour(face_.quiet ? Role::Muted : Role::Text));
+    const QColor ink = ownInk().value_or(groundColour() ? theme::readableOn(*groundColour())
+                                                        : theme::colour(face_.quiet ? Role::Muted : Role::Text));
     const QString state =
         QFontMetrics(theme::font(kStatePixels, face_.on)).elidedText(stateLine(), Qt::ElideRight, textRoom());
     const QRect inner(padding(), kFrame + 2, textRoom(), height() - 2 * kFrame - 4);
@@ -130,12 +134,21 @@ void CardButton::drawStruckLamp(QPainter& painter, const QRectF& area) const {
 }
 
 int CardButton::textRoom() const {
-    return width() - padding() - kFrame - kSmallWidth - 4;
+    return width() - padding() - kFrame - smallWidth() - 2 * kSmallMargin;
+}
+
+int CardButton::smallWidth() const {
+    return std::max(kSmallWidth, small_->minimumWidth());
+}
+
+QSize CardButton::minimumSizeHint() const {
+    return {64 + smallWidth(), std::max(34, small_->minimumHeight() + 2 * (kFrame + kSmallMargin))};
 }
 
 void CardButton::resizeEvent(QResizeEvent* event) {
     ConsoleButton::resizeEvent(event);
-    small_->setGeometry(width() - kFrame - kSmallWidth - 2, kFrame + 2, kSmallWidth, height() - 2 * kFrame - 4);
+    const int edge = kFrame + kSmallMargin;
+    small_->setGeometry(width() - edge - smallWidth(), edge, smallWidth(), height() - 2 * edge);
 }
 
 }  // namespace zelvor

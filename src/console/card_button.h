@@ -24,6 +24,7 @@ class CardButton : public ConsoleButton {
     };
     void setFace(const Face& face);
     [[nodiscard]] const Face& face() const { return face_; }
+    [[nodiscard]] bool isOn() const override { return face_.on; }
     // Shown large on the card while it is not empty.
     void setLetter(const QString& letter);
     [[nodiscard]] const QString& letter() const { return letter_; }
@@ -32,7 +33,7 @@ class CardButton : public ConsoleButton {
     [[nodiscard]] QString stateLine() const;
 
     [[nodiscard]] QSize sizeHint() const override { return {200, 56}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {90, 34}; }
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
     // The operator sees the button as it is now.
@@ -43,6 +44,7 @@ class CardButton : public ConsoleButton {
     void resizeEvent(QResizeEvent* event) override;
     [[nodiscard]] int padding() const override { return 13; }
     [[nodiscard]] int textRoom() const override;
+    [[nodiscard]] int smallWidth() const;
 
  private:
     void drawFace(QPainter& painter) const;

@@ -1,5 +1,6 @@
 #include "console/console_button.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QPointer>
 
@@ -22,8 +23,17 @@ void ConsoleButton::setColours(std::optional<QColor> ground, std::optional<QColo
 }
 
 void ConsoleButton::setSelected(bool selected) {
+    if (selected == selected_) return;
     selected_ = selected;
+    tellOn();
     update();
+}
+
+void ConsoleButton::tellOn() {
+    QAccessible::State what;
+    (isTab() ? what.selected : what.checked) = true;
+    QAccessibleStateChangeEvent event(this, what);
+    QAccessible::updateAccessibility(&event);
 }
 
 void ConsoleButton::setHint(const QString& hint) {
@@ -42,6 +52,11 @@ void ConsoleButton::setCaption(const QString& caption) {
 void ConsoleButton::updateToolTip() {
     const bool cut = fontMetrics().horizontalAdvance(text()) > textRoom();
     setToolTip(cut ? text() + u'\n' + hint_ : hint_);
+}
+
+std::optional<QColor> ConsoleButton::ownInk() const {
+    if (!ownText_ || ownGround_) return ownText_;
+    return theme::inkOf(*ownText_);
 }
 
 void ConsoleButton::press() {
@@ -65,9 +80,9 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QColor ground = ownGround_.value_or(theme::colour(look_.ground));
     if (isDown()) {
-        ground = ground.darker(130);
+        ground = theme::pressed(ground);
     } else if (underMouse() && isEnabled()) {
-        ground = ground.lighter(118);
+        ground = theme::hovered(ground);
     }
     if (look_.flat) {
         if (isDown() || underMouse()) painter.fillRect(rect(), ground);
@@ -90,7 +105,7 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     QColor ink = theme::colour(isEnabled() ? look_.text : theme::Role::Disabled);
     if (look_.underlined && !selected_) ink = theme::colour(theme::Role::Muted);
     if (ownGround_) ink = theme::readableOn(*ownGround_);
-    painter.setPen(ownText_.value_or(ink));
+    painter.setPen(ownInk().value_or(ink));
     if (selected_ && look_.underlined) painter.setFont(theme::font(look_.pixels, true));
     const QRect area = rect().adjusted(padding(), 0, -padding(), 0);
     painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));

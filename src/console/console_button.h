@@ -22,6 +22,7 @@ class ConsoleButton : public QAbstractButton {
         theme::Role text = theme::Role::Text;
         bool underlined = false;  // selected is shown by a line under the text, as page tabs do
         bool flat = false;        // no surface of its own but a line at its left
+        bool showsPage = false;   // one of a row of which each shows another page, as those with a line do
         bool firesCard = false;   // the second press of a double click is no press of its own
     };
 
@@ -32,6 +33,10 @@ class ConsoleButton : public QAbstractButton {
     [[nodiscard]] std::optional<QColor> groundColour() const { return ownGround_; }
     void setSelected(bool selected);
     [[nodiscard]] bool isSelected() const { return selected_; }
+    [[nodiscard]] bool isTab() const { return look_.underlined || look_.showsPage; }
+    [[nodiscard]] bool firesCard() const { return look_.firesCard; }
+    // Whether it shows that what it stands for is on.
+    [[nodiscard]] virtual bool isOn() const { return selected_; }
     // What the tool tip says besides a text that did not fit.
     void setHint(const QString& hint);
     void setCaption(const QString& caption);
@@ -54,8 +59,11 @@ class ConsoleButton : public QAbstractButton {
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
-    [[nodiscard]] std::optional<QColor> ownText() const { return ownText_; }
+    // The text's own colour, as it can be read.
+    [[nodiscard]] std::optional<QColor> ownInk() const;
     void drawFocus(QPainter& painter) const;
+    // isOn() is another now: tells those who hear the console.
+    void tellOn();
     // Pixels between the side and the text, and those it may take; the tool tip holds a text that does not fit.
     [[nodiscard]] virtual int padding() const { return 8; }
     [[nodiscard]] virtual int textRoom() const { return width() - 2 * padding(); }

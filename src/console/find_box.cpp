@@ -63,7 +63,8 @@ class FindDelegate : public QStyledItemDelegate {
             painter->drawText(area, static_cast<int>(side | Qt::AlignVCenter | Qt::TextSingleLine),
                               option.fontMetrics.elidedText(text, Qt::ElideRight, area.width()));
         };
-        painter->setPen(chosen ? Qt::black : theme::colour(theme::Role::Text));
+        painter->setPen(chosen ? theme::readableOn(theme::colour(theme::Role::Accent))
+                               : theme::colour(theme::Role::Text));
         write(left, Qt::AlignLeft, index.data().toString());
         if (!chosen) painter->setPen(theme::colour(theme::Role::Muted));
         write(right, Qt::AlignRight, index.data(FindModel::kWhereRole).toString());

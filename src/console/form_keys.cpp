@@ -32,15 +32,15 @@ void pressButton(QAbstractButton& button) {
     button.click();
 }
 
-void press(QWidget& widget, Qt::MouseButton mouse) {
+}  // namespace
+
+void pressWidget(QWidget& widget, Qt::MouseButton mouse) {
     if (auto* label = qobject_cast<TextLabel*>(&widget)) return label->press(mouse);
     auto* card = qobject_cast<CardButton*>(&widget);
     if (mouse == Qt::RightButton && card != nullptr) return card->small().press();
     if (auto* button = qobject_cast<QAbstractButton*>(&widget); button != nullptr && mouse == Qt::LeftButton)
         pressButton(*button);
 }
-
-}  // namespace
 
 FormKeys::FormKeys(QWidget& form, const FormModel& model) : form_(form) {
     for (const ControlRow& row : allControls()) {
@@ -76,7 +76,7 @@ void FormKeys::lead(QWidget& widget) const {
     for (const QWidget* panel = &widget; panel != nullptr; panel = panel->parentWidget()) {
         if (const auto tab = CardConsole::tabOf(panel->objectName())) {
             if (QWidget* button = widgetOf({controls.cmdTAB.name.toString(), *tab, false}))
-                zelvor::press(*button, Qt::LeftButton);
+                pressWidget(*button, Qt::LeftButton);
         }
     }
     widget.setFocus(Qt::ShortcutFocusReason);
@@ -88,7 +88,7 @@ void FormKeys::lead(QWidget& widget) const {
 bool FormKeys::press(const QKeySequence& key, QWidget* focus) const {
     if (key == kPressKey || key == kRightKey) {
         if (qobject_cast<QLineEdit*>(focus) != nullptr) return false;
-        zelvor::press(*focus, key == kPressKey ? Qt::LeftButton : Qt::RightButton);
+        pressWidget(*focus, key == kPressKey ? Qt::LeftButton : Qt::RightButton);
         return true;
     }
     const auto found = places_.find(key);
@@ -99,7 +99,7 @@ bool FormKeys::press(const QKeySequence& key, QWidget* focus) const {
         lead(*widget);
         return true;
     }
-    zelvor::press(*widget, Qt::LeftButton);
+    pressWidget(*widget, Qt::LeftButton);
     // From a tab the way leads on into its panel.
     if (found->second.name == controls.cmdTAB.name) widget->setFocus(Qt::TabFocusReason);
     return true;

@@ -10,6 +10,9 @@ class QWidget;
 
 namespace zelvor {
 
+// What a button of the mouse does to a control's widget; the right one is the "L" of a card.
+void pressWidget(QWidget& widget, Qt::MouseButton mouse);
+
 // The keys of the form's controls, as the table of controls gives them: a button is pressed, a text box, list or group
 // of labels gets the keyboard, wherever its panel lies. Ctrl+Enter presses what has the keyboard, Ctrl+Shift+Enter is
 // its right button, or the "L" of a card.

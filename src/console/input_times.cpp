@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QInputEvent>
+#include <QTimer>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +26,7 @@ InputTimes::InputTimes() {
 }
 
 qint64 InputTimes::waited() const {
-    return behind_ ? std::max<qint64>(0, now() - happened_) : 0;
+    return happened_ ? std::max<qint64>(0, now() - *happened_) : 0;
 }
 
 bool InputTimes::eventFilter(QObject* watched, QEvent* event) {
@@ -35,6 +36,8 @@ bool InputTimes::eventFilter(QObject* watched, QEvent* event) {
     const qint64 distance = now() - stamp;
     if (!behind_ || distance < *behind_ || distance - *behind_ > kImpossible) behind_ = distance;
     happened_ = stamp + *behind_;
+    // What is pressed in a later turn, by a screen reader or a long touch, has not waited since then.
+    QTimer::singleShot(0, this, [this] { happened_.reset(); });
     return false;
 }
 

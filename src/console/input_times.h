@@ -21,8 +21,8 @@ class InputTimes : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    std::optional<qint64> behind_;  // our clock less the platform's
-    qint64 happened_ = 0;           // by our clock
+    std::optional<qint64> behind_;    // our clock less the platform's
+    std::optional<qint64> happened_;  // by our clock
 };
 
 }  // namespace zelvor

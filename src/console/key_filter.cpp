@@ -27,6 +27,14 @@ bool isInput(const QWidget* widget) {
            qobject_cast<const QCheckBox*>(widget) != nullptr || qobject_cast<const QRadioButton*>(widget) != nullptr;
 }
 
+// A key, or the Shift beside Alt, that changes the desktop's keyboard layout: X11 names it ISO_Group_Latch to
+// ISO_Last_Group_Lock.
+bool changesLayout(const QKeyEvent& key) {
+    constexpr quint32 kFirst = 0xfe06;
+    constexpr quint32 kLast = 0xfe0f;
+    return key.nativeVirtualKey() >= kFirst && key.nativeVirtualKey() <= kLast;
+}
+
 // The window that the widget is part of; for a list or menu that has popped up, and for a box that waits for nobody,
 // the one it stands over.
 const QWidget* formOf(const QWidget* widget) {
@@ -63,6 +71,7 @@ std::span<const KeyFilter::WindowKey> KeyFilter::windowKeys() {
 }
 
 bool KeyFilter::pressCombination(const QKeyEvent& key, QWidget* focus) {
+    if (layoutChanged_) return true;
     const QKeySequence pressed = FormKeys::sequenceOf(key);
     for (const WindowKey& each : windowKeys()) {
         if (QKeySequence(each.key.toString()) != pressed) continue;
@@ -70,6 +79,16 @@ bool KeyFilter::pressCombination(const QKeyEvent& key, QWidget* focus) {
         return true;
     }
     return formKeys_.press(pressed, focus);
+}
+
+// With Alt+Shift as the desktop's switch, a letter comes without its Shift: it would be another deed than the one
+// meant.
+void KeyFilter::watchLayout(const QKeyEvent& key) {
+    const bool isAltsEnd = key.type() == QEvent::KeyRelease && (key.key() == Qt::Key_Alt || key.key() == Qt::Key_Meta);
+    if (isAltsEnd || !key.modifiers().testFlag(Qt::AltModifier)) layoutChanged_ = false;
+    if (!changesLayout(key) || key.type() != QEvent::KeyPress) return;
+    layoutChanged_ = key.modifiers().testFlag(Qt::AltModifier);
+    if (layoutChanged_) letAltGo();
 }
 
 void KeyFilter::watchAlt(const QKeyEvent& key) {
@@ -92,6 +111,7 @@ void KeyFilter::letAltGo() {
 // True for a press that nobody is to see.
 bool KeyFilter::windowSees(const QKeyEvent& key) {
     watchAlt(key);
+    watchLayout(key);
     if (repeats_.isRepeat(key)) {
         const bool isDeed = QApplication::activeWindow() == &form_ && formKeys_.has(FormKeys::sequenceOf(key));
         return isDeed || !repeatsWhenHeld(key, QApplication::focusWidget());

@@ -53,11 +53,13 @@ class KeyFilter : public QObject {
     bool formSees(const QKeyEvent& key, QWidget* focus);
     bool pressCombination(const QKeyEvent& key, QWidget* focus);
     void watchAlt(const QKeyEvent& key);
+    void watchLayout(const QKeyEvent& key);
     void letAltGo();
 
     QWidget& form_;
     FormKeys formKeys_;
     bool isAltHeld_ = false;
+    bool layoutChanged_ = false;  // while Alt is held: nothing fires until it is let go
     KeyRepeats repeats_;
     std::vector<const QWidget*> beside_;
 };

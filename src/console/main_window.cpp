@@ -1,5 +1,6 @@
 #include "console/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -8,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "console/accessibility.h"
 #include "console/key_filter.h"
 #include "console/key_sheet.h"
 #include "console/panels/card_grid.h"
@@ -47,6 +49,7 @@ QScrollArea* scrolling(QWidget* content) {
 MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console, QAbstractItemModel& history,
                        QAbstractItemModel& responses)
     : mirrors_(form, events), keys_(new KeyFilter(*this, form)) {
+    describeWidgets();
     setObjectName(u"frmMAIN"_s);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
     auto* rows = new QVBoxLayout(this);
@@ -59,9 +62,7 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     auto* rule = new QWidget;
     rule->setFixedWidth(1);
     rule->setAutoFillBackground(true);
-    QPalette line = rule->palette();
-    line.setColor(QPalette::Window, theme::colour(theme::Role::Line));
-    rule->setPalette(line);
+    rule->setBackgroundRole(QPalette::Mid);
     sides->addWidget(rule);
     right_ = scrolling(rightSide(responses));
     sides->addWidget(right_);
@@ -72,6 +73,7 @@ MainWindow::MainWindow(FormModel& form, FormEvents& events, CardConsole& console
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
     answerKeys();
+    touch_ = std::make_unique<Touch>(*this);
 }
 
 void MainWindow::answerKeys() {
@@ -92,6 +94,16 @@ void MainWindow::showSheet() {
 
 void MainWindow::changeFullScreen() {
     setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void MainWindow::setTheme(theme::Theme theme) {
+    theme::apply(*qApp, theme);
+    mirrors_.showColoursAnew();
+}
+
+QPoint MainWindow::below(const ControlRow& control) const {
+    const auto* widget = findChild<QWidget*>(control.name.toString());
+    return widget->mapToGlobal(QPoint(0, widget->height()));
 }
 
 void MainWindow::takeFunctionKeysOf(const QWidget& beside) {
@@ -133,7 +145,7 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     auto* tabs = new QHBoxLayout;
     tabs->setSpacing(4);
     for (int i = 0; i < CardConsole::kTabs; ++i) {
-        ConsoleButton* tab = mirrors_.button(controls.cmdTAB, i, {13});
+        ConsoleButton* tab = mirrors_.button(controls.cmdTAB, i, {.pixels = 13, .showsPage = true});
         tab->setFixedHeight(30);
         tab->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         tabs->addWidget(tab, 1);

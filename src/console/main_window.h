@@ -2,8 +2,10 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "console/mirror.h"
+#include "console/touch.h"
 #include "console_rules/card_console.h"
 
 class QAbstractItemModel;
@@ -25,6 +27,12 @@ class MainWindow : public QWidget {
 
     // F1 to F10 pressed in that window are this one's.
     void takeFunctionKeysOf(const QWidget& beside);
+
+    // For fingers: what is pressed is made large enough.
+    void enlarge() { touch_->enlarge(); }
+    void setTheme(theme::Theme theme);
+    // The place for a menu that the widget opens: below it, where the pointer need not be.
+    [[nodiscard]] QPoint below(const ControlRow& control) const;
 
     // Asked when the operator closes the window; false keeps it open.
     void setMayClose(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
@@ -53,6 +61,7 @@ class MainWindow : public QWidget {
 
     Mirrors mirrors_;
     KeyFilter* keys_;
+    std::unique_ptr<Touch> touch_;
     QWidget* right_ = nullptr;
     KeySheet* sheet_ = nullptr;  // made when it is first wanted
     std::function<bool()> mayClose_;

@@ -1,6 +1,8 @@
 #include "console/mirror.h"
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QWheelEvent>
@@ -33,10 +35,10 @@ void applyCommon(const Control& control, QWidget* widget, Property property) {
     if (property == Property::Visible && (widget->parentWidget() != nullptr || !control.visible()))
         widget->setVisible(control.visible());
     if (property == Property::Enabled) widget->setEnabled(control.enabled());
-    if (property == Property::Text) {
-        const QString hint = control.hint();
-        widget->setAccessibleName(control.text().isEmpty() ? hint : hint + u": "_s + control.shownText());
-    }
+    if (property != Property::Text) return;
+    // What is typed is told as the box's value.
+    const bool nameHoldsText = control.kind() != Control::Kind::TextBox && !control.text().isEmpty();
+    widget->setAccessibleName(nameHoldsText ? control.hint() + u": "_s + control.shownText() : control.hint());
 }
 
 // The colour of a label's text: good news are green, bad news red, waiting is amber; its words say the same.
@@ -119,8 +121,8 @@ ConsoleButton* Mirrors::button(const ControlRow& row, int index, const ConsoleBu
 }
 
 CardButton* Mirrors::cardButton(int index) const {
-    const ConsoleButton::Look flat{12,   false, theme::Role::ButtonHover, theme::Role::Line, theme::Role::Muted, false,
-                                   true, true};
+    const ConsoleButton::Look flat{
+        .pixels = 12, .ground = theme::Role::ButtonHover, .text = theme::Role::Muted, .flat = true, .firesCard = true};
     auto* widget = new CardButton(button(controls.cmdCARDBOX, index, flat));
     bindButton(widget, begin(widget, controls.cmbCARD, index));
     return widget;
@@ -142,12 +144,14 @@ QLineEdit* Mirrors::textBox(const ControlRow& row, int index) const {
         }
         if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
     });
-    auto* sign = widget->addAction(theme::warningSign(), QLineEdit::TrailingPosition);
+    auto* sign = widget->addAction(QIcon(), QLineEdit::TrailingPosition);
     follow(control, widget, [&control, widget, sign](Property property) {
         if (property != Property::State) return;
         const bool wrong = !control.state().isEmpty();
         const QString words = wrong ? QString(control.hint() + u'\n' + control.state()) : control.hint();
         sign->setVisible(wrong);
+        sign->setIcon(theme::warningSign());
+        sign->setText(words);
         sign->setToolTip(words);
         widget->setToolTip(words);
         widget->setAccessibleDescription(control.state());
@@ -195,12 +199,24 @@ class ListBox : public QComboBox {
  public:
     int changedTo = -1;  // the position that a choice under way has changed it to
 
+    ListBox() { setProperty("drawsArrow", true); }
+
     void hidePopup() override {
         QComboBox::hidePopup();
         window()->setFocus();
     }
 
  protected:
+    // With an arrow of the theme's: the one that Qt draws beside a style sheet has a bevel of other colours.
+    void paintEvent(QPaintEvent* event) override {
+        QComboBox::paintEvent(event);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme::colour(isEnabled() ? theme::Role::Text : theme::Role::Disabled));
+        const QPointF tip(width() - 12, height() / 2.0 + 3);
+        painter.drawPolygon(QPolygonF{tip, tip + QPointF(-4, -5), tip + QPointF(4, -5)});
+    }
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     void keyPressEvent(QKeyEvent* event) override {
         switch (event->key()) {
@@ -231,6 +247,8 @@ QComboBox* Mirrors::list(const ControlRow& row, int index, bool editable) const 
     widget->setInsertPolicy(QComboBox::NoInsert);
     widget->setMaxVisibleItems(12);
     Control& control = begin(widget, row, index);
+    widget->view()->setAccessibleName(control.hint());
+    if (editable) widget->lineEdit()->setAccessibleName(control.hint());
     follow(control, widget, [&control, widget, editable](Property property) {
         applyCommon(control, widget, property);
         const QSignalBlocker quiet(widget);
@@ -256,6 +274,13 @@ QComboBox* Mirrors::list(const ControlRow& row, int index, bool editable) const 
     });
     if (editable) QObject::connect(widget, &QComboBox::editTextChanged, &control, &Control::setText);
     return widget;
+}
+
+void Mirrors::showColoursAnew() const {
+    for (Control* control : form_.all()) {
+        for (const Property property : {Property::BackColour, Property::State})
+            Q_EMIT control->changed(control, property);
+    }
 }
 
 void Mirrors::panel(QWidget* widget, const ControlRow& row) const {

@@ -35,6 +35,9 @@ class Mirrors {
     // A widget of the panel's own making; its visibility follows the control.
     void panel(QWidget* widget, const ControlRow& row) const;
 
+    // After another theme was applied: what widgets take from it beside their palette.
+    void showColoursAnew() const;
+
     [[nodiscard]] FormModel& form() const { return form_; }
 
  private:

@@ -11,6 +11,7 @@ namespace zelvor {
 namespace {
 
 constexpr int kMark = 7;           // pixels
+constexpr int kLargeMark = 12;     // pixels
 constexpr int kNumberColumn = 26;  // pixels, room for two digits and a blank
 
 // The digits before the first blank, empty when the text does not begin with a number.
@@ -46,6 +47,11 @@ void TextLabel::setTextRole(theme::Role role) {
     update();
 }
 
+void TextLabel::setMark(Mark mark) {
+    mark_ = mark;
+    update();
+}
+
 void TextLabel::setColours(std::optional<QColor> ground, std::optional<QColor> text) {
     ownGround_ = ground;
     ownText_ = text;
@@ -57,7 +63,7 @@ bool TextLabel::isMarked() const {
 }
 
 QColor TextLabel::textColour() const {
-    if (ownText_) return *ownText_;
+    if (ownText_) return ownGround_ ? *ownText_ : theme::inkOf(*ownText_);
     if (ownGround_) return theme::readableOn(*ownGround_);
     return theme::colour(isEnabled() ? look_.text : theme::Role::Disabled);
 }
@@ -86,7 +92,7 @@ void TextLabel::updateToolTip() {
     const bool tooWide = std::any_of(all.begin(), all.end(),
                                      [&](const QString& line) { return metrics.horizontalAdvance(line) > room; });
     const bool tooHigh = all.size() > 1 && metrics.height() * all.size() > height();
-    setToolTip(tooWide || tooHigh ? text_ + u'\n' + hint_ : hint_);
+    setToolTip(!text_.isEmpty() && (tooWide || tooHigh) ? text_ + u'\n' + hint_ : hint_);
 }
 
 QSize TextLabel::sizeHint() const {
@@ -112,13 +118,13 @@ void TextLabel::drawNumbered(QPainter& painter, const QRect& area, const QString
         rest.setLeft(area.left() + kNumberColumn);
         painter.setFont(theme::font(look_.pixels, isMarked()));
     }
-    if (ownText_ && *ownText_ != QColor(Qt::white)) {
+    if (isMarked()) {
         // Which of the two chosen players it is does not depend on the colour alone: a disc for the first, a ring
         // for the other.
         const QRectF mark(area.right() - kMark, area.center().y() - kMark / 2.0, kMark, kMark);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(*ownText_, 2));
-        painter.setBrush(*ownText_ == theme::colour(colours::kRed) ? QBrush(Qt::NoBrush) : QBrush(*ownText_));
+        painter.setPen(QPen(textColour(), 2));
+        painter.setBrush(*ownText_ == theme::colour(colours::kRed) ? QBrush(Qt::NoBrush) : QBrush(textColour()));
         painter.drawEllipse(mark);
         rest.setRight(static_cast<int>(mark.left()) - 4);
     }
@@ -155,6 +161,10 @@ void TextLabel::drawWords(QPainter& painter) const {
         drawNumbered(painter, area, text_);
         return;
     }
+    if (mark_ != Mark::None) {
+        drawMark(painter, QRectF(area.right() - kLargeMark, (height() - kLargeMark) / 2.0, kLargeMark, kLargeMark));
+        area.setRight(area.right() - kLargeMark - 6);
+    }
     painter.setPen(textColour());
     QStringList shown = lines();
     // Lines that do not fit under one another are not cut in half: the last that fits says there is more.
@@ -165,6 +175,21 @@ void TextLabel::drawWords(QPainter& painter) const {
     }
     for (QString& line : shown) line = elided(line, area.width());
     painter.drawText(area, static_cast<int>(look_.alignment), shown.join(u'\n'));
+}
+
+void TextLabel::drawMark(QPainter& painter, const QRectF& area) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(textColour(), 2, Qt::SolidLine, Qt::RoundCap));
+    painter.setBrush(Qt::NoBrush);
+    if (mark_ != Mark::Tick) painter.drawEllipse(area);
+    if (mark_ != Mark::Ring) {
+        const QRectF tick = mark_ == Mark::Tick ? area : area.adjusted(3, 2.5, -3, -2.5);
+        painter.drawPolyline(QPolygonF{{tick.left(), tick.center().y()},
+                                       {tick.left() + tick.width() / 3, tick.bottom() - 1},
+                                       {tick.right(), tick.top() + 1}});
+    }
+    painter.restore();
 }
 
 QString TextLabel::elided(const QString& line, int room) const {

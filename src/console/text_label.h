@@ -25,6 +25,9 @@ class TextLabel : public QWidget {
         bool keepsEnd = false;  // of too long a text the second word is cut first: "main long-na… connected"
     };
 
+    // At its right edge, so that its ground's colour is not all that tells them apart.
+    enum class Mark { None, Ring, Tick, TickInRing };
+
     explicit TextLabel(const Look& look, QWidget* parent = nullptr);
 
     [[nodiscard]] const QString& text() const { return text_; }
@@ -33,6 +36,9 @@ class TextLabel : public QWidget {
     void setPlaceholder(const QString& text);
     // Another colour for the look's text.
     void setTextRole(theme::Role role);
+    // Shown while there is a text.
+    void setMark(Mark mark);
+    [[nodiscard]] Mark mark() const { return mark_; }
     // nullopt: the look's own.
     void setColours(std::optional<QColor> ground, std::optional<QColor> text);
     [[nodiscard]] std::optional<QColor> groundColour() const { return ownGround_; }
@@ -64,6 +70,7 @@ class TextLabel : public QWidget {
     [[nodiscard]] QStringList lines() const;
     [[nodiscard]] QString elided(const QString& line, int room) const;
     void drawWords(class QPainter& painter) const;
+    void drawMark(class QPainter& painter, const QRectF& area) const;
     void drawNumbered(class QPainter& painter, const QRect& area, const QString& line) const;
 
     Look look_;
@@ -72,6 +79,7 @@ class TextLabel : public QWidget {
     QString hint_;
     std::optional<QColor> ownGround_;
     std::optional<QColor> ownText_;
+    Mark mark_ = Mark::None;
 };
 
 }  // namespace zelvor

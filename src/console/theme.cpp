@@ -6,103 +6,12 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <array>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor::theme {
 
-QColor colour(Role role) {
-    switch (role) {
-        case Role::Window:
-            return {0x0f, 0x13, 0x17};
-        case Role::Bar:
-            return {0x18, 0x1c, 0x22};
-        case Role::Panel:
-            return {0x16, 0x1a, 0x20};
-        case Role::Field:
-            return {0x0b, 0x0e, 0x12};
-        case Role::Cell:
-            return {0x12, 0x15, 0x1a};
-        case Role::Button:
-            return {0x23, 0x29, 0x32};
-        case Role::ButtonHover:
-            return {0x2d, 0x34, 0x3f};
-        case Role::ButtonPressed:
-            return {0x1b, 0x20, 0x28};
-        case Role::Card:
-            return {0x24, 0x2a, 0x33};
-        case Role::CardHover:
-            return {0x2e, 0x35, 0x40};
-        case Role::CardPressed:
-            return {0x1a, 0x1f, 0x26};
-        case Role::CardOn:
-            return {0x0f, 0x26, 0x17};
-        case Role::Line:
-            return {0x3a, 0x42, 0x4e};
-        case Role::Accent:
-            return {0x5a, 0xa9, 0xff};
-        case Role::OnLine:
-            return {0x00, 0xff, 0x00};
-        case Role::AirFill:
-            return {0x26, 0x0a, 0x0d};
-        case Role::AirLine:
-            return {0xff, 0x5a, 0x5a};
-        case Role::Text:
-            return {0xf2, 0xf4, 0xf7};
-        case Role::Muted:
-            return {0xa3, 0xac, 0xb8};
-        case Role::Disabled:
-            return {0x8c, 0x95, 0xa1};
-        case Role::OnText:
-            return {0x7c, 0xff, 0x9b};
-        case Role::AirText:
-            return {0xff, 0x7a, 0x7a};
-        case Role::Good:
-            return {0x4a, 0xd9, 0x6b};
-        case Role::Bad:
-            return {0xff, 0x6e, 0x6e};
-        case Role::Wait:
-            return {0xf5, 0xb9, 0x4c};
-    }
-    return Qt::magenta;
-}
-
-QColor colour(Colour systemColour) {
-    return QColor::fromRgb(static_cast<int>(systemColour & 0xff), static_cast<int>(systemColour >> 8 & 0xff),
-                           static_cast<int>(systemColour >> 16 & 0xff));
-}
-
-std::span<const TextPair> textPairs() {
-    static constexpr std::array kPairs{
-        TextPair{Role::Text, Role::Window},      TextPair{Role::Text, Role::Bar},
-        TextPair{Role::Text, Role::Panel},       TextPair{Role::Text, Role::Field},
-        TextPair{Role::Text, Role::Cell},        TextPair{Role::Text, Role::Button},
-        TextPair{Role::Text, Role::ButtonHover}, TextPair{Role::Text, Role::Card},
-        TextPair{Role::Text, Role::CardHover},   TextPair{Role::Text, Role::CardOn},
-        TextPair{Role::Text, Role::AirFill},     TextPair{Role::Muted, Role::Window},
-        TextPair{Role::Muted, Role::Bar},        TextPair{Role::Muted, Role::Panel},
-        TextPair{Role::Muted, Role::Field},      TextPair{Role::Muted, Role::Cell},
-        TextPair{Role::Muted, Role::Card},       TextPair{Role::Muted, Role::CardHover},
-        TextPair{Role::Muted, Role::Button},     TextPair{Role::Muted, Role::CardOn},
-        TextPair{Role::Disabled, Role::Panel},   TextPair{Role::Disabled, Role::Button},
-        TextPair{Role::OnText, Role::CardOn},    TextPair{Role::OnText, Role::Panel},
-        TextPair{Role::AirText, Role::AirFill},  TextPair{Role::Good, Role::Bar},
-        TextPair{Role::Bad, Role::Bar},          TextPair{Role::Bad, Role::Field},
-        TextPair{Role::Bad, Role::Panel},        TextPair{Role::Wait, Role::Bar},
-        TextPair{Role::Wait, Role::Panel},       TextPair{Role::Accent, Role::Card},
-    };
-    return kPairs;
-}
-
 namespace {
-
-double luminance(const QColor& of) {
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(of.redF()) + 0.7152 * linear(of.greenF()) + 0.0722 * linear(of.blueF());
-}
 
 QPalette palette() {
     QPalette look;
@@ -115,7 +24,8 @@ QPalette palette() {
     look.setColor(QPalette::Button, colour(Role::Button));
     look.setColor(QPalette::ButtonText, colour(Role::Text));
     look.setColor(QPalette::Highlight, colour(Role::Accent));
-    look.setColor(QPalette::HighlightedText, Qt::black);
+    look.setColor(QPalette::HighlightedText, readableOn(colour(Role::Accent)));
+    look.setColor(QPalette::Mid, colour(Role::Line));
     look.setColor(QPalette::ToolTipBase, colour(Role::Button));
     look.setColor(QPalette::ToolTipText, colour(Role::Text));
     look.setColor(QPalette::Link, colour(Role::Accent));
@@ -130,8 +40,8 @@ QToolTip { color: @Text; background: @Button; border: 1px solid @Line; padding: 
 QDialog { background: @Panel; border: 1px solid @Line; }
 QMenu { background: @Panel; }
 QLineEdit, QComboBox, QPlainTextEdit, QListView, QTableView {
-  color: @Text; background: @Field; border: 1px solid @Line; border-radius: 4px;
-  selection-background-color: @Accent; selection-color: black;
+  background: @Field; border: 1px solid @Line; border-radius: 4px;
+  selection-background-color: @Accent; selection-color: @OnAccent;
 }
 QLineEdit { padding: 2px 6px; }
 QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListView:focus { border-color: @Accent; }
@@ -139,6 +49,7 @@ QLineEdit[wrong="true"] { border-color: @Bad; }
 QLineEdit:read-only { color: @Muted; background: @Panel; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Panel; }
 QComboBox { padding: 2px 4px 2px 8px; }
+QComboBox[drawsArrow="true"]::drop-down { border: none; width: 20px; }
 QComboBox QAbstractItemView { background: @Panel; border: 1px solid @Line; }
 QCheckBox, QRadioButton { color: @Text; spacing: 6px; padding: 2px; border-radius: 4px; }
 QCheckBox:focus, QRadioButton:focus { color: @Accent; }
@@ -160,7 +71,18 @@ QScrollBar::handle { background: @Line; border-radius: 4px; min-height: 24px; mi
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 )");
 
-QString styleSheet() {
+// What a finger must meet; "@Finger" stands for its size in pixels.
+constexpr QLatin1StringView kFingerStyle(R"(
+QPushButton, QLineEdit, QComboBox, QCheckBox, QRadioButton, QMenu::item, QListView::item { min-height: @Finger; }
+QPushButton, QMenu::item { padding-top: 0; padding-bottom: 0; }
+QComboBox QAbstractItemView::item { min-height: @Finger; }
+QScrollBar:vertical { width: @Finger; }
+QScrollBar:horizontal { height: @Finger; }
+)");
+
+constexpr const char* kFingerProperty = "zelvorFinger";
+
+QString styleSheet(int finger) {
     struct Named {
         QLatin1StringView name;
         Role role;
@@ -180,24 +102,13 @@ QString styleSheet() {
         Named{"@Bad"_L1, Role::Bad},
     };
     QString style = kStyle;
+    if (finger > 0) style += QString(kFingerStyle).replace("@Finger"_L1, QString::number(finger) + u"px"_s);
+    style.replace("@OnAccent"_L1, readableOn(colour(Role::Accent)).name());
     for (const Named& named : kNames) style.replace(named.name, colour(named.role).name());
     return style;
 }
 
 }  // namespace
-
-double contrast(const QColor& one, const QColor& other) {
-    const double first = luminance(one) + 0.05;
-    const double second = luminance(other) + 0.05;
-    return first > second ? first / second : second / first;
-}
-
-QColor readableOn(const QColor& ground) {
-    const QColor black(Qt::black);
-    const QColor white(Qt::white);
-    return contrast(white, ground) >= kLeastContrast || contrast(white, ground) > contrast(black, ground) ? white
-                                                                                                          : black;
-}
 
 QFont font(int pixels, bool bold) {
     QFont made(u"Noto Sans"_s);
@@ -237,13 +148,15 @@ void drawFocusRing(QPainter& painter, const QRectF& area) {
 QString ownColours(std::optional<Colour> back, std::optional<Colour> fore) {
     QString rule;
     if (back) rule += u"background: %1;"_s.arg(colour(*back).name());
-    if (fore || back) rule += u"color: %1;"_s.arg(fore ? colour(*fore).name() : readableOn(colour(*back)).name());
+    if (back && fore) rule += u"color: %1;"_s.arg(colour(*fore).name());
+    if (back && !fore) rule += u"color: %1;"_s.arg(readableOn(colour(*back)).name());
+    if (!back && fore) rule += u"color: %1;"_s.arg(inkOf(colour(*fore)).name());
     return rule;
 }
 
 namespace {
 
-// Check boxes and option buttons that can be told from their ground in the dark, and buttons without icons.
+// Check boxes and option buttons that can be told from their ground, and buttons without icons.
 class ConsoleStyle : public QProxyStyle {
  public:
     ConsoleStyle() : QProxyStyle(u"Fusion"_s) {}
@@ -281,11 +194,17 @@ class ConsoleStyle : public QProxyStyle {
 
 }  // namespace
 
-void apply(QApplication& application) {
+void apply(QApplication& application, Theme theme) {
+    application.setProperty(kThemeProperty, wordOf(theme));
     application.setStyle(new ConsoleStyle);  // NOLINT: the application takes it over
     application.setFont(font(14));
     application.setPalette(palette());
-    application.setStyleSheet(styleSheet());
+    application.setStyleSheet(styleSheet(application.property(kFingerProperty).toInt()));
+}
+
+void setFingerSize(QApplication& application, int pixels) {
+    application.setProperty(kFingerProperty, pixels);
+    application.setStyleSheet(styleSheet(pixels));
 }
 
 }  // namespace zelvor::theme

@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QRect>
 #include <optional>
-#include <span>
 
 #include "form/colour.h"
 
@@ -14,6 +13,15 @@ class QPainter;
 
 // How the console looks: every colour, font and style rule of its windows stands here.
 namespace zelvor::theme {
+
+enum class Theme { Dark, Light, HighContrast };
+
+// "dark", "light", "high-contrast": as options and files have it; nullopt for another word.
+QString wordOf(Theme theme);
+std::optional<Theme> themeOf(QStringView word);
+// The application's theme, which is a property of it: dark before one was applied.
+constexpr const char* kThemeProperty = "zelvorTheme";
+Theme current();
 
 enum class Role {
     Window,
@@ -25,8 +33,6 @@ enum class Role {
     ButtonHover,
     ButtonPressed,
     Card,
-    CardHover,
-    CardPressed,
     CardOn,
     Line,
     Accent,
@@ -43,21 +49,21 @@ enum class Role {
     Wait,
 };
 
+// Of the application's theme.
 QColor colour(Role role);
 QColor colour(Colour systemColour);
-
-// Text and the ground it stands on, for every pair the console uses.
-struct TextPair {
-    Role text;
-    Role ground;
-};
-std::span<const TextPair> textPairs();
 
 // Contrast of two colours, 1 to 21. At least kLeastContrast is wanted for text.
 constexpr double kLeastContrast = 4.5;
 double contrast(const QColor& one, const QColor& other);
 // Black or white, whichever reads better on the ground.
 QColor readableOn(const QColor& ground);
+// A colour that a rule or a script gave to a text whose ground is the theme's: itself where it can be read there, else
+// the nearest that can; white, which rules write for "no longer marked", is the theme's text.
+QColor inkOf(const QColor& own);
+// The ground of what the mouse is over, or holds down.
+QColor hovered(const QColor& ground);
+QColor pressed(const QColor& ground);
 
 // A font of that height in pixels. Its digits are all of one width.
 QFont font(int pixels, bool bold = false);
@@ -81,7 +87,10 @@ void drawFocusRing(QPainter& painter, const QRectF& area);
 // Style rule of a widget whose colours a rule or a script has set, empty when neither is set.
 QString ownColours(std::optional<Colour> back, std::optional<Colour> fore);
 
-// Gives the application its font, palette and style sheet.
-void apply(QApplication& application);
+// Gives the application its font, palette and style sheet, also in place of another theme's.
+void apply(QApplication& application, Theme theme = Theme::Dark);
+
+// Makes what is pressed in boxes, menus and panels at least that many pixels high. 0: as small as its text.
+void setFingerSize(QApplication& application, int pixels);
 
 }  // namespace zelvor::theme

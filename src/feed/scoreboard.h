@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "feed/quiet_rules.h"
+#include "form/blink.h"
 
 namespace zelvor {
 
@@ -14,6 +15,7 @@ class Scoreboard : public QuietRules {
 
  public:
     static constexpr int kBlinkInterval = 700;  // milliseconds
+    static_assert(blinksCalmly(kBlinkInterval));
 
     Scoreboard(FormModel& form, VariableStore& variables, ErrorTrap& trap);
 

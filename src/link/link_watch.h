@@ -6,6 +6,7 @@
 
 #include "base/error_trap.h"
 #include "engine/ports.h"
+#include "form/blink.h"
 #include "form/form_model.h"
 #include "link/graphics_links.h"
 
@@ -17,8 +18,9 @@ class LinkWatch : public QObject {
     Q_OBJECT
 
  public:
-    static constexpr int kWatchInterval = 500;   // milliseconds
-    static constexpr int kRetryInterval = 2000;  // milliseconds
+    static constexpr int kWatchInterval = 500;    // milliseconds
+    static_assert(blinksCalmly(kWatchInterval));  // of the tab
+    static constexpr int kRetryInterval = 2000;   // milliseconds
     // A server that leaves lines without a reply for longer is shown as not answering.
     static constexpr qint64 kSilence = 3000;  // milliseconds
     // How long it is shown that it answers again.

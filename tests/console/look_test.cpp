@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <QKeySequence>
-#include <set>
-
 #include <QFontMetrics>
+#include <QKeySequence>
+#include <QPaintEngine>
+#include <QPainter>
+#include <algorithm>
+#include <set>
 
 #include "console/panels/history_panel.h"
 #include "console/text_label.h"
@@ -14,22 +16,147 @@ using namespace Qt::StringLiterals;
 
 namespace zelvor::test {
 
+// What a window writes, where and in which colour: a paint engine that takes nothing but text.
+class TextRecorder : public QPaintEngine, public QPaintDevice {
+ public:
+    struct Written {
+        QRect area;
+        QColor ink;
+        QString text;
+    };
+
+    explicit TextRecorder(QSize size) : QPaintEngine(AllFeatures), size_(size) {}
+
+    std::vector<Written> written;
+
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override {}
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    void drawPath(const QPainterPath&) override {}
+    void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+    [[nodiscard]] Type type() const override { return User; }
+    void drawTextItem(const QPointF& place, const QTextItem& item) override {
+        const QRectF box(place.x(), place.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+        const QRect whole = painter()->deviceTransform().mapRect(box).toRect();
+        const QRect seen = systemClip().isEmpty() ? whole : whole & systemClip().boundingRect();
+        // A row that is cut by the end of its list has little ground of its own.
+        if (seen.height() * 2 < whole.height()) return;
+        written.push_back({seen, painter()->pen().color(), item.text().trimmed()});
+    }
+    [[nodiscard]] QPaintEngine* paintEngine() const override { return const_cast<TextRecorder*>(this); }
+
+ protected:
+    [[nodiscard]] int metric(PaintDeviceMetric metric) const override {
+        constexpr int kDots = 96;
+        switch (metric) {
+            case PdmWidth:
+                return size_.width();
+            case PdmHeight:
+                return size_.height();
+            case PdmDpiX:
+            case PdmDpiY:
+            case PdmPhysicalDpiX:
+            case PdmPhysicalDpiY:
+                return kDots;
+            case PdmDevicePixelRatioScaled:
+                return static_cast<int>(devicePixelRatioFScale());
+            default:
+                return 1;
+        }
+    }
+
+ private:
+    QSize size_;
+};
+
+// The colour that most of an area has: what stands around its letters.
+QColor groundOf(const QImage& picture, const QRect& area) {
+    QHash<QRgb, int> counts;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) ++counts[picture.pixel(x, y)];
+    }
+    const auto most = std::max_element(counts.cbegin(), counts.cend());
+    return QColor(most.key());
+}
+
+// Texts of the window that cannot be read well, and how many there are at all.
+QStringList illegible(QWidget& window, int& count) {
+    TextRecorder recorder(window.size());
+    QPainter painter(&recorder);
+    window.render(&painter);
+    painter.end();
+    const QImage picture = window.grab().toImage();
+    QStringList found;
+    for (const TextRecorder::Written& each : recorder.written) {
+        const QRect area = each.area & picture.rect();
+        if (area.isEmpty() || each.text.isEmpty()) continue;
+        ++count;
+        const QColor ground = groundOf(picture, area);
+        const double contrast = theme::contrast(each.ink, ground);
+        if (contrast < theme::kLeastContrast || each.ink.alpha() < 255)
+            found += u"%1: %2 on %3, %4"_s.arg(each.text, each.ink.name(), ground.name()).arg(contrast);
+    }
+    return found;
+}
+
+// Whatever is drawn, in every state that has colours of its own.
 TEST(Theme, TextContrastsWithItsGround) {
     EXPECT_NEAR(theme::contrast(Qt::black, Qt::white), 21, 0.01);
-    for (const theme::TextPair& pair : theme::textPairs()) {
-        EXPECT_GE(theme::contrast(theme::colour(pair.text), theme::colour(pair.ground)), theme::kLeastContrast)
-            << "text " << static_cast<int>(pair.text) << " on " << static_cast<int>(pair.ground);
+    Gallery gallery;
+    gallery.writePack({"Score,score.csp,1", "Empty,", "Coloured,score.csp"}, "FKEYS:1|Score|score.csp\r\n");
+    gallery.write(u"QRD_EN/score.csp"_s, "ON~0\r\nBUTTONCOLOR~2;&H00FF00\r\n");
+    gallery.start();
+    MainWindow& window = gallery.app->window();
+    window.resize(1400, 1000);
+    gallery.click("cmbCARD", 0);
+    gallery.click("GradientButtonS", 0);
+    QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_F12);
+    gallery.click("cmdVIEWGASPHISTORY");
+    gallery.app->links().appendHistory(u"> a line"_s);
+    constexpr std::array kColours{colours::kWhite, colours::kGreen, colours::kRed, rgb(0, 0, 128), rgb(200, 200, 0)};
+    int player = 0;
+    for (const Colour colour : kColours) {
+        gallery.at("lblHPLAYERS", player).setText(u"23 Laskaris"_s);
+        gallery.at("lblHPLAYERS", player++).setForeColour(colour);
     }
-    // The colours that rules give to labels and buttons: as text on the label's ground, or as a ground themselves.
-    for (const Colour colour : {colours::kWhite, colours::kGreen, colours::kRed}) {
-        EXPECT_GE(theme::contrast(theme::colour(colour), theme::colour(theme::Role::Cell)), theme::kLeastContrast);
+    int proposal = 0;
+    std::set<TextLabel::Mark> marks;
+    for (const Colour colour : {colours::kOpenProposal, colours::kUsedProposal, colours::kAcceptedProposal}) {
+        gallery.at("lblPROPOSED", ++proposal).setText(u"Karas\r\n11 points"_s);
+        gallery.at("lblPROPOSED", proposal).setBackColour(colour);
+        marks.insert(gallery.find<TextLabel>("lblPROPOSED", proposal)->mark());
     }
-    EXPECT_GE(theme::contrast(theme::colour(colours::kRed), theme::colour(theme::Role::AirFill)),
-              theme::kLeastContrast);
-    for (const Colour ground : {colours::kGreen, colours::kRed, colours::kUsedProposal, colours::kOpenProposal,
-                                colours::kAcceptedProposal, colours::kScreenModeOn, colours::kScreenModeOff}) {
-        const QColor shown = theme::colour(ground);
-        EXPECT_GE(theme::contrast(theme::readableOn(shown), shown), theme::kLeastContrast) << ground;
+    EXPECT_EQ(marks.size(), 3) << "told apart without their colours";
+    EXPECT_FALSE(marks.contains(TextLabel::Mark::None));
+    using Role = Control::Role;
+    for (const auto& [name, role] : {std::pair{"lblFEED", Role::Bad},
+                                     {"lblSILENCED", Role::Waiting},
+                                     {"lblDATABASE", Role::Good},
+                                     {"lblLINKREMOTE", Role::Off}}) {
+        gallery.at(name).setText(u"says something"_s);
+        gallery.at(name).setRole(role);
+    }
+    gallery.at("lblONAIRTROUBLE").setText(u"refused"_s);
+    for (const char* name : {"lblPREVIEW", "lblTESTSENDER"}) gallery.at(name).setVisible(true);
+    for (const theme::Theme theme : {theme::Theme::Light, theme::Theme::HighContrast, theme::Theme::Dark}) {
+        window.setTheme(theme);
+        int texts = 0;
+        const auto expectLegible = [&](QWidget* shown) {
+            EXPECT_EQ(illegible(*shown, texts).join(u'\n').toStdString(), "")
+                << theme::wordOf(theme).toStdString() << ", " << shown->objectName().toStdString();
+        };
+        for (int tab = 0; tab < CardConsole::kTabs; ++tab) {
+            gallery.at("chkMANUAL").setChecked(tab > 0);
+            gallery.click("cmdTAB", tab);
+            expectLegible(&window);
+        }
+        gallery.click("cmdTAB", 0);
+        for (QWidget* shown : {static_cast<QWidget*>(&window), gallery.form("frmFIND"), gallery.form("frmKEYS"),
+                               gallery.form("frmGENERAL")})
+            expectLegible(shown);
+        EXPECT_GT(texts, 500);
     }
 }
 

@@ -381,7 +381,7 @@ TEST_F(CardRules, FoundByAnyPartInEitherAlphabet) {
     set(2, 1) = {u"Διαιτητές"_s, {}, u"referees.csp"_s};
     const auto captions = [&](const QString& typed) {
         QStringList found;
-        const FindList list(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
+        FindList list(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
         for (const FindEntry* each : list.narrowed(typed)) found += each->caption;
         return found;
     };
@@ -392,9 +392,15 @@ TEST_F(CardRules, FoundByAnyPartInEitherAlphabet) {
     EXPECT_EQ(captions(u"laskarx"_s), QStringList());
 
     const auto entry = [&](const QString& typed) {
-        const FindList list(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
+        FindList list(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
         return *list.narrowed(typed).front();
     };
+    // Opening costs what is shown alone, however much there is to find.
+    FindList opened(findable(bench.state, bench.program.folder, {}), console.recentlyFired());
+    const std::size_t all = opened.narrowed({}).size();
+    EXPECT_EQ(opened.folded(), 0);
+    for (const QString& typed : {u"o"_s, u"on"_s, u"o"_s}) EXPECT_LT(opened.narrowed(typed).size(), all);
+    EXPECT_EQ(opened.folded(), static_cast<qsizetype>(all)) << "each once";
     EXPECT_EQ(entry({}).caption, u"One") << "the current set's first card";
     bench.state.console.playerSelected = true;
     console.pressFound(entry(u"Two"_s), false);

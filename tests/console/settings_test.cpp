@@ -76,9 +76,13 @@ TEST_F(SettingsTest, MainMenu) {
     ASSERT_TRUE(menu->isVisible());
     QStringList captions;
     for (const QAction* action : menu->actions()) captions += action->text().remove(u'&');
-    EXPECT_EQ(captions,
-              (QStringList{
-                  u"Reload db vars"_s, u"Display Vars"_s, u"General Vars"_s, {}, u"Reload Cards"_s, u"Screen mode"_s}));
+    EXPECT_EQ(captions, (QStringList{u"Reload db vars"_s,
+                                     u"Display Vars"_s,
+                                     u"General Vars"_s,
+                                     {},
+                                     u"Reload Cards"_s,
+                                     u"Screen mode"_s,
+                                     u"Theme"_s}));
     menu->close();
 
     const qsizetype variables = gallery.app->state().variables.size();

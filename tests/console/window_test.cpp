@@ -195,6 +195,108 @@ TEST_F(MainWindowTest, EveryDeedHasAKey) {
     EXPECT_EQ(peer.takeLines(), QStringList());
 }
 
+// By Qt's own touch events.
+TEST_F(MainWindowTest, FingersPressAsTheMouseDoes) {
+    gallery.adjust = [](CardsApp::Options& options) { options.touch = true; };
+    startWithCards();
+    gallery.connectMain(peer);
+    MainWindow& window = gallery.app->window();
+    const QRect room = QGuiApplication::screens().constLast()->availableGeometry();
+    window.setGeometry(room.adjusted(10, 10, -10, -10));
+    QPointingDevice* finger = QTest::createTouchDevice();
+    const auto goDown = [&](QWidget* widget) {
+        QCoreApplication::processEvents();
+        QTest::touchEvent(widget, finger).press(0, widget->rect().center(), widget);
+    };
+    const auto lift = [&](QWidget* widget) {
+        QTest::touchEvent(widget, finger).release(0, widget->rect().center(), widget);
+    };
+    auto* card = gallery.find<CardButton>("cmbCARD", 0);
+    for (QWidget* widget : {static_cast<QWidget*>(card), static_cast<QWidget*>(card),
+                            gallery.find<QWidget>("cmbCARD", 1), gallery.find<QWidget>("GradientButtonAIR")}) {
+        goDown(widget);
+        lift(widget);
+    }
+    EXPECT_TRUE(sent({kScoreLine, kPlayerLine, u"CLEAR 1"_s})) << "a double tap is one press";
+    // A long press is the right button's deed, in place of the left one's.
+    int asked = 0;
+    QObject::connect(&card->small(), &QAbstractButton::clicked, card, [&asked] { ++asked; });
+    goDown(card);
+    EXPECT_TRUE(waitUntil([&] { return asked == 1; }));
+    lift(card);
+    EXPECT_TRUE(sent({kScoreLine}));
+    goDown(card);
+    QTest::touchEvent(card, finger).move(0, QPoint(1, -300), card);
+    lift(card);
+    EXPECT_EQ(peer.takeLines(), QStringList()) << "the finger has slid away";
+
+    const int least = Touch::leastPixels(*window.screen());
+    EXPECT_NEAR(least / window.screen()->physicalDotsPerInch() * 25.4, 9, 0.5);
+    for (int tab = 0; tab < CardConsole::kTabs; ++tab) {
+        gallery.click("cmdTAB", tab);
+        QCoreApplication::processEvents();
+        for (const QWidget* each : window.findChildren<QWidget*>()) {
+            const bool isMet = qobject_cast<const QAbstractButton*>(each) != nullptr ||
+                               qobject_cast<const QComboBox*>(each) != nullptr || each->focusPolicy() == Qt::TabFocus;
+            if (!isMet || !each->isVisible() || qobject_cast<QLineEdit*>(each->parent()) != nullptr) continue;
+            EXPECT_GE(std::min(each->width(), each->height()), least) << each->objectName().toStdString();
+            EXPECT_TRUE(each->parentWidget()->rect().contains(each->geometry())) << each->objectName().toStdString();
+        }
+    }
+    theme::setFingerSize(*qApp, 0);
+}
+
+// The theme and the window's place outlive the program; a screen that is gone does not take the window along.
+TEST_F(MainWindowTest, LooksAsItDidLast) {
+    startWithCards();
+    gallery.app->settings().choose(u"mnLight"_s);
+    gallery.app->window().setGeometry(40, 30, 700, 500);
+    gallery.app->window().close();
+    startWithCards();
+    gallery.app->showWindow();
+    EXPECT_EQ(theme::current(), theme::Theme::Light);
+    EXPECT_EQ(gallery.app->window().geometry(), QRect(40, 30, 700, 500));
+    QWidget far;
+    far.setGeometry(9000, 7000, 700, 500);
+    gallery.write(u"LOOK.TXT"_s, "theme=none such\r\nwindow=" + far.saveGeometry().toBase64() + "\r\n");
+    startWithCards();
+    gallery.app->showWindow();
+    EXPECT_EQ(theme::current(), theme::Theme::Dark);
+    const QRect screen = gallery.app->window().screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(gallery.app->window().geometry().center()));
+}
+
+TEST_F(MainWindowTest, OnTwoScreensBoxesOpenOverTheirWindow) {
+    if (QGuiApplication::screens().size() < 2) GTEST_SKIP() << "this platform has one screen";
+    const QRect second = QGuiApplication::screens().at(1)->availableGeometry();
+    startWithCards();
+    gallery.app->window().setGeometry(second.adjusted(60, 60, -60, -60));
+    gallery.app->window().close();
+    startWithCards();
+    gallery.write(u"QRD_EN/player.csp"_s, "BREAK~Ready?\r\n");
+    gallery.app->showWindow();
+    QStringList elsewhere;
+    const auto look = [&](const QWidget* shown) {
+        EXPECT_TRUE(waitUntil([&] { return shown->isVisible(); }));
+        if (!second.contains(shown->geometry())) elsewhere += shown->objectName() + shown->windowTitle();
+    };
+    look(&gallery.app->window());
+    gallery.answer = [&](QDialog& box) {
+        look(&box);
+        box.accept();
+    };
+    gallery.shown.clear();
+    gallery.press(Qt::Key_F4);
+    EXPECT_EQ(gallery.shown.size(), 1);
+    QTest::keyClick(&gallery.app->window(), Qt::Key_K, Qt::ControlModifier);
+    look(gallery.form("frmFIND"));
+    QTest::keyClick(&gallery.app->window(), Qt::Key_F12);
+    look(gallery.form("frmKEYS"));
+    gallery.click("cmdMenu");
+    look(gallery.app->window().findChild<QWidget*>(u"mnMain"_s));
+    EXPECT_EQ(elsewhere, QStringList());
+}
+
 TEST_F(MainWindowTest, FindsAndFires) {
     startWithCards();
     gallery.connectMain(peer);
@@ -229,9 +331,9 @@ TEST_F(MainWindowTest, WidgetsMirrorControlsBothWays) {
     startWithCards();
     const auto* player = gallery.find<TextLabel>("lblHPLAYERS", 23);
     gallery.at("lblHPLAYERS", 23).setText(u"23 Laskaris"_s);
-    gallery.at("lblHPLAYERS", 23).setForeColour(rgb(1, 2, 3));
+    gallery.at("lblHPLAYERS", 23).setForeColour(rgb(250, 200, 3));
     EXPECT_EQ(player->text(), u"23 Laskaris");
-    EXPECT_EQ(player->textColour(), QColor(1, 2, 3));
+    EXPECT_EQ(player->textColour(), QColor(250, 200, 3));
     EXPECT_EQ(gallery.find<TextLabel>("lblPROPOSED", 8)->groundColour(), QColor(185, 92, 0));
 
     auto* fade = gallery.find<QComboBox>("cmbFADE", 0);

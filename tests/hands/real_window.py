@@ -34,7 +34,8 @@ CARDS = {
     "other.csp": "CSPSEND~OTHER\r\n",
     "score.csp": "CSPSEND~SCORE {@GREENSCOREA}\r\n",
     "clear.csp": "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n",
-    "GetGame.csp": "FUNCTIONCARD\r\n",
+    "GetGame.csp": "FUNCTIONCARD\r\nSQLU~create table if not exists proposedcard (pc_id integer, pc_used text)\r\n"
+                   "PROPOSE~1;7|N|other.csp|P:4;Star;N\r\n",
 }
 KEYS = {1: "hold.csp", 2: "quick.csp", 3: "asks.csp", 4: "delay.csp", 5: "play.csp", 6: "period.csp", 7: "long.csp",
         8: "score.csp"}
@@ -49,7 +50,7 @@ def write_pack(folder):
     table += ["SETNO:2,Other", "Other,other.csp", ",", *empty]
     files = dict(CARDS)
     files["CARDS.TXT"] = "\r\n".join(table) + "\r\n"
-    files["CONNECTIONS.TXT"] = "1==Test==Driver=SQLite3;Database=test.db\r\n"
+    files["CONNECTIONS.TXT"] = f"1==Test==Driver=SQLite3;Database={folder}/test.db\r\n"
     files["ASKFIELDS.TXT"] = ""
     files["../PACKS.TXT"] = "EN;Basketball\r\n"
     for name, text in files.items():
@@ -75,13 +76,13 @@ class Server:
 
 
 class Desk:
-    def __init__(self, program, folder):
+    def __init__(self, program, folder, *options, screen="1280x800x24"):
         self.server = Server()
         read, write = os.pipe()
         quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
         self.processes = [
             subprocess.Popen(
-                ["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", "1280x800x24"], pass_fds=[write], **quiet
+                ["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", screen], pass_fds=[write], **quiet
             )
         ]
         os.close(write)
@@ -91,12 +92,21 @@ class Desk:
         self.environment = dict(os.environ, DISPLAY=f":{int(number)}", QT_QPA_PLATFORM="xcb")
         self.start(["openbox"])
         self.feed = free_port()
-        self.console = self.start([program, "--language-ui", "en", "--app-folder", folder, "--feed-port", str(self.feed)])
+        self.console = self.start([program, "--language-ui", "en", "--app-folder", folder, "--feed-port",
+                                   str(self.feed)]
+                                  + [option.format(port=self.server.port) for option in options])
+
+    def answer_the_start(self):
         for box in ("Project Pack Selection", "Επιλογή σύνδεσης"):
             self.wait_for_window(box)
             self.key("Return")
+        self.wait_until_started()
+
+    def wait_until_started(self):
         self.wait_for_window("General Vars")  # opened last, behind the console
         time.sleep(0.5)
+
+    def connect_by_mouse(self):
         self.click(PORT, "--repeat", "2", "--delay", "50")
         self.type(str(self.server.port))
         self.key("Return")
@@ -247,11 +257,33 @@ def lists_give_the_keyboard_back(desk):
     desk.expect_period(2)
 
 
+def a_change_of_layout_fires_nothing(desk):
+    alt, shift, b = "64", "50", "56"  # codes of keys: their names change with the layout
+    desk.start(["setxkbmap", "-layout", "us,gr", "-option", "grp:alt_shift_toggle"]).wait()
+    time.sleep(0.3)
+    for layout in ("Greek", "English"):
+        desk.xdotool("keydown", alt, "keydown", shift, "keyup", shift, "key", b, "keyup", alt)
+        desk.xdotool("keydown", alt, "keydown", shift, "key", b, "keyup", shift, "keyup", alt)
+        desk.xdotool("keydown", shift, "keydown", alt, "keyup", alt, "key", b, "keyup", shift)
+        desk.expect([])
+        desk.xdotool("keydown", alt, "key", b, "keyup", alt)
+        desk.expect(["QUICK"])
+    desk.start(["setxkbmap", "-layout", "us", "-option", ""]).wait()
+
+
 def evening_by_keyboard(desk):
-    desk.key("Escape")
-    desk.key("ctrl+shift+m")  # disconnects
-    desk.key("ctrl+shift+m")
+    """From the start to the end without the mouse."""
+    desk.answer_the_start()
+    for key in ("alt+5", "Tab", "Tab", "Tab", "ctrl+a"):
+        desk.key(key)
+    desk.type(str(desk.server.port))
+    desk.key("Return")
     time.sleep(0.5)
+    desk.key("ctrl+e")
+    desk.type("READY")
+    desk.key("Return")
+    desk.expect(["READY"])
+    desk.key("Escape")
     desk.hold("alt+b", 1.2)
     desk.expect(["QUICK"])
     for key in ("ctrl+2", "alt+a", "ctrl+1"):
@@ -267,6 +299,8 @@ def evening_by_keyboard(desk):
     for key in ("ctrl+shift+s", "ctrl+Up", "ctrl+Up", "F8"):
         desk.key(key)
     desk.expect(["SCORE 2"])
+    desk.key("ctrl+alt+1")
+    desk.expect(["OTHER"])
     desk.key("F12")
     desk.wait_for_window("Keys")
     desk.key("F12")
@@ -283,16 +317,25 @@ def main():
             return 77
     with tempfile.TemporaryDirectory() as folder:
         write_pack(folder)
-        desk = Desk(sys.argv[1], folder)
-        try:
-            for case in (order_of_presses, held_keys_and_double_clicks, late_presses, clear_ends_what_waits,
-                         pause_before_play, lists_give_the_keyboard_back, evening_by_keyboard):
-                print(case.__name__, flush=True)
-                case(desk)
-            assert desk.console.returncode == 0, "the console has crashed"
-        finally:
-            desk.stop()
+        cases = (order_of_presses, held_keys_and_double_clicks, late_presses, clear_ends_what_waits, pause_before_play,
+                 lists_give_the_keyboard_back, a_change_of_layout_fires_nothing)
+        work(folder, cases, by_mouse=True)
+        work(folder, (evening_by_keyboard,), by_mouse=False)
     return 0
+
+
+def work(folder, cases, by_mouse):
+    desk = Desk(sys.argv[1], folder)
+    try:
+        if by_mouse:
+            desk.answer_the_start()
+            desk.connect_by_mouse()
+        for case in cases:
+            print(case.__name__, flush=True)
+            case(desk)
+        assert desk.console.poll() in (None, 0), "the console has crashed"
+    finally:
+        desk.stop()
 
 
 if __name__ == "__main__":

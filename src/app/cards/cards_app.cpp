@@ -46,7 +46,11 @@ CardsApp::CardsApp(const Options& options)
     // The last lines are handed over before boxes end and runs that wait are told so.
     connect(&program_.closing, &Closing::begun, this, &CardsApp::release);
     connect(&program_.closing, &Closing::begun, &window_, &QWidget::close);
+    settings_.look().restoreTheme(options.theme);
+    if (options.touch || Touch::isThere()) window_.enlarge();
     window_.setMayClose([this] { return mayClose(); });
+    // The preview instance stands beside the console, whose place it is that counts.
+    if (!state_.preview) connect(&window_, &MainWindow::closed, &settings_.look(), &LookMemory::keepPlace);
     connect(&window_, &MainWindow::closed, &program_.closing, &Closing::begin);
 }
 

@@ -47,10 +47,14 @@ class CardsApp : public QObject {
         bool connects = false;
         bool keepsAsRun = true;  // but for the preview instance, which puts nothing on air
         RemoteOptions remoteControl = {};
+        std::optional<theme::Theme> theme = {};  // in place of the one shown last
+        bool touch = false;                      // also without a touch screen
     };
 
     explicit CardsApp(const Options& options);
 
+    // Shows the window as it was last.
+    void showWindow() { settings_.look().showWindow(); }
     // Runs the load sequence; the window should be on the screen before, so that its questions stand over it.
     void start();
 

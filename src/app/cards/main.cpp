@@ -36,6 +36,8 @@ std::vector<zelvor::CommandLine::Option> allOptions() {
                                                      {u"--query-seconds"_s, true},
                                                      {u"--no-as-run"_s},
                                                      {u"--language-ui"_s, true},
+                                                     {u"--theme"_s, true},
+                                                     {u"--touch"_s},
                                                      {u"--help"_s},
                                                      {u"--version"_s}};
     std::ranges::copy(zelvor::remoteOptionNames(), std::back_inserter(options));
@@ -61,6 +63,8 @@ Fires the cards of a pack on the air, from one window.
   --language-ui CODE    the console's own words: en for English, el for Greek; the desktop's language without, English
                         where the console does not speak it
   --no-as-run           keeps no record of what was on air; without it there is one a day in AS-RUN, in the folder
+  --theme NAME          dark, light or high-contrast; without it the one shown last
+  --touch               makes all that is pressed large enough for fingers, as with a touch screen
   --control HOST:PORT   lets HTTP and web sockets control the console, e.g. 127.0.0.1:7700; a page for tablets is at /
   --control-token FILE  asks them for the token in this file; needed on an address that others reach
   --control-cert FILE   a certificate, and
@@ -91,6 +95,11 @@ zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
     wanted.connects = line.has(u"--connect");
     wanted.remoteControl = zelvor::readRemoteOptions(line);
     wanted.keepsAsRun = !line.has(u"--no-as-run");
+    wanted.touch = line.has(u"--touch");
+    if (const auto word = line.value(u"--theme")) {
+        wanted.theme = zelvor::theme::themeOf(*word);
+        if (!wanted.theme) throw zelvor::UsageError{u"--theme takes dark, light or high-contrast"_s};
+    }
     if (wanted.connects && !wanted.main && !wanted.remote) {
         throw zelvor::UsageError{u"--connect takes --main or --remote beside it"_s};
     }
@@ -158,7 +167,7 @@ int main(int argc, char* argv[]) {
 
     zelvor::theme::apply(application);
     zelvor::CardsApp app(wanted);
-    app.window().showMaximized();
+    app.showWindow();
     QTimer::singleShot(0, &app, &zelvor::CardsApp::start);
     return QApplication::exec();
 }

@@ -1,7 +1,5 @@
 #include "app_cards/settings_desk.h"
 
-#include <QCursor>
-
 #include "base/translate.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +16,8 @@ SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards,
       forms_(window, engine.program().closing),
       commands_(engine, packs, general_, forms_),
       selections_(engine),
-      menu_(engine.form(), &window) {
+      menu_(engine.form(), &window),
+      look_(engine.program(), window) {
     forms_.add(generalForm_);
     forms_.add(variablesBox_);
     for (const QWidget* form : std::initializer_list<const QWidget*>{&generalForm_, &variablesBox_})
@@ -30,7 +29,7 @@ SettingsDesk::SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards,
 
 void SettingsDesk::answer(FormEvents& events, SystemDesktop& desktop) {
     events.onClick(controls.cmdSCREENMODE, [this](int button) { commands_.cmdSCREENMODE(button); });
-    events.onClick(controls.cmdMenu, [this](int) { menu_.popup(QCursor::pos()); });
+    events.onClick(controls.cmdMenu, [this](int) { menu_.popup(window_.below(controls.cmdMenu)); });
     for (const ControlRow* list : {&controls.cmbFADE, &controls.cbQt, &controls.cmbLANG})
         events.onClick(*list, [this, list](int index) { commands_.chooseAgain(form_.at(*list, index)); });
     desktop.addForm(generalForm_.objectName(), [this](const Asker& asker) { commands_.mnGeneralVars(asker); });
@@ -44,6 +43,7 @@ void SettingsDesk::choose(const QString& item) {
     if (item == u"mnGeneralVars") commands_.mnGeneralVars({});
     if (item == controls.mnSet169.name) commands_.mnSet169();
     if (item == controls.mnSet43.name) commands_.mnSet43();
+    if (const auto theme = MainMenu::themeOf(item)) look_.setTheme(*theme);
 }
 
 std::vector<FindEntry> SettingsDesk::commands() const {

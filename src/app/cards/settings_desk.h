@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app_cards/look_memory.h"
 #include "app_cards/system_desktop.h"
 #include "console/boxes.h"
 #include "console/main_menu.h"
@@ -32,6 +33,7 @@ class SettingsDesk : public QObject {
     [[nodiscard]] bool hasUnsaved() { return general_.grid().hasUnsaved(); }
 
     Pickers& pickers() { return pickers_; }
+    LookMemory& look() { return look_; }
 
     // The commands of the main menu, as they are found.
     [[nodiscard]] std::vector<FindEntry> commands() const;
@@ -52,6 +54,7 @@ class SettingsDesk : public QObject {
     OperatorCommands commands_;
     Selections selections_;
     MainMenu menu_;
+    LookMemory look_;
 };
 
 }  // namespace zelvor

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <algorithm>
 
 #include "form/follow.h"
 
@@ -30,11 +31,15 @@ class KeyChip : public QWidget {
                           {14, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, std::nullopt, false, false, 4});
         title->setCursor(Qt::PointingHandCursor);
         row->addWidget(title);
-        // The words beside the keys give way to them.
-        for (TextLabel* part : {key, title}) part->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+        // The words beside the keys give way to them, but for the links' states.
+        key->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+        title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         const Control& control = mirrors.form().at(controls.lblFKEYTITLE, index);
-        follow(control, {Control::Property::Visible, Control::Property::Text}, this,
-               [this, &control] { setVisible(control.visible() && !control.text().isEmpty()); });
+        follow(control, {Control::Property::Visible, Control::Property::Text}, this, [this, &control, title] {
+            constexpr int kLeast = 56;  // pixels
+            title->setMinimumWidth(std::min(title->sizeHint().width(), kLeast));
+            setVisible(control.visible() && !control.text().isEmpty());
+        });
     }
 
  protected:
@@ -76,8 +81,11 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     for (TextLabel* yields : {addWords(controls.lblNOTE, 0, 0, false), silenced})
         yields->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     // A long name of a host gives way, never a state.
-    for (TextLabel* link : {addWords(controls.lblLINKMAIN, 0, 1, true), addWords(controls.lblLINKREMOTE, 1, 1, true)})
+    for (TextLabel* link : {addWords(controls.lblLINKMAIN, 0, 1, true), addWords(controls.lblLINKREMOTE, 1, 1, true)}) {
+        constexpr int kLeast = 124;  // pixels: "remote not connected"
         link->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        link->setMinimumWidth(kLeast);
+    }
     for (TextLabel* kept : {addWords(controls.lblFEED, 0, 2, false), addWords(controls.lblDATABASE, 1, 2, false)}) {
         constexpr int kWidest = 320;  // pixels
         kept->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);

@@ -134,6 +134,8 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
 void OnAirBar::showFrame() {
     const bool empty = form_.at(controls.lblONAIR).text().isEmpty();
     line_->findChild<TextLabel*>(controls.lblONAIR.name.toString())->setMaximumWidth(empty ? 0 : QWIDGETSIZE_MAX);
+    line_->findChild<QWidget*>(controls.lblONAIRLAMP.name.toString())
+        ->setAccessibleDescription(empty ? translate("console", "clear") : translate("console", "on air"));
     line_->update();
     for (QWidget* part : line_->findChildren<QWidget*>()) part->update();
 }

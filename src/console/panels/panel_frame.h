@@ -20,9 +20,7 @@ class PanelFrame : public QWidget {
     static QLabel* word(const QString& text) {
         auto* label = new QLabel(text);
         label->setFont(theme::font(12));
-        QPalette muted = label->palette();
-        muted.setColor(QPalette::WindowText, theme::colour(theme::Role::Muted));
-        label->setPalette(muted);
+        label->setForegroundRole(QPalette::PlaceholderText);
         return label;
     }
 

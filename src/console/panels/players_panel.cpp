@@ -1,6 +1,10 @@
 #include "console/panels/players_panel.h"
 
 #include <QGridLayout>
+#include <algorithm>
+#include <array>
+
+#include "form/follow.h"
 
 #include "base/translate.h"
 
@@ -15,6 +19,26 @@ constexpr int kPlayerRows = 12;
 constexpr int kPlayers = 24;
 constexpr int kProposals = 8;
 constexpr int kProposalColumns = 4;
+// What a proposal's colour says, in a word and by a mark.
+struct Standing {
+    Colour colour;
+    const char* word;
+    TextLabel::Mark mark;
+};
+constexpr std::array kStandings{
+    Standing{colours::kOpenProposal, QT_TRANSLATE_NOOP("console", "open"), TextLabel::Mark::Ring},
+    Standing{colours::kUsedProposal, QT_TRANSLATE_NOOP("console", "used"), TextLabel::Mark::Tick},
+    Standing{colours::kAcceptedProposal, QT_TRANSLATE_NOOP("console", "used earlier"), TextLabel::Mark::TickInRing},
+};
+
+void showStanding(TextLabel& label, const Control& proposal) {
+    const auto* found = std::ranges::find(kStandings, proposal.backColour(),
+                                          [](const Standing& each) { return std::optional(each.colour); });
+    const bool known = found != kStandings.end() && !proposal.text().isEmpty();
+    label.setMark(known ? found->mark : TextLabel::Mark::None);
+    label.setAccessibleDescription(known ? translate("console", found->word) : QString());
+}
+
 }  // namespace
 
 PlayersPanel::PlayersPanel(const Mirrors& mirrors) {
@@ -50,6 +74,14 @@ QLayout* PlayersPanel::players(const Mirrors& mirrors, const ControlRow& row) {
         TextLabel* label = mirrors.label(
             row, player, {12, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, Role::Cell, false, true});
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        const Control& control = mirrors.form().at(row, player);
+        follow(control, {Control::Property::ForeColour}, label, [label, &control] {
+            const bool tagged = control.foreColour() == colours::kGreen;
+            const bool isOther = control.foreColour() == colours::kRed;
+            label->setAccessibleDescription(tagged    ? translate("console", "tagged")
+                                            : isOther ? translate("console", "tagged as the other")
+                                                      : QString());
+        });
         grid->addWidget(label, player % kPlayerRows, player / kPlayerRows);
         grid->setRowStretch(player % kPlayerRows, 1);
         grid->setColumnStretch(player / kPlayerRows, 1);
@@ -66,6 +98,9 @@ ProposalsPanel::ProposalsPanel(const Mirrors& mirrors) {
                                          {12, false, Qt::AlignLeft | Qt::AlignVCenter, Role::Text, Role::Cell, true});
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         label->setFixedHeight(42);
+        const Control& proposal = mirrors.form().at(controls.lblPROPOSED, i + 1);
+        follow(proposal, {Control::Property::BackColour, Control::Property::Text}, label,
+               [label, &proposal] { showStanding(*label, proposal); });
         grid->addWidget(label, i / kProposalColumns, i % kProposalColumns);
         grid->setColumnStretch(i % kProposalColumns, 1);
     }

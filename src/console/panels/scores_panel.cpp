@@ -15,9 +15,7 @@ namespace {
 QWidget* timeBox(QWidget* heading, QWidget* content) {
     auto* box = new QWidget;
     box->setAutoFillBackground(true);
-    QPalette look = box->palette();
-    look.setColor(QPalette::Window, theme::colour(Role::Field));
-    box->setPalette(look);
+    box->setBackgroundRole(QPalette::Base);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(4, 4, 4, 4);
     column->setSpacing(2);

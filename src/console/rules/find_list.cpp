@@ -1,7 +1,10 @@
 #include "console_rules/find_list.h"
 
-#include <QDir>
+#include <QDirIterator>
+#include <QHash>
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
 #include "base/letters.h"
 #include "base/translate.h"
@@ -28,6 +31,18 @@ void addCards(std::vector<FindEntry>& entries, const ShowState& state, int set) 
     }
 }
 
+// Their names in alphabetical order. A name filter of Qt's would cost more than all the rest.
+QStringList scriptsIn(const QString& folder) {
+    QStringList scripts;
+    QDirIterator files(folder, QDir::Files);
+    while (files.hasNext()) {
+        files.next();
+        if (files.fileName().endsWith(u".csp", Qt::CaseInsensitive)) scripts += files.fileName();
+    }
+    scripts.sort(Qt::CaseInsensitive);
+    return scripts;
+}
+
 bool runsScript(const FindEntry& entry) {
     return entry.kind == Kind::Card || entry.kind == Kind::FunctionKey || entry.kind == Kind::Script;
 }
@@ -37,6 +52,9 @@ bool runsScript(const FindEntry& entry) {
 std::vector<FindEntry> findable(const ShowState& state, const AppFolder& folder,
                                 const std::vector<FindEntry>& commands) {
     std::vector<FindEntry> entries;
+    const QStringList scripts = scriptsIn(folder.resolve(folder.packFolder(state.language())));
+    constexpr qsizetype kCards = qsizetype{CardTable::kSets} * CardTable::kCards;
+    entries.reserve(kCards + scripts.size() + state.variables.size() + commands.size());
     addCards(entries, state, state.currentSet);
     for (int set = 1; set < CardTable::kSets; ++set) {
         if (set != state.currentSet) addCards(entries, state, set);
@@ -47,8 +65,7 @@ std::vector<FindEntry> findable(const ShowState& state, const AppFolder& folder,
         entries.push_back(
             {Kind::FunctionKey, key.title, u'F' + QString::number(number), key.script, {}, state.language()});
     }
-    const QDir pack(folder.resolve(folder.packFolder(state.language())));
-    for (const QString& script : pack.entryList({u"*.csp"_s}, QDir::Files))
+    for (const QString& script : scripts)
         entries.push_back({Kind::Script, script, translate("console", "script"), script, {}, state.language()});
     entries.insert(entries.end(), commands.begin(), commands.end());
     state.variables.forEach([&](const QString& name, const Value& value) {
@@ -58,25 +75,42 @@ std::vector<FindEntry> findable(const ShowState& state, const AppFolder& folder,
 }
 
 FindList::FindList(std::vector<FindEntry> entries, const QStringList& recent) : entries_(std::move(entries)) {
-    auto place = entries_.begin();
-    for (const QString& script : recent) {
-        const auto found = std::find_if(place, entries_.end(), [&](const FindEntry& entry) {
-            return runsScript(entry) && CardEngine::scriptName(entry.target) == CardEngine::scriptName(script);
-        });
-        if (found == entries_.end()) continue;
-        std::rotate(place, found, found + 1);
-        ++place;
-    }
-    for (const FindEntry& entry : entries_) folded_ += foldedLetters(QString(entry.caption + u' ' + entry.target));
+    offerFirst(recent);
 }
 
-std::vector<const FindEntry*> FindList::narrowed(const QString& typed) const {
+void FindList::offerFirst(const QStringList& recent) {
+    QHash<QString, qsizetype> places;
+    for (const QString& script : recent) places.insert(CardEngine::scriptName(script), places.size());
+    std::vector<std::optional<FindEntry>> first(places.size());
+    std::vector<FindEntry> others;
+    others.reserve(entries_.size());
+    for (FindEntry& entry : entries_) {
+        const auto place =
+            runsScript(entry) ? places.constFind(CardEngine::scriptName(entry.target)) : places.constEnd();
+        const bool isFirst = place != places.constEnd() && !first.at(*place);
+        if (isFirst) {
+            first.at(*place) = std::move(entry);
+        } else {
+            others.push_back(std::move(entry));
+        }
+    }
+    entries_.clear();
+    for (std::optional<FindEntry>& entry : first) {
+        if (entry) entries_.push_back(std::move(*entry));
+    }
+    std::ranges::move(others, std::back_inserter(entries_));
+}
+
+std::vector<const FindEntry*> FindList::narrowed(const QString& typed) {
     const QStringList words = foldedLetters(typed).split(u' ', Qt::SkipEmptyParts);
+    if (!words.isEmpty() && folded_.isEmpty()) {
+        folded_.reserve(static_cast<qsizetype>(entries_.size()));
+        for (const FindEntry& entry : entries_) folded_ += foldedLetters(QString(entry.caption + u' ' + entry.target));
+    }
     std::vector<const FindEntry*> found;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
-        const QString& text = folded_.at(static_cast<qsizetype>(i));
-        if (std::ranges::all_of(words, [&](const QString& word) { return text.contains(word); }))
-            found.push_back(&entries_[i]);
+        const auto holds = [&](const QString& word) { return folded_.at(static_cast<qsizetype>(i)).contains(word); };
+        if (std::ranges::all_of(words, holds)) found.push_back(&entries_[i]);
     }
     return found;
 }

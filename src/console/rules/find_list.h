@@ -31,9 +31,13 @@ class FindList {
     FindList(std::vector<FindEntry> entries, const QStringList& recent);
 
     // The entries whose caption or target holds every word typed, in any place; letters as foldedLetters() has them.
-    [[nodiscard]] std::vector<const FindEntry*> narrowed(const QString& typed) const;
+    [[nodiscard]] std::vector<const FindEntry*> narrowed(const QString& typed);
+    // How many texts have been folded: none before something is typed, each once.
+    [[nodiscard]] qsizetype folded() const { return folded_.size(); }
 
  private:
+    void offerFirst(const QStringList& recent);
+
     std::vector<FindEntry> entries_;
     QStringList folded_;  // caption and target of each entry
 };

@@ -1,5 +1,6 @@
 #include "general_forms/general_form.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHeaderView>
@@ -47,7 +48,9 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(translate("general", "Search"));
     search_->setToolTip(translate("general", "Shows the rows that hold this text"));
+    search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
+    search_->findChild<QAction*>()->setText(translate("general", "Show all"));
     help_->setObjectName(u"lblHELP"_s);
     help_->setWordWrap(true);
     help_->setTextFormat(Qt::PlainText);

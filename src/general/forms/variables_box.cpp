@@ -1,5 +1,6 @@
 #include "general_forms/variables_box.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -29,7 +30,9 @@ VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit)
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(translate("general", "Search"));
     search_->setToolTip(translate("general", "Shows the lines that hold this text"));
+    search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
+    search_->findChild<QAction*>()->setText(translate("general", "Show all"));
     view_->setObjectName(u"txtVARS"_s);
     view_->setAccessibleName(windowTitle());
     view_->setReadOnly(true);

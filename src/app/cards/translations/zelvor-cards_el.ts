@@ -371,6 +371,50 @@
         <source>Start with --app-folder FOLDER, the folder that holds it, or with --user-folder.</source>
         <translation>Ξεκινήστε με --app-folder ΦΑΚΕΛΟΣ, τον φάκελο που τον περιέχει, ή με --user-folder.</translation>
     </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>&amp;Σκούρο θέμα</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>&amp;Ανοιχτό θέμα</translation>
+    </message>
+    <message>
+        <source>&amp;High-contrast theme</source>
+        <translation>Θέμα &amp;υψηλής αντίθεσης</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Θέμα</translation>
+    </message>
+    <message>
+        <source>clear</source>
+        <translation>καθαρό</translation>
+    </message>
+    <message>
+        <source>on air</source>
+        <translation>στον αέρα</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>ανοιχτή</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>χρησιμοποιημένη</translation>
+    </message>
+    <message>
+        <source>used earlier</source>
+        <translation>χρησιμοποιημένη νωρίτερα</translation>
+    </message>
+    <message>
+        <source>tagged</source>
+        <translation>επιλεγμένος</translation>
+    </message>
+    <message>
+        <source>tagged as the other</source>
+        <translation>επιλεγμένος ως ο άλλος</translation>
+    </message>
 </context>
 <context>
     <name>data</name>
@@ -1093,6 +1137,10 @@
     <message>
         <source>the name of row %1</source>
         <translation>το όνομα της γραμμής %1</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Εμφάνιση όλων</translation>
     </message>
 </context>
 <context>
