@@ -31,7 +31,8 @@ void ConsoleButton::setSelected(bool selected) {
 
 void ConsoleButton::tellOn() {
     QAccessible::State what;
-    (isTab() ? what.selected : what.checked) = true;
+    what.selected = isTab();
+    what.checked = !isTab();
     QAccessibleStateChangeEvent event(this, what);
     QAccessible::updateAccessibility(&event);
 }
