@@ -203,7 +203,8 @@ TEST_F(MainWindowTest, FingersPressAsTheMouseDoes) {
     MainWindow& window = gallery.app->window();
     const QRect room = QGuiApplication::screens().constLast()->availableGeometry();
     window.setGeometry(room.adjusted(10, 10, -10, -10));
-    QPointingDevice* finger = QTest::createTouchDevice();
+    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+    QPointingDevice* finger = device.get();
     const auto goDown = [&](QWidget* widget) {
         QCoreApplication::processEvents();
         QTest::touchEvent(widget, finger).press(0, widget->rect().center(), widget);

@@ -42,7 +42,7 @@ TEST(TcpSource, ConnectsAgainAndAsksAnew) {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     Refusals refusals;
-    TcpSource source(SourceKind::LiveStats, u"127.0.0.1"_s, server.serverPort(), refusals, 300);
+    TcpSource source(SourceKind::LiveStats, u"127.0.0.1"_s, server.serverPort(), refusals, 1500);
     QByteArrayList heard;
     int lost = 0;
     QObject::connect(&source, &LiveSource::message, &server, [&](const QByteArray& line) { heard += line; });

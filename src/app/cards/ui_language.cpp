@@ -12,7 +12,7 @@ QStringList UiLanguage::all() {
 
 QString UiLanguage::firstSpoken(const QStringList& wanted) {
     for (const QString& language : wanted) {
-        const QString code = language.section(u'-', 0, 0);
+        QString code = language.section(u'-', 0, 0);
         if (all().contains(code)) return code;
     }
     return all().constFirst();
@@ -20,10 +20,11 @@ QString UiLanguage::firstSpoken(const QStringList& wanted) {
 
 UiLanguage::UiLanguage(const QString& code) {
     if (code == all().constFirst()) return;
-    for (const auto& [texts, file] : {std::pair{&console_, u":/translations/zelvor-cards_"_s + code + u".qm"_s},
-                                      std::pair{&qt_, u":/translations/qt_"_s + code + u".qm"_s}}) {
-        if (texts->load(file)) QCoreApplication::installTranslator(texts);
-    }
+    const auto install = [](QTranslator& texts, const QString& file) {
+        if (texts.load(file)) QCoreApplication::installTranslator(&texts);
+    };
+    install(console_, u":/translations/zelvor-cards_"_s + code + u".qm"_s);
+    install(qt_, u":/translations/qt_"_s + code + u".qm"_s);
 }
 
 }  // namespace zelvor
