@@ -9,11 +9,16 @@ namespace zelvor {
 
 PaintHold::PaintHold(QWidget& window) : window_(window) {
     window.installEventFilter(this);
+    longest_.setSingleShot(true);
+    longest_.setInterval(kLongest);
+    connect(&longest_, &QTimer::timeout, this, [this] { hold(false); });
 }
 
 void PaintHold::hold(bool on) {
     holds_ = on;
-    if (!holds_ && std::exchange(wanted_, false)) {
+    if (on) return longest_.start();
+    longest_.stop();
+    if (std::exchange(wanted_, false)) {
         QCoreApplication::postEvent(&window_, new QEvent(QEvent::UpdateRequest), Qt::LowEventPriority);
     }
 }
