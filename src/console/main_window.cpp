@@ -97,8 +97,9 @@ void MainWindow::changeFullScreen() {
 }
 
 void MainWindow::setTheme(theme::Theme theme) {
+    const bool changes = theme != theme::current();
     theme::apply(*qApp, theme);
-    mirrors_.showColoursAnew();
+    if (changes) mirrors_.showColoursAnew();
 }
 
 QPoint MainWindow::below(const ControlRow& control) const {

@@ -140,6 +140,22 @@ QIcon warningSign() {
     return QIcon(picture);
 }
 
+namespace {
+
+QIcon cross() {
+    constexpr int kSize = 32;  // pixels, enough for a screen of twice the usual density
+    QPixmap picture(kSize, kSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour(Role::Muted), 4, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(9, 9, kSize - 9, kSize - 9);
+    painter.drawLine(9, kSize - 9, kSize - 9, 9);
+    return QIcon(picture);
+}
+
+}  // namespace
+
 void drawFocusRing(QPainter& painter, const QRectF& area) {
     drawSurface(painter, area, {std::nullopt, QColor(Qt::black), 4, 4});
     drawSurface(painter, area.adjusted(1, 1, -1, -1), {std::nullopt, QColor(Qt::white), 4, 2});
@@ -190,14 +206,22 @@ class ConsoleStyle : public QProxyStyle {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }
+
+    // The cross of a search field is drawn: looking for one among the desktop's icons takes a tenth of the start.
+    QIcon standardIcon(StandardPixmap wanted, const QStyleOption* option, const QWidget* widget) const override {
+        return wanted == SP_LineEditClearButton ? cross() : QProxyStyle::standardIcon(wanted, option, widget);
+    }
 };
 
 }  // namespace
 
-void apply(QApplication& application, Theme theme) {
-    application.setProperty(kThemeProperty, wordOf(theme));
+void prepare(QApplication& application) {
     application.setStyle(new ConsoleStyle);  // NOLINT: the application takes it over
     application.setFont(font(14));
+}
+
+void apply(QApplication& application, Theme theme) {
+    application.setProperty(kThemeProperty, wordOf(theme));
     application.setPalette(palette());
     application.setStyleSheet(styleSheet(application.property(kFingerProperty).toInt()));
 }

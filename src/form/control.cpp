@@ -11,7 +11,11 @@ namespace {
 
 // An element's own text where the row has one for each.
 QString elementText(const QString& texts, int place) {
-    return texts.contains(u'|') ? texts.split(u'|').at(place) : texts;
+    if (!texts.contains(u'|')) return texts;
+    for (const QStringView text : QStringView(texts).tokenize(u'|')) {
+        if (place-- == 0) return text.toString();
+    }
+    return {};
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    zelvor::theme::prepare(application);
     zelvor::theme::apply(application);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -24,8 +24,7 @@ QString LookMemory::path() const {
 }
 
 void LookMemory::restoreTheme(std::optional<theme::Theme> wanted) {
-    const theme::Theme theme = wanted.value_or(theme::themeOf(kept_.value(kTheme)).value_or(theme::Theme::Dark));
-    if (theme != theme::current()) window_.setTheme(theme);
+    window_.setTheme(wanted.value_or(theme::themeOf(kept_.value(kTheme)).value_or(theme::Theme::Dark)));
 }
 
 void LookMemory::showWindow() {

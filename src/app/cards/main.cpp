@@ -165,7 +165,7 @@ int main(int argc, char* argv[]) {
     zelvor::dumpCrashes(QFile::encodeName(wanted.appFolder).toStdString());
     wanted.errorLog = zelvor::errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 
-    zelvor::theme::apply(application);
+    zelvor::theme::prepare(application);
     zelvor::CardsApp app(wanted);
     app.showWindow();
     QTimer::singleShot(0, &app, &zelvor::CardsApp::start);
