@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 
 #include "engine/card_engine.h"
+#include "engine/card_script.h"
+#include "engine/packs.h"
 #include "engine/system_clock.h"
 #include "engine/template_xml.h"
 #include "link/graphics_links.h"
@@ -159,6 +161,66 @@ void updateOf40Fields(benchmark::State& bench) {
     for (auto step : bench) card.run();
 }
 BENCHMARK(updateOf40Fields)->Unit(benchmark::kMicrosecond);
+
+// A pack of 6 sets of 21 cards among 2 000 scripts of 10 lines.
+class BigPack {
+ public:
+    BigPack() {
+        program_.trap.setReporter([](const ErrorPlace&, const QString& message) { qFatal("%s", qPrintable(message)); });
+        QDir(folder()).mkpath(u"."_s);
+        QByteArray table;
+        for (int set = 0; set < kSets; ++set) {
+            table += "SETNO:" + QByteArray::number(set) + ",Set\r\n";
+            for (int i = 0; i < kCardsASet; ++i) {
+                const QByteArray number = QByteArray::number(set * kCardsASet + i);
+                table += "Card " + number + ",card" + number + ".csp\r\n";
+            }
+        }
+        write(u"CARDS.TXT"_s, table);
+        for (int i = 0; i < kScripts; ++i) {
+            write(name(i), "CLEARDATA\r\n" + QByteArray("SDATA~NAME;{@NAME}\r\nCALC~@A;{@A}+1\r\n").repeated(4) +
+                               "CSPSEND~CG 1-20 UPDATE 1 '{@CASPARXML}'\r\n");
+        }
+        state_.variables.SetVar(u"@LANGUAGE", u"TT"_s);
+    }
+
+    // Reads the table and the first of the scripts from the disk.
+    void load(qint64 scripts) {
+        if (!packs_.LOAD_CARDS()) qFatal("no cards");
+        for (int i = 0; i < scripts; ++i) {
+            ScriptPlace reached;
+            const CardScript script(name(i), folder() + u'/' + name(i), u"TT"_s, program_.folder, program_.files,
+                                    reached);
+            if (script.lineCount() != 10) qFatal("a script of %d lines", script.lineCount());
+        }
+    }
+
+ private:
+    static constexpr int kSets = 6;
+    static constexpr int kCardsASet = 21;
+    static constexpr int kScripts = 2000;
+
+    static QString name(qint64 number) { return u"card%1.csp"_s.arg(number); }
+    [[nodiscard]] QString folder() const { return onDisk_.filePath(u"MODULES/QRD_TT"_s); }
+    void write(const QString& file, const QByteArray& text) {
+        QFile made(folder() + u'/' + file);
+        if (!made.open(QIODevice::WriteOnly)) qFatal("no file");
+        made.write(text);
+    }
+
+    QTemporaryDir onDisk_;
+    test::Unused unused_;
+    ShowState state_;
+    FormModel form_;
+    Program program_{AppFolder(onDisk_.path()), {}, ErrorTrap(onDisk_.filePath(u"errors.log"_s))};
+    Packs packs_{state_, form_, program_, unused_};
+};
+
+void bigPack(benchmark::State& bench) {
+    BigPack pack;
+    for (auto step : bench) pack.load(bench.range(0));
+}
+BENCHMARK(bigPack)->Arg(126)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace zelvor

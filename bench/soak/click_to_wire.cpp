@@ -127,6 +127,7 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "usage: click_to_wire [FIRES [IDLE_SECONDS]]\n");
         return 2;
     }
+    theme::prepare(application);
     theme::apply(application);
     const SqliteDemo database;
     ConsoleDesk desk(database);

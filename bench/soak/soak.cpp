@@ -53,6 +53,7 @@ int main(int argc, char* argv[]) {
     }
     std::printf("seed %u\n", plan->seed);
     std::fflush(stdout);
+    zelvor::theme::prepare(application);
     zelvor::theme::apply(application);
     zelvor::MariaDbDemo database;
     zelvor::ConsoleDesk desk(database);
