@@ -10,6 +10,18 @@ namespace zelvor {
 
 namespace {
 
+// Views made by the compiler: one made of a literal on the way measures it each time.
+constexpr QStringView kField = uR"(<componentData id=\")";
+constexpr QStringView kType = uR"(\"><data type=\")";
+constexpr QStringView kAnimation = uR"(\" ani=\")";
+constexpr QStringView kNext = uR"(\" )";
+constexpr QStringView kOpen = uR"(=\")";
+constexpr QStringView kValue = uR"(\" value=\")";
+constexpr QStringView kEnd = uR"(\"></data></componentData>)";
+constexpr QStringView kText = u"txt";
+constexpr QStringView kPicture = u"pic";
+constexpr QStringView kQuote = uR"(\")";
+
 struct FieldKey {
     QStringView ani;
     QStringView id;
@@ -23,39 +35,45 @@ class XmlWriter {
 
     // A letter other than "t" and "i" keeps the type of the field before.
     void setType(QStringView letter) {
-        if (letter == u"t") type_ = u"txt";
-        if (letter == u"i") type_ = u"pic";
+        if (letter.size() != 1) return;
+        if (letter[0] == u't') type_ = kText;
+        if (letter[0] == u'i') type_ = kPicture;
     }
 
     void field(const FieldKey& key, QStringView value, bool verticalOffsetNeeded) {
-        xml_ += uR"(<componentData id=\")";
+        xml_ += kField;
         text(key.id);
-        xml_ += uR"(\"><data type=\")";
+        xml_ += kType;
         xml_ += type_;
-        xml_ += uR"(\")";
-        attribute(u"ani", key.ani);
+        xml_ += kAnimation;
+        text(key.ani);
         if (value.contains(u'|')) {
             const Pieces parts(value, u'|');
             attribute(u"sz", parts[1]);
             if (verticalOffsetNeeded || parts.count() >= 3) attribute(u"yy", parts[2]);
-            attribute(u"value", parts[0]);
+            lastAttribute(parts[0]);
         } else if (value.contains(u'#')) {
             const Pieces parts(value, u'#');
             attribute(parts[1], parts[2]);
-            attribute(u"value", parts[0]);
+            lastAttribute(parts[0]);
         } else {
-            attribute(u"value", value);
+            lastAttribute(value);
         }
-        xml_ += u"></data></componentData>";
     }
 
  private:
+    // Ends the attribute before and leaves its own open.
     void attribute(QStringView name, QStringView value) {
-        xml_ += u" ";
+        xml_ += kNext;
         text(name);
-        xml_ += uR"(=\")";
+        xml_ += kOpen;
         text(value);
-        xml_ += uR"(\")";
+    }
+
+    void lastAttribute(QStringView value) {
+        xml_ += kValue;
+        text(value);
+        xml_ += kEnd;
     }
 
     void text(QStringView raw) {
@@ -63,7 +81,7 @@ class XmlWriter {
         for (qsizetype at = 0; at < raw.size(); ++at) {
             if (raw[at] != u'\'') continue;
             xml_ += raw.mid(start, at - start);
-            xml_ += uR"(\")";
+            xml_ += kQuote;
             start = at + 1;
         }
         xml_ += raw.mid(start);

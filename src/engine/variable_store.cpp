@@ -5,7 +5,7 @@ namespace zelvor {
 void VariableStore::SetVar(QStringView name, Value value) {
     const auto found = index_.find(name);
     if (found == index_.end()) {
-        add(name, std::move(value));
+        add(name)->value = std::move(value);
         return;
     }
     found->second->value = std::move(value);
@@ -15,7 +15,7 @@ void VariableStore::SetVar(QStringView name, Value value) {
 void VariableStore::setText(QStringView name, QStringView text) {
     const auto found = index_.find(name);
     if (found == index_.end()) {
-        add(name, text.toString());
+        add(name)->value.setText(text);
         return;
     }
     found->second->value.setText(text);
@@ -24,7 +24,8 @@ void VariableStore::setText(QStringView name, QStringView text) {
 
 const Value& VariableStore::GetVar(QStringView name) {
     const auto found = index_.find(name);
-    return (found == index_.end() ? add(name, {}) : found->second)->value;
+    if (found != index_.end()) return found->second->value;
+    return add(name)->value = {};
 }
 
 const Value* VariableStore::find(QStringView name) const {
@@ -53,11 +54,14 @@ std::map<QStringView, VariableStore::Entries::iterator>& VariableStore::sorted()
 void VariableStore::clear() {
     index_.clear();
     sorted_.reset();
-    entries_.clear();
+    spare_.splice(spare_.end(), entries_);
 }
 
-VariableStore::Entries::iterator VariableStore::add(QStringView name, Value value) {
-    const auto entry = entries_.insert(entries_.end(), {name.toString(), std::move(value)});
+VariableStore::Entries::iterator VariableStore::add(QStringView name) {
+    if (spare_.empty()) spare_.emplace_back();
+    const auto entry = spare_.begin();
+    entries_.splice(entries_.end(), spare_, entry);
+    entry->name.setUnicode(name.data(), name.size());
     index_.emplace(entry->name, entry);
     if (sorted_) sorted_->emplace(entry->name, entry);
     return entry;

@@ -79,10 +79,13 @@ class VariableStore {
     };
 
     std::map<QStringView, Entries::iterator>& sorted();
-    Entries::iterator add(QStringView name, Value value);
+    // Enters a name that does not exist, with a value left over or empty.
+    Entries::iterator add(QStringView name);
     void removeEntry(Entries::iterator entry);
 
     Entries entries_;  // in the order of the table; an entry keeps its place in memory
+    // Entries cleared before, whose memory is used again: template data comes and goes with every card.
+    Entries spare_;
     std::unordered_map<QStringView, Entries::iterator, Hash, Equal> index_;  // the names are views of the entries' own
     // The names in sorted order, made when prefixes are first removed and kept from then on.
     std::optional<std::map<QStringView, Entries::iterator>> sorted_;

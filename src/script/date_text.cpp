@@ -22,10 +22,6 @@ using Parts = QVarLengthArray<Part, 16>;
 
 constexpr qsizetype kMostDigits = 4;
 
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
-
 // Numbers, words and signs; blanks only part them. False for what no date holds.
 bool cut(QStringView text, Parts& parts) {
     qsizetype at = 0;

@@ -43,9 +43,6 @@ constexpr std::array kWords{
 };
 constexpr qsizetype kLongestWord = 5;
 
-constexpr bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 constexpr bool isLetter(QChar c) {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
 }

@@ -4,6 +4,10 @@
 
 namespace zelvor::script {
 
+constexpr bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+
 // The kinds of token, in the order of the grammar table's rows (parser.cpp).
 enum class Token {
     End,
