@@ -38,28 +38,28 @@ void setBonus(LiveTeam& team, int bonus, bool shown) {
 
 }  // namespace
 
-using Text = const QByteArray&;
+using Characters = const QByteArray&;
 
 const std::array<DaktronicsDecoder::Field, DaktronicsDecoder::kFieldCount> DaktronicsDecoder::kFields{{
-    {142, 2, [](auto& decoder, Text text, qint64) { decoder.readPeriod(text); }},
-    {1, 5, [](auto& decoder, Text text, qint64 now) { decoder.readClock(text, now); }},
-    {108, 4, [](auto& decoder, Text text, qint64) { keepNumber(decoder.game_.team(1).score, text); }},
-    {112, 4, [](auto& decoder, Text text, qint64) { keepNumber(decoder.game_.team(2).score, text); }},
-    {122, 2, [](auto& decoder, Text text, qint64) { decoder.game_.team(1).timeouts = wholeNumber(text); }},
-    {130, 2, [](auto& decoder, Text text, qint64) { decoder.game_.team(2).timeouts = wholeNumber(text); }},
+    {142, 2, [](auto& decoder, Characters text, qint64) { decoder.readPeriod(text); }},
+    {1, 5, [](auto& decoder, Characters text, qint64 now) { decoder.readClock(text, now); }},
+    {108, 4, [](auto& decoder, Characters text, qint64) { keepNumber(decoder.game_.team(1).score, text); }},
+    {112, 4, [](auto& decoder, Characters text, qint64) { keepNumber(decoder.game_.team(2).score, text); }},
+    {122, 2, [](auto& decoder, Characters text, qint64) { decoder.game_.team(1).timeouts = wholeNumber(text); }},
+    {130, 2, [](auto& decoder, Characters text, qint64) { decoder.game_.team(2).timeouts = wholeNumber(text); }},
     {201, 8,
-     [](auto& decoder, Text text, qint64) {
+     [](auto& decoder, Characters text, qint64) {
          const auto shotClock = clockHundredths(QString::fromLatin1(text.startsWith(':') ? text.mid(1) : text));
          decoder.game_.shotClock = shotClock ? std::optional(*shotClock / 100) : std::nullopt;
      }},
-    {210, 1, [](auto& decoder, Text text, qint64) { setPossession(decoder.game_, 1, text == "<"); }},
-    {216, 1, [](auto& decoder, Text text, qint64) { setPossession(decoder.game_, 2, text == ">"); }},
-    {222, 1, [](auto& decoder, Text text, qint64) { setBonus(decoder.game_.team(1), 1, text == "<"); }},
-    {223, 1, [](auto& decoder, Text text, qint64) { setBonus(decoder.game_.team(1), 2, text == "<"); }},
-    {229, 1, [](auto& decoder, Text text, qint64) { setBonus(decoder.game_.team(2), 1, text == ">"); }},
-    {230, 1, [](auto& decoder, Text text, qint64) { setBonus(decoder.game_.team(2), 2, text == ">"); }},
-    {236, 2, [](auto& decoder, Text text, qint64) { decoder.game_.team(1).fouls = wholeNumber(text); }},
-    {238, 2, [](auto& decoder, Text text, qint64) { decoder.game_.team(2).fouls = wholeNumber(text); }},
+    {210, 1, [](auto& decoder, Characters text, qint64) { setPossession(decoder.game_, 1, text == "<"); }},
+    {216, 1, [](auto& decoder, Characters text, qint64) { setPossession(decoder.game_, 2, text == ">"); }},
+    {222, 1, [](auto& decoder, Characters text, qint64) { setBonus(decoder.game_.team(1), 1, text == "<"); }},
+    {223, 1, [](auto& decoder, Characters text, qint64) { setBonus(decoder.game_.team(1), 2, text == "<"); }},
+    {229, 1, [](auto& decoder, Characters text, qint64) { setBonus(decoder.game_.team(2), 1, text == ">"); }},
+    {230, 1, [](auto& decoder, Characters text, qint64) { setBonus(decoder.game_.team(2), 2, text == ">"); }},
+    {236, 2, [](auto& decoder, Characters text, qint64) { decoder.game_.team(1).fouls = wholeNumber(text); }},
+    {238, 2, [](auto& decoder, Characters text, qint64) { decoder.game_.team(2).fouls = wholeNumber(text); }},
 }};
 
 DaktronicsDecoder::DaktronicsDecoder(Refusals& refusals, bool checksums)

@@ -242,7 +242,7 @@ def main():
     try:
         shutil.copytree(f"{CHECKOUT}/demo", f"{folder}/demo", ignore=shutil.ignore_patterns("*.db", "SELECTIONS.TXT"))
         subprocess.run([f"{CHECKOUT}/tools/make-demo-database", f"{folder}/demo"], check=True)
-        for preset in ("dev", "release"):
+        for preset in ("dev", "run"):
             os.makedirs(f"{folder}/build/{preset}")
             os.symlink(PROGRAMS, f"{folder}/build/{preset}/bin")
         os.chdir(folder)
