@@ -116,6 +116,7 @@ class Game : public QObject {
     int pressed_ = 0;  // of these on buttons and keys of cards
     int begun_ = 0;
     int toldLate_ = 0;
+    int toldOtherwise_ = 0;
     std::optional<QDeadlineTimer> scoresBy_;
     int reloads_ = 0;
     bool busy_ = false;
