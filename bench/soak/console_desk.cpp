@@ -102,8 +102,9 @@ void ConsoleDesk::check(const char* name, bool checked) const {
 }
 
 void ConsoleDesk::press(Qt::Key key) const {
+    // Keys go to what is on the screen: a list that has just closed still has the focus.
     QWidget* focus = QApplication::focusWidget();
-    sendKey(focus != nullptr ? *focus : app_->window(), key);
+    sendKey(focus != nullptr && focus->isVisible() ? *focus : app_->window(), key);
 }
 
 void ConsoleDesk::choose(const char* menuItem) const {

@@ -33,6 +33,8 @@ class ConsoleDesk : public QObject {
     }
     // A press and a release in the middle of the widget.
     void click(const char* name, int index = -1, Qt::MouseButton button = Qt::LeftButton) const;
+    // Paints the widget: a card button fires what was seen on it.
+    void look(const char* name, int index) const { widget(name, index).repaint(); }
     void check(const char* name, bool checked) const;
     void press(Qt::Key key) const;
     void choose(const char* menuItem) const;

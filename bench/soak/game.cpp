@@ -68,6 +68,15 @@ void Game::play() {
         sent_.beginConnection();
         toldLost_.push_back(0);
     });
+    connect(&desk_.app().cards().presses(), &Presses::late, this,
+            [this](const QStringList& names) { noteLate(names.back()); });
+    // Pressed in one language and carried out in another.
+    connect(&desk_.at("lblNOTE"), &Control::changed, this, [this](Control* note) {
+        if (note->text().endsWith(u"other cards were loaded, not fired")) ++toldOtherwise_;
+    });
+    connect(&desk_.app().engine().runs(), &CardRuns::begun, this, [this](const Asker& asker) {
+        if (asker.presser.by == u"key" || asker.presser.by == u"button") ++begun_;
+    });
     boxesBefore_ = desk_.boxes.size();
     if (!peer_.start()) return fault(u"no local server"_s);
     desk_.check("chkRECONNECT", true);
@@ -210,7 +219,7 @@ void Game::awaitDatabase() {
 // Clocks go out whatever the console is at; the operator does one thing after the other.
 void Game::turn() {
     sendClock();
-    if (busy_ || ConsoleDesk::atAQuestion() || nextEvent_ == events_.size()) return;
+    if (busy_ || awaitsScores() || ConsoleDesk::atAQuestion() || nextEvent_ == events_.size()) return;
     if (static_cast<double>(time_.elapsed()) < events_[nextEvent_].at * 1000) return;
     busy_ = true;
     events_[nextEvent_++].step();
@@ -232,9 +241,10 @@ void Game::sendClock() {
 void Game::fire(int number) {
     ++fired_;
     const bool clockRuns = desk_.app().state().switches.IsTimeCard;
+    if (clockRuns && number % 15 == 7) return desk_.click("lblPROPOSED", 1 + number / 15 % 5);
+    ++pressed_;
     if (!clockRuns || number == plan_.fires - 1) return desk_.press(Qt::Key_F1);
     if (number % 10 == 3) return desk_.press(static_cast<Qt::Key>(Qt::Key_F1 + number / 10 % kFunctionKeysFired));
-    if (number % 15 == 7) return desk_.click("lblPROPOSED", 1 + number / 15 % 5);
     fireCard(number);
 }
 
@@ -246,7 +256,9 @@ void Game::fireCard(int number) {
     const bool asks = plan_.hasTroubles && number % kAsking != 0;
     const auto [set, button] = asks ? asking_ : cards_[chance_() % cards_.size()];
     desk_.click("GradientButtonS", set - 1);
-    desk_.click("cmbCARD", button);
+    desk_.look("cmbCARD", button);
+    // The small button asks although a player is tagged.
+    desk_.click(asks ? "cmdCARDBOX" : "cmbCARD", button);
 }
 
 // In the third quarter by hand, else by the database: another program writes, the operator reads it anew.
@@ -262,11 +274,16 @@ void Game::changeScore(int number) {
         ++reloads_;
     }
     if (databaseOut_) return;
-    // Reading anew takes its turn behind what runs.
-    const QDeadlineTimer turn(kReloaded);
-    while (shownScores() != wantedScores() && !turn.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, kPace);
+    scoresBy_ = QDeadlineTimer(kReloaded);
+}
+
+// Reading anew takes its turn behind what runs; nobody waits inside of it.
+bool Game::awaitsScores() {
+    if (!scoresBy_) return false;
+    if (shownScores() != wantedScores() && !scoresBy_->hasExpired()) return true;
+    scoresBy_.reset();
     checkScores();
+    return false;
 }
 
 void Game::writeScores() {
@@ -298,6 +315,16 @@ void Game::checkScores() {
 void Game::checkConnected(const QString& when) {
     if (desk_.app().links().state(LinkId::Main) != Graphics::kConnected)
         fault(u"not connected "_s + when + u": "_s + desk_.at("lblLINKMAIN").text());
+}
+
+// Reading anew is asked for once more, as an operator would.
+void Game::noteLate(const QString& name) {
+    if (name == u"Reload db vars") {
+        scoresBy_ = QDeadlineTimer(kReloaded);
+        QTimer::singleShot(0, this, [this] { desk_.choose("mnReloadVar"); });
+    } else if (!name.startsWith(u"Proposal")) {
+        ++toldLate_;
+    }
 }
 
 void Game::noteLost(const ReplyMatcher::SentLine& lost) {
@@ -344,7 +371,15 @@ void Game::report() {
     if (timedLines_ == 0 || feedLines_ == 0) fault(u"no card has run by itself"_s);
     if (const long grown = late - memory_.front(); grown > kMemoryAllowed && !plan_.hasTroubles)
         fault(u"memory grew by %1 KiB"_s.arg(grown));
+    checkPresses();
     checkLeftovers();
+}
+
+// Whatever was pressed has begun or was told as too late.
+void Game::checkPresses() {
+    std::printf("presses: %d of cards, %d begun, %d told as too late, %d as of another language\n", pressed_, begun_,
+                toldLate_, toldOtherwise_);
+    if (pressed_ != begun_ + toldLate_ + toldOtherwise_) fault(u"presses lost"_s);
 }
 
 // In the last third nothing grows: caches are full by then.

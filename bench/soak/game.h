@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QUdpSocket>
 #include <array>
 #include <functional>
+#include <optional>
 #include <random>
 #include <utility>
 #include <vector>
@@ -68,17 +70,20 @@ class Game : public QObject {
     void fire(int number);
     void fireCard(int number);
     void changeScore(int number);
+    [[nodiscard]] bool awaitsScores();
     void writeScores();
     void setManual(bool manual);
     [[nodiscard]] QString shownScores() const;
     [[nodiscard]] QString wantedScores() const;
     void checkScores();
+    void checkPresses();
     void checkConnected(const QString& when);
     void checkFlat(long late);
     void checkLines();
     void checkHistory(const LineLedger::Connection& sent);
     void checkLeftovers();
     void fault(const QString& what);
+    void noteLate(const QString& name);
     void noteSent(const ReplyMatcher::SentLine& sent);
     void noteLost(const ReplyMatcher::SentLine& lost);
     [[nodiscard]] int clockCount() const { return plan_.gameSeconds * plan_.clocksPerSecond; }
@@ -108,6 +113,11 @@ class Game : public QObject {
     QUdpSocket feed_;
     qint64 clocks_ = 0;
     int fired_ = 0;
+    int pressed_ = 0;  // of these on buttons and keys of cards
+    int begun_ = 0;
+    int toldLate_ = 0;
+    int toldOtherwise_ = 0;
+    std::optional<QDeadlineTimer> scoresBy_;
     int reloads_ = 0;
     bool busy_ = false;
     bool databaseOut_ = false;

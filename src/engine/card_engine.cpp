@@ -91,6 +91,11 @@ qint64 CardEngine::sendingByItself() const {
     return running_.back().asker->run;
 }
 
+bool CardEngine::pausesInsideAPause() const {
+    return !running_.empty() && running_.back().sends && running_.back().asker->isAttended() &&
+           std::ranges::count_if(running_, &Running::sends) > 1;
+}
+
 bool CardEngine::isRunning(qint64 run) const {
     return std::ranges::any_of(running_, [run](const Running& each) { return each.asker->run == run; });
 }

@@ -35,6 +35,8 @@ class CardEngine {
     void sendLine(LinkId link, const QString& line, const Asker& asker);
     // The number of the newest run while it sends a line and nobody at the desk has asked for it; 0 otherwise.
     [[nodiscard]] qint64 sendingByItself() const;
+    // Whether the newest run is in the pause before PLAY of a card of his, itself inside such a pause.
+    [[nodiscard]] bool pausesInsideAPause() const;
     [[nodiscard]] bool isRunning(qint64 run) const;
 
     [[nodiscard]] ShowState& state() { return state_; }

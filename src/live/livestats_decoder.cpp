@@ -249,9 +249,13 @@ void LiveStatsDecoder::readAllActions(const JsonReader& message, qint64) {
     if (!list) return;
     QMap<int, LiveAction> actions;
     for (const JsonReader& action : *list) keepAction(action, actions);
-    // A list that has come through whole also says what was deleted while nobody listened.
-    if (refusals_.total() == refusedBefore) game_.actions.clear();
-    game_.actions.insert(actions);
+    // A list that has come through whole also says what was deleted while nobody listened. Never cleared in place: a
+    // copy may just have been read on another thread.
+    if (refusals_.total() == refusedBefore) {
+        game_.actions = actions;
+    } else {
+        game_.actions.insert(actions);
+    }
     newestAction_ = game_.actions.isEmpty() ? 0 : game_.actions.lastKey();
 }
 

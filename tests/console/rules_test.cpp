@@ -134,15 +134,47 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     longPause = 1600;
     EXPECT_EQ(play(Asker::Kind::TimeCard), u"mPLAY 1 mends | "_s);
     EXPECT_EQ(note.text(), u"F10 pressed 1.6 s ago: not fired");
-    bench.graphics.whileSending = {};
 
-    // Too late is told; CLEAR is never too late.
-    console.presses().setWaited([] { return 3120; });
+    // Many at once: two at most stand in their pauses, and each is fired.
+    sent();
+    int pausing = 0;
+    int deepest = 0;
+    int left = 6;
+    bench.graphics.whileSending = [&] {
+        if (!bench.graphics.sent.back().contains(u"PLAY")) return;
+        deepest = std::max(deepest, ++pausing);
+        if (left-- > 0) console.functionKey(3);
+        QElapsedTimer looks;
+        for (looks.start(); looks.elapsed() < 10;) QCoreApplication::processEvents();
+        --pausing;
+    };
     console.functionKey(3);
-    EXPECT_EQ(bench.form.at(controls.lblNOTE).text(), u"F3 pressed 3.1 s ago: not fired");
+    EXPECT_TRUE(waitUntil([&] { return bench.graphics.sent.size() == 14; })) << sent().join(u' ').toStdString();
+    EXPECT_EQ(deepest, 2);
+    bench.graphics.whileSending = {};
+    sent();
+
+    // Too late is told of each, until a press that was made afterwards; CLEAR is never too late.
+    struct Press {
+        int key;
+        int waited;  // milliseconds
+        const char* sent;
+        QString note;
+    };
+    const Press presses[] = {{3, 3120, "", u"F3 pressed 3.1 s ago: not fired"_s},
+                             {10, 2080, "", u"F3, F10 pressed 2.1 s ago: not fired"_s},
+                             {10, 900, "mkey 0", u"F3, F10 pressed 2.1 s ago: not fired"_s},
+                             {10, 0, "mkey 0", u""_s},
+                             {3, 3120, "", u"F3 pressed 3.1 s ago: not fired"_s}};
+    for (const Press& press : presses) {
+        console.presses().setWaited([&press] { return press.waited; });
+        console.functionKey(press.key);
+        EXPECT_EQ(sent().join(u' '), QLatin1StringView(press.sent));
+        EXPECT_EQ(note.text(), press.note);
+    }
     console.pressClear();
     EXPECT_EQ(sent(), QStringList{u"mclear 0"_s});
-    EXPECT_EQ(bench.form.at(controls.lblNOTE).text(), u"");
+    EXPECT_EQ(note.text(), u"");
 }
 
 TEST_F(CardRules, ClearEndsWhatWaits) {

@@ -10,9 +10,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     test::require((reading.damagedLine == 0) == reading.damage.isEmpty());
     for (const auto& rows : {reading.rows, importRows(test::fuzzLines(data, size)).rows}) {
         const GridReading again = readGrid(gridBytes(rows));
-        test::require(again.damagedLine == 0 && again.rows.size() == rows.size());
         // Half a character, which a file in UTF-16 may hold, cannot be written.
-        test::require(again.rows == rows || QString::fromUtf8(gridBytes(rows)).contains(QChar::ReplacementCharacter));
+        auto writable = rows;
+        for (GeneralRow& row : writable) {
+            for (QString& field : row) field = QString::fromUtf8(field.toUtf8());
+        }
+        test::require(again.damagedLine == 0 && again.rows == writable);
         for (const GeneralRow& row : rows) {
             const GeneralCell cell(row[general_column::kValue]);
             test::require(cell.kind() == GeneralCell::Kind::Choice || cell.choices().isEmpty());

@@ -62,6 +62,8 @@ class CardsApp : public QObject {
     ShowState& state() { return state_; }
     Program& program() { return program_; }
     FormModel& form() { return form_; }
+    CardEngine& engine() { return engine_; }
+    CardConsole& cards() { return cards_; }
     Boxes& boxes() { return boxes_; }
     GraphicsLinks& links() { return links_; }
     SettingsDesk& settings() { return settings_; }

@@ -30,8 +30,9 @@ static_assert(kTabPanels.size() == CardConsole::kTabs);
 
 CardConsole::CardConsole(CardEngine& engine)
     : engine_(engine), state_(engine.state()), form_(engine.form()), presses_(engine), note_(engine.form()) {
-    connect(&presses_, &Presses::late, this, [this](const QString& name, const QString& seconds) {
-        note_.say(translate("console", "%1 pressed %2 s ago: not fired").arg(name, seconds));
+    connect(&presses_, &Presses::made, &note_, &StatusNote::clear);
+    connect(&presses_, &Presses::late, this, [this](const QStringList& names, const QString& seconds) {
+        note_.say(translate("console", "%1 pressed %2 s ago: not fired").arg(names.join(u", "_s), seconds));
     });
     connect(&engine.program().clearing, &Clearing::pressed, this, [this] { pressClear(); });
     // Timed cards, the feed and the general variables write what is shown here, too.
@@ -121,7 +122,6 @@ void CardConsole::fireScript(const QString& name, const QString& script, const P
 }
 
 void CardConsole::run(const QString& script, const Presser& presser, bool tagged, std::optional<CardPlace> place) {
-    note_.clear();
     if (!presser.from.isEmpty()) {
         note_.say(translate("console", "%1: fired from %2")
                       .arg(captionOf(state_, CardEngine::scriptName(script)), presser.from),

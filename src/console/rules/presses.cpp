@@ -17,15 +17,20 @@ Presses::Presses(CardEngine& engine) : engine_(engine) {
 
 void Presses::press(const QString& name, const Presser& presser, std::function<void()> deed) {
     const qint64 waited = waited_ && presser.from.isEmpty() ? waited_() : 0;
+    if (now() - waited >= toldLateAt_) {
+        late_.clear();
+        Q_EMIT made();
+    }
     if (waited > kLongestWait) {
         tellLate(name, waited);
         return;
     }
-    if (!isHeldUp()) heldUpBy_ = engine_.sendingByItself();
+    if (!engine_.isRunning(heldUpBy_)) heldUpBy_ = engine_.sendingByItself();
     if (turning_ || isHeldUp() || engine_.program().databaseWait.isOn() || !waiting_.empty()) {
         wait({name, std::move(deed), now() - waited});
     } else {
         carryOut(deed);
+        carryOutWaiting();
     }
 }
 
@@ -40,7 +45,7 @@ void Presses::tellWait(bool another) {
 }
 
 bool Presses::isHeldUp() const {
-    return engine_.isRunning(heldUpBy_);
+    return engine_.isRunning(heldUpBy_) || engine_.pausesInsideAPause();
 }
 
 qint64 Presses::now() const {
@@ -48,7 +53,9 @@ qint64 Presses::now() const {
 }
 
 void Presses::tellLate(const QString& name, qint64 waited) {
-    Q_EMIT late(name, QString::number(static_cast<double>(waited) / 1000, 'f', 1));
+    late_ += name;
+    toldLateAt_ = now();
+    Q_EMIT late(late_, QString::number(static_cast<double>(waited) / 1000, 'f', 1));
 }
 
 void Presses::clear(const std::function<void()>& deed) {
@@ -75,7 +82,6 @@ void Presses::carryOut(const std::function<void()>& deed) {
     carryOutSoon();
     deed();
     turn();
-    carryOutWaiting();
 }
 
 void Presses::turn() {

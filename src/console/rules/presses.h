@@ -12,7 +12,8 @@ namespace zelvor {
 // after each; a press that arrives in such a turn waits for its own. While a card waits (DELAY, the pause before
 // PLAY, a question) the next press is carried out at once, inside; in the pause before PLAY of a card that runs by
 // itself, and while one waits for the database, it waits: for the end of a card that runs by itself, which a wait for
-// the database brings about at once, or for the operator's own statement.
+// the database brings about at once, or for the operator's own statement. Pauses before PLAY stand two deep at most: a
+// press in the inner one waits for its end, so that many at once do not keep the first of them from the air.
 class Presses : public QObject {
     Q_OBJECT
 
@@ -38,8 +39,10 @@ class Presses : public QObject {
     void clear(const std::function<void()>& deed);
 
  Q_SIGNALS:
-    // seconds: how long it has waited, "3.1".
-    void late(const QString& name, const QString& seconds);
+    // A press that whoever makes it has seen all notes before.
+    void made();
+    // names: of all that were late since then. seconds: how long the last has waited, "3.1".
+    void late(const QStringList& names, const QString& seconds);
     // The turn before a deed begins and ends.
     void turnBefore(bool begins);
 
@@ -66,7 +69,9 @@ class Presses : public QObject {
     CardEngine& engine_;
     Waited waited_;
     std::deque<Waiting> waiting_;
-    qint64 heldUpBy_ = 0;  // the number of the run whose end is waited for
+    QStringList late_;       // told since the last press that was made afterwards
+    qint64 toldLateAt_ = 0;  // steady milliseconds
+    qint64 heldUpBy_ = 0;    // the number of the run whose end is waited for
     bool turning_ = false;
 };
 
