@@ -1,4 +1,4 @@
-#include "rehearsal/termination.h"
+#include "command_line/termination.h"
 
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <csignal>
 
-namespace zelvor::rehearsal {
+namespace zelvor {
 
 namespace {
 
@@ -33,4 +33,4 @@ Termination::~Termination() {
     close(descriptor_);
 }
 
-}  // namespace zelvor::rehearsal
+}  // namespace zelvor

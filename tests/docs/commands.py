@@ -191,7 +191,8 @@ class Manual:
                 self.faults.add(page, command, "sends no clock")
         except TimeoutError:
             self.faults.add(page, command, "sends nothing")
-        stop(feed)
+        if stop(feed) != 0:
+            self.faults.add(page, command, f"was ended in order, but left with {feed.returncode}")
         return ""
 
     def try_console(self, page, command, line):
@@ -223,6 +224,7 @@ def stop(process):
     process.terminate()
     process.wait(PATIENCE)
     process.stdout.close()
+    return process.returncode
 
 
 def pages():
