@@ -24,7 +24,7 @@ int openSignals() {
 Termination::Termination() : descriptor_(openSignals()), notifier_(descriptor_, QSocketNotifier::Read) {
     connect(&notifier_, &QSocketNotifier::activated, this, [this] {
         notifier_.setEnabled(false);
-        QCoreApplication::quit();
+        QCoreApplication::exit();  // not quit(), which ends the application's own loop alone
     });
 }
 
