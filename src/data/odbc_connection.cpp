@@ -142,8 +142,11 @@ Rows Connection::runOpen(const QString& sql, int seconds) {
     Rows rows;
     const std::optional<int> columns = statement.columnCount();
     if (columns == 0) return rows;
-    if (!columns || !statement.readRows(characterSet_, rows, cancelled_)) fail(statement.handle());
-    refuseCancelled();
+    // What is written is written: its rows are read to the end, and it is not told as failed.
+    static const std::atomic<bool> kNever = false;
+    const bool written = mayWrite(sql);
+    if (!columns || !statement.readRows(characterSet_, rows, written ? kNever : cancelled_)) fail(statement.handle());
+    if (!written) refuseCancelled();
     return rows;
 }
 

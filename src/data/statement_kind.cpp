@@ -1,5 +1,6 @@
 #include "data/statement_kind.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +34,12 @@ QString firstWord(const QString& sql) {
     qsizetype end = at;
     while (end < sql.size() && sql[end].isLetter()) ++end;
     return sql.mid(at, end - at).toLower();
+}
+
+bool mayWrite(const QString& sql) {
+    static const QRegularExpression kWrites(u"\\b(insert|update|delete|replace|merge|call|exec|execute)\\b"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    return sql.contains(kWrites);
 }
 
 bool isSafeForMariaDbDriver(const QString& firstWord) {

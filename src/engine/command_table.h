@@ -54,7 +54,8 @@ struct Command {
         RemoteField,
         Query,        // its placeholders are replaced when the query runs
         CommandLine,  // to a server; one that holds "PLAY" waits
-        Waits,        // holds up everything else while it is done
+        Waits,        // holds up a clock that runs its card
+        WaitsForDatabase,
     };
     using Roles = std::array<Role, 4>;
 

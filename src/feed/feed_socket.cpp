@@ -48,6 +48,7 @@ void FeedSocket::read() {
 }
 
 void FeedSocket::takeArrived() {
+    if (socket_.state() != QAbstractSocket::BoundState) return;  // the preview instance's
     constexpr qint64 kLargestDatagram = 65536;
     while (hasRoom() && socket_.hasPendingDatagrams()) {
         QByteArray bytes(qBound(qint64{0}, socket_.pendingDatagramSize(), kLargestDatagram), Qt::Uninitialized);

@@ -2,10 +2,10 @@
 #include <cstdio>
 
 #include "command_line/command_line.h"
+#include "command_line/termination.h"
 #include "crash/crash_dump.h"
 #include "rehearsal/options.h"
 #include "rehearsal/page_server.h"
-#include "rehearsal/termination.h"
 
 using namespace Qt::StringLiterals;
 using namespace zelvor::rehearsal;
@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
         return 0;
     }
 
-    const Termination termination;
+    const zelvor::Termination termination;
     const TemplateFolder folder(options.templates);
     Stage stage(options.channels, options.mode);
     Journal journal;

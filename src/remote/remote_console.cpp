@@ -31,21 +31,24 @@ RemoteConsole::RemoteConsole(CardEngine& engine, CardConsole& cards, GameDesk& d
         if (found != pending_.end()) found->second.ran = true;
     });
     connect(&engine.runs(), &CardRuns::ended, this, [this](const Asker& asker, RunOutcome outcome) {
-        if (asker.presser.number == 0) return;
+        const auto found = pending_.find(asker.presser.number);
+        if (found == pending_.end()) return;
         const bool failed = outcome == RunOutcome::NoScript || outcome == RunOutcome::Failed;
-        const int status = failed                           ? 422
-                           : outcome == RunOutcome::Cleared ? 409
-                           : outcome == RunOutcome::Closed  ? 503
-                                                            : 200;
+        const bool cleared = outcome == RunOutcome::Cleared && !found->second.clears;
+        const int status = failed ? 422 : cleared ? 409 : outcome == RunOutcome::Closed ? 503 : 200;
         finish(asker.presser.number, {status, {{u"run"_s, asker.run}, {u"outcome"_s, outcomeText(outcome)}}});
     });
-    // Deeds that wait for their turn never come.
+    // Deeds that wait for their turn never come. A CLEAR that waits is done by the one that overtakes it.
     connect(&engine.program().clearing, &Clearing::begun, this, [this] {
         std::vector<qint64> waiting;
         for (const auto& [number, pending] : pending_) {
             if (!pending.ran && pending.over) waiting.push_back(number);
         }
-        for (const qint64 number : waiting) finish(number, wrongDeed(409, u"CLEAR was pressed before its turn"_s));
+        const DeedResult overtaken{200, {{u"outcome"_s, outcomeText(RunOutcome::Cleared)}}};
+        for (const qint64 number : waiting) {
+            const bool clears = pending_.at(number).clears;
+            finish(number, clears ? overtaken : wrongDeed(409, u"CLEAR was pressed before its turn"_s));
+        }
     });
 }
 
@@ -180,7 +183,7 @@ void RemoteConsole::clear(const Request& request) {
     if (!open_ || engine_.program().closing.hasBegun())
         return request.done(wrongDeed(503, u"the console is not ready"_s));
     const qint64 number = ++lastNumber_;
-    pending_[number].request = request;
+    pending_[number] = {.request = request, .clears = true};
     engine_.ports().notes.appendHistory(u" = "_s + request.from + u": CLEAR"_s);
     const auto deed = [this](const Presser& presser) { cards_.pressClear(presser); };
     QTimer::singleShot(kLongestAnswer, this, [this, number] { tellLate(number); });

@@ -67,6 +67,7 @@ class RemoteConsole : public QObject {
  private:
     struct Pending {
         Request request;
+        bool clears = false;
         bool told = false;
         bool ran = false;  // its card was begun
         bool over = false;

@@ -1,4 +1,7 @@
+#include <dlfcn.h>
+
 #include <QElapsedTimer>
+#include <QScopeGuard>
 #include <QThread>
 #include <QTimer>
 
@@ -12,6 +15,9 @@ namespace zelvor::test {
 namespace {
 
 using Kind = Value::Kind;
+const QString kSqlite = u"Driver=SQLite3;Database=show.db"_s;
+// Called when a statement was carried out and its rows are about to be read.
+std::function<void()> beforeRows;
 
 // The same expectations of every kind of database.
 class OnEachDatabase : public testing::TestWithParam<const char*> {
@@ -24,7 +30,7 @@ class OnEachDatabase : public testing::TestWithParam<const char*> {
     }
 
     void SetUp() override {
-        QByteArray connectionString = "Driver=SQLite3;Database=show.db";
+        QByteArray connectionString = kSqlite.toLatin1();
         if (isMariaDb()) {
             if (!server()) server() = std::make_unique<MariaDbServer>();
             connectionString = server()->connectionString();
@@ -32,6 +38,9 @@ class OnEachDatabase : public testing::TestWithParam<const char*> {
         show.writeConnections("1==test==" + connectionString);
         show.make();
         database = show.connections.get();
+    }
+    [[nodiscard]] odbc::Connection connection() const {
+        return {isMariaDb() ? QString::fromLatin1(server()->connectionString()) : kSqlite, show.directory.path()};
     }
     [[nodiscard]] static bool isMariaDb() { return QByteArrayView(GetParam()) == "MariaDB"; }
 
@@ -219,6 +228,28 @@ TEST_P(OnEachDatabase, whatIsToldAsFailedIsNotDone) {
     EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1);
 }
 
+TEST_P(OnEachDatabase, aWriteThatIsCancelledBeforeItsRowsAreReadIsTold) {
+    makeTable(u"a integer"_s, {});
+    odbc::Connection one = connection();
+    one.open(5);
+    beforeRows = [&] { one.cancel(); };
+    const auto reset = qScopeGuard([] { beforeRows = {}; });
+    // SQLite's driver gives no rows of it.
+    EXPECT_EQ(one.run(u"insert into t values (1) returning a"_s, 5).rowCount(), isMariaDb() ? 1 : 0);
+    one.resume();
+    EXPECT_THROW(one.run(u"select a from t"_s, 5), RunTimeError);
+}
+
+TEST_P(OnEachDatabase, theStartHasLonger) {
+    makeTable(u"a integer"_s, {});
+    odbc::Connection other = connection();
+    other.run(isMariaDb() ? u"lock tables t write"_s : u"begin exclusive"_s, 5);
+    show.seconds = 1;
+    show.make();
+    QTimer::singleShot(2500, [&] { other.run(isMariaDb() ? u"unlock tables"_s : u"commit"_s, 5); });
+    EXPECT_TRUE(show.connections->execute({.card = u"getgame.QRD"_s}, u"insert into t values (1)"_s));
+}
+
 TEST_P(OnEachDatabase, longResultsAreWhole) {
     // Lengths around the buffers' sizes, long and short cells mixed in rows and columns.
     makeTable(u"a integer, long1 text, short varchar(10), long2 "_s + (isMariaDb() ? u"longtext"_s : u"text"_s), {});
@@ -244,3 +275,10 @@ TEST_P(OnEachDatabase, longResultsAreWhole) {
 
 }  // namespace
 }  // namespace zelvor::test
+
+// Stands before the driver manager's.
+extern "C" SQLRETURN SQLNumResultCols(SQLHSTMT statement, SQLSMALLINT* count) {
+    static const auto real = reinterpret_cast<decltype(&SQLNumResultCols)>(dlsym(RTLD_NEXT, "SQLNumResultCols"));
+    if (zelvor::test::beforeRows) zelvor::test::beforeRows();
+    return real(statement, count);
+}

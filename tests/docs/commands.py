@@ -85,6 +85,8 @@ class Manual:
         self.used = set()
         self.ran = 0
         self.faults = Faults()
+        with open(os.path.join(CHECKOUT, "packaging/CMakeLists.txt"), encoding="utf-8") as file:
+            self.packaged = file.read()
         self.server = None  # a rehearsal server, and its address
         self.address = ""
         self.feed = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
@@ -123,8 +125,11 @@ class Manual:
                 continue
             paragraph = piece
             for target in re.findall(r"\]\(([^)#:]+)[^):]*\)", piece):
-                if not os.path.exists(os.path.join(CHECKOUT, os.path.dirname(page), target)):
+                path = os.path.normpath(os.path.join(os.path.dirname(page), target))
+                if not os.path.exists(os.path.join(CHECKOUT, path)):
                     self.faults.add(page, target, "a link that leads nowhere")
+                elif not re.search(rf"SOURCE_DIR}}/{path.split('/')[0]}[\s)]", self.packaged):
+                    self.faults.add(page, target, "a link that leads nowhere in the package")
             for command in re.findall(r"`([^`\n]+)`", piece):
                 if COMMAND.match(command):
                     self.run(page, command)
@@ -191,7 +196,8 @@ class Manual:
                 self.faults.add(page, command, "sends no clock")
         except TimeoutError:
             self.faults.add(page, command, "sends nothing")
-        stop(feed)
+        if stop(feed) != 0:
+            self.faults.add(page, command, f"was ended in order, but left with {feed.returncode}")
         return ""
 
     def try_console(self, page, command, line):
@@ -223,6 +229,7 @@ def stop(process):
     process.terminate()
     process.wait(PATIENCE)
     process.stdout.close()
+    return process.returncode
 
 
 def pages():

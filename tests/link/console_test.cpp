@@ -136,6 +136,16 @@ TEST(LinkConsole, PutsPresetAddressesInAndLocksThem) {
     }
 }
 
+TEST(LinkConsole, MarksAPortThatIsNone) {
+    Studio studio;
+    for (const char* port : {"0", "65536", "-1", "52x", "", "65535", " 1 "}) {
+        const bool isPort = QByteArrayView(port).endsWith("5") || QByteArrayView(port) == " 1 ";
+        studio.at("txtGASPARPORTREMOTE").setText(QString::fromLatin1(port));
+        EXPECT_EQ(studio.at("txtGASPARPORTREMOTE").state().isEmpty(), isPort) << '"' << port << '"';
+        EXPECT_TRUE(studio.at("txtGASPARPORT").state().isEmpty());
+    }
+}
+
 TEST(LinkConsole, ShowsThatAServerDoesNotAnswer) {
     Studio studio;
     Server server;

@@ -297,8 +297,9 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
     const QString longName = u"Κωνσταντίνος-Αλέξανδρος Παπαχατζηθεοδωροπουλόπουλος von Wolfeschlegelsteinhausen"_s;
     QString data;
     for (const char* field :
-         {"HOME",  "AWAY", "NAME", "TITLE", "TEAM", "LINE2", "LABEL", "COACH", "EXTRA", "P1",    "P12",
-          "FIRST", "NOTE", "L1",   "L5",    "F1",   "R1",    "H2",    "H7",    "R1C2",  "VENUE", "COMPETITION"}) {
+         {"HOME", "AWAY", "NAME",  "TITLE",       "TEAM",       "LINE2",  "LABEL",    "COACH", "EXTRA",
+          "P1",   "P12",  "FIRST", "NOTE",        "L1",         "L5",     "F1",       "R1",    "H2",
+          "H7",   "R1C2", "VENUE", "COMPETITION", "COACHLABEL", "PLAYED", "HOMESHORT"}) {
         data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData>)"_s.arg(
             QLatin1String(field), longName);
     }
@@ -312,12 +313,12 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
     // Every text that shows: inside the safe area, with the look for 4:3 sets that of the middle, and inside its box.
     const QString outside =
         u"half = document.body.classList.contains('narrow') ? innerHeight * 0.6 : innerWidth * 0.45;"
-        "[...document.querySelectorAll('[data-field] > span')].filter(text => {"
+        "[...document.querySelectorAll('[data-field] > span, .fit > span')].filter(text => {"
         "  const inner = text.getBoundingClientRect(), box = text.parentElement.getBoundingClientRect();"
         "  return inner.width > 0 && (inner.right > box.right + 1 || inner.left < box.left - 1 ||"
         "    inner.left < innerWidth / 2 - half - 1 || inner.right > innerWidth / 2 + half + 1 ||"
         "    inner.top < innerHeight * 0.05 - 1 || inner.bottom > innerHeight * 0.95 + 1); }).map(text =>"
-        "  text.parentElement.dataset.field).join()"_s;
+        "  text.parentElement.dataset.field ?? text.parentElement.id).join()"_s;
     open(server);
     for (const QString& aspect : {u"16:9"_s, u"4:3"_s}) {
         page(

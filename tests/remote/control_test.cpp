@@ -129,6 +129,11 @@ TEST_F(ControlTest, QuestionsAreAnsweredInTheCallOrLater) {
     QObject::connect(waiting, &QNetworkReply::finished, [&] { cleared = post(u"/api/clear"_s).left(4); });
     EXPECT_EQ(answerOf(waiting), uR"(202 {"outcome":"running"})");
     EXPECT_TRUE(waitUntil([&] { return cleared == u"200 "; }));
+    // A CLEAR that waits is overtaken by the next one, which does for both.
+    gallery.app->state().variables.SetVar(u"@WAIT", 20000);
+    gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nSETVAR~@NOW;{@WAIT}\r\nSETVAR~@WAIT;0\r\nDELAY~{@NOW}\r\n");
+    const std::array clears{send("POST", u"/api/clear"_s), send("POST", u"/api/clear"_s)};
+    for (QNetworkReply* clear : clears) EXPECT_EQ(answerOf(clear).left(4), u"200 ");
     EXPECT_EQ(post(u"/api/cards/1/1/fire"_s).left(4), u"200 ");
     EXPECT_FALSE(server.bytes.contains("NEVER"));
 }

@@ -31,11 +31,14 @@ function update(data) {
     if (typeof fieldsChanged === "function") {
         fieldsChanged(fields);
     }
-    fitAll();
+    if (document.body.classList.contains("on")) {
+        fitAll();
+    }
 }
 
 function play() {
-    void document.body.offsetWidth; // the state before must have been drawn, or there is nothing to move from
+    fitAll(); // here, so that neither call takes a frame's time
+    document.getAnimations(); // settles the styles before, or there is nothing to move from; lays nothing out
     document.body.classList.add("on");
     if (typeof cameOn === "function") {
         cameOn();
@@ -111,25 +114,48 @@ function setText(element, text) {
 
 const kNarrowest = 0.78; // narrower than this, letters look squeezed: from there on they get smaller instead
 
-// All are measured before any is changed, so that the page is laid out only once for each step.
+let widths = new WeakMap(); // of texts as they are drawn
+
+function fittingTexts() {
+    return [...document.querySelectorAll(".fit")].map((element) => element.firstElementChild).filter(Boolean);
+}
+
+// All are measured before any is changed: the page is laid out once, and a frame is not late.
 function fitAll() {
-    const texts = [...document.querySelectorAll(".fit")].map((element) => element.firstElementChild).filter(Boolean);
-    for (const text of texts) {
-        text.style.fontSize = text.style.transform = text.style.verticalAlign = "";
-    }
-    const ratios = () => texts.map((text) => {
+    const texts = fittingTexts();
+    const ratios = texts.map((text) => {
+        if (!widths.has(text)) {
+            widths.set(text, text.offsetWidth);
+        }
         const { paddingLeft, paddingRight } = getComputedStyle(text.parentElement);
         const room = text.parentElement.clientWidth - parseFloat(paddingLeft) - parseFloat(paddingRight);
-        return room > 0 ? Math.min(1, room / text.offsetWidth) : 1;
+        return room > 0 ? Math.min(1, room / widths.get(text)) : 1;
     });
-    ratios().forEach((ratio, i) => {
+    ratios.forEach((ratio, i) => {
         texts[i].style.fontSize = ratio < kNarrowest ? `${ratio / kNarrowest}em` : "";
         texts[i].style.verticalAlign = ratio < 1 ? "middle" : "";
-    });
-    ratios().forEach((ratio, i) => {
-        texts[i].style.transform = ratio < 1 ? `scaleX(${ratio})` : "";
+        texts[i].style.transform = ratio < 1 ? `scaleX(${Math.max(ratio, kNarrowest)})` : "";
     });
 }
 
-addEventListener("resize", fitAll);
-document.fonts.ready.then(fitAll);
+function fitAnew() {
+    widths = new WeakMap();
+    for (const text of fittingTexts()) {
+        text.style.fontSize = "";
+    }
+    fitAll();
+}
+
+// Fonts are looked for when a text is first laid out: here, before the graphic is wanted.
+function findFonts() {
+    const text = document.createElement("span");
+    text.innerHTML = "Ag Ωή 0 • <span style='font-weight: 400'>Ag Ωή 0 •</span>";
+    text.style.cssText = "position: absolute; visibility: hidden";
+    document.body.append(text);
+    void text.offsetWidth;
+    text.remove();
+}
+
+addEventListener("resize", fitAnew);
+addEventListener("DOMContentLoaded", findFonts);
+document.fonts.ready.then(fitAnew);

@@ -4,15 +4,19 @@
 
 "use strict";
 
-const kCrest = "M4 6Q40-4 76 6V46Q74 74 40 88Q6 74 4 46Z";
+const kCrest = document.createElement("template"); // read once, before the graphic is wanted
+kCrest.innerHTML = `<svg viewBox="-24 -19 128 128"><path fill="var(--side)" d="M4 6Q40-4 76 6V46Q74 74 40 88Q6 74 4 46Z"/>
+    <path fill="#fffe" d="M10 26H70V58H10Z"/>
+    <path fill="none" stroke="#0e1a2f55" stroke-width="1.6" d="M18 66Q40 58 62 66M40 4V24M40 60V84"/>
+    <text x="40" y="52" lengthAdjust="spacingAndGlyphs"></text></svg>`;
 
-function crest(text) {
-    const svg = document.createElementNS("http://www.w3.org/2000/svg", "svg");
-    svg.setAttribute("viewBox", "-24 -19 128 128");
-    svg.innerHTML = `<path fill="var(--side)" d="${kCrest}"/><path fill="#fffe" d="M10 26H70V58H10Z"/>
-        <path fill="none" stroke="#0e1a2f55" stroke-width="1.6" d="M18 66Q40 58 62 66M40 4V24M40 60V84"/>
-        <text x="40" y="52" textLength="${text.length > 2 ? 52 : ""}" lengthAdjust="spacingAndGlyphs"></text>`;
-    svg.querySelector("text").textContent = text;
+function crest(letters) {
+    const svg = kCrest.content.firstElementChild.cloneNode(true);
+    const text = svg.lastElementChild;
+    text.textContent = letters;
+    if (letters.length > 2) {
+        text.setAttribute("textLength", 52);
+    }
     return svg;
 }
 

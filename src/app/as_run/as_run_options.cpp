@@ -49,8 +49,8 @@ AsRunOptions readAsRunOptions(const QStringList& arguments) {
 QString asRunHelp() {
     return uR"(usage: zelvor as-run [options] [DAY]
 
-Tells what was on air on a day, by the record that the console keeps: each card with who fired it, how it ended and how
-long its graphic stood, then sums by card and by sponsor.
+Tells what was on air on a day, by the record that the console keeps.
+Each card with who fired it, how it ended and how long its graphic stood, then sums by card and by sponsor.
 
   DAY                  the day on which the console was started, as 2026-11-21 (default: the newest record)
   --app-folder DIR     the application folder, which holds AS-RUN (default: the program's own)

@@ -50,9 +50,9 @@ QString rowOf(const QString& day, const AsRunCard& card) {
     return u'(' + values.join(u", "_s) + u')';
 }
 
-bool hasTable(Session& session) {
+bool hasColumn(Session& session, const QString& column) {
     try {
-        session.run(u"select count(*) from as_run"_s);
+        session.run(u"select "_s + column + u" from as_run where 1 = 0"_s);
         return true;
     } catch (const RunTimeError&) {
         return false;
@@ -63,7 +63,9 @@ bool hasTable(Session& session) {
 
 void writeAsRunTable(Session& session, QDate day, const std::vector<AsRunCard>& cards) {
     session.open();
-    if (!hasTable(session)) session.run(u"create table as_run ("_s + kColumns + u')');
+    if (!hasColumn(session, u"day"_s)) session.run(u"create table as_run ("_s + kColumns + u')');
+    // The newest column: a table made before lacks it.
+    if (!hasColumn(session, u"times"_s)) session.run(u"alter table as_run add times integer"_s);
     const QString date = quoted(day.toString(Qt::ISODate));
     QStringList statements{u"delete from as_run where day="_s + date};
     for (size_t first = 0; first < cards.size(); first += kRowsInStatement) {

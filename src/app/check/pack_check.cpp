@@ -114,16 +114,18 @@ QSet<QString> PackCheck::onlyIncluded(const std::vector<NamePlace>& tableCards) 
     return included - cards;
 }
 
-// A card that a clock runs holds up the clock and everything else.
+// While such a card waits, what it sends of the clock stands still.
 void PackCheck::warnOfWaiting(Findings& findings) const {
     for (const auto& [path, facts] : scripts_) {
         for (const NamePlace& card : facts.autoCards) {
             const auto run = scripts_.find(files_.path(CardEngine::scriptName(card.name)));
             if (run == scripts_.end()) continue;
-            for (const NamePlace& wait : run->second.waits) {
-                findings.warning(wait.place,
-                                 u"%1 in a card that a clock runs: everything waits for it"_s.arg(wait.name));
-            }
+            const auto warn = [&](const std::vector<NamePlace>& waits, const QString& text) {
+                for (const NamePlace& wait : waits) findings.warning(wait.place, text.arg(wait.name));
+            };
+            warn(run->second.waits, u"%1 in a card that a clock runs: the clock on air waits for it"_s);
+            warn(run->second.queries,
+                 u"%1 in a card that a clock runs: other cards wait for its answer, and a press cancels it"_s);
         }
     }
 }

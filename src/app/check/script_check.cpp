@@ -138,8 +138,9 @@ bool ScriptCheck::checkFlow(Role role, const QString& argument, bool given, cons
 
 void ScriptCheck::noteWaiting(const Command& command, const QString& argument, const Place& place) {
     const bool play = command.roles[0] == Role::CommandLine && argument.contains(u"PLAY");
-    const bool waits = std::ranges::find(command.roles, Role::Waits) != command.roles.end();
-    if (play || waits) facts_.waits.push_back({play ? u"PLAY"_s : command.word.toString(), place});
+    const auto is = [&](Role role) { return std::ranges::find(command.roles, role) != command.roles.end(); };
+    if (play || is(Role::Waits)) facts_.waits.push_back({play ? u"PLAY"_s : command.word.toString(), place});
+    if (is(Role::WaitsForDatabase)) facts_.queries.push_back({command.word.toString(), place});
 }
 
 // The argument as the command takes it, as far as that is known.

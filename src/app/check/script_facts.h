@@ -21,7 +21,8 @@ struct ScriptFacts {
     std::vector<NamePlace> reads;  // variables
     std::vector<NamePlace> cards;
     std::vector<NamePlace> autoCards;  // run by the game clock or the local clock
-    std::vector<NamePlace> waits;      // commands that hold up everything else
+    std::vector<NamePlace> waits;      // commands that hold up the clock that runs them
+    std::vector<NamePlace> queries;    // commands that wait for the database
 };
 
 }  // namespace zelvor

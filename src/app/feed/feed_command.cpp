@@ -7,6 +7,7 @@
 #include "app_feed/console_lock.h"
 #include "app_feed/live_command.h"
 #include "app_feed/terminal_keys.h"
+#include "command_line/termination.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +36,7 @@ int runFeed(const QStringList& arguments, QTextStream& out, QTextStream& err) {
         err << "zelvor feed: another feed sends to " << options.to.text() << ": " << holder << '\n';
         return kNotPossible;
     }
+    const Termination termination;
     if (!options.live.source.isEmpty()) return static_cast<int>(runLive(options, address, out, err));
 
     QEventLoop loop;

@@ -59,8 +59,8 @@ FeedOptions readFeedOptions(const QStringList& arguments) {
 QString feedHelp() {
     return uR"(usage: zelvor feed [options]
 
-Sends the datagrams of a game clock ("t9:58t"): its own clock's, or that of a source of live data, whose game it also
-writes into the tables that cards query.
+Sends the datagrams of a game clock ("t9:58t"): its own clock's, or that of a source of live data.
+The game of such a source it also writes into the tables that cards query.
 
   --to HOST:PORT    where to; 127.0.0.1:7699 without
   --from M:SS       the clock's first value; 10:00 without, 0:00 when counting up

@@ -101,7 +101,8 @@ export class Template extends Source {
 
     // calls: [{ function, argument }]. With settle, the animations they start are over at once.
     call(calls, settle = false) {
-        this.waiting.push({ calls, settle });
+        // A server makes each call a task of its own.
+        this.waiting.push(...(settle ? [{ calls, settle }] : calls.map((call) => ({ calls: [call], settle }))));
         if (this.loaded) {
             this.flush();
         }

@@ -2,7 +2,7 @@
 
 #include <QSocketNotifier>
 
-namespace zelvor::rehearsal {
+namespace zelvor {
 
 // Ends the event loop on SIGINT and SIGTERM, so that the program leaves by the end of its main(). Must exist before any
 // other thread is started.
@@ -19,4 +19,4 @@ class Termination : public QObject {
     QSocketNotifier notifier_;
 };
 
-}  // namespace zelvor::rehearsal
+}  // namespace zelvor

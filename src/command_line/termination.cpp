@@ -1,4 +1,4 @@
-#include "rehearsal/termination.h"
+#include "command_line/termination.h"
 
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <csignal>
 
-namespace zelvor::rehearsal {
+namespace zelvor {
 
 namespace {
 
@@ -24,7 +24,7 @@ int openSignals() {
 Termination::Termination() : descriptor_(openSignals()), notifier_(descriptor_, QSocketNotifier::Read) {
     connect(&notifier_, &QSocketNotifier::activated, this, [this] {
         notifier_.setEnabled(false);
-        QCoreApplication::quit();
+        QCoreApplication::exit();  // not quit(), which ends the application's own loop alone
     });
 }
 
@@ -33,4 +33,4 @@ Termination::~Termination() {
     close(descriptor_);
 }
 
-}  // namespace zelvor::rehearsal
+}  // namespace zelvor
