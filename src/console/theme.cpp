@@ -44,6 +44,7 @@ QLineEdit, QComboBox, QPlainTextEdit, QListView, QTableView {
   selection-background-color: @Accent; selection-color: @OnAccent;
 }
 QLineEdit { padding: 2px 6px; }
+QLineEdit[narrow="true"] { padding: 2px 0; }
 QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListView:focus { border-color: @Accent; }
 QLineEdit[wrong="true"] { border-color: @Bad; }
 QLineEdit:read-only { color: @Muted; background: @Panel; }
