@@ -162,6 +162,48 @@ TEST(Theme, TextContrastsWithItsGround) {
     }
 }
 
+// Around whatever the keyboard leads to, as many points as it is around change well visibly.
+TEST(Theme, FocusIsSeenOnEveryControl) {
+    constexpr double kSeen = 3;  // contrast
+    Gallery gallery;
+    gallery.writePack({"Score,score.csp"});
+    gallery.start();
+    MainWindow& window = gallery.app->window();
+    window.resize(1280, 780);
+    window.activateWindow();
+    for (const theme::Theme theme : {theme::Theme::Light, theme::Theme::HighContrast, theme::Theme::Dark}) {
+        window.setTheme(theme);
+        QSet<const QWidget*> seen;
+        for (int tab = 0; tab < CardConsole::kTabs; ++tab) {
+            gallery.click("cmdTAB", tab);
+            QCoreApplication::processEvents();
+            for (QWidget* each : window.findChildren<QWidget*>()) {
+                const bool isLedTo = each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) &&
+                                     each->focusProxy() == nullptr;
+                if (!isLedTo || seen.contains(each)) continue;
+                seen.insert(each);
+                window.setFocus();
+                const QImage before = each->grab().toImage();
+                each->setFocus(Qt::TabFocusReason);
+                ASSERT_TRUE(each->hasFocus()) << each->objectName().toStdString();
+                const QImage after = each->grab().toImage();
+                int changed = 0;
+                for (int y = 0; y < after.height(); ++y) {
+                    for (int x = 0; x < after.width(); ++x) {
+                        const QColor was = before.pixelColor(x, y);
+                        const QColor is = after.pixelColor(x, y);
+                        if (was != is && theme::contrast(was, is) >= kSeen) ++changed;
+                    }
+                }
+                EXPECT_GE(changed, 2 * (each->width() + each->height()) - 40)
+                    << theme::wordOf(theme).toStdString() << " " << each->metaObject()->className() << " "
+                    << each->objectName().toStdString();
+            }
+        }
+        EXPECT_GT(seen.size(), 130);
+    }
+}
+
 TEST(Theme, DigitsAreOfOneWidthAndGreekIsThere) {
     for (const bool bold : {false, true}) {
         const QFontMetrics metrics(theme::font(22, bold));
