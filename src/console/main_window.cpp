@@ -150,7 +150,7 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     for (int i = 0; i < CardConsole::kTabs; ++i) {
         ConsoleButton* tab = mirrors_.button(controls.cmdTAB, i, {.pixels = 13, .showsPage = true});
         tab->setFixedHeight(30);
-        constexpr int kLeastSides = 6;  // pixels
+        constexpr int kLeastSides = 10;  // pixels
         tab->setMinimumWidth(tab->fontMetrics().horizontalAdvance(tab->text()) + kLeastSides);
         tab->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         tabs_->addWidget(tab, 1);
