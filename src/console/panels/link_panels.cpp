@@ -17,7 +17,6 @@ namespace {
 void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkControls& link) {
     grid->addWidget(PanelFrame::word(translate("console", "Address")), row, 0);
     grid->addWidget(PanelFrame::word(translate("console", "Port")), row, 1);
-    grid->addWidget(mirrors.checkBox(link.reconnect), row, 2);
     QLineEdit* address = mirrors.textBox(link.address);
     constexpr int kLeastAddress = 90;  // pixels
     address->setMinimumWidth(kLeastAddress);
@@ -28,6 +27,8 @@ void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkCo
     ConsoleButton* connectButton = mirrors.button(link.connect, -1, {14, true});
     connectButton->setMinimumWidth(110);
     grid->addWidget(connectButton, row + 1, 2);
+    // Made last: the keyboard comes to it last.
+    grid->addWidget(mirrors.checkBox(link.reconnect), row, 2);
     grid->setColumnStretch(0, 1);
 }
 
