@@ -62,6 +62,7 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "usage: find_bench [SCRIPTS]\n");
         return 2;
     }
+    theme::prepare(application);
     theme::apply(application);
     const SqliteDemo database;
     ConsoleDesk desk(database);

@@ -102,6 +102,7 @@ void MainWindow::setTheme(theme::Theme theme) {
     const bool changes = theme != theme::current();
     theme::apply(*qApp, theme);
     if (changes) mirrors_.showColoursAnew();
+    shareWidth();
 }
 
 QPoint MainWindow::below(const ControlRow& control) const {
