@@ -12,6 +12,7 @@ namespace zelvor {
 namespace {
 constexpr int kPadding = 8;  // pixels
 constexpr int kLeastPadding = 2;
+constexpr int kRounding = 2;  // pixels by which a text may be wider on a screen of 150 %
 }  // namespace
 
 ConsoleButton::ConsoleButton(const Look& look, QWidget* parent) : QAbstractButton(parent), look_(look) {
@@ -77,7 +78,7 @@ void ConsoleButton::drawFocus(QPainter& painter) const {
 
 // It gives way before the text is elided.
 int ConsoleButton::padding() const {
-    return std::clamp((width() - fontMetrics().horizontalAdvance(text())) / 2, kLeastPadding, kPadding);
+    return std::clamp((width() - fontMetrics().horizontalAdvance(text())) / 2 - kRounding, kLeastPadding, kPadding);
 }
 
 QSize ConsoleButton::sizeHint() const {
