@@ -16,6 +16,7 @@ constexpr int kCaptionPixels = 15;
 constexpr int kStatePixels = 11;
 constexpr int kSmallWidth = 26;
 constexpr int kSmallMargin = 2;
+constexpr int kLamp = 13;  // pixels
 constexpr int kFrame = 3;  // pixels kept free around the button for the frame of the card fired last
 }  // namespace
 
@@ -87,8 +88,8 @@ void CardButton::drawFace(QPainter& painter) const {
         painter.fillPath(corner, theme::colour(Role::Wait));
     }
 
-    if (!face_.trouble.isEmpty()) {
-        constexpr int kLamp = 13;  // pixels
+    const bool isLamped = !face_.trouble.isEmpty();
+    if (isLamped) {
         drawStruckLamp(painter, {small_->geometry().left() - kLamp - 5.0, body.bottom() - kLamp - 6.0, kLamp, kLamp});
     }
 
@@ -96,7 +97,7 @@ void CardButton::drawFace(QPainter& painter) const {
                                                         : theme::colour(face_.quiet ? Role::Muted : Role::Text));
     const QString state =
         QFontMetrics(theme::font(kStatePixels, face_.on)).elidedText(stateLine(), Qt::ElideRight, textRoom());
-    const QRect inner(padding(), kFrame + 2, textRoom(), height() - 2 * kFrame - 4);
+    QRect inner(padding(), kFrame + 2, textRoom(), height() - 2 * kFrame - 4);
     const QFontMetrics captionMetrics(font());
     const QFont stateFont = theme::font(kStatePixels, face_.on);
     const int stateHeight = QFontMetrics(stateFont).height();
@@ -106,6 +107,7 @@ void CardButton::drawFace(QPainter& painter) const {
         const int top = inner.top() + (inner.height() - captionMetrics.height() - stateHeight) / 2;
         captionArea = QRect(inner.left(), top, inner.width(), captionMetrics.height());
     } else if (!state.isEmpty()) {
+        inner.setRight(inner.right() - (isLamped ? kLamp + 6 : 0));
         captionArea.setRight(inner.right() - QFontMetrics(stateFont).horizontalAdvance(state) - 6);
     }
     painter.setPen(ink);

@@ -3,10 +3,17 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QPointer>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
+
+namespace {
+constexpr int kPadding = 8;  // pixels
+constexpr int kLeastPadding = 2;
+constexpr int kRounding = 2;  // pixels by which a text may be wider on a screen of 150 %
+}  // namespace
 
 ConsoleButton::ConsoleButton(const Look& look, QWidget* parent) : QAbstractButton(parent), look_(look) {
     setFont(theme::font(look.pixels, look.bold));
@@ -69,12 +76,17 @@ void ConsoleButton::drawFocus(QPainter& painter) const {
     if (hasFocus()) theme::drawFocusRing(painter, rect());
 }
 
+// It gives way before the text is elided.
+int ConsoleButton::padding() const {
+    return std::clamp((width() - fontMetrics().horizontalAdvance(text())) / 2 - kRounding, kLeastPadding, kPadding);
+}
+
 QSize ConsoleButton::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text()) + 2 * padding() + 8, fontMetrics().height() + 10};
+    return {fontMetrics().horizontalAdvance(text()) + 2 * kPadding + 8, fontMetrics().height() + 10};
 }
 
 QSize ConsoleButton::minimumSizeHint() const {
-    return {2 * padding() + fontMetrics().horizontalAdvance(u"0…"_s), fontMetrics().height() + 4};
+    return {2 * kPadding + fontMetrics().horizontalAdvance(u"0…"_s), fontMetrics().height() + 4};
 }
 
 void ConsoleButton::paintEvent(QPaintEvent*) {

@@ -65,7 +65,7 @@ class ConsoleButton : public QAbstractButton {
     // isOn() is another now: tells those who hear the console.
     void tellOn();
     // Pixels between the side and the text, and those it may take; the tool tip holds a text that does not fit.
-    [[nodiscard]] virtual int padding() const { return 8; }
+    [[nodiscard]] virtual int padding() const;
     [[nodiscard]] virtual int textRoom() const { return width() - 2 * padding(); }
     void updateToolTip();
 

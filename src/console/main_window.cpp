@@ -6,6 +6,8 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -29,9 +31,9 @@ namespace zelvor {
 namespace {
 
 constexpr QSize kFirstSize{1280, 800};
-constexpr int kRightWidth = 480;  // pixels; where the cards would have less than kCardsWidth it is narrower,
-constexpr int kLeastRight = 300;  // down to this
+constexpr int kRightWidth = 480;  // pixels; where the cards would have less than kCardsWidth it is narrower
 constexpr int kCardsWidth = 500;
+constexpr int kRightMargin = 10;
 constexpr int kPanelHeight = 250;  // the tallest panel's
 
 // On a small screen the content scrolls.
@@ -100,6 +102,7 @@ void MainWindow::setTheme(theme::Theme theme) {
     const bool changes = theme != theme::current();
     theme::apply(*qApp, theme);
     if (changes) mirrors_.showColoursAnew();
+    shareWidth();
 }
 
 QPoint MainWindow::below(const ControlRow& control) const {
@@ -135,7 +138,7 @@ QWidget* MainWindow::leftSide(CardConsole& console, QAbstractItemModel& history)
 QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     auto* side = new QWidget;
     auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(10, 10, 10, 8);
+    column->setContentsMargins(kRightMargin, 10, kRightMargin, 8);
     column->setSpacing(9);
 
     // Tabs and panels are one block: the cover lies over both.
@@ -143,15 +146,17 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     auto* block = new QVBoxLayout(covered);
     block->setContentsMargins(0, 0, 0, 0);
     block->setSpacing(9);
-    auto* tabs = new QHBoxLayout;
-    tabs->setSpacing(4);
+    tabs_ = new QHBoxLayout;
+    tabs_->setSpacing(2);
     for (int i = 0; i < CardConsole::kTabs; ++i) {
         ConsoleButton* tab = mirrors_.button(controls.cmdTAB, i, {.pixels = 13, .showsPage = true});
         tab->setFixedHeight(30);
-        tab->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        tabs->addWidget(tab, 1);
+        constexpr int kLeastSides = 10;  // pixels
+        tab->setMinimumWidth(tab->fontMetrics().horizontalAdvance(tab->text()) + kLeastSides);
+        tab->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        tabs_->addWidget(tab, 1);
     }
-    block->addLayout(tabs);
+    block->addLayout(tabs_);
     auto* place = new QWidget;
     place->setFixedHeight(kPanelHeight);
     auto* panels = new QGridLayout(place);
@@ -160,10 +165,14 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     connect(caspar, &CasparPanel::olderWanted, this, &MainWindow::olderLineWanted);
     connect(caspar, &CasparPanel::newerWanted, this, &MainWindow::newerLineWanted);
     // All panels lie in one place; the controls say which one shows.
-    for (QWidget* panel : std::initializer_list<QWidget*>{new ScoresPanel(mirrors_), new StartFivePanel(mirrors_),
-                                                          new EffectPanel(mirrors_), new NetworkPanel(mirrors_), caspar,
-                                                          new StartElevenPanel(mirrors_), new ClocksPanel(mirrors_)})
-        panels->addWidget(panel, 0, 0);
+    panels_ = {new ScoresPanel(mirrors_),
+               new StartFivePanel(mirrors_),
+               new EffectPanel(mirrors_),
+               new NetworkPanel(mirrors_),
+               caspar,
+               new StartElevenPanel(mirrors_),
+               new ClocksPanel(mirrors_)};
+    for (QWidget* panel : panels_) panels->addWidget(panel, 0, 0);
     block->addWidget(place);
 
     auto* stack = new QGridLayout;
@@ -175,9 +184,27 @@ QWidget* MainWindow::rightSide(QAbstractItemModel& responses) {
     return side;
 }
 
+int MainWindow::leastRight() const {
+    // The hidden panels count, too: the cards stay where they are whichever shows.
+    int least = tabs_->minimumSize().width();
+    for (const QWidget* panel : panels_) least = std::max(least, panel->minimumSizeHint().width());
+    return least + 2 * kRightMargin +
+           style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, right_->verticalScrollBar());
+}
+
+void MainWindow::shareWidth() {
+    // The panels give way to the cards as far as they can.
+    const int least = leastRight();
+    right_->setFixedWidth(std::clamp(width() - kCardsWidth, least, std::max(kRightWidth, least)));
+}
+
+void MainWindow::enlarge() {
+    touch_->enlarge();
+    shareWidth();
+}
+
 void MainWindow::resizeEvent(QResizeEvent* event) {
-    // The cards shrink last.
-    right_->setFixedWidth(std::clamp(width() - kCardsWidth, kLeastRight, kRightWidth));
+    shareWidth();
     QWidget::resizeEvent(event);
 }
 

@@ -9,6 +9,8 @@
 #include "console_rules/card_console.h"
 
 class QAbstractItemModel;
+class QHBoxLayout;
+class QScrollArea;
 
 namespace zelvor {
 
@@ -29,7 +31,7 @@ class MainWindow : public QWidget {
     void takeFunctionKeysOf(const QWidget& beside);
 
     // For fingers: what is pressed is made large enough.
-    void enlarge() { touch_->enlarge(); }
+    void enlarge();
     void setTheme(theme::Theme theme);
     // The place for a menu that the widget opens: below it, where the pointer need not be.
     [[nodiscard]] QPoint below(const ControlRow& control) const;
@@ -54,6 +56,9 @@ class MainWindow : public QWidget {
  private:
     QWidget* leftSide(CardConsole& console, QAbstractItemModel& history);
     QWidget* rightSide(QAbstractItemModel& responses);
+    // Pixels that the right side needs for all that is on it to be seen.
+    [[nodiscard]] int leastRight() const;
+    void shareWidth();
 
     void answerKeys();
     void showSheet();
@@ -62,7 +67,9 @@ class MainWindow : public QWidget {
     Mirrors mirrors_;
     KeyFilter* keys_;
     std::unique_ptr<Touch> touch_;
-    QWidget* right_ = nullptr;
+    QScrollArea* right_ = nullptr;
+    QHBoxLayout* tabs_ = nullptr;
+    QList<QWidget*> panels_;
     KeySheet* sheet_ = nullptr;  // made when it is first wanted
     std::function<bool()> mayClose_;
 };

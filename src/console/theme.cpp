@@ -44,15 +44,19 @@ QLineEdit, QComboBox, QPlainTextEdit, QListView, QTableView {
   selection-background-color: @Accent; selection-color: @OnAccent;
 }
 QLineEdit { padding: 2px 6px; }
-QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListView:focus { border-color: @Accent; }
+QLineEdit[narrow="true"] { padding: 2px 0; }
+QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListView:focus { border: 2px solid @Accent; }
+QLineEdit:focus { padding: 1px 5px; }
+QLineEdit[narrow="true"]:focus { padding: 1px 0; }
+QComboBox:focus { padding: 1px 3px 1px 7px; }
 QLineEdit[wrong="true"] { border-color: @Bad; }
 QLineEdit:read-only { color: @Muted; background: @Panel; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Panel; }
 QComboBox { padding: 2px 4px 2px 8px; }
 QComboBox[drawsArrow="true"]::drop-down { border: none; width: 20px; }
 QComboBox QAbstractItemView { background: @Panel; border: 1px solid @Line; }
-QCheckBox, QRadioButton { color: @Text; spacing: 6px; padding: 2px; border-radius: 4px; }
-QCheckBox:focus, QRadioButton:focus { color: @Accent; }
+QCheckBox, QRadioButton { color: @Text; spacing: 6px; border: 2px solid transparent; border-radius: 4px; }
+QCheckBox:focus, QRadioButton:focus { border-color: @Accent; }
 QListView::item { padding: 1px 4px; }
 QPushButton {
   color: @Text; background: @Button; border: 1px solid @Line; border-radius: 4px; padding: 6px 18px;

@@ -1,37 +1,13 @@
 #include "remote/control_server.h"
 
-#include <QFile>
 #include <QWebSocket>
 
 #include "remote/api_routes.h"
+#include "remote/page_file.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
-
-namespace {
-
-constexpr auto kPagePolicy =
-    "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self'; connect-src 'self'; base-uri 'none'; "
-    "form-action 'self'; frame-ancestors 'none'";
-
-HttpResponse pageFile(const QString& name) {
-    QFile file(u":/control/"_s + name);
-    if (name.contains(u'/') || !file.open(QIODevice::ReadOnly))
-        return {404, "text/plain; charset=utf-8", "Not found\n"};
-    const QByteArray type = name.endsWith(u".js")     ? "text/javascript; charset=utf-8"
-                            : name.endsWith(u".css")  ? "text/css; charset=utf-8"
-                            : name.endsWith(u".json") ? "application/json"
-                                                      : "text/html; charset=utf-8";
-    return {200,
-            type,
-            file.readAll(),
-            {{"Content-Security-Policy", kPagePolicy},
-             {"Referrer-Policy", "no-referrer"},
-             {"X-Content-Type-Options", "nosniff"}}};
-}
-
-}  // namespace
 
 ControlServer::ControlServer(RemoteConsole& console, StateWatch& watch, const Settings& settings)
     : console_(console),

@@ -4,9 +4,11 @@
 #include <QKeySequence>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QScrollArea>
 #include <algorithm>
 #include <set>
 
+#include "app_cards/ui_language.h"
 #include "console/panels/history_panel.h"
 #include "console/text_label.h"
 #include "console/theme.h"
@@ -160,6 +162,48 @@ TEST(Theme, TextContrastsWithItsGround) {
     }
 }
 
+// Around whatever the keyboard leads to, as many points as it is around change well visibly.
+TEST(Theme, FocusIsSeenOnEveryControl) {
+    constexpr double kSeen = 3;  // contrast
+    Gallery gallery;
+    gallery.writePack({"Score,score.csp"});
+    gallery.start();
+    MainWindow& window = gallery.app->window();
+    window.resize(1280, 780);
+    window.activateWindow();
+    for (const theme::Theme theme : {theme::Theme::Light, theme::Theme::HighContrast, theme::Theme::Dark}) {
+        window.setTheme(theme);
+        QSet<const QWidget*> seen;
+        for (int tab = 0; tab < CardConsole::kTabs; ++tab) {
+            gallery.click("cmdTAB", tab);
+            QCoreApplication::processEvents();
+            for (QWidget* each : window.findChildren<QWidget*>()) {
+                const bool isLedTo = each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) &&
+                                     each->focusProxy() == nullptr;
+                if (!isLedTo || seen.contains(each)) continue;
+                seen.insert(each);
+                window.setFocus();
+                const QImage before = each->grab().toImage();
+                each->setFocus(Qt::TabFocusReason);
+                ASSERT_TRUE(each->hasFocus()) << each->objectName().toStdString();
+                const QImage after = each->grab().toImage();
+                int changed = 0;
+                for (int y = 0; y < after.height(); ++y) {
+                    for (int x = 0; x < after.width(); ++x) {
+                        const QColor was = before.pixelColor(x, y);
+                        const QColor is = after.pixelColor(x, y);
+                        if (was != is && theme::contrast(was, is) >= kSeen) ++changed;
+                    }
+                }
+                EXPECT_GE(changed, 2 * (each->width() + each->height()) - 40)
+                    << theme::wordOf(theme).toStdString() << " " << each->metaObject()->className() << " "
+                    << each->objectName().toStdString();
+            }
+        }
+        EXPECT_GT(seen.size(), 130);
+    }
+}
+
 TEST(Theme, DigitsAreOfOneWidthAndGreekIsThere) {
     for (const bool bold : {false, true}) {
         const QFontMetrics metrics(theme::font(22, bold));
@@ -234,30 +278,40 @@ TEST(Window, MirrorsEveryControl) {
     }
 }
 
-// At 1280 x 800 and 150 % nothing but the panels' rest lies outside; the cards keep their width.
+// At 1280 x 800 and 150 % nothing but the panels' rest lies outside, below; the cards keep their width.
 TEST(Window, FitsASmallScreen) {
-    Gallery gallery;
-    gallery.writePack({"Score,score.csp"});
-    gallery.start();
-    MainWindow& window = gallery.app->window();
-    constexpr QSize kSmall{853, 510};
-    window.resize(kSmall);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(window.size(), kSmall);
-    for (const auto& [name, index] : {std::pair{"lblDATABASE", -1},
-                                      {"GradientButtonAIR", -1},
-                                      {"lblPROPOSED", 8},
-                                      {"cmbCARD", 20},
-                                      {"cmdTAB", 0}}) {
-        const auto* widget = gallery.find<QWidget>(name, index);
-        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
-        EXPECT_TRUE(window.rect().contains(place)) << name;
+    for (const QString& language : UiLanguage::all()) {
+        const UiLanguage spoken(language);
+        Gallery gallery;
+        gallery.writePack({"Score,score.csp"});
+        gallery.start();
+        MainWindow& window = gallery.app->window();
+        constexpr QSize kSmall{853, 510};
+        window.resize(kSmall);
+        gallery.at("Frame6").setVisible(true);
+        const auto placeOf = [&](const QWidget* widget) {
+            return QRect(widget->mapTo(&window, QPoint()), widget->size());
+        };
+        for (int tab = 0; tab < CardConsole::kTabs; ++tab) {
+            gallery.click("cmdTAB", tab);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(window.size(), kSmall);
+            const auto* scrolled = gallery.find<QWidget>("cmdTAB", 0)->window()->findChildren<QScrollArea*>().last();
+            for (const QWidget* each : window.findChildren<QWidget*>()) {
+                if (!each->isVisible() || each->objectName().isEmpty()) continue;
+                const QRect place = placeOf(each);
+                const bool isOnTheRight = scrolled->isAncestorOf(each);
+                const QRect room =
+                    isOnTheRight ? QRect(placeOf(scrolled).topLeft(), QSize(scrolled->width(), 9999)) : window.rect();
+                EXPECT_TRUE(room.contains(place))
+                    << tab << each->objectName().toStdString() << each->property("index").toInt();
+            }
+        }
+        EXPECT_GE(gallery.find<QWidget>("cmbCARD", 0)->width(), 140);
+        window.resize(1280, 780);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(window.rect().contains(placeOf(gallery.find<QWidget>("lblAPLAYERS", 23)))) << "nothing scrolls";
     }
-    EXPECT_GE(gallery.find<QWidget>("cmbCARD", 0)->width(), 140);
-    window.resize(1280, 780);
-    QCoreApplication::processEvents();
-    const auto* player = gallery.find<QWidget>("lblAPLAYERS", 23);
-    EXPECT_TRUE(window.rect().contains({player->mapTo(&window, QPoint()), player->size()})) << "nothing scrolls";
 }
 
 }  // namespace zelvor::test

@@ -195,58 +195,6 @@ TEST_F(MainWindowTest, EveryDeedHasAKey) {
     EXPECT_EQ(peer.takeLines(), QStringList());
 }
 
-// By Qt's own touch events.
-TEST_F(MainWindowTest, FingersPressAsTheMouseDoes) {
-    gallery.adjust = [](CardsApp::Options& options) { options.touch = true; };
-    startWithCards();
-    gallery.connectMain(peer);
-    MainWindow& window = gallery.app->window();
-    const QRect room = QGuiApplication::screens().constLast()->availableGeometry();
-    window.setGeometry(room.adjusted(10, 10, -10, -10));
-    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
-    QPointingDevice* finger = device.get();
-    const auto goDown = [&](QWidget* widget) {
-        QCoreApplication::processEvents();
-        QTest::touchEvent(widget, finger).press(0, widget->rect().center(), widget);
-    };
-    const auto lift = [&](QWidget* widget) {
-        QTest::touchEvent(widget, finger).release(0, widget->rect().center(), widget);
-    };
-    auto* card = gallery.find<CardButton>("cmbCARD", 0);
-    for (QWidget* widget : {static_cast<QWidget*>(card), static_cast<QWidget*>(card),
-                            gallery.find<QWidget>("cmbCARD", 1), gallery.find<QWidget>("GradientButtonAIR")}) {
-        goDown(widget);
-        lift(widget);
-    }
-    EXPECT_TRUE(sent({kScoreLine, kPlayerLine, u"CLEAR 1"_s})) << "a double tap is one press";
-    // A long press is the right button's deed, in place of the left one's.
-    int asked = 0;
-    QObject::connect(&card->small(), &QAbstractButton::clicked, card, [&asked] { ++asked; });
-    goDown(card);
-    EXPECT_TRUE(waitUntil([&] { return asked == 1; }));
-    lift(card);
-    EXPECT_TRUE(sent({kScoreLine}));
-    goDown(card);
-    QTest::touchEvent(card, finger).move(0, QPoint(1, -300), card);
-    lift(card);
-    EXPECT_EQ(peer.takeLines(), QStringList()) << "the finger has slid away";
-
-    const int least = Touch::leastPixels(*window.screen());
-    EXPECT_NEAR(least / window.screen()->physicalDotsPerInch() * 25.4, 9, 0.5);
-    for (int tab = 0; tab < CardConsole::kTabs; ++tab) {
-        gallery.click("cmdTAB", tab);
-        QCoreApplication::processEvents();
-        for (const QWidget* each : window.findChildren<QWidget*>()) {
-            const bool isMet = qobject_cast<const QAbstractButton*>(each) != nullptr ||
-                               qobject_cast<const QComboBox*>(each) != nullptr || each->focusPolicy() == Qt::TabFocus;
-            if (!isMet || !each->isVisible() || qobject_cast<QLineEdit*>(each->parent()) != nullptr) continue;
-            EXPECT_GE(std::min(each->width(), each->height()), least) << each->objectName().toStdString();
-            EXPECT_TRUE(each->parentWidget()->rect().contains(each->geometry())) << each->objectName().toStdString();
-        }
-    }
-    theme::setFingerSize(*qApp, 0);
-}
-
 // The theme and the window's place outlive the program; a screen that is gone does not take the window along.
 TEST_F(MainWindowTest, LooksAsItDidLast) {
     startWithCards();

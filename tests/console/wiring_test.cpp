@@ -130,7 +130,7 @@ const Tie kTies[] = {
     {"txtGASPARIPREMOTE", -1, "left of", "txtGASPARPORTREMOTE", -1, enter, "cmdGASPARCONNECTREMOTE=Disconnect"},
     {"txtGASPARIPREMOTE", -1, "left of", "cmdGASPARCONNECTREMOTE", -1, enter, ""},
     {"txtGASPARPORTREMOTE", -1, "left of", "cmdGASPARCONNECTREMOTE", -1, enter, ""},
-    {"cmdGASPARCONNECTREMOTE", -1, "left of", "chkRECONNECTREMOTE", -1, press, "cmdGASPARCONNECTREMOTE=Connect"},
+    {"cmdGASPARCONNECTREMOTE", -1, "below", "chkRECONNECTREMOTE", -1, press, "cmdGASPARCONNECTREMOTE=Connect"},
     {"chkRECONNECTREMOTE", -1, "right of", "txtGASPARPORTREMOTE", -1, tick, "chkRECONNECTREMOTE on"},
     {"txtGASPARIP", -1, "left of", "txtGASPARPORT", -1, enter, ""},
     {"txtGASPARPORT", -1, "left of", "cmdGASPARCONNECT", -1, enter, ""},
@@ -140,7 +140,7 @@ const Tie kTies[] = {
     {"cmdVIEWGASPHISTORY", -1, "below", "cmdMANUALSEND", -1, press, "fraGASPHISTORY shown"},
     {"cmdLASTXML", -1, "above", "lstGASPARHISTORY", -1, press, "cmdLASTXML=Show Last CG, lstGASPARHISTORY hidden"},
     {"cmdGASPHISTCLOSE", -1, "right of", "cmdLASTXML", -1, press, "fraGASPHISTORY hidden"},
-    {"cmdGASPARCONNECT", -1, "left of", "chkRECONNECT", -1, press, "cmdGASPARCONNECT=Connect"},
+    {"cmdGASPARCONNECT", -1, "below", "chkRECONNECT", -1, press, "cmdGASPARCONNECT=Connect"},
     {"txtGASPARPORT", -1, "left of", "chkRECONNECT", -1, enter, "cmdGASPARCONNECT=Disconnect"},
 };
 

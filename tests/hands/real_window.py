@@ -16,7 +16,7 @@ import time
 
 # Where things stand in the window at 1280 x 800.
 CARD1, CARD2, SET1, SET2 = (120, 154), (120, 231), (87, 93), (244, 93)
-CLEAR, PORT, MANUAL, SCORES_TAB, PERIOD = (1190, 44), (1010, 161), (1000, 308), (846, 92), (1040, 221)
+CLEAR, PORT, MANUAL, SCORES_TAB, PERIOD = (1190, 44), (1100, 168), (1000, 308), (846, 92), (1040, 194)
 
 # Holds the console for some seconds without letting it paint.
 HOLD = (

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "../rehearsal/browser.h"
+#include "app_cards/ui_language.h"
 #include "console/gallery.h"
 
 using namespace Qt::StringLiterals;
@@ -64,6 +65,50 @@ TEST(ControlPage, WorksTheConsoleByTouch) {
               u"0");
     press(u"header"_s, u"CLEAR"_s);
     EXPECT_TRUE(waitUntil([&] { return server.bytes.contains("CLEARED"); }));
+}
+
+// All it says but what stays as it is in every language: no word of Latin letters, nothing that was not put in.
+TEST(ControlPage, SpeaksTheConsolesLanguage) {
+    rehearsal::Browser browser;
+    ASSERT_TRUE(browser.start()) << browser.fault().toStdString();
+    const UiLanguage greek(u"el"_s);
+    Gallery gallery;
+    gallery.writePack({"Σκορ,score.csp", "Ερώτηση,asks.csp"});
+    gallery.write(u"QRD_EN/asks.csp"_s, "BREAK~Σίγουρα;\r\n");
+    gallery.write(u"QRD_EN/score.csp"_s, "ON~1\r\n");
+    QByteArray token;
+    gallery.adjust = [&](CardsApp::Options& options) {
+        options.remoteControl.control = {{u"127.0.0.1"_s, 0}, QHostAddress::LocalHost, token, {}, {}};
+    };
+    for (const bool isLoggedIn : {false, true}) {
+        token = isLoggedIn ? QByteArray() : "0123456789abcdef";
+        gallery.start();
+        gallery.at("lblHTEAM").setText({});
+        gallery.at("lblHPLAYERS", 0).setText(u"7 Λάσκαρης"_s);
+        if (isLoggedIn) gallery.click("cmbCARD", 0);
+        browser.open(u"http://127.0.0.1:%1/"_s.arg(gallery.app->remote().control()->port()));
+        QString said;
+        const auto expectGreek = [&](const QString& part) {
+            EXPECT_TRUE(waitUntil([&] {
+                said = browser.evaluate(
+                    u"document.documentElement.lang + [...document.querySelectorAll('body *')].map("
+                    "e => '\\n' + (e.ariaLabel ?? '') + [...e.childNodes].map(n => n.nodeType === 3 ? n.data : '')).join('')"_s);
+                return said.startsWith(u"el") && said.contains(part);
+            })) << part.toStdString()
+                << " in " << said.toStdString();
+            const QRegularExpression strange(
+                u"(?!(CLEAR|ON|AIR|Zelvor|Cards|Break|Second|Game|Players)\\b)\\b[A-Za-z]{2,}|[{}]"_s);
+            EXPECT_EQ(strange.match(said, 2).captured(), QString()) << said.toStdString();
+        };
+        expectGreek(isLoggedIn ? u"Γηπεδούχοι ένα λιγότερο"_s : u"Ο κωδικός αυτής της κονσόλας"_s);
+        if (!isLoggedIn) continue;
+        expectGreek(u"η τελευταία"_s);
+        gallery.answer = [&](QDialog& box) {
+            expectGreek(u"Σίγουρα;"_s);
+            box.reject();
+        };
+        gallery.click("cmbCARD", 1);
+    }
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ class KeyChip : public QWidget {
         title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         const Control& control = mirrors.form().at(controls.lblFKEYTITLE, index);
         follow(control, {Control::Property::Visible, Control::Property::Text}, this, [this, &control, title] {
-            constexpr int kLeast = 56;  // pixels
+            constexpr int kLeast = 46;  // pixels
             title->setMinimumWidth(std::min(title->sizeHint().width(), kLeast));
             setVisible(control.visible() && !control.text().isEmpty());
         });
@@ -81,11 +81,16 @@ KeyBar::KeyBar(const Mirrors& mirrors) {
     for (TextLabel* yields : {addWords(controls.lblNOTE, 0, 0, false), silenced})
         yields->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     // A long name of a host gives way, never a state.
-    for (TextLabel* link : {addWords(controls.lblLINKMAIN, 0, 1, true), addWords(controls.lblLINKREMOTE, 1, 1, true)}) {
-        constexpr int kLeast = 124;  // pixels: "remote not connected"
+    const auto addLink = [&](const ControlRow& control, int line) {
+        TextLabel* link = addWords(control, line, 1, true);
         link->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-        link->setMinimumWidth(kLeast);
-    }
+        follow(mirrors.form().at(control), {Control::Property::Text}, link, [link] {
+            constexpr int kLeast = 160;  // pixels
+            link->setMinimumWidth(std::min(link->sizeHint().width(), kLeast));
+        });
+    };
+    addLink(controls.lblLINKMAIN, 0);
+    addLink(controls.lblLINKREMOTE, 1);
     for (TextLabel* kept : {addWords(controls.lblFEED, 0, 2, false), addWords(controls.lblDATABASE, 1, 2, false)}) {
         constexpr int kWidest = 320;  // pixels
         kept->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);

@@ -8,27 +8,28 @@ namespace zelvor {
 
 namespace {
 
-// A row of number boxes for home above one for away.
+// A row of number boxes for home above one for away, each below its side's name.
 QGridLayout* lineUps(const Mirrors& mirrors, const ControlRow& home, const ControlRow& away) {
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(4);
+    grid->setHorizontalSpacing(3);
     grid->setVerticalSpacing(6);
     const int players = home.elements.last + 1;
     for (int player = 0; player < players; ++player) {
-        grid->addWidget(PanelFrame::word(QString::number(player + 1)), 0, player + 1, Qt::AlignHCenter);
-        grid->setColumnStretch(player + 1, 1);
+        grid->addWidget(PanelFrame::word(QString::number(player + 1)), 0, player, Qt::AlignHCenter);
+        grid->setColumnStretch(player, 1);
     }
     const auto addSide = [&](int row, const QString& side, const ControlRow& boxes) {
-        grid->addWidget(PanelFrame::word(side), row, 0);
+        grid->addWidget(PanelFrame::word(side), row, 0, 1, players);
         for (int player = 0; player < players; ++player) {
             QLineEdit* number = mirrors.textBox(boxes, player);
             number->setAlignment(Qt::AlignCenter);
-            number->setMinimumWidth(30);
-            grid->addWidget(number, row, player + 1);
+            number->setMinimumWidth(24);
+            number->setProperty("narrow", true);
+            grid->addWidget(number, row + 1, player);
         }
     };
     addSide(1, translate("console", "Home"), home);
-    addSide(2, translate("console", "Away"), away);
+    addSide(3, translate("console", "Away"), away);
     return grid;
 }
 

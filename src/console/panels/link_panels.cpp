@@ -13,18 +13,22 @@ namespace zelvor {
 
 namespace {
 
-// Address, port, connect button and "Reconnect" box of a link, a row each for boxes and their names.
+// Address, port and connect button of a link, a row each for boxes and what stands above them.
 void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkControls& link) {
     grid->addWidget(PanelFrame::word(translate("console", "Address")), row, 0);
     grid->addWidget(PanelFrame::word(translate("console", "Port")), row, 1);
-    grid->addWidget(mirrors.textBox(link.address), row + 1, 0);
+    QLineEdit* address = mirrors.textBox(link.address);
+    constexpr int kLeastAddress = 90;  // pixels
+    address->setMinimumWidth(kLeastAddress);
+    grid->addWidget(address, row + 1, 0);
     QLineEdit* port = mirrors.textBox(link.port);
     port->setFixedWidth(78);
     grid->addWidget(port, row + 1, 1);
     ConsoleButton* connectButton = mirrors.button(link.connect, -1, {14, true});
-    connectButton->setFixedWidth(110);
+    connectButton->setMinimumWidth(110);
     grid->addWidget(connectButton, row + 1, 2);
-    grid->addWidget(mirrors.checkBox(link.reconnect), row + 1, 3);
+    // Made last: the keyboard comes to it last.
+    grid->addWidget(mirrors.checkBox(link.reconnect), row, 2);
     grid->setColumnStretch(0, 1);
 }
 
@@ -33,8 +37,10 @@ void addAddress(const Mirrors& mirrors, QGridLayout* grid, int row, const LinkCo
 NetworkPanel::NetworkPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.Frame4) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 10, 12, 12);
-    grid->addWidget(word(translate("console", "Remote server")), 0, 0, 1, 4);
-    grid->addWidget(mirrors.list(controls.cmbCASPARREMOTELIST), 1, 0, 1, 4);
+    grid->addWidget(word(translate("console", "Remote server")), 0, 0, 1, 3);
+    QComboBox* servers = mirrors.list(controls.cmbCASPARREMOTELIST);
+    servers->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    grid->addWidget(servers, 1, 0, 1, 3);
     addAddress(mirrors, grid, 2, kRemoteLinkControls);
     grid->setRowStretch(4, 1);
 }
@@ -46,7 +52,7 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
     addAddress(mirrors, grid, 0, kMainLinkControls);
     auto* responseView = new LineView(responses, LineView::Newest::OnTop);
     mirrors.panel(responseView, controls.lstGASPARRESPONSE);
-    grid->addWidget(responseView, 2, 0, 1, 4);
+    grid->addWidget(responseView, 2, 0, 1, 3);
     grid->setRowStretch(2, 1);
 
     auto* manual = new QHBoxLayout;
@@ -56,7 +62,7 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
     line->installEventFilter(this);
     manual->addWidget(line, 1);
     manual->addWidget(mirrors.button(controls.cmdMANUALSEND));
-    grid->addLayout(manual, 3, 0, 1, 4);
+    grid->addLayout(manual, 3, 0, 1, 3);
 
     auto* log = new QHBoxLayout;
     log->addWidget(mirrors.checkBox(controls.chkLOGFILE));
@@ -64,7 +70,7 @@ CasparPanel::CasparPanel(const Mirrors& mirrors, QAbstractItemModel& responses) 
         mirrors.label(controls.lblLOG, -1, {12, false, Qt::AlignLeft | Qt::AlignVCenter, theme::Role::Muted}));
     log->addStretch(1);
     log->addWidget(mirrors.button(controls.cmdVIEWGASPHISTORY));
-    grid->addLayout(log, 4, 0, 1, 4);
+    grid->addLayout(log, 4, 0, 1, 3);
 }
 
 ControlsCover::ControlsCover(const Mirrors& mirrors, QWidget& covered) {
@@ -72,14 +78,14 @@ ControlsCover::ControlsCover(const Mirrors& mirrors, QWidget& covered) {
     mirrors.panel(this, controls.picHideControls);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(12, 10, 12, 12);
-    grid->addWidget(
-        PanelFrame::word(translate("console", "This pack hides the controls. Links can be connected here.")), 0, 0, 1,
-        4);
+    QLabel* why = PanelFrame::word(translate("console", "This pack hides the controls. Links can be connected here."));
+    why->setWordWrap(true);
+    grid->addWidget(why, 0, 0, 1, 3);
     grid->setRowMinimumHeight(1, 12);
-    grid->addWidget(PanelFrame::word(translate("console", "Main server")), 2, 0, 1, 4);
+    grid->addWidget(PanelFrame::word(translate("console", "Main server")), 2, 0, 1, 3);
     addAddress(mirrors, grid, 3, kMainLinkControls);
     grid->setRowMinimumHeight(5, 12);
-    grid->addWidget(PanelFrame::word(translate("console", "Remote server")), 6, 0, 1, 4);
+    grid->addWidget(PanelFrame::word(translate("console", "Remote server")), 6, 0, 1, 3);
     addAddress(mirrors, grid, 7, kRemoteLinkControls);
     grid->setRowStretch(9, 1);
 

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <algorithm>
 
 #include "base/translate.h"
 #include "form/follow.h"
@@ -109,6 +110,12 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
                                             : translate("console", "Nothing on air"));
     });
     card->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    // What is wrong with it gives way first.
+    const Control& onAir = form_.at(controls.lblONAIRCARD);
+    follow(onAir, {Control::Property::Text}, card, [card] {
+        constexpr int kWidest = 180;  // pixels
+        card->setMinimumWidth(std::min(card->sizeHint().width(), kWidest));
+    });
     words->addWidget(card, 1);
     TextLabel* trouble = mirrors.label(controls.lblONAIRTROUBLE, -1, {13, true, Qt::AlignRight | Qt::AlignVCenter});
     const Control& troubleWords = form_.at(controls.lblONAIRTROUBLE);

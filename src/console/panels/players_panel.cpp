@@ -84,8 +84,17 @@ QLayout* PlayersPanel::players(const Mirrors& mirrors, const ControlRow& row) {
         });
         grid->addWidget(label, player % kPlayerRows, player / kPlayerRows);
         grid->setRowStretch(player % kPlayerRows, 1);
-        grid->setColumnStretch(player / kPlayerRows, 1);
     }
+    // A second column without players leaves the room to the names in the first.
+    const auto share = [grid, &form = mirrors.form(), &row] {
+        bool isShort = true;
+        for (int player = kPlayerRows; player < kPlayers; ++player)
+            isShort = isShort && form.at(row, player).text().isEmpty();
+        grid->setColumnStretch(0, isShort ? 3 : 1);
+        grid->setColumnStretch(1, 1);
+    };
+    for (int player = kPlayerRows; player < kPlayers; ++player)
+        follow(mirrors.form().at(row, player), {Control::Property::Text}, grid, share);
     return grid;
 }
 

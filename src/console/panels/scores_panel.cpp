@@ -59,10 +59,10 @@ ScoresPanel::ScoresPanel(const Mirrors& mirrors) : PanelFrame(mirrors, controls.
     period->addWidget(periods, 0, Qt::AlignHCenter);
     grid->addLayout(period, 1, 1);
     grid->addWidget(mirrors.label(controls.Label1, -1, {12, false}), 2, 1);
-    grid->addWidget(mirrors.checkBox(controls.chkMANUAL), 3, 1, Qt::AlignCenter);
-    grid->addLayout(times(mirrors), 4, 0, 1, 3);
+    grid->addWidget(mirrors.checkBox(controls.chkMANUAL), 4, 0, 1, 3, Qt::AlignCenter);
+    grid->addLayout(times(mirrors), 5, 0, 1, 3);
     grid->setRowStretch(1, 1);
-    grid->setRowMinimumHeight(4, 60);
+    grid->setRowMinimumHeight(5, 56);
 }
 
 void ScoresPanel::addSide(const Mirrors& mirrors, QGridLayout* grid, int column, const TeamControls& team,
@@ -70,7 +70,10 @@ void ScoresPanel::addSide(const Mirrors& mirrors, QGridLayout* grid, int column,
     TextLabel* name = mirrors.copy(team.team, team.team.name + u".score"_s, {14, true});
     name->setPlaceholder(nobody);
     grid->addWidget(name, 0, column);
-    grid->addWidget(mirrors.label(team.score, -1, {52, true, Qt::AlignCenter, Role::OnLine}), 1, column);
+    TextLabel* score = mirrors.label(team.score, -1, {.pixels = 52, .bold = true, .text = Role::OnLine, .padding = 0});
+    // Three digits, without the room that a line of letters would have above and below.
+    score->setMinimumSize(score->fontMetrics().horizontalAdvance(u"000"_s), score->fontMetrics().ascent());
+    grid->addWidget(score, 1, column);
     grid->addWidget(mirrors.label(team.autoScore, -1, {12, true}), 2, column);
     grid->addLayout(manualScore(mirrors, team.manualScore, firstStep), 3, column);
 }
@@ -80,13 +83,17 @@ QLayout* ScoresPanel::manualScore(const Mirrors& mirrors, const ControlRow& box,
     row->setSpacing(6);
     const auto step = [&](int index) {
         ConsoleButton* button = mirrors.button(controls.cmdMANSCORE, index, {18, true});
-        button->setFixedSize(36, 32);
+        button->setMinimumWidth(28);
+        button->setMaximumWidth(36);
+        button->setFixedHeight(32);
         row->addWidget(button);
     };
     step(firstStep + 1);
     QLineEdit* score = mirrors.textBox(box);
     score->setAlignment(Qt::AlignCenter);
-    score->setFixedWidth(52);
+    score->setMinimumWidth(36);
+    score->setMaximumWidth(52);
+    score->setProperty("narrow", true);
     row->addWidget(score);
     step(firstStep);
     return row;

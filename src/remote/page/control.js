@@ -1,6 +1,11 @@
 // The console on a tablet: shows what the events tell, and asks for deeds. It holds no rules.
 "use strict";
 
+// A text with its values in the places of "%1", "%2".
+const fill = (text, ...values) => text.replace(/%(\d)/g, (_, place) => values[place - 1]);
+const outcomes = { "no data": "{{no data}}", failed: "{{failed}}" };
+const sides = { home: "{{Home}}", away: "{{Away}}" };
+
 const at = (id) => document.getElementById(id);
 let state = null;
 let shownSet = 0; // the set looked at here; 0: the console's own
@@ -13,9 +18,9 @@ async function ask(path, body) {
     if (reply.status === 401) location.reload();
     const result = await reply.json();
     if (result.error) at("told").textContent = result.error;
-    else if (result.outcome === "no data" || result.outcome === "failed") at("told").textContent = result.outcome;
+    else if (outcomes[result.outcome]) at("told").textContent = outcomes[result.outcome];
   } catch {
-    at("told").textContent = "The console does not answer";
+    at("told").textContent = "{{The console does not answer}}";
   }
 }
 
@@ -52,7 +57,7 @@ function showButtons(box, wanted) {
 function cardNote(card) {
   const notes = [];
   if (card.on) notes.push("ON");
-  if (card.last) notes.push("fired last");
+  if (card.last) notes.push("{{fired last}}");
   if (card.trouble) notes.push(card.trouble);
   if (card.fault) notes.push(card.fault);
   return notes.join(", ");
@@ -61,7 +66,7 @@ function cardNote(card) {
 function showCards() {
   const set = shownSet || Math.max(state.set, 1);
   showButtons(at("sets"), Object.entries(state.sets).filter(([, each]) => each.title || Object.keys(each.cards).length)
-    .map(([number, each]) => ({ key: number, text: each.title || `Set ${number}`, pressed: Number(number) === set,
+    .map(([number, each]) => ({ key: number, text: each.title || fill("{{Set %1}}", number), pressed: Number(number) === set,
       press: () => { shownSet = Number(number); show(); } })));
   const numbered = Object.entries(state.sets[set]?.cards ?? {}).sort(([a], [b]) => a - b);
   showButtons(at("cards"), numbered.map(([row, card]) => ({ key: `${set}/${row}`, text: card.caption || card.script,
@@ -87,21 +92,21 @@ function makeScores() {
 
 function showScores() {
   at("gametime").textContent = state.clocks.game || "--:--";
-  at("period").textContent = state.clocks.period ? `Period ${state.clocks.period}` : "";
+  at("period").textContent = state.clocks.period ? fill("{{Period %1}}", state.clocks.period) : "";
   at("manual").checked = state.scores.manual;
   for (const side of ["home", "away"]) {
     const box = at(`score-${side}`);
-    const name = state.teams[side].name || side;
+    const name = state.teams[side].name || sides[side];
     const score = state.scores[side];
     box.querySelector("h3").textContent = name;
     const shown = box.querySelector("output");
     shown.setAttribute("aria-label", name);
     if (shown.textContent !== score.inUse) shown.textContent = score.inUse;
     // What the steppers step, where another score is in use.
-    box.querySelector("small").textContent = state.scores.manual ? "" : `manual ${score.manual}`;
+    box.querySelector("small").textContent = state.scores.manual ? "" : fill("{{manual %1}}", score.manual);
     const [less, more] = box.querySelectorAll("button");
-    less.setAttribute("aria-label", `${name} one less`);
-    more.setAttribute("aria-label", `${name} one more`);
+    less.setAttribute("aria-label", fill("{{%1 one less}}", name));
+    more.setAttribute("aria-label", fill("{{%1 one more}}", name));
   }
 }
 
@@ -115,9 +120,10 @@ function showFives() {
       at("fives").append(box);
     }
     const team = state.teams[side];
-    box.querySelector("h3").textContent = team.name || side;
+    const name = team.name || sides[side];
+    box.querySelector("h3").textContent = name;
     showButtons(box.querySelector(".five"), Object.entries(team.five).map(([number, player]) => ({ key: number,
-      text: player, label: `${team.name || side}, place ${number}: ${player}`,
+      text: player, label: fill("{{%1, place %2: %3}}", name, number, player),
       pressed: place?.side === side && place.number === number, press: () => { place = { side, number }; show(); } })));
     showButtons(box.querySelector(".players"), Object.entries(team.players).sort(([a], [b]) => a - b)
       .map(([index, player]) => ({ key: index, text: player.text, pressed: player.tagged !== "",
@@ -150,8 +156,8 @@ function showQuestion() {
   at("questiontitle").textContent = question.title || "Zelvor Cards";
   at("questiontext").textContent = question.text;
   const answer = (given) => () => ask("/api/question", { answer: given, number: question.number });
-  const choices = { message: [["ok", "OK"]], "yes-no": [["yes", "Yes"], ["no", "No"]],
-    text: [["cancel", "Cancel"]], list: question.choices.map((each) => [each.key, each.text]).concat([["cancel", "Cancel"]]) };
+  const choices = { message: [["ok", "OK"]], "yes-no": [["yes", "{{Yes}}"], ["no", "{{No}}"]],
+    text: [["cancel", "{{Cancel}}"]], list: question.choices.map((each) => [each.key, each.text]).concat([["cancel", "{{Cancel}}"]]) };
   at("answers").replaceChildren();
   showButtons(at("answers"), choices[question.kind].map(([key, text]) => ({ key, text, press: answer(key) })));
   if (question.kind === "text") {
@@ -165,14 +171,14 @@ function showQuestion() {
 }
 
 function show() {
-  at("onairstate").textContent = state.onAir.state || "clear";
+  at("onairstate").textContent = state.onAir.state || "{{clear}}";
   at("onaircard").textContent = state.onAir.card;
   at("trouble").textContent = state.onAir.trouble;
   at("status").textContent = [state.links.main.text, state.feed.text, state.database.text].filter(Boolean).join(" · ");
   showCards();
   showScores();
   showButtons(at("proposals"), Object.entries(state.proposals).sort(([a], [b]) => a - b)
-    .map(([number, each]) => ({ key: number, text: each.text, note: each.used ? "used" : "",
+    .map(([number, each]) => ({ key: number, text: each.text, note: each.used ? "{{used}}" : "",
       press: () => ask(`/api/proposals/${number}/take`) })));
   showFives();
   showQuestion();
@@ -198,7 +204,7 @@ function look() {
   };
   socket.onclose = () => {
     document.body.classList.add("lost");
-    at("told").textContent = "The connection to the console is lost; trying again";
+    at("told").textContent = "{{The connection to the console is lost; trying again}}";
     setTimeout(look, 1000);
   };
   socket.onopen = () => { at("told").textContent = ""; };

@@ -1238,4 +1238,131 @@
         <translation>συνδεδεμένη</translation>
     </message>
 </context>
+<context>
+    <name>page</name>
+    <message>
+        <source>en</source>
+        <translation>el</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Κάρτες</translation>
+    </message>
+    <message>
+        <source>Sets of cards</source>
+        <translation>Ομάδες καρτών</translation>
+    </message>
+    <message>
+        <source>Function keys</source>
+        <translation>Πλήκτρα λειτουργιών</translation>
+    </message>
+    <message>
+        <source>Score and clock</source>
+        <translation>Σκορ και χρόνος</translation>
+    </message>
+    <message>
+        <source>Game clock</source>
+        <translation>Χρόνος αγώνα</translation>
+    </message>
+    <message>
+        <source>Manual score</source>
+        <translation>Χειροκίνητο σκορ</translation>
+    </message>
+    <message>
+        <source>Proposals</source>
+        <translation>Προτάσεις</translation>
+    </message>
+    <message>
+        <source>Starting fives</source>
+        <translation>Αρχικές πεντάδες</translation>
+    </message>
+    <message>
+        <source>Choose a place, then the player.</source>
+        <translation>Επιλέξτε θέση και μετά τον παίκτη.</translation>
+    </message>
+    <message>
+        <source>token</source>
+        <translation>κωδικός</translation>
+    </message>
+    <message>
+        <source>The token of this console</source>
+        <translation>Ο κωδικός αυτής της κονσόλας</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Είσοδος</translation>
+    </message>
+    <message>
+        <source>no data</source>
+        <translation>δεν υπάρχουν δεδομένα</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>απέτυχε</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Γηπεδούχοι</translation>
+    </message>
+    <message>
+        <source>Away</source>
+        <translation>Φιλοξενούμενοι</translation>
+    </message>
+    <message>
+        <source>The console does not answer</source>
+        <translation>Η κονσόλα δεν απαντά</translation>
+    </message>
+    <message>
+        <source>fired last</source>
+        <translation>η τελευταία</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>Ομάδα %1</translation>
+    </message>
+    <message>
+        <source>Period %1</source>
+        <translation>Περίοδος %1</translation>
+    </message>
+    <message>
+        <source>manual %1</source>
+        <translation>χειροκίνητο %1</translation>
+    </message>
+    <message>
+        <source>%1 one less</source>
+        <translation>%1 ένα λιγότερο</translation>
+    </message>
+    <message>
+        <source>%1 one more</source>
+        <translation>%1 ένα περισσότερο</translation>
+    </message>
+    <message>
+        <source>%1, place %2: %3</source>
+        <translation>%1, θέση %2: %3</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ναι</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Όχι</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Άκυρο</translation>
+    </message>
+    <message>
+        <source>clear</source>
+        <translation>καθαρό</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>χρησιμοποιημένη</translation>
+    </message>
+    <message>
+        <source>The connection to the console is lost; trying again</source>
+        <translation>Η σύνδεση με την κονσόλα χάθηκε· γίνεται νέα προσπάθεια</translation>
+    </message>
+</context>
 </TS>
