@@ -89,8 +89,8 @@ QString ownColours(std::optional<Colour> back, std::optional<Colour> fore);
 
 // Gives the application the style and font that its widgets are built upon.
 void prepare(QApplication& application);
-// Gives a prepared application its palette and style sheet, also in place of another theme's. Best after its windows are
-// built: with a sheet there, each widget is styled anew when it is put into its place, a third of the start.
+// Gives a prepared application its palette and style sheet, also in place of another theme's. Best after its windows
+// are built: with a sheet there, each widget is styled anew when it is put into its place, a third of the start.
 void apply(QApplication& application, Theme theme = Theme::Dark);
 
 // Makes what is pressed in boxes, menus and panels at least that many pixels high. 0: as small as its text.
