@@ -49,11 +49,15 @@ function(zelvor_room name)
   endif()
 endfunction()
 
-# zelvor_program(NAME SOURCES file... LINKS target...)
+# zelvor_program(NAME [PRECOMPILED] SOURCES file... LINKS target...)
+# PRECOMPILED: it links Qt and is built for ./run.
 function(zelvor_program name)
-  cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(PROGRAM "PRECOMPILED" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${PROGRAM_SOURCES})
   target_link_libraries(${name} PRIVATE ${PROGRAM_LINKS} zelvor_options)
+  if(PROGRAM_PRECOMPILED)
+    use_precompiled(${name} room)
+  endif()
   # The stack trace of a crash names functions.
   set_target_properties(${name} PROPERTIES ENABLE_EXPORTS ON)
 endfunction()
