@@ -39,7 +39,8 @@ QString firstWord(const QString& sql) {
 bool mayWrite(const QString& sql) {
     static const QRegularExpression kWrites(u"\\b(insert|update|delete|replace|merge|call|exec|execute)\\b"_s,
                                             QRegularExpression::CaseInsensitiveOption);
-    return sql.contains(kWrites);
+    // A SELECT may name them for other ends, as the function replace().
+    return firstWord(sql) != u"select" && sql.contains(kWrites);
 }
 
 bool isSafeForMariaDbDriver(const QString& firstWord) {

@@ -24,7 +24,8 @@ TEST(Variables, KeepTheOrderOfTheirLastSetting) {
     EXPECT_EQ(u"@a=2 @NEW= @A=4"_s, order(store));
     store.clear();
     store.SetVar(u"@C", 6);
-    EXPECT_EQ(u"@C=6"_s, order(store));
+    EXPECT_TRUE(store.GetVar(u"@D").isEmpty());  // nothing is left of a cleared one
+    EXPECT_EQ(u"@C=6 @D="_s, order(store));
 }
 
 TEST(Variables, BehaveAsASimpleListDoes) {
