@@ -23,9 +23,10 @@ TEST(Variables, KeepTheOrderOfTheirLastSetting) {
     store.SetVar(u"@A", 4);
     EXPECT_EQ(u"@a=2 @NEW= @A=4"_s, order(store));
     store.clear();
+    store.SetVar(u"@B", 5);
     store.SetVar(u"@C", 6);
     EXPECT_TRUE(store.GetVar(u"@D").isEmpty());  // nothing is left of a cleared one
-    EXPECT_EQ(u"@C=6 @D="_s, order(store));
+    EXPECT_EQ(u"@B=5 @C=6 @D="_s, order(store));
 }
 
 TEST(Variables, BehaveAsASimpleListDoes) {
