@@ -4,8 +4,7 @@
 
 namespace zelvor {
 
-// Ends the event loop on SIGINT and SIGTERM, so that the program leaves by the end of its main(). Must exist before any
-// other thread is started.
+// Ends the event loop on SIGINT and SIGTERM, so that the program leaves by the end of its main(). One at a time.
 class Termination : public QObject {
     Q_OBJECT
 
@@ -15,7 +14,7 @@ class Termination : public QObject {
     Q_DISABLE_COPY_MOVE(Termination)
 
  private:
-    int descriptor_;
+    int readingEnd_;
     QSocketNotifier notifier_;
 };
 
