@@ -193,6 +193,12 @@ struct ControlTable {
                           {.text = "Show Last XML"},
                           {},
                           u"Ctrl+L"};
+    ControlRow chkLASTXMLRAW{Kind::CheckBox,
+                             u"chkLASTXMLRAW",
+                             QT_TRANSLATE_NOOP("form", "Shows the template data as it was sent"),
+                             {.text = QT_TRANSLATE_NOOP("caption", "As sent")},
+                             {},
+                             u"Ctrl+Shift+V"};
     ControlRow lblLASTXML{Kind::Label, u"lblLASTXML", QT_TRANSLATE_NOOP("form", "The last template data")};
     ControlRow txtMANUALCASPAR{
         Kind::TextBox,

@@ -18,18 +18,14 @@ HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
     : PanelFrame(mirrors, controls.fraGASPHISTORY),
       template_(mirrors.form().at(controls.lblLASTXML)),
       view_(new QPlainTextEdit),
-      raw_(new ConsoleButton({})) {
+      asSent_(mirrors.form().at(controls.chkLASTXMLRAW)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(10, 6, 10, 8);
     column->setSpacing(4);
     auto* head = new QHBoxLayout;
     head->addWidget(word(translate("console", "Socket history")));
     head->addStretch(1);
-    raw_->setCheckable(true);
-    raw_->setCaption(translate("console", "As sent"));
-    raw_->setHint(translate("console", "Shows the template data as it was sent"));
-    raw_->setAccessibleName(translate("console", "Template data as it was sent"));
-    head->addWidget(raw_);
+    head->addWidget(mirrors.checkBox(controls.chkLASTXMLRAW));
     head->addWidget(mirrors.button(controls.cmdLASTXML));
     head->addWidget(mirrors.button(controls.cmdGASPHISTCLOSE));
     column->addLayout(head);
@@ -47,21 +43,19 @@ HistoryPanel::HistoryPanel(const Mirrors& mirrors, QAbstractItemModel& history)
 
     connect(lines, &LineView::lineClicked, this,
             [](const QString& line) { QGuiApplication::clipboard()->setText(line); });
-    connect(raw_, &QAbstractButton::toggled, this, [this](bool asSent) {
-        raw_->setSelected(asSent);
-        showTemplate();
-    });
+    follow(asSent_, {Control::Property::Checked}, this, [this] { showTemplate(); });
     follow(template_, {Control::Property::Text}, this, [this] { showTemplate(); });
     // The view lies beneath the list: it shows where the list is hidden.
     const Control& list = mirrors.form().at(controls.lstGASPARHISTORY);
-    follow(list, {Control::Property::Visible}, this, [this, &list] {
+    Control& asSent = mirrors.form().at(controls.chkLASTXMLRAW);
+    follow(list, {Control::Property::Visible}, this, [this, &list, &asSent] {
         view_->setVisible(!list.visible());
-        raw_->setVisible(!list.visible());
+        asSent.setVisible(!list.visible());
     });
 }
 
 void HistoryPanel::showTemplate() {
-    view_->setPlainText(raw_->isChecked() ? template_.text() : readableXml(template_.text()));
+    view_->setPlainText(asSent_.checked() ? template_.text() : readableXml(template_.text()));
 }
 
 QString readableXml(const QString& xml) {

@@ -20,7 +20,7 @@ class HistoryPanel : public PanelFrame {
 
     const Control& template_;
     QPlainTextEdit* view_;
-    ConsoleButton* raw_;
+    const Control& asSent_;
 };
 
 // Template data with its elements on lines of their own, indented; the text as it is when it is no XML.

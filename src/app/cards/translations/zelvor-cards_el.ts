@@ -85,6 +85,10 @@
         <source>Auto score</source>
         <translation>Αυτόματο σκορ</translation>
     </message>
+    <message>
+        <source>As sent</source>
+        <translation>Όπως στάλθηκαν</translation>
+    </message>
 </context>
 <context>
     <name>cards</name>
@@ -242,18 +246,6 @@
     <message>
         <source>Socket history</source>
         <translation>Ιστορικό σύνδεσης</translation>
-    </message>
-    <message>
-        <source>As sent</source>
-        <translation>Όπως στάλθηκαν</translation>
-    </message>
-    <message>
-        <source>Shows the template data as it was sent</source>
-        <translation>Δείχνει τα δεδομένα του προτύπου όπως στάλθηκαν</translation>
-    </message>
-    <message>
-        <source>Template data as it was sent</source>
-        <translation>Τα δεδομένα του προτύπου όπως στάλθηκαν</translation>
     </message>
     <message>
         <source>Home</source>
@@ -922,6 +914,10 @@
     <message>
         <source>Proposal %1: a click takes it</source>
         <translation>Πρόταση %1: ένα κλικ τη δέχεται</translation>
+    </message>
+    <message>
+        <source>Shows the template data as it was sent</source>
+        <translation>Δείχνει τα δεδομένα του προτύπου όπως στάλθηκαν</translation>
     </message>
 </context>
 <context>
