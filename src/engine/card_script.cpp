@@ -1,5 +1,8 @@
 #include "engine/card_script.h"
 
+#include <sys/stat.h>
+
+#include <QFile>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -9,6 +12,10 @@ namespace zelvor {
 namespace {
 
 constexpr QStringView kBlockEnd = u"FI~";
+
+constexpr qint64 nanoseconds(const timespec& time) {
+    return qint64{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
 
 std::shared_ptr<const LineCondition> parseCondition(const QString& line, const ExpandableText& comparison) {
     auto condition = std::make_shared<LineCondition>();
@@ -23,8 +30,10 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
 }  // namespace
 
 // A copy that keeps the other file's time and has its size still changes when this one was last changed as a file.
-ScriptStamp scriptStamp(const QFileInfo& info) {
-    return {info.lastModified(), info.fileTime(QFileDevice::FileMetadataChangeTime), info.size()};
+std::optional<ScriptStamp> scriptStamp(const QString& path) {
+    struct stat file {};
+    if (stat(QFile::encodeName(path).constData(), &file) != 0) return std::nullopt;
+    return ScriptStamp{nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), file.st_size};
 }
 
 QString cleanedScriptLine(QString line) {
@@ -71,8 +80,7 @@ CardScript::CardScript(const QString& card, const QString& path, const QString& 
 }
 
 QStringList CardScript::readSource(const QString& path, const TextFiles& files) {
-    const QFileInfo info(path);
-    sources_.push_back({path, scriptStamp(info)});
+    sources_.push_back({path, scriptStamp(path)});
     return files.readLines(path);
 }
 
@@ -92,10 +100,8 @@ int CardScript::findBlockEnd(QStringView label, int from) const {
 }
 
 bool CardScript::isCurrent() const {
-    return std::ranges::all_of(sources_, [](const Source& source) {
-        const QFileInfo info(source.path);
-        return info.exists() && scriptStamp(info) == source.stamp;
-    });
+    return std::ranges::all_of(
+        sources_, [](const Source& source) { return source.stamp && scriptStamp(source.path) == source.stamp; });
 }
 
 std::shared_ptr<const CardScript> CardScriptCache::current(const QString& name) const {

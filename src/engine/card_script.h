@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QDateTime>
-#include <QFileInfo>
 #include <QHash>
 #include <QString>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "base/app_folder.h"
@@ -38,16 +37,17 @@ struct LineCondition {
     std::unique_ptr<ScriptLine> elseLine;
 };
 
-// What tells one version of a script file from another.
+// What tells one version of a script file from another. Times are nanoseconds since 1970.
 struct ScriptStamp {
-    QDateTime modified;
-    QDateTime changed;
+    qint64 modified = 0;
+    qint64 changed = 0;
     qint64 size = 0;
 
     bool operator==(const ScriptStamp&) const = default;
 };
 
-ScriptStamp scriptStamp(const QFileInfo& file);
+// Null when there is no such file.
+std::optional<ScriptStamp> scriptStamp(const QString& path);
 
 // A card's script with its includes put in.
 class CardScript {
@@ -71,7 +71,7 @@ class CardScript {
  private:
     struct Source {
         QString path;
-        ScriptStamp stamp;
+        std::optional<ScriptStamp> stamp;
     };
 
     QStringList readSource(const QString& path, const TextFiles& files);

@@ -1,7 +1,5 @@
 #include "app_run/card_files.h"
 
-#include <QFileInfo>
-
 #include "base/run_time_error.h"
 #include "engine/card_engine.h"
 
@@ -32,12 +30,12 @@ bool CardFiles::waitForChange(Clock& clock) {
     return true;
 }
 
-std::map<QString, ScriptStamp> CardFiles::stamps() const {
+std::map<QString, std::optional<ScriptStamp>> CardFiles::stamps() const {
     const auto path = [this](QStringView name) {
         return program_.folder.resolve(program_.folder.packFile(language_, name));
     };
-    std::map<QString, ScriptStamp> found;
-    const auto look = [&](const QString& file) { found[file] = scriptStamp(QFileInfo(file)); };
+    std::map<QString, std::optional<ScriptStamp>> found;
+    const auto look = [&](const QString& file) { found[file] = scriptStamp(file); };
     const QString script = path(script_);
     look(script);
     try {

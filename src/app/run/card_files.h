@@ -18,12 +18,12 @@ class CardFiles {
     bool waitForChange(Clock& clock);
 
  private:
-    [[nodiscard]] std::map<QString, ScriptStamp> stamps() const;
+    [[nodiscard]] std::map<QString, std::optional<ScriptStamp>> stamps() const;
 
     const Program& program_;
     QString language_;
     QString script_;
-    std::map<QString, ScriptStamp> known_;
+    std::map<QString, std::optional<ScriptStamp>> known_;
 };
 
 }  // namespace zelvor
