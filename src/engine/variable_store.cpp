@@ -3,34 +3,21 @@
 namespace zelvor {
 
 void VariableStore::SetVar(QStringView name, Value value) {
-    const auto found = index_.find(name);
-    if (found == index_.end()) {
-        add(name)->value = std::move(value);
-        return;
-    }
-    found->second->value = std::move(value);
-    entries_.splice(entries_.end(), entries_, found->second);
+    last(name).value = std::move(value);
 }
 
 void VariableStore::setText(QStringView name, QStringView text) {
-    const auto found = index_.find(name);
-    if (found == index_.end()) {
-        add(name)->value.setText(text);
-        return;
-    }
-    found->second->value.setText(text);
-    entries_.splice(entries_.end(), entries_, found->second);
+    last(name).value.setText(text);
 }
 
 const Value& VariableStore::GetVar(QStringView name) {
-    const auto found = index_.find(name);
-    if (found != index_.end()) return found->second->value;
-    return add(name)->value = {};
+    if (const Entry* entry = existing(name)) return entry->value;
+    return last(name).value = {};
 }
 
 const Value* VariableStore::find(QStringView name) const {
-    const auto found = index_.find(name);
-    return found == index_.end() ? nullptr : &found->second->value;
+    const Entry* entry = existing(name);
+    return entry == nullptr ? nullptr : &entry->value;
 }
 
 QString VariableStore::text(QStringView name) const {
@@ -40,7 +27,7 @@ QString VariableStore::text(QStringView name) const {
 
 void VariableStore::remove(QStringView name) {
     const auto found = index_.find(name);
-    if (found != index_.end()) removeEntry(found->second);
+    if (found != index_.end() && !found->second->isCleared) removeEntry(found->second);
 }
 
 std::map<QStringView, VariableStore::Entries::iterator>& VariableStore::sorted() {
@@ -52,19 +39,35 @@ std::map<QStringView, VariableStore::Entries::iterator>& VariableStore::sorted()
 }
 
 void VariableStore::clear() {
-    index_.clear();
     sorted_.reset();
-    spare_.splice(spare_.end(), entries_);
+    for (Entry& entry : entries_) entry.isCleared = true;
+    cleared_.splice(cleared_.end(), entries_);
 }
 
-VariableStore::Entries::iterator VariableStore::add(QStringView name) {
-    if (spare_.empty()) spare_.emplace_back();
-    const auto entry = spare_.begin();
-    entries_.splice(entries_.end(), spare_, entry);
-    entry->name.setUnicode(name.data(), name.size());
-    index_.emplace(entry->name, entry);
-    if (sorted_) sorted_->emplace(entry->name, entry);
-    return entry;
+const VariableStore::Entry* VariableStore::existing(QStringView name) const {
+    const auto found = index_.find(name);
+    return found == index_.end() || found->second->isCleared ? nullptr : &*found->second;
+}
+
+VariableStore::Entry& VariableStore::last(QStringView name) {
+    const auto found = index_.find(name);
+    const auto entry = found == index_.end() ? makeCleared(name) : found->second;
+    entries_.splice(entries_.end(), entry->isCleared ? cleared_ : entries_, entry);
+    if (entry->isCleared && sorted_) sorted_->emplace(entry->name, entry);
+    entry->isCleared = false;
+    return *entry;
+}
+
+VariableStore::Entries::iterator VariableStore::makeCleared(QStringView name) {
+    if (cleared_.empty()) {
+        cleared_.push_back({name.toString(), {}, true});
+        return index_.emplace(cleared_.back().name, cleared_.begin()).first->second;
+    }
+    const auto oldest = cleared_.begin();
+    auto indexed = index_.extract(oldest->name);
+    oldest->name.setUnicode(name.data(), name.size());
+    indexed.key() = oldest->name;
+    return index_.insert(std::move(indexed)).position->second;
 }
 
 void VariableStore::removeEntry(Entries::iterator entry) {

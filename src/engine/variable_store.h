@@ -61,6 +61,7 @@ class VariableStore {
     struct Entry {
         QString name;
         Value value;
+        bool isCleared = false;
     };
     using Entries = std::list<Entry>;
     // Names are a few characters long: one multiplication each (by 2^64 / the golden ratio) is less than a call.
@@ -79,14 +80,20 @@ class VariableStore {
     };
 
     std::map<QStringView, Entries::iterator>& sorted();
-    // Enters a name that does not exist, with a value left over or empty.
-    Entries::iterator add(QStringView name);
+    // The name's entry, null when it does not exist.
+    [[nodiscard]] const Entry* existing(QStringView name) const;
+    // The name's entry at the end of the order; of a name that did not exist with a value left over or empty.
+    Entry& last(QStringView name);
+    // An entry of that name among the cleared ones.
+    Entries::iterator makeCleared(QStringView name);
     void removeEntry(Entries::iterator entry);
 
     Entries entries_;  // in the order of the table; an entry keeps its place in memory
-    // Entries cleared before, whose memory is used again: template data comes and goes with every card.
-    Entries spare_;
-    std::unordered_map<QStringView, Entries::iterator, Hash, Equal> index_;  // the names are views of the entries' own
+    // Entries cleared before, whose memory is used again: template data comes and goes with every card, and mostly
+    // under the same names.
+    Entries cleared_;
+    // Of both. The names are views of the entries' own.
+    std::unordered_map<QStringView, Entries::iterator, Hash, Equal> index_;
     // The names in sorted order, made when prefixes are first removed and kept from then on.
     std::optional<std::map<QStringView, Entries::iterator>> sorted_;
 };

@@ -22,11 +22,6 @@ TEST(Variables, KeepTheOrderOfTheirLastSetting) {
     EXPECT_TRUE(store.GetVar(u"@NEW").isEmpty());
     store.SetVar(u"@A", 4);
     EXPECT_EQ(u"@a=2 @NEW= @A=4"_s, order(store));
-    store.clear();
-    store.SetVar(u"@B", 5);
-    store.SetVar(u"@C", 6);
-    EXPECT_TRUE(store.GetVar(u"@D").isEmpty());  // nothing is left of a cleared one
-    EXPECT_EQ(u"@B=5 @C=6 @D="_s, order(store));
 }
 
 TEST(Variables, BehaveAsASimpleListDoes) {
@@ -38,7 +33,7 @@ TEST(Variables, BehaveAsASimpleListDoes) {
     std::mt19937 random(1);
     for (int step = 0; step < 20000; ++step) {
         const QString name = u"@N%1_%2"_s.arg(random() % 7).arg(random() % 9);
-        switch (random() % 8) {
+        switch (random() % 9) {
             case 0:
                 store.remove(name);
                 drop(name);
@@ -49,6 +44,13 @@ TEST(Variables, BehaveAsASimpleListDoes) {
                 std::erase_if(model, [&](const auto& entry) { return entry.first.startsWith(prefix); });
                 break;
             }
+            case 2:
+                if (random() % 20 != 0) break;
+                store.clear();
+                model.clear();
+                ASSERT_TRUE(store.find(name) == nullptr && store.GetVar(name).isEmpty());
+                store.remove(name);
+                break;
             default:
                 store.SetVar(name, step);
                 drop(name);
