@@ -9,8 +9,8 @@ namespace zelvor {
 // gone, and must not be touched before.
 class TextWriter {
  public:
-    // Writes over `out`, whose memory is used again.
-    explicit TextWriter(QString& out) : out_(out) { makeRoom(out.capacity()); }
+    // Writes over `out`, whose memory is used again. room: UTF-16 units that are expected.
+    explicit TextWriter(QString& out, qsizetype room = 0) : out_(out) { makeRoom(std::max(room, out.capacity())); }
     ~TextWriter() { out_.resize(size_); }
     Q_DISABLE_COPY_MOVE(TextWriter)
 

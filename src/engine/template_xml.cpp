@@ -12,41 +12,80 @@ namespace {
 
 // Views made by the compiler: one made of a literal on the way measures it each time.
 constexpr QStringView kField = uR"(<componentData id=\")";
-constexpr QStringView kType = uR"(\"><data type=\")";
-constexpr QStringView kAnimation = uR"(\" ani=\")";
+constexpr QStringView kNoType = uR"(\"><data type=\"\" ani=\")";
+constexpr QStringView kText = uR"(\"><data type=\"txt\" ani=\")";
+constexpr QStringView kPicture = uR"(\"><data type=\"pic\" ani=\")";
 constexpr QStringView kNext = uR"(\" )";
 constexpr QStringView kOpen = uR"(=\")";
 constexpr QStringView kValue = uR"(\" value=\")";
 constexpr QStringView kEnd = uR"(\"></data></componentData>)";
-constexpr QStringView kText = u"txt";
-constexpr QStringView kPicture = u"pic";
 constexpr QStringView kQuote = uR"(\")";
 
+// Room for a field of the usual length, in UTF-16 units.
+constexpr qsizetype kUsualField = 128;
+
+// Whether the character breaks the XML, which escapes nothing.
+constexpr bool breaks(QChar character) {
+    return character == u'\'' || character == u'"' || character == u'<' || character == u'&' || character == u'\\';
+}
+
+QStringView breakingName(QChar character) {
+    switch (character.unicode()) {
+        case u'<':
+            return u"a \"<\"";
+        case u'&':
+            return u"an \"&\"";
+        case u'\\':
+            return u"a backslash";
+        default:
+            return u"a quote";
+    }
+}
+
+// Whether nothing in the value asks for more than being copied.
+bool isPlain(QStringView value) {
+    return std::none_of(value.begin(), value.end(), [](QChar c) { return c == u'|' || c == u'#' || breaks(c); });
+}
+
 struct FieldKey {
+    QStringView letter;
     QStringView ani;
     QStringView id;
 };
 
+qsizetype find(QStringView text, QChar character) {
+    return std::find(text.begin(), text.end(), character) - text.begin();
+}
+
+FieldKey splitKey(QStringView key) {
+    const qsizetype dash = find(key, u'-');
+    const QStringView behind = key.mid(dash + 1);
+    const QStringView piece = behind.left(find(behind, u'-'));
+    const qsizetype star = find(piece, u'*');
+    if (dash == key.size() || star == piece.size()) throw MissingPiece();
+    const QStringView id = piece.mid(star + 1);
+    return {key.left(dash), piece.left(star), id.left(find(id, u'*'))};
+}
+
+FieldKey cutKey(QStringView key) {
+    return {key.left(1), key.mid(2, 1), key.mid(4)};
+}
+
 class XmlWriter {
  public:
-    explicit XmlWriter(QString& xml) : xml_(xml) { xml_ += u"<templateData>"; }
+    XmlWriter(QString& xml, qsizetype fields) : xml_(xml, (fields + 1) * kUsualField) { xml_ += u"<templateData>"; }
     ~XmlWriter() { xml_ += u"</templateData>"; }
     Q_DISABLE_COPY_MOVE(XmlWriter)
 
-    // A letter other than "t" and "i" keeps the type of the field before.
-    void setType(QStringView letter) {
-        if (letter.size() != 1) return;
-        if (letter[0] == u't') type_ = kText;
-        if (letter[0] == u'i') type_ = kPicture;
+    void plainField(const FieldKey& key, QStringView value) {
+        begin(key);
+        xml_ += kValue;
+        xml_ += value;
+        xml_ += kEnd;
     }
 
     void field(const FieldKey& key, QStringView value, bool verticalOffsetNeeded) {
-        xml_ += kField;
-        text(key.id);
-        xml_ += kType;
-        xml_ += type_;
-        xml_ += kAnimation;
-        text(key.ani);
+        begin(key);
         if (value.contains(u'|')) {
             const Pieces parts(value, u'|');
             attribute(u"sz", parts[1]);
@@ -62,6 +101,18 @@ class XmlWriter {
     }
 
  private:
+    void begin(const FieldKey& key) {
+        // A letter other than "t" and "i" keeps the type of the field before.
+        if (key.letter.size() == 1) {
+            if (key.letter[0] == u't') type_ = kText;
+            if (key.letter[0] == u'i') type_ = kPicture;
+        }
+        xml_ += kField;
+        text(key.id);
+        xml_ += type_;
+        text(key.ani);
+    }
+
     // Ends the attribute before and leaves its own open.
     void attribute(QStringView name, QStringView value) {
         xml_ += kNext;
@@ -88,75 +139,37 @@ class XmlWriter {
     }
 
     TextWriter xml_;
-    QStringView type_;
+    QStringView type_ = kNoType;
 };
 
-// What a character that breaks the template data is called; empty for one that does not.
-QStringView breakingName(QChar character) {
-    switch (character.unicode()) {
-        case u'\'':
-        case u'"':
-            return u"a quote";
-        case u'<':
-            return u"a \"<\"";
-        case u'&':
-            return u"an \"&\"";
-        case u'\\':
-            return u"a backslash";
-        default:
-            return {};
+TemplateXml write(const VariableStore& fields, FieldKey (*read)(QStringView key), bool verticalOffsetNeeded) {
+    QString xml;
+    QStringList faults;
+    {
+        XmlWriter writer(xml, fields.size());
+        fields.forEach([&](const QString& key, const Value& value) {
+            const QString text = value.text();
+            try {
+                if (isPlain(text)) return writer.plainField(read(key), text);
+                writer.field(read(key), text, verticalOffsetNeeded);
+            } catch (const MissingPiece&) {
+                throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"field "_s + key + u" = "_s + text);
+            }
+            const auto* broken = std::ranges::find_if(text, breaks);
+            if (broken != text.end()) faults += key.section(u'*', 1) + u" holds "_s + breakingName(*broken);
+        });
     }
-}
-
-// A field that has not all its parts is named in the error.
-template <class Action>
-void forEachField(const VariableStore& fields, Action&& action) {
-    fields.forEach([&](const QString& key, const Value& value) {
-        try {
-            action(key, value);
-        } catch (const MissingPiece&) {
-            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"field "_s + key + u" = "_s + value.text());
-        }
-    });
+    return {xml, faults};
 }
 
 }  // namespace
 
-QStringList templateFaults(const VariableStore& fields) {
-    QStringList faults;
-    fields.forEach([&](const QString& key, const Value& value) {
-        const QString text = value.text();
-        const auto* broken = std::ranges::find_if_not(text, &QStringView::isEmpty, breakingName);
-        if (broken != text.end()) faults += key.section(u'*', 1) + u" holds "_s + breakingName(*broken);
-    });
-    return faults;
+TemplateXml makeXml(const VariableStore& fields) {
+    return write(fields, splitKey, false);
 }
 
-QString makeXml(const VariableStore& fields) {
-    QString text;
-    {
-        XmlWriter xml(text);
-        forEachField(fields, [&](const QString& key, const Value& value) {
-            const Pieces parts(key, u'-');
-            xml.setType(parts[0]);
-            const Pieces animationAndId(parts[1], u'*');
-            xml.field({animationAndId[0], animationAndId[1]}, value.text(), false);
-        });
-    }
-    return text;
-}
-
-QString makeRemoteXml(const VariableStore& fields) {
-    QString text;
-    {
-        XmlWriter xml(text);
-        forEachField(fields, [&](const QString& key, const Value& value) {
-            const QStringView characters(key);
-            xml.setType(characters.left(1));
-            xml.field({characters.mid(2, 1), characters.mid(4)}, value.text(), true);
-        });
-    }
-    return text;
+TemplateXml makeRemoteXml(const VariableStore& fields) {
+    return write(fields, cutKey, true);
 }
 
 }  // namespace zelvor

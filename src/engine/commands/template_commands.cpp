@@ -57,16 +57,17 @@ QString targetVariable(const Arguments& args, const QString& usual) {
 
 void MAKEXML(CardRun& run, const Arguments& args) {
     const QString variable = targetVariable(args, u"@CASPARXML"_s);
-    const QString xml = makeXml(run.state().templateData);
-    run.variables().SetVar(variable, xml);
-    run.noteTemplateFaults(templateFaults(run.state().templateData));
+    const TemplateXml xml = makeXml(run.state().templateData);
+    run.variables().SetVar(variable, xml.text);
+    run.noteTemplateFaults(xml.faults);
     run.ports().notes.appendHistory(u" > MAKEXML~"_s + variable);
-    run.ports().notes.showLastTemplate(xml);
+    run.ports().notes.showLastTemplate(xml.text);
 }
 
 void MAKEXMLREMOTE(CardRun& run, const Arguments& args) {
-    run.variables().SetVar(targetVariable(args, u"@CASPARXMLREMOTE"_s), makeRemoteXml(run.state().remoteTemplateData));
-    run.noteTemplateFaults(templateFaults(run.state().remoteTemplateData));
+    const TemplateXml xml = makeRemoteXml(run.state().remoteTemplateData);
+    run.variables().SetVar(targetVariable(args, u"@CASPARXMLREMOTE"_s), xml.text);
+    run.noteTemplateFaults(xml.faults);
 }
 
 using Argument = Command::Argument;
