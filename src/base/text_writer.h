@@ -15,13 +15,13 @@ class TextWriter {
     Q_DISABLE_COPY_MOVE(TextWriter)
 
     TextWriter& operator+=(QStringView piece) {
-        if (size_ + piece.size() > out_.size()) makeRoom(std::max(2 * size_, size_ + piece.size()));
+        if (size_ + piece.size() > out_.size()) makeRoom(2 * (size_ + piece.size()));
         std::copy(piece.begin(), piece.end(), to_ + size_);
         size_ += piece.size();
         return *this;
     }
     TextWriter& operator+=(std::string_view ascii) {
-        if (size_ + std::ssize(ascii) > out_.size()) makeRoom(std::max(2 * size_, size_ + std::ssize(ascii)));
+        if (size_ + std::ssize(ascii) > out_.size()) makeRoom(2 * (size_ + std::ssize(ascii)));
         for (const char c : ascii) to_[size_++] = QLatin1Char(c);
         return *this;
     }

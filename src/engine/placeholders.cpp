@@ -1,22 +1,14 @@
 #include "engine/placeholders.h"
 
-#include <algorithm>
-
 #include "base/number.h"
 #include "base/run_time_error.h"
+#include "base/text_search.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
 namespace {
-
-// Most values are a few characters long, where a plain loop costs a third of two searches; template data is thousands.
-bool hasBracket(QStringView text) {
-    constexpr qsizetype kShort = 100;
-    if (text.size() > kShort) return text.contains(u'{') || text.contains(u'}');
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return c == u'{' || c == u'}'; });
-}
 
 // Reads the text once, putting values in front of what is still to be read, so that what a value holds is expanded in
 // the same pass.
@@ -161,7 +153,7 @@ bool ExpandableText::writePieces(QString& text, VariableStore& variables) const 
         const qsizetype start = out.size();
         variables.GetVar(piece.name).appendTo(out);
         if (out.size() > kLargestExpansion) throw RunTimeError(ErrorNumber::OutOfStackSpace, piece.name);
-        if (hasBracket(out.written().mid(start))) return false;
+        if (holdsAny(out.written().mid(start), u'{', u'}')) return false;
     }
     return true;
 }

@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 
 #include "base/run_time_error.h"
+#include "base/text_search.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,7 +23,7 @@ QString generalDateText(const QDateTime& when, const QLocale& locale) {
 
 QString oneLine(QString text) {
     static const QRegularExpression kLineBreaks(u"[\r\n]+"_s);
-    if (text.contains(u'\r') || text.contains(u'\n')) text.replace(kLineBreaks, u" "_s);
+    if (holdsAny(text, u'\r', u'\n')) text.replace(kLineBreaks, u" "_s);
     return text;
 }
 

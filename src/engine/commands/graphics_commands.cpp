@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "base/text_search.h"
 #include "engine/card_run.h"
 
 using namespace Qt::StringLiterals;
@@ -19,7 +20,7 @@ QString commandLine(const Arguments& args) {
 
 void CSPSEND(CardRun& run, const Arguments& args) {
     QString line = commandLine(args);
-    line.replace(u"!!POC!!"_s, run.state().preview ? u"2"_s : u"1"_s);
+    if (holdsAny(line, u'!')) line.replace(u"!!POC!!"_s, run.state().preview ? u"2"_s : u"1"_s);
     run.engine().sendLine(LinkId::Main, line, run.asker());
     run.goOn();
 }
