@@ -62,7 +62,7 @@ class CountedGraphics : public Graphics, public GraphicsNotes {
     int state(LinkId) const override { return kConnected; }
     bool logging() const override { return false; }
     void writeLog(const QString&) override {}
-    void appendHistory(const QString&) override {}
+    void appendHistory(std::initializer_list<QStringView>) override {}
     void clearHistory() override {}
     void showLastTemplate(const QString&) override {}
     qsizetype units = 0;

@@ -76,7 +76,7 @@ const ScriptLine& CardRun::chooseBranch(const LineCondition& condition) {
 }
 
 void CardRun::warn(const QString& text) {
-    if (engine_.program().trap.warn(place(), text)) ports().notes.appendHistory(u" > WARNING "_s + text);
+    if (engine_.program().trap.warn(place(), text)) ports().notes.appendHistory({u" > WARNING "_s, text});
 }
 
 void CardRun::noteTemplateFaults(const QStringList& faults) {

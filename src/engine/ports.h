@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+#include <initializer_list>
 #include <limits>
 #include <optional>
 #include <vector>
@@ -63,8 +64,8 @@ class GraphicsNotes {
     [[nodiscard]] virtual bool logging() const = 0;
     // Writes a line to the log file; nothing when logging is off.
     virtual void writeLog(const QString& line) = 0;
-    // Adds "hh:mm:ss" + text to the history list.
-    virtual void appendHistory(const QString& text) = 0;
+    // Adds "hh:mm:ss" and the pieces behind it to the history list, as one line.
+    virtual void appendHistory(std::initializer_list<QStringView> pieces) = 0;
     virtual void clearHistory() = 0;
     // The view of the last template data.
     virtual void showLastTemplate(const QString& xml) = 0;

@@ -82,7 +82,7 @@ void GraphicsLinks::sendNow(LinkId id, const QString& line, const Asker& asker) 
         writeLog(mark + u"Connection Error. STATE:"_s + QString::number(state(id)));
         return;
     }
-    if (id == LinkId::Main) appendHistory(u" > "_s + line);
+    if (id == LinkId::Main) appendHistory({u" > "_s, line});
     writeLog(mark.isEmpty() ? line : QString(mark + u"> "_s + line));
     Q_EMIT lineSent(id, sent);
 }
@@ -101,8 +101,17 @@ void GraphicsLinks::writeLog(const QString& line) {
     showLogWritten(written && log_.isOpen());
 }
 
-void GraphicsLinks::appendHistory(const QString& text) {
-    history_.add(timeOfDay() + text);
+void GraphicsLinks::appendHistory(std::initializer_list<QStringView> pieces) {
+    const QString& time = timeOfDay();
+    qsizetype size = time.size();
+    for (const QStringView piece : pieces) size += piece.size();
+    QString line;
+    {
+        TextWriter writer(line, size);
+        writer += time;
+        for (const QStringView piece : pieces) writer += piece;
+    }
+    history_.add(line);
 }
 
 void GraphicsLinks::clearHistory() {

@@ -33,7 +33,7 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     [[nodiscard]] int state(LinkId link) const override;
     [[nodiscard]] bool logging() const override;
     void writeLog(const QString& line) override;
-    void appendHistory(const QString& text) override;
+    void appendHistory(std::initializer_list<QStringView> pieces) override;
     void clearHistory() override;
     void showLastTemplate(const QString& xml) override;
 

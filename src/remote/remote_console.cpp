@@ -80,7 +80,7 @@ void RemoteConsole::press(const QString& what, const Request& request,
     if (const auto refused = refusal()) return request.done(*refused);
     const qint64 number = ++lastNumber_;
     pending_[number].request = request;
-    engine_.ports().notes.appendHistory(u" = "_s + request.from + u": "_s + what);
+    engine_.ports().notes.appendHistory({u" = "_s, request.from, u": "_s, what});
     QTimer::singleShot(kLongestAnswer, this, [this, number] { tellLate(number); });
     QMetaObject::invokeMethod(
         this, [this, number, deed] { carryOut(number, deed); }, Qt::QueuedConnection);
@@ -184,7 +184,7 @@ void RemoteConsole::clear(const Request& request) {
         return request.done(wrongDeed(503, u"the console is not ready"_s));
     const qint64 number = ++lastNumber_;
     pending_[number] = {.request = request, .clears = true};
-    engine_.ports().notes.appendHistory(u" = "_s + request.from + u": CLEAR"_s);
+    engine_.ports().notes.appendHistory({u" = "_s, request.from, u": CLEAR"_s});
     const auto deed = [this](const Presser& presser) { cards_.pressClear(presser); };
     QTimer::singleShot(kLongestAnswer, this, [this, number] { tellLate(number); });
     QMetaObject::invokeMethod(
@@ -195,7 +195,7 @@ DeedResult RemoteConsole::answer(const QString& given, qint64 number, const QStr
     Questions& questions = engine_.program().questions;
     if (questions.top() == nullptr) return wrongDeed(404, u"no question is open"_s);
     if (number != 0 && number != questions.topNumber()) return wrongDeed(409, u"another question is open"_s);
-    engine_.ports().notes.appendHistory(u" = "_s + from + u": answer "_s + given);
+    engine_.ports().notes.appendHistory({u" = "_s, from, u": answer "_s, given});
     if (!questions.answerTop(given)) return wrongDeed(422, u"the question does not take this answer"_s);
     return {};
 }

@@ -116,7 +116,7 @@ TEST(Theme, TextContrastsWithItsGround) {
     QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
     QTest::keyClick(&window, Qt::Key_F12);
     gallery.click("cmdVIEWGASPHISTORY");
-    gallery.app->links().appendHistory(u"> a line"_s);
+    gallery.app->links().appendHistory({u"> a line"_s});
     constexpr std::array kColours{colours::kWhite, colours::kGreen, colours::kRed, rgb(0, 0, 128), rgb(200, 200, 0)};
     int player = 0;
     for (const Colour colour : kColours) {

@@ -335,7 +335,7 @@ TEST_F(MainWindowTest, ManualLineAndHistory) {
     ASSERT_TRUE(history->isVisible());
     // The newest line is followed until the operator scrolls up.
     QScrollBar* bar = history->verticalScrollBar();
-    for (int i = 0; i < 10000; ++i) gallery.app->links().appendHistory(QString::number(i));
+    for (int i = 0; i < 10000; ++i) gallery.app->links().appendHistory({QString::number(i)});
     EXPECT_EQ(history->model()->rowCount(), 500);
     const auto newest = [&] { return history->visualRect(history->model()->index(499, 0)); };
     EXPECT_TRUE(waitUntil([&] { return history->viewport()->rect().intersects(newest()); }));
@@ -343,7 +343,7 @@ TEST_F(MainWindowTest, ManualLineAndHistory) {
     const auto topLine = [&] { return history->indexAt({5, 5}).data().toString(); };
     EXPECT_TRUE(waitUntil([&] { return !topLine().isEmpty(); }));
     const QString read = topLine();
-    for (const QString& late : {u"late"_s, u"later"_s}) gallery.app->links().appendHistory(late);
+    for (const QString& late : {u"late"_s, u"later"_s}) gallery.app->links().appendHistory({late});
     QCoreApplication::processEvents();
     EXPECT_EQ(topLine(), read);
 

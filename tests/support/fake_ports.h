@@ -45,7 +45,11 @@ class FakeGraphics : public Graphics, public GraphicsNotes {
     int state(LinkId) const override { return kConnected; }
     bool logging() const override { return true; }
     void writeLog(const QString& line) override { log += line; }
-    void appendHistory(const QString& text) override { history += text; }
+    void appendHistory(std::initializer_list<QStringView> pieces) override {
+        QString line;
+        for (const QStringView piece : pieces) line += piece;
+        history += line;
+    }
     void clearHistory() override { history.clear(); }
     void showLastTemplate(const QString& xml) override { lastTemplate = xml; }
 

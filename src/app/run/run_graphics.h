@@ -24,7 +24,7 @@ class RunGraphics : public Graphics, public GraphicsNotes {
     [[nodiscard]] int state(LinkId link) const override;
     [[nodiscard]] bool logging() const override { return links_.logging(); }
     void writeLog(const QString& line) override { links_.writeLog(line); }
-    void appendHistory(const QString& text) override { links_.appendHistory(text); }
+    void appendHistory(std::initializer_list<QStringView> pieces) override { links_.appendHistory(pieces); }
     void clearHistory() override { links_.clearHistory(); }
     // The console's own view of what the lines hold anyway.
     void showLastTemplate(const QString&) override {}

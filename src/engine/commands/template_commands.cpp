@@ -8,19 +8,24 @@ namespace zelvor::commands {
 namespace {
 
 struct Field {
-    QString key;
+    QVarLengthArray<QChar, 64> key;
     QStringView value;  // of the arguments
 };
 
 // field;value or field;ani;value
 Field parseField(QChar type, const Arguments& args) {
     const Pieces pieces = args.pieces();
-    if (pieces.count() == 3) return {type + u'-' + pieces[1] + u'*' + pieces[0], pieces[2]};
-    return {type + u"-0*"_s + pieces[0], pieces[1]};
+    const bool isAnimated = pieces.count() == 3;
+    Field field{{type, u'-'}, pieces[isAnimated ? 2 : 1]};
+    const auto append = [&field](QStringView text) { field.key.append(text.data(), text.size()); };
+    append(isAnimated ? pieces[1] : QStringView(u"0"));
+    append(u"*");
+    append(pieces[0]);
+    return field;
 }
 
-void setField(CardRun& run, QStringView command, const Field& field) {
-    run.ports().notes.appendHistory(u" > "_s + command + u'~' + field.key + u" = "_s + field.value);
+void setField(CardRun& run, const QString& note, const Field& field) {
+    run.ports().notes.appendHistory({note, field.key, u" = "_s, field.value});
     run.state().templateData.setText(field.key, field.value);
 }
 
@@ -29,10 +34,10 @@ void setRemoteField(CardRun& run, const Field& field) {
 }
 
 void SDATA(CardRun& run, const Arguments& args) {
-    setField(run, u"SDATA", parseField(u't', args));
+    setField(run, u" > SDATA~"_s, parseField(u't', args));
 }
 void SIMAGE(CardRun& run, const Arguments& args) {
-    setField(run, u"SIMAGE", parseField(u'i', args));
+    setField(run, u" > SIMAGE~"_s, parseField(u'i', args));
 }
 void SDATAREMOTE(CardRun& run, const Arguments& args) {
     setRemoteField(run, parseField(u't', args));
@@ -44,7 +49,7 @@ void SIMAGEREMOTE(CardRun& run, const Arguments& args) {
 void CLEARDATA(CardRun& run, const Arguments&) {
     run.state().templateData.clear();
     run.ports().notes.clearHistory();
-    run.ports().notes.appendHistory(u" > CLEAR-DATA"_s);
+    run.ports().notes.appendHistory({u" > CLEAR-DATA"_s});
 }
 
 void CLEARDATAREMOTE(CardRun& run, const Arguments&) {
@@ -60,7 +65,7 @@ void MAKEXML(CardRun& run, const Arguments& args) {
     const TemplateXml xml = makeXml(run.state().templateData);
     run.variables().SetVar(variable, xml.text);
     run.noteTemplateFaults(xml.faults);
-    run.ports().notes.appendHistory(u" > MAKEXML~"_s + variable);
+    run.ports().notes.appendHistory({u" > MAKEXML~"_s, variable});
     run.ports().notes.showLastTemplate(xml.text);
 }
 
