@@ -68,13 +68,18 @@ class CountedGraphics : public Graphics, public GraphicsNotes {
     qsizetype units = 0;
 };
 
-// A pack with one card and an engine to run it.
+// A pack with one card and an engine to run it, on graphics that send and note nothing or on those given.
 class OneCard {
  public:
-    explicit OneCard(const QByteArray& script, Graphics* graphics = nullptr)
-        : engine_(
-              state, form, program,
-              Ports{unused_, unused_, graphics == nullptr ? counted_ : *graphics, counted_, unused_, unused_, clock}) {
+    explicit OneCard(const QByteArray& script) : OneCard(script, nullptr) {}
+    OneCard(const QByteArray& script, GraphicsLinks& links) : OneCard(script, &links) {}
+    void run() { engine_.SHOW_TVCARD(u"card.qrd"_s, false, false, {}); }
+
+ private:
+    OneCard(const QByteArray& script, GraphicsLinks* links)
+        : engine_(state, form, program,
+                  Ports{unused_, unused_, links == nullptr ? static_cast<Graphics&>(counted_) : *links,
+                        links == nullptr ? static_cast<GraphicsNotes&>(counted_) : *links, unused_, unused_, clock}) {
         QDir(onDisk_.path()).mkpath(u"MODULES/QRD_TT"_s);
         QFile file(onDisk_.filePath(u"MODULES/QRD_TT/card.csp"_s));
         if (!file.open(QIODevice::WriteOnly)) qFatal("no card");
@@ -82,9 +87,7 @@ class OneCard {
         state.variables.SetVar(u"@LANGUAGE", u"TT"_s);
         program.trap.setReporter([](const ErrorPlace&, const QString& message) { qFatal("%s", qPrintable(message)); });
     }
-    void run() { engine_.SHOW_TVCARD(u"card.qrd"_s, false, false, {}); }
 
- private:
     QTemporaryDir onDisk_;
 
  public:
@@ -140,7 +143,7 @@ void hundredUpdates(benchmark::State& bench, bool untilReply) {
     Program program{AppFolder(folderOnDisk.path()), {}, ErrorTrap(folderOnDisk.filePath(u"errors.log"_s))};
     SystemClock clock(program.closing);
     GraphicsLinks links(form, clock, program);
-    OneCard card(cardOf40Fields(), &links);
+    OneCard card(cardOf40Fields(), links);
     CasparLink& link = links.link(LinkId::Main);
     int replies = 0;
     QObject::connect(&link, &CasparLink::arrived, &link,
