@@ -53,7 +53,8 @@ LineView::LineView(QAbstractItemModel& lines, Newest newest, QWidget* parent) : 
         if (!followsSoon_) following_ = bar->value() >= bar->maximum() - 1;
     });
     connect(&lines, &QAbstractItemModel::rowsInserted, this, [this] {
-        if (following_) followSoon();
+        // A hidden view scrolls when it is shown.
+        if (following_ && isVisible()) followSoon();
     });
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
         if (followsSoon_ && value < verticalScrollBar()->maximum() - 1) following_ = false;

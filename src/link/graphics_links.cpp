@@ -1,5 +1,7 @@
 #include "link/graphics_links.h"
 
+#include <algorithm>
+
 #include "base/translate.h"
 
 using namespace Qt::StringLiterals;
@@ -105,13 +107,10 @@ void GraphicsLinks::appendHistory(std::initializer_list<QStringView> pieces) {
     const QString& time = timeOfDay();
     qsizetype size = time.size();
     for (const QStringView piece : pieces) size += piece.size();
-    QString line;
-    {
-        TextWriter writer(line, size);
-        writer += time;
-        for (const QStringView piece : pieces) writer += piece;
-    }
-    history_.add(line);
+    QString line(size, Qt::Uninitialized);
+    QChar* to = std::copy(time.begin(), time.end(), line.data());
+    for (const QStringView piece : pieces) to = std::copy(piece.begin(), piece.end(), to);
+    history_.add(std::move(line));
 }
 
 void GraphicsLinks::clearHistory() {

@@ -6,7 +6,8 @@
 
 namespace zelvor {
 
-// A list of text lines that keeps the newest 500. Adding a line costs the same however full it is.
+// A list of text lines that keeps the newest 500. Lines added, and that the list was cleared, are seen from the next turn
+// of the event loop on, all at once: a card writes dozens before its line leaves.
 class LineList : public QAbstractListModel {
     Q_OBJECT
 
@@ -20,7 +21,7 @@ class LineList : public QAbstractListModel {
     explicit LineList(Newest newest, QObject* parent = nullptr);
 
     // Adds the newest line, then drops the oldest one when there are more than kMostLines.
-    void add(const QString& text, bool alarm = false);
+    void add(QString text, bool alarm = false);
     void clear();
 
     // The line's text; row 0 is the top line. Empty outside of the list.
@@ -34,8 +35,14 @@ class LineList : public QAbstractListModel {
         bool alarm = false;
     };
 
+    void changeSoon();
+    void change();
+
     Newest newest_;
     std::deque<Line> lines_;
+    std::deque<Line> added_;  // since the last turn
+    bool cleared_ = false;    // before those
+    bool changesSoon_ = false;
 };
 
 }  // namespace zelvor

@@ -336,6 +336,7 @@ TEST_F(MainWindowTest, ManualLineAndHistory) {
     // The newest line is followed until the operator scrolls up.
     QScrollBar* bar = history->verticalScrollBar();
     for (int i = 0; i < 10000; ++i) gallery.app->links().appendHistory({QString::number(i)});
+    QCoreApplication::sendPostedEvents(history->model());
     EXPECT_EQ(history->model()->rowCount(), 500);
     const auto newest = [&] { return history->visualRect(history->model()->index(499, 0)); };
     EXPECT_TRUE(waitUntil([&] { return history->viewport()->rect().intersects(newest()); }));

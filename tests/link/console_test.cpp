@@ -30,6 +30,7 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         (studio.console.*press)();
         EXPECT_EQ(button.tag(), u"disconnect"_s);
         EXPECT_TRUE(timer->isActive());
+        QCoreApplication::sendPostedEvents(&studio.links.responses());
         EXPECT_EQ(studio.links.responses().text(0), isMain ? u"Connected"_s : QString());
         EXPECT_EQ(status.text(), target + u"connecting"_s);
         EXPECT_EQ(status.role(), Control::Role::Waiting);
@@ -57,6 +58,7 @@ TEST(LinkConsole, ConnectsWatchesAndDisconnectsEachLink) {
         EXPECT_EQ(button.tag(), u"connect"_s);
         EXPECT_FALSE(timer->isActive());
         EXPECT_EQ(studio.links.state(id), 0);
+        QCoreApplication::sendPostedEvents(&studio.links.responses());
         EXPECT_EQ(studio.links.responses().text(0), isMain ? u"Disconnected"_s : QString());
         EXPECT_EQ(status.text(), name + u"not connected"_s);
         EXPECT_EQ(status.role(), Control::Role::Off);

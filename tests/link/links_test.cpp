@@ -60,6 +60,7 @@ TEST(GraphicsLinks, SendsInStateOpen) {
     ASSERT_TRUE(socket->bind(QHostAddress::LocalHost, 0));
     EXPECT_EQ(studio.links.state(LinkId::Main), Graphics::kOpen);
     studio.links.sendLine(LinkId::Main, u"CLEAR 1"_s, {});
+    QCoreApplication::sendPostedEvents();
     EXPECT_EQ(studio.links.history().text(0), u"20:31:07 > CLEAR 1"_s);
 }
 
