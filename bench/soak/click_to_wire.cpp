@@ -2,6 +2,7 @@
 // memory over many fires of that card; the idle console's processor time.
 // usage: click_to_wire [FIRES [IDLE_SECONDS]]    100000 and 10 without
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QThread>
 #include <algorithm>
@@ -84,7 +85,8 @@ bool measureLatency(const ConsoleDesk& desk, const Arrivals& arrivals) {
             return false;
         }
         milliseconds.push_back(std::chrono::duration<double, std::milli>(arrivals.newest.load() - clicked).count());
-        QCoreApplication::processEvents();
+        // The next click comes when all is painted, as an operator's does.
+        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) continue;
     }
     std::sort(milliseconds.begin(), milliseconds.end());
     const auto at = [&](double part) { return milliseconds[static_cast<std::size_t>(part * (kMeasured - 1))]; };
