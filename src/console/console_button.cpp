@@ -125,17 +125,22 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     drawFocus(painter);
 }
 
-// The base paints the button before it tells of the click: what the click sends is not to wait for that.
-void ConsoleButton::mouseReleaseEvent(QMouseEvent* event) {
+// The base paints the button at once, before it tells of the click: what a click sends is not to wait for that.
+template <class Handler>
+void ConsoleButton::paintedLater(Handler&& handler) {
     const QPointer<ConsoleButton> button(this);
     setUpdatesEnabled(false);
-    QAbstractButton::mouseReleaseEvent(event);
+    handler();
     if (button) setUpdatesEnabled(true);
+}
+
+void ConsoleButton::mouseReleaseEvent(QMouseEvent* event) {
+    paintedLater([&] { QAbstractButton::mouseReleaseEvent(event); });
 }
 
 void ConsoleButton::mousePressEvent(QMouseEvent* event) {
     Q_EMIT goesDown();
-    QAbstractButton::mousePressEvent(event);
+    paintedLater([&] { QAbstractButton::mousePressEvent(event); });
 }
 
 void ConsoleButton::mouseDoubleClickEvent(QMouseEvent* event) {

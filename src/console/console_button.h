@@ -70,6 +70,9 @@ class ConsoleButton : public QAbstractButton {
     void updateToolTip();
 
  private:
+    template <class Handler>
+    void paintedLater(Handler&& handler);
+
     Look look_;
     QString hint_;
     std::optional<QColor> ownGround_;
