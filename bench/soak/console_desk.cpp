@@ -72,7 +72,6 @@ void ConsoleDesk::start() {
     app_ =
         std::make_unique<CardsApp>(CardsApp::Options{folder_.path(), {}, folder_.filePath(u"errors.log"_s), u"1"_s, 0});
     connect(&app_->boxes(), &Boxes::opened, this, [this](QDialog* box) { answerBox(*box); });
-    app_->window().show();
     app_->start();
 }
 

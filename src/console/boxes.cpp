@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QEventLoop>
@@ -92,6 +93,22 @@ void addSeverity(Box& box, Severity severity) {
     label->setPalette(look);
     box.column->insertWidget(0, label);
 }
+
+// A question of the start comes before the window, or keeps it from closing: its own close button ends the program.
+class AnswerBox : public QDialog {
+ public:
+    AnswerBox(QWidget* over, const Asker& asker, Closing& closing)
+        : QDialog(over), closing_(asker.kind == Asker::Kind::StartUp ? &closing : nullptr) {}
+
+ protected:
+    void closeEvent(QCloseEvent* event) override {
+        if (closing_ != nullptr && event->spontaneous()) closing_->begin();
+        QDialog::closeEvent(event);
+    }
+
+ private:
+    Closing* closing_;
+};
 
 // What it is answered with, and CLEAR, which the box would keep from the operator; while the console starts there is
 // nothing to clear.
@@ -207,7 +224,7 @@ bool Boxes::yesNo(const Asker& asker, const QString& title, const QString& text)
 
 std::optional<QString> Boxes::input(const Asker& asker, const QString& title, const QString& prompt,
                                     const QString& proposed) {
-    QDialog dialog(over(asker));
+    AnswerBox dialog(over(asker), asker, program_.closing);
     Box box(dialog, title, prompt, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     auto* field = new QLineEdit(proposed);
     field->setObjectName(u"answer"_s);

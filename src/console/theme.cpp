@@ -231,6 +231,7 @@ void apply(QApplication& application, Theme theme) {
 }
 
 void setFingerSize(QApplication& application, int pixels) {
+    if (application.property(kFingerProperty).toInt() == pixels) return;
     application.setProperty(kFingerProperty, pixels);
     application.setStyleSheet(styleSheet(pixels));
 }

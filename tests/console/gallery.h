@@ -51,7 +51,6 @@ class Gallery {
                 box->windowTitle() + u'|' + text->property("text").toString() + text->property("plainText").toString();
             QTimer::singleShot(0, box, [this, box] { answer(*box); });
         });
-        app->window().show();
         app->start();
     }
 

@@ -371,8 +371,9 @@ TEST_F(CardRules, StartUpOrder) {
     bench.write(u"QRD_TT/GetGame.csp"_s, "CSPSEND~game {@FADE_IN} {@CRAWLSPEED}\r\nSETVAR~@HTLNAMEEN;Harbour City\r\n");
     QStringList calls;
     const auto note = [&](const QString& name) { return [&calls, name] { calls += name; }; };
-    StartUp::Steps steps{note(u"feed"_s), note(u"packs"_s),      note(u"database"_s), note(u"cards"_s),
-                         note(u"ask"_s),  note(u"selections"_s), note(u"general"_s),  note(u"timed"_s)};
+    StartUp::Steps steps{note(u"feed"_s),       note(u"packs"_s),   note(u"window"_s),
+                         note(u"database"_s),   note(u"cards"_s),   note(u"ask"_s),
+                         note(u"selections"_s), note(u"general"_s), note(u"timed"_s)};
     steps.CONNECTDATABASE = [&] {
         calls += u"database"_s;
         throw RunTimeError(ErrorNumber::DatabaseError);
@@ -390,8 +391,8 @@ TEST_F(CardRules, StartUpOrder) {
     bench.state.currentSet = 3;
     StartUp start(bench.engine, console, steps);
     start.run();
-    const QStringList all{u"feed"_s, u"packs"_s,      u"database"_s, u"cards"_s,
-                          u"ask"_s,  u"selections"_s, u"general"_s,  u"timed"_s};
+    const QStringList all{u"feed"_s, u"packs"_s,      u"window"_s,  u"database"_s, u"cards"_s,
+                          u"ask"_s,  u"selections"_s, u"general"_s, u"timed"_s};
     EXPECT_EQ(calls, all);
     EXPECT_EQ(sent(), QStringList{u"mgame 10 4"_s});
     EXPECT_EQ(bench.operatorDesk.shown.size(), 1);
@@ -404,7 +405,7 @@ TEST_F(CardRules, StartUpOrder) {
     steps.CONNECTDATABASE = [&] { bench.program.closing.begin(); };
     StartUp preview(bench.engine, console, steps);
     preview.run();
-    EXPECT_EQ(calls, QStringList{u"packs"_s});
+    EXPECT_EQ(calls, (QStringList{u"packs"_s, u"window"_s}));
     EXPECT_TRUE(preview.caption().startsWith(u"Preview Zelvor Cards ("));
 }
 

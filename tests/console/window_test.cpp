@@ -202,14 +202,12 @@ TEST_F(MainWindowTest, LooksAsItDidLast) {
     gallery.app->window().setGeometry(40, 30, 700, 500);
     gallery.app->window().close();
     startWithCards();
-    gallery.app->showWindow();
     EXPECT_EQ(theme::current(), theme::Theme::Light);
     EXPECT_EQ(gallery.app->window().geometry(), QRect(40, 30, 700, 500));
     QWidget far;
     far.setGeometry(9000, 7000, 700, 500);
     gallery.write(u"LOOK.TXT"_s, "theme=none such\r\nwindow=" + far.saveGeometry().toBase64() + "\r\n");
     startWithCards();
-    gallery.app->showWindow();
     EXPECT_EQ(theme::current(), theme::Theme::Dark);
     const QRect screen = gallery.app->window().screen()->availableGeometry();
     EXPECT_TRUE(screen.contains(gallery.app->window().geometry().center()));
@@ -223,7 +221,6 @@ TEST_F(MainWindowTest, OnTwoScreensBoxesOpenOverTheirWindow) {
     gallery.app->window().close();
     startWithCards();
     gallery.write(u"QRD_EN/player.csp"_s, "BREAK~Ready?\r\n");
-    gallery.app->showWindow();
     QStringList elsewhere;
     const auto look = [&](const QWidget* shown) {
         EXPECT_TRUE(waitUntil([&] { return shown->isVisible(); }));
@@ -545,11 +542,27 @@ TEST_F(MainWindowTest, ACommandLineAnswersTheStartAndAHiddenPanelStillConnects) 
     EXPECT_FALSE(isConnected());
 }
 
-TEST_F(MainWindowTest, ClosesAtAQuestion) {
-    gallery.answer = [&](QDialog&) { gallery.app->window().close(); };
-    startWithCards();
-    EXPECT_TRUE(gallery.app->program().closing.hasBegun());
-    EXPECT_EQ(gallery.shown.size(), 1) << "no further question";
+// The first question stands alone, the window being built behind it; the second one stands over the window. Closing
+// either is closing the program.
+TEST_F(MainWindowTest, AsksBeforeItsWindowAndClosesAtAQuestion) {
+    for (const int closed : {1, 2}) {
+        gallery.shown.clear();
+        gallery.answer = [&](QDialog& box) {
+            EXPECT_TRUE(waitUntil([&] { return gallery.form("frmMAIN") != nullptr; }));
+            const QWidget* window = gallery.form("frmMAIN");
+            const bool isFirst = gallery.shown.size() == 1;
+            EXPECT_EQ(window->isVisible(), !isFirst);
+            EXPECT_EQ(gallery.app->state().variables.text(u"@GAMEPERIOD"), u"1") << "the rules need no window";
+            EXPECT_EQ(box.parentWidget(), isFirst ? nullptr : window);
+            if (gallery.shown.size() < closed) return box.accept();
+            QCloseEvent event;
+            QSpontaneKeyEvent::setSpontaneous(&event);  // from the window manager
+            QCoreApplication::instance()->notify(&box, &event);
+        };
+        startWithCards();
+        EXPECT_TRUE(gallery.app->program().closing.hasBegun());
+        EXPECT_EQ(gallery.shown.size(), closed) << "no further question";
+    }
 }
 
 }  // namespace zelvor::test

@@ -32,6 +32,7 @@ class GeneralFormTest : public testing::Test {
                     "[folder]/old\tClips\t@CLIPS\t\n[file]\tPicture\t@PICTURE\t\n");
         general.load();
         general.apply();
+        forms.setConsole(console);
         forms.add(form);
         forms.show(u"frmGENERAL"_s);
     }
@@ -54,7 +55,7 @@ class GeneralFormTest : public testing::Test {
     Pickers pickers{bench.program.closing};
     GeneralForm form{general, bench.operatorDesk, pickers};
     QWidget console;
-    FormList forms{console, bench.program.closing};
+    FormList forms{bench.program.closing};
     QTableView* view = find<QTableView>("vsDATA");
 };
 
@@ -172,7 +173,8 @@ TEST(FormList, StandsBesideTheConsoleWhereThereIsRoom) {
         console.setGeometry(taken);
         console.show();
         Closing closing;
-        FormList forms{console, closing};
+        FormList forms{closing};
+        forms.setConsole(console);
         forms.add(form);
         form.setAttribute(Qt::WA_Moved, false);
         forms.show(u"form"_s);

@@ -90,7 +90,10 @@ class Desk:
         while not number.endswith(b"\n"):
             number += os.read(read, 1)
         self.environment = dict(os.environ, DISPLAY=f":{int(number)}", QT_QPA_PLATFORM="xcb")
-        self.start(["openbox"])
+        # A window that comes up while it starts is lost.
+        ready = os.path.join(folder, f"ready-{self.server.port}")
+        self.start(["openbox", "--startup", f"touch {ready}"])
+        self.wait(lambda: os.path.exists(ready), "the window manager")
         self.feed = free_port()
         self.console = self.start([program, "--language-ui", "en", "--app-folder", folder, "--feed-port",
                                    str(self.feed)]

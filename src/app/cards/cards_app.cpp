@@ -1,6 +1,10 @@
 #include "app_cards/cards_app.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "ask/ask_fields.h"
 #include "base/translate.h"
@@ -23,35 +27,68 @@ CardsApp::CardsApp(const Options& options)
                    [this](const QString& text) { return EXPAND_VARS(text, state_.variables, state_.QUERY_RESULT); }),
       startUp_(engine_, cards_, steps()) {
     state_.preview = isPreview(options.commandLine);
-    boxes_.setWindow(window_);
-    ask_.setWindow(window_);
+    theme::apply(*qApp, options.theme.value_or(look_.theme()));
+    if (Touch::isThere()) options_.touch = true;
+    if (options_.touch) theme::setFingerSize(*qApp, Touch::leastPixels(*QGuiApplication::primaryScreen()));
     program_.trap.setReporter([this](const ErrorPlace& place, const QString& message) { tell(place, message); });
     cards_.answer(events_);
     answerLinks();
     tellTroubles();
-    settings_.answer(events_, desktop_);
-    desktop_.addForm(u"frmMAIN"_s, [this](const Asker& asker) {
-        window_.show();
-        window_.raise();
-        if (asker.isAttended()) window_.activateWindow();
-    });
     answerDesk();
-    connect(&window_, &MainWindow::functionKey, &cards_, [this](int number) { cards_.functionKey(number); });
-    connect(&window_, &MainWindow::clearKey, &cards_, [this] { cards_.pressClear(); });
     cards_.presses().setWaited([this] { return inputTimes_.waited(); });
-    connect(&cards_.presses(), &Presses::turnBefore, &paintHold_, &PaintHold::hold);
     connect(&boxes_, &Boxes::silenced, this,
             [this](const QString& words) { form_.at(controls.lblSILENCED).setText(words); });
     connect(&cards_, &CardConsole::loaded, this, [this] { boxes_.forgetQuietCards(); });
     // The last lines are handed over before boxes end and runs that wait are told so.
     connect(&program_.closing, &Closing::begun, this, &CardsApp::release);
-    connect(&program_.closing, &Closing::begun, &window_, &QWidget::close);
-    settings_.look().restoreTheme(options.theme);
-    if (options.touch || Touch::isThere()) window_.enlarge();
-    window_.setMayClose([this] { return mayClose(); });
-    // The preview instance stands beside the console, whose place it is that counts.
-    if (!state_.preview) connect(&window_, &MainWindow::closed, &settings_.look(), &LookMemory::keepPlace);
-    connect(&window_, &MainWindow::closed, &program_.closing, &Closing::begin);
+}
+
+CardsApp::Front::Front(CardsApp& app)
+    : window(app.form_, app.events_, app.cards_, app.links_.history(), app.links_.responses()),
+      settings(app.engine_, app.settingsRules_, app.cards_, app.boxes_, app.look_, window),
+      find(app.state_, app.program_.folder, app.cards_, settings, window) {}
+
+CardsApp::Front& CardsApp::front() {
+    if (!front_) {
+        front_.emplace(*this);
+        answerWindow();
+    }
+    return *front_;
+}
+
+void CardsApp::answerWindow() {
+    MainWindow& window = front_->window;
+    window.setWindowTitle(startUp_.caption());
+    if (options_.touch) window.enlarge();
+    boxes_.setWindow(window);
+    ask_.setWindow(window);
+    front_->settings.answer(events_, desktop_);
+    desktop_.addForm(u"frmMAIN"_s, [&window](const Asker& asker) {
+        window.show();
+        window.raise();
+        if (asker.isAttended()) window.activateWindow();
+    });
+    connect(&window, &MainWindow::functionKey, &cards_, [this](int number) { cards_.functionKey(number); });
+    connect(&window, &MainWindow::clearKey, &cards_, [this] { cards_.pressClear(); });
+    connect(&window, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);
+    connect(&window, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
+    connect(&cards_.presses(), &Presses::turnBefore, &front_->paintHold, &PaintHold::hold);
+    connect(&program_.closing, &Closing::begun, &window, &QWidget::close);
+    window.setMayClose([this] { return mayClose(); });
+    connect(&window, &MainWindow::closed, &program_.closing, [this, &window] {
+        // The preview instance stands beside the console, whose place it is that counts.
+        if (!state_.preview) look_.keepPlace(window);
+        program_.closing.begin();
+    });
+}
+
+// The first question is on the screen: there is time for the window.
+bool CardsApp::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        QTimer::singleShot(0, this, [this] { front(); });
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void CardsApp::answerLinks() {
@@ -72,8 +109,6 @@ void CardsApp::answerLinks() {
     connectOnEnter(kMainLinkControls, &LinkConsole::cmdGASPARCONNECT);
     connectOnEnter(kRemoteLinkControls, &LinkConsole::cmdGASPARCONNECTREMOTE);
     events_.onEnter(controls.txtMANUALCASPAR, [this](int) { linkConsole_.cmdMANUALSEND(); });
-    connect(&window_, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);
-    connect(&window_, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
 }
 
 void CardsApp::tellTroubles() {
@@ -133,17 +168,20 @@ StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
     steps.bindFeed = [this] { desk_.feedSocket.bind(options_.feedPort); };
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(options_.pack); };
+    steps.showWindow = [this] { look_.show(window()); };
     steps.CONNECTDATABASE = [this] { database_.CONNECTDATABASE(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     steps.LOAD_ASK = [this] { LOAD_ASK(state_, program_); };
-    steps.LoadSelections = [this] { settings_.LoadSelections(); };
-    steps.showGeneral = [this] { settings_.showGeneral(); };
+    steps.LoadSelections = [this] { settingsRules_.selections.LoadSelections(); };
+    steps.showGeneral = [this] { settings().showGeneral(); };
     steps.startTimedCards = [this] { desk_.timedCards.start(); };
     return steps;
 }
 
 void CardsApp::start() {
-    window_.setWindowTitle(startUp_.caption());
+    connect(
+        &boxes_, &Boxes::opened, this, [this](QDialog* box) { box->installEventFilter(this); },
+        Qt::SingleShotConnection);
     if (options_.keepsAsRun && !state_.preview) keepAsRun();
     nameServers();
     const QStringList faults = remote_.listen(options_.remoteControl);
@@ -182,7 +220,7 @@ bool CardsApp::mayClose() {
         links_.state(LinkId::Main) == Graphics::kConnected || links_.state(LinkId::Remote) == Graphics::kConnected;
     if (isLinked && !form_.at(controls.lblONAIR).text().isEmpty())
         reasons += translate("cards", "Something is on air.");
-    if (settings_.hasUnsaved()) reasons += translate("cards", "General variables are not saved.");
+    if (settings().hasUnsaved()) reasons += translate("cards", "General variables are not saved.");
     return reasons.isEmpty() || boxes_.yesNo({}, translate("cards", "Close the console?"), reasons.join(u"\r\n"_s));
 }
 

@@ -53,12 +53,12 @@ class CardsApp : public QObject {
 
     explicit CardsApp(const Options& options);
 
-    // Shows the window as it was last.
-    void showWindow() { settings_.look().showWindow(); }
-    // Runs the load sequence; the window should be on the screen before, so that its questions stand over it.
+    // Runs the load sequence, which asks for the pack and then shows the window, as it was last. It is built while the
+    // operator reads the question.
     void start();
 
-    MainWindow& window() { return window_; }
+    // Built when it is first wanted.
+    MainWindow& window() { return front().window; }
     ShowState& state() { return state_; }
     Program& program() { return program_; }
     FormModel& form() { return form_; }
@@ -66,11 +66,26 @@ class CardsApp : public QObject {
     CardConsole& cards() { return cards_; }
     Boxes& boxes() { return boxes_; }
     GraphicsLinks& links() { return links_; }
-    SettingsDesk& settings() { return settings_; }
+    SettingsDesk& settings() { return front().settings; }
     GameDesk& desk() { return desk_; }
     RemoteDesk& remote() { return remote_; }
 
+ protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+    // The operator's window and what is put together around it.
+    struct Front {
+        explicit Front(CardsApp& app);
+
+        MainWindow window;
+        PaintHold paintHold{window};
+        SettingsDesk settings;
+        FindDesk find;
+    };
+
+    Front& front();
+    void answerWindow();
     StartUp::Steps steps();
     void answerLinks();
     void answerDesk();
@@ -102,10 +117,9 @@ class CardsApp : public QObject {
     CardTroubles troubles_{engine_};
     GameDesk desk_{engine_};
     LinkConsole linkConsole_;
-    MainWindow window_{form_, events_, cards_, links_.history(), links_.responses()};
-    PaintHold paintHold_{window_};
-    SettingsDesk settings_{engine_, packs_, cards_, boxes_, window_};
-    FindDesk find_{state_, program_.folder, cards_, settings_, window_};
+    LookMemory look_{program_};
+    SettingsRules settingsRules_{engine_, packs_, boxes_};
+    std::optional<Front> front_;
     StartUp startUp_;
     RemoteDesk remote_{engine_, cards_, desk_};
     std::optional<AsRunFile> asRunFile_;

@@ -11,7 +11,7 @@ const QString kWindow = u"window"_s;
 
 }  // namespace
 
-LookMemory::LookMemory(Program& program, MainWindow& window) : program_(program), window_(window) {
+LookMemory::LookMemory(Program& program) : program_(program) {
     program_.trap.run({u"frmMAIN.LookMemory"_s}, ErrorTrap::Tell::LogOnly, [this] {
         if (!program_.folder.exists(program_.folder.modulesFile(u"LOOK.TXT"))) return;
         for (const QString& line : program_.files.readLines(path()))
@@ -23,26 +23,25 @@ QString LookMemory::path() const {
     return program_.folder.resolve(program_.folder.modulesFile(u"LOOK.TXT"));
 }
 
-void LookMemory::restoreTheme(std::optional<theme::Theme> wanted) {
-    window_.setTheme(wanted.value_or(theme::themeOf(kept_.value(kTheme)).value_or(theme::Theme::Dark)));
+theme::Theme LookMemory::theme() const {
+    return theme::themeOf(kept_.value(kTheme)).value_or(theme::Theme::Dark);
 }
 
-void LookMemory::showWindow() {
+void LookMemory::show(QWidget& window) const {
     // Where its screen is gone, Qt takes one that is there.
-    if (!window_.restoreGeometry(QByteArray::fromBase64(kept_.value(kWindow).toLatin1()))) {
-        window_.showMaximized();
+    if (!window.restoreGeometry(QByteArray::fromBase64(kept_.value(kWindow).toLatin1()))) {
+        window.showMaximized();
         return;
     }
-    window_.show();
+    window.show();
 }
 
-void LookMemory::setTheme(theme::Theme theme) {
-    window_.setTheme(theme);
+void LookMemory::keepTheme(theme::Theme theme) {
     keep(kTheme, theme::wordOf(theme));
 }
 
-void LookMemory::keepPlace() {
-    keep(kWindow, QString::fromLatin1(window_.saveGeometry().toBase64()));
+void LookMemory::keepPlace(const QWidget& window) {
+    keep(kWindow, QString::fromLatin1(window.saveGeometry().toBase64()));
 }
 
 void LookMemory::keep(const QString& key, const QString& value) {

@@ -167,7 +167,11 @@ int main(int argc, char* argv[]) {
 
     zelvor::theme::prepare(application);
     zelvor::CardsApp app(wanted);
-    app.showWindow();
+    // Not by the last window: after its answer the first question is that.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(
+        &app.program().closing, &zelvor::Closing::begun, &application, [] { QApplication::exit(); },
+        Qt::QueuedConnection);
     QTimer::singleShot(0, &app, &zelvor::CardsApp::start);
     return QApplication::exec();
 }

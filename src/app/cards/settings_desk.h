@@ -15,25 +15,35 @@
 
 namespace zelvor {
 
+// What answers the operator's settings. The load sequence fills their controls, so it stands before that, without
+// windows.
+struct SettingsRules {
+    SettingsRules(CardEngine& engine, Packs& packs, Operator& operatorDesk);
+
+    GeneralVariables general;
+    FormList forms;
+    OperatorCommands commands;
+    Selections selections;
+};
+
 // The operator's settings put together: commands and main menu, saved selections, general variables with their forms.
 class SettingsDesk : public QObject {
     Q_OBJECT
 
  public:
     // All must outlive the desk. window: the console's.
-    SettingsDesk(CardEngine& engine, Packs& packs, CardConsole& cards, Boxes& boxes, MainWindow& window);
+    SettingsDesk(CardEngine& engine, SettingsRules& rules, CardConsole& cards, Boxes& boxes, LookMemory& look,
+                 MainWindow& window);
 
     // Takes the clicks of its controls, and the forms that cards may show.
     void answer(FormEvents& events, SystemDesktop& desktop);
 
-    void LoadSelections() { selections_.LoadSelections(); }
     // Opens the general variables and gives the keys back to the console.
     void showGeneral();
 
-    [[nodiscard]] bool hasUnsaved() { return general_.grid().hasUnsaved(); }
+    [[nodiscard]] bool hasUnsaved() { return rules_.general.grid().hasUnsaved(); }
 
     Pickers& pickers() { return pickers_; }
-    LookMemory& look() { return look_; }
 
     // The commands of the main menu, as they are found.
     [[nodiscard]] std::vector<FindEntry> commands() const;
@@ -43,18 +53,15 @@ class SettingsDesk : public QObject {
     void showVariable(const QString& name);
 
  private:
+    SettingsRules& rules_;
     CardConsole& cards_;
+    LookMemory& look_;
     MainWindow& window_;
     FormModel& form_;
-    GeneralVariables general_;
     Pickers pickers_;
     GeneralForm generalForm_;
     VariablesBox variablesBox_;
-    FormList forms_;
-    OperatorCommands commands_;
-    Selections selections_;
     MainMenu menu_;
-    LookMemory look_;
 };
 
 }  // namespace zelvor

@@ -88,11 +88,14 @@ void StartUp::run() {
     const bool hasModules = folder.exists(folder.modulesFile({}));
     if (hasModules) {
         step(u"LOAD_PACKS"_s, steps_.LOAD_PACKS);
+    } else {
+        step(u"LOAD_PACKS"_s, [&] { tellOfNoModules(); });
+    }
+    step(u"Form_Load"_s, steps_.showWindow);
+    if (hasModules) {
         step(u"CONNECTDATABASE"_s, steps_.CONNECTDATABASE);
         step(u"LOAD_CARDS"_s, steps_.LOAD_CARDS);
         step(u"LOAD_ASK"_s, steps_.LOAD_ASK);
-    } else {
-        step(u"LOAD_PACKS"_s, [&] { tellOfNoModules(); });
     }
     step(u"Form_Load"_s, [&] {
         console_.selectBox(0);

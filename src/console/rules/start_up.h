@@ -14,6 +14,7 @@ class StartUp {
     struct Steps {
         std::function<void()> bindFeed;  // not in the preview instance
         std::function<void()> LOAD_PACKS;
+        std::function<void()> showWindow;
         std::function<void()> CONNECTDATABASE;
         std::function<void()> LOAD_CARDS;
         std::function<void()> LOAD_ASK;

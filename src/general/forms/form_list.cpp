@@ -51,9 +51,9 @@ void FormList::show(const QString& name) {
     QWidget* form = find(name);
     if (form == nullptr || form->isVisible()) return;
     // Where the operator has moved it, it stays.
-    if (!form->testAttribute(Qt::WA_Moved)) form->move(placeBeside(console_, form->size()));
+    if (!form->testAttribute(Qt::WA_Moved)) form->move(placeBeside(*console_, form->size()));
     form->show();
-    console_.raise();
+    console_->raise();
 }
 
 void FormList::bringToFront(const QString& name) {

@@ -12,10 +12,10 @@ namespace zelvor {
 // when the program closes, all do without asking anything.
 class FormList : public OpenForms {
  public:
-    // console: the window that the forms stand beside; outlives this list.
-    FormList(QWidget& console, const Closing& closing) : console_(console), closing_(closing) {}
+    explicit FormList(const Closing& closing) : closing_(closing) {}
 
-    // The form must outlive this list.
+    // The window that the forms stand beside. It and the forms must be there while forms are asked for.
+    void setConsole(QWidget& console) { console_ = &console; }
     void add(QWidget& form);
 
     [[nodiscard]] QStringList names() const override;
@@ -26,8 +26,8 @@ class FormList : public OpenForms {
  private:
     [[nodiscard]] QWidget* find(const QString& name) const;
 
-    QWidget& console_;
     const Closing& closing_;
+    QWidget* console_ = nullptr;
     std::vector<QWidget*> forms_;
 };
 
