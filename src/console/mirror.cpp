@@ -2,9 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QAction>
-#include <QPainter>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QWheelEvent>
 #include <utility>
 
@@ -142,7 +140,8 @@ QLineEdit* Mirrors::textBox(const ControlRow& row, int index) const {
             const QSignalBlocker quiet(widget);
             widget->setText(control.text());
         }
-        if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
+        if (isColour(property) || property == Property::Enabled)
+            widget->setPalette(theme::ownColours(control.backColour(), control.foreColour(), !control.enabled()));
     });
     auto* sign = widget->addAction(QIcon(), QLineEdit::TrailingPosition);
     follow(control, widget, [&control, widget, sign](Property property) {
@@ -156,7 +155,7 @@ QLineEdit* Mirrors::textBox(const ControlRow& row, int index) const {
         widget->setToolTip(words);
         widget->setAccessibleDescription(control.state());
         widget->setProperty("wrong", wrong);
-        widget->style()->polish(widget);
+        widget->update();
     });
     QObject::connect(widget, &QLineEdit::textChanged, &control, &Control::setText);
     QObject::connect(widget, &QLineEdit::returnPressed, widget,
@@ -173,7 +172,9 @@ Button* bindCheckable(Button* widget, Control& control) {
         const QSignalBlocker quiet(widget);
         if (property == Property::Text) widget->setText(control.shownText());
         if (property == Property::Checked) widget->setChecked(control.checked());
-        if (isColour(property)) widget->setStyleSheet(theme::ownColours(control.backColour(), control.foreColour()));
+        if (!isColour(property)) return;
+        widget->setPalette(theme::ownColours(control.backColour(), control.foreColour()));
+        widget->setAutoFillBackground(control.backColour().has_value());
     });
     QObject::connect(widget, &QAbstractButton::toggled, &control, &Control::setChecked);
     return widget;
@@ -199,24 +200,12 @@ class ListBox : public QComboBox {
  public:
     int changedTo = -1;  // the position that a choice under way has changed it to
 
-    ListBox() { setProperty("drawsArrow", true); }
-
     void hidePopup() override {
         QComboBox::hidePopup();
         window()->setFocus();
     }
 
  protected:
-    // With an arrow of the theme's: the one that Qt draws beside a style sheet has a bevel of other colours.
-    void paintEvent(QPaintEvent* event) override {
-        QComboBox::paintEvent(event);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme::colour(isEnabled() ? theme::Role::Text : theme::Role::Disabled));
-        const QPointF tip(width() - 12, height() / 2.0 + 3);
-        painter.drawPolygon(QPolygonF{tip, tip + QPointF(-4, -5), tip + QPointF(4, -5)});
-    }
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     void keyPressEvent(QKeyEvent* event) override {
         switch (event->key()) {

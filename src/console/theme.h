@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QIcon>
+#include <QPalette>
 #include <QRect>
 #include <optional>
 
@@ -11,7 +12,7 @@
 class QApplication;
 class QPainter;
 
-// How the console looks: every colour, font and style rule of its windows stands here.
+// How the console looks: every colour and font of its windows stands here.
 namespace zelvor::theme {
 
 enum class Theme { Dark, Light, HighContrast };
@@ -84,13 +85,13 @@ QIcon warningSign();
 // Around what has the keyboard: a light line within a dark one, seen on every ground.
 void drawFocusRing(QPainter& painter, const QRectF& area);
 
-// Style rule of a widget whose colours a rule or a script has set, empty when neither is set.
-QString ownColours(std::optional<Colour> back, std::optional<Colour> fore);
+// The palette of a widget whose colours a rule or a script has set, or whose text may only be read; the theme's where
+// none of it holds.
+QPalette ownColours(std::optional<Colour> back, std::optional<Colour> fore, bool readOnly = false);
 
 // Gives the application the style and font that its widgets are built upon.
 void prepare(QApplication& application);
-// Gives a prepared application its palette and style sheet, also in place of another theme's. Best after its windows
-// are built: with a sheet there, each widget is styled anew when it is put into its place, a third of the start.
+// Gives a prepared application its palette, also in place of another theme's.
 void apply(QApplication& application, Theme theme = Theme::Dark);
 
 // Makes what is pressed in boxes, menus and panels at least that many pixels high. 0: as small as its text.

@@ -168,7 +168,10 @@ StartUp::Steps CardsApp::steps() {
     StartUp::Steps steps;
     steps.bindFeed = [this] { desk_.feedSocket.bind(options_.feedPort); };
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(options_.pack); };
-    steps.showWindow = [this] { look_.show(window()); };
+    steps.showWindow = [this] {
+        look_.show(window());
+        clock_.turnEvents(1);  // it is on the screen before the database is waited for
+    };
     steps.CONNECTDATABASE = [this] { database_.CONNECTDATABASE(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
     steps.LOAD_ASK = [this] { LOAD_ASK(state_, program_); };
