@@ -170,7 +170,7 @@ StartUp::Steps CardsApp::steps() {
     steps.LOAD_PACKS = [this] { packs_.LOAD_PACKS(options_.pack); };
     steps.showWindow = [this] {
         look_.show(window());
-        clock_.turnEvents(1);  // it is on the screen before the database is waited for
+        engine_.ports().clock.turnEvents(1);  // it is on the screen before the database is waited for
     };
     steps.CONNECTDATABASE = [this] { database_.CONNECTDATABASE(); };
     steps.LOAD_CARDS = [this] { packs_.LOAD_CARDS(); };
