@@ -6,8 +6,8 @@
 
 namespace zelvor {
 
-// A list of text lines that keeps the newest 500. Lines added, and that the list was cleared, are seen from the next turn
-// of the event loop on, all at once: a card writes dozens before its line leaves.
+// A list of text lines that keeps the newest 500. Lines added, and that the list was cleared, are seen from the next
+// turn of the event loop on, all at once: a card writes dozens before its line leaves.
 class LineList : public QAbstractListModel {
     Q_OBJECT
 
