@@ -47,7 +47,7 @@ QIcon cross() {
     painter.setPen(QPen(colour(Role::Muted), 4, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(9, 9, kSize - 9, kSize - 9);
     painter.drawLine(9, kSize - 9, kSize - 9, 9);
-    return QIcon(picture);
+    return picture;
 }
 
 bool has(const QStyleOption& option, QStyle::StateFlag state) {

@@ -5,8 +5,8 @@
 namespace zelvor {
 
 // The frames, buttons, boxes, menus and bars of the console's windows, in the theme's colours over Qt's own Fusion.
-// Drawn here and not by a style sheet, which would keep rules for each widget: a third of the start and half of its
-// memory.
+// Drawn here and not by a style sheet, which would keep rules for each widget: a third of the start and half of the
+// heap.
 class ConsoleStyle : public QProxyStyle {
     Q_OBJECT
 
