@@ -34,15 +34,15 @@ bool isComparison(Operation operation) {
 }
 
 clsFormula::clsFormula(LocalClock clock) {
-    context_.clock = std::move(clock);
+    table_.context.clock = std::move(clock);
     std::random_device device;
-    context_.randomState = (std::uint64_t{device()} << 32U) | device();
+    table_.context.randomState = (std::uint64_t{device()} << 32U) | device();
 }
 
 bool clsFormula::StoreExpression(std::string_view formula) {
     keepValues();
     clearError();
-    context_.warning = {};
+    table_.context.warning = {};
     expression_ = formula;
     storeError_ = compiler_.compile(expression_, style_, table_);
     if (storeError_.code != ErrorCode::None) {
@@ -109,7 +109,7 @@ void clsFormula::VarSymb(std::string_view name, double value) {
 }
 
 std::string_view clsFormula::AngleUnit() const {
-    return kAngleUnits[static_cast<std::size_t>(context_.angle)];
+    return kAngleUnits[static_cast<std::size_t>(table_.context.angle)];
 }
 
 bool clsFormula::AngleUnit(std::string_view unit) {
@@ -118,7 +118,7 @@ bool clsFormula::AngleUnit(std::string_view unit) {
                           [](char a, char b) { return a == upper(b); });
     });
     if (found == kAngleUnits.end()) return false;
-    context_.angle = static_cast<Angle>(found - kAngleUnits.begin());
+    table_.context.angle = static_cast<Angle>(found - kAngleUnits.begin());
     return true;
 }
 
@@ -126,15 +126,15 @@ double clsFormula::Eval() {
     if (error_ != ErrorCode::None || storeError_.code != ErrorCode::None || unassigned_ > 0) [[unlikely]] {
         if (!isReady()) return 0;
     }
-    context_.warning = {};
-    const double value = evaluate(table_, context_);
+    table_.context.warning = {};
+    const double value = evaluate(table_);
     return std::isnan(value) ? failEvaluation() : value;
 }
 
 // Clears the last error, and sets the one that a formula not stored or a variable without a value is.
 bool clsFormula::isReady() {
     clearError();
-    context_.warning = {};
+    table_.context.warning = {};
     if (storeError_.code != ErrorCode::None) {
         const std::string position = std::to_string(characterPosition(expression_, storeError_.position));
         if (storeError_.detail.empty()) {

@@ -74,7 +74,7 @@ class clsFormula {
     [[nodiscard]] std::string ET_Dump() const;
 
     // What the last evaluation had to say beside its result; empty for nothing.
-    [[nodiscard]] std::string_view Warning() const { return context_.warning; }
+    [[nodiscard]] std::string_view Warning() const { return table_.context.warning; }
 
  private:
     struct NameHash {
@@ -98,7 +98,6 @@ class clsFormula {
     Compiler compiler_;
     NumberStyle style_;
     bool assignExplicit_ = false;
-    Context context_;
     std::size_t unassigned_ = 0;
     std::unordered_map<std::string, double, NameHash, std::equal_to<>> keptValues_;
 

@@ -5,13 +5,6 @@
 
 namespace zelvor::expr {
 
-// What the steps of one evaluation share.
-struct Evaluation {
-    const std::uint32_t* arguments;
-    std::uint32_t value;
-    Context& context;
-};
-
 namespace {
 
 double add(double a, double b) {
@@ -33,6 +26,10 @@ double divide(double a, double b) {
 
 double power(double a, double b) {
     return b == 2 ? a * a : std::pow(a, b);
+}
+
+double square(double a, double /*unused*/) {
+    return a * a;
 }
 
 double percent(double a, double /*unused*/) {
@@ -68,31 +65,36 @@ double notEqual(double a, double b) {
 }
 
 // The call at a step's end is its last deed, which compilers make a jump of.
-double goOn(const Step* step, double* slots, const Evaluation& evaluation, double spoilt, double result) {
-    slots[step->result] = result;
+double goOn(const Step* step, EvaluationTable& table, double spoilt, double result) {
+    *step->result = result;
     const Step* const next = step + 1;
-    return next->run(next, slots, evaluation, spoilt + (result - result));
+    return next->run(next, table, spoilt + (result - result), result);
 }
 
-template <double (*compute)(double, double)>
-double runOperator(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) {
-    return goOn(step, slots, evaluation, spoilt, compute(slots[step->first], slots[step->second]));
+// Which operand is the result of the step before: that one need not be read from its slot.
+enum class Before { Neither, First, Second };
+
+template <double (*compute)(double, double), Before is>
+double runOperator(const Step* step, EvaluationTable& table, double spoilt, double before) {
+    const double first = is == Before::First ? before : *step->first;
+    const double second = is == Before::Second ? before : *step->second;
+    return goOn(step, table, spoilt, compute(first, second));
 }
 
 // Functions take finite numbers only, so that what is spoilt ends before them.
-double runUnary(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) {
+double runUnary(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
     if (std::isnan(spoilt)) return kFailed;
-    return goOn(step, slots, evaluation, spoilt, step->unary(slots[step->first]));
+    return goOn(step, table, 0, step->unary(*step->first));
 }
 
-double runAngular(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) {
+double runAngular(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
     if (std::isnan(spoilt)) return kFailed;
-    return goOn(step, slots, evaluation, spoilt, step->angular(slots[step->first], evaluation.context.angle));
+    return goOn(step, table, 0, step->angular(*step->first, table.context.angle));
 }
 
-double runBinary(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) {
+double runBinary(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
     if (std::isnan(spoilt)) return kFailed;
-    return goOn(step, slots, evaluation, spoilt, step->binary(slots[step->first], slots[step->second]));
+    return goOn(step, table, 0, step->binary(*step->first, *step->second));
 }
 
 // Functions of more than two arguments, of any number, or with a need for more than their arguments.
@@ -106,62 +108,80 @@ double call(const Row& row, const Arguments& values, Context& context) {
     return std::get<Contextual>(body)(values, context);
 }
 
-double runCall(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) {
+double runCall(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
     if (std::isnan(spoilt)) return kFailed;
     const Row& row = *step->row;
-    const Arguments values(slots, evaluation.arguments + row.argumentsAt, row.argumentCount);
-    return goOn(step, slots, evaluation, spoilt, call(row, values, evaluation.context));
+    const Arguments values(table.slots.data(), table.arguments.data() + row.argumentsAt, row.argumentCount);
+    return goOn(step, table, 0, call(row, values, table.context));
 }
 
-double end(const Step* /*unused*/, double* slots, const Evaluation& evaluation, double spoilt) {
-    return std::isnan(spoilt) ? kFailed : slots[evaluation.value];
+// Takes 0 or what is not a number away, which leaves the sign of 0 as well.
+double end(const Step* step, EvaluationTable& /*unused*/, double spoilt, double /*unused*/) {
+    return *step->first - spoilt;
 }
 
 using Runner = decltype(Step::run);
 
-Runner runnerOf(Operation operation) {
+template <double (*compute)(double, double)>
+Runner runnerOf(Before before) {
+    switch (before) {
+        case Before::First:
+            return runOperator<compute, Before::First>;
+        case Before::Second:
+            return runOperator<compute, Before::Second>;
+        case Before::Neither:
+            break;
+    }
+    return runOperator<compute, Before::Neither>;
+}
+
+Runner runnerOf(Operation operation, Before before) {
     switch (operation) {
         case Operation::Add:
-            return runOperator<add>;
+            return runnerOf<add>(before);
         case Operation::Subtract:
-            return runOperator<subtract>;
+            return runnerOf<subtract>(before);
         case Operation::Multiply:
-            return runOperator<multiply>;
+            return runnerOf<multiply>(before);
         case Operation::Divide:
-            return runOperator<divide>;
+            return runnerOf<divide>(before);
         case Operation::IntegerDivide:
-            return runOperator<integerQuotient>;
+            return runnerOf<integerQuotient>(before);
         case Operation::Power:
-            return runOperator<power>;
+            return runnerOf<power>(before);
         case Operation::Percent:
-            return runOperator<percent>;
+            return runnerOf<percent>(before);
         case Operation::Negate:
-            return runOperator<negative>;
+            return runnerOf<negative>(before);
         case Operation::Equal:
-            return runOperator<equal>;
+            return runnerOf<equal>(before);
         case Operation::Less:
-            return runOperator<less>;
+            return runnerOf<less>(before);
         case Operation::Greater:
-            return runOperator<greater>;
+            return runnerOf<greater>(before);
         case Operation::LessOrEqual:
-            return runOperator<lessOrEqual>;
+            return runnerOf<lessOrEqual>(before);
         case Operation::GreaterOrEqual:
-            return runOperator<greaterOrEqual>;
+            return runnerOf<greaterOrEqual>(before);
         case Operation::NotEqual:
-            return runOperator<notEqual>;
+            return runnerOf<notEqual>(before);
         case Operation::Call:
             break;
     }
     return runCall;
 }
 
-Step stepOf(const Row& row) {
+Step stepOf(const Row& row, EvaluationTable& table) {
     Step step;
-    step.run = runnerOf(row.operation);
     step.row = &row;
-    step.first = row.first;
-    step.second = row.second;
-    step.result = row.result;
+    step.first = &table.slots[row.first];
+    step.second = &table.slots[row.second];
+    step.result = &table.slots[row.result];
+    const double* const before = table.steps.empty() ? nullptr : table.steps.back().result;
+    const auto place = step.first == before ? Before::First : step.second == before ? Before::Second : Before::Neither;
+    const bool isSquare =
+        row.operation == Operation::Power && row.second >= EvaluationTable::kFirstNumber && *step.second == 2;
+    step.run = isSquare ? runnerOf<square>(place) : runnerOf(row.operation, place);
     if (row.operation != Operation::Call) return step;
     if (const auto* const unary = std::get_if<Unary>(&row.function->body)) {
         step.run = runUnary;
@@ -180,13 +200,15 @@ Step stepOf(const Row& row) {
 
 void makeSteps(EvaluationTable& table) {
     table.steps.clear();
-    for (const Row& row : table.rows) table.steps.push_back(stepOf(row));
-    table.steps.emplace_back().run = end;
+    for (const Row& row : table.rows) table.steps.push_back(stepOf(row, table));
+    Step& last = table.steps.emplace_back();
+    last.run = end;
+    last.first = &table.slots[table.value];
 }
 
-double evaluate(EvaluationTable& table, Context& context) {
+double evaluate(EvaluationTable& table) {
     const Step* const first = table.steps.data();
-    return first->run(first, table.slots.data(), {table.arguments.data(), table.value, context}, 0);
+    return first->run(first, table, 0, 0);
 }
 
 }  // namespace zelvor::expr

@@ -47,12 +47,13 @@ struct Row {
     std::uint32_t position = 0;
 };
 
-struct Evaluation;
+struct EvaluationTable;
 
-// A row as it is evaluated: computes its result and goes on with the step behind it. `spoilt` is not a number once a
-// result was no finite one, so that not each has to be looked at. Gives the formula's value, NaN when one was.
+// A row as it is evaluated: computes its result and goes on with the step behind it. `spoilt` is 0, and not a number
+// once a result was no finite one, so that not each has to be looked at; `before` is the result of the step before.
+// Gives the formula's value, NaN when one was spoilt.
 struct Step {
-    double (*run)(const Step* step, double* slots, const Evaluation& evaluation, double spoilt) = nullptr;
+    double (*run)(const Step* step, EvaluationTable& table, double spoilt, double before) = nullptr;
     // The function of a call, by its shape; the row where it is none of these.
     union {
         const Row* row = nullptr;
@@ -60,9 +61,10 @@ struct Step {
         Angular angular;
         Binary binary;
     };
-    std::uint32_t first = 0;
-    std::uint32_t second = 0;
-    std::uint32_t result = 0;
+    // Slots.
+    const double* first = nullptr;
+    const double* second = nullptr;
+    double* result = nullptr;
 };
 
 struct Variable {
@@ -87,16 +89,17 @@ struct EvaluationTable {
     std::size_t variableCount = 0;
     // The slot of the formula's value.
     std::uint32_t value = 0;
+    Context context;
 };
 
 // How an operation reads in messages and in the dump: its symbol, or its function's name.
 std::string_view operationName(const Row& row);
 
-// Makes the steps of the rows, which stay where they are from then on.
+// Makes the steps of the rows, which stay where they are from then on, as the slots do.
 void makeSteps(EvaluationTable& table);
 
 // The formula's value; NaN when a row failed, whose slot is then the first result that is no finite number.
-double evaluate(EvaluationTable& table, Context& context);
+double evaluate(EvaluationTable& table);
 
 bool isComparison(Operation operation);
 
