@@ -101,10 +101,12 @@ bool Packs::LOAD_CARDS() {
         return false;
     }
     ErrorPlace place{u"mGLOBAL.LOAD_CARDS"_s};
+    const AppFolder& folder = program_.folder;
+    const QString path = folder.resolve(folder.packFile(state_.language(), u"CARDS.TXT"));
+    bool isCardTable = false;
     const bool read = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
-        const AppFolder& folder = program_.folder;
-        const QString path = folder.resolve(folder.packFile(state_.language(), u"CARDS.TXT"));
         const QStringList lines = program_.files.readLines(path);
+        isCardTable = std::ranges::any_of(lines, isCardTableKeyword);
         const std::vector<TimedCard> before = std::exchange(state_.cards, {}).timedCards;
         state_.console.lastFired.reset();  // a button of the cards before
         try {
@@ -116,6 +118,10 @@ bool Packs::LOAD_CARDS() {
         if (std::ranges::equal(before, state_.cards.timedCards, {}, &timing, &timing)) state_.cards.timedCards = before;
     });
     showCurrentSet(state_, form_);
+    if (read && !isCardTable) {
+        operator_.message({}, {}, translate("engine", "%1 holds no line of a card table.").arg(path),
+                          Operator::Severity::Warning);
+    }
     return read;
 }
 

@@ -95,6 +95,10 @@ TEST_F(PackFiles, AMissingCardTableLeavesTheCards) {
     state.variables.SetVar(u"@LANGUAGE", u"NONE"_s);
     EXPECT_FALSE(packs.LOAD_CARDS());
     EXPECT_EQ(u"clear.qrd"_s, state.cards.clearCard);
+    state.variables.SetVar(u"@LANGUAGE", u"TT"_s);
+    write(u"QRD_TT/CARDS.TXT"_s, "\x7f\x01 no table\r\nsetno:1,A\r\n");
+    EXPECT_TRUE(packs.LOAD_CARDS());
+    EXPECT_TRUE(operatorDesk.shown.last().endsWith(u"CARDS.TXT holds no line of a card table."));
     state.variables.remove(u"@LANGUAGE");
     EXPECT_FALSE(packs.LOAD_CARDS());
     EXPECT_EQ(u"|No default Pack found. Please select a pack in order to load Cards"_s, operatorDesk.shown.last());

@@ -465,6 +465,10 @@
         <source>no data</source>
         <translation>δεν υπάρχουν δεδομένα</translation>
     </message>
+    <message>
+        <source>%1 holds no line of a card table.</source>
+        <translation>Το %1 δεν περιέχει καμία γραμμή πίνακα καρτών.</translation>
+    </message>
 </context>
 <context>
     <name>feed</name>
