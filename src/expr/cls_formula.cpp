@@ -128,7 +128,10 @@ double clsFormula::Eval() {
     }
     table_.context.warning = {};
     const double value = evaluate(table_);
-    return std::isnan(value) ? failEvaluation() : value;
+    if (std::isnan(value)) [[unlikely]] {
+        return failEvaluation();
+    }
+    return value;
 }
 
 // Clears the last error, and sets the one that a formula not stored or a variable without a value is.
@@ -160,7 +163,7 @@ double clsFormula::failEvaluation() {
 
 double clsFormula::Eval1(double x) {
     if (table_.variableCount > 0) {
-        if (unassigned_ == 0 && std::isfinite(x)) {
+        if (unassigned_ == 0 && std::isfinite(x)) [[likely]] {
             table_.slots[0] = x;
         } else {
             VarValue(1, x);
