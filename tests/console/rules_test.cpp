@@ -114,9 +114,14 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     // In the pause before PLAY another one of his runs inside as well, but never inside a card that runs by itself.
     bench.write(u"QRD_TT/one.csp"_s, "CSPSEND~PLAY 1\r\nCSPSEND~ends\r\n");
     int longPause = 0;  // milliseconds
+    int pauses = 1;     // one inside the other
     bench.graphics.whileSending = [&] {
-        if (bench.graphics.sent.size() != 1) return;
-        console.functionKey(10);
+        if (bench.graphics.sent.size() > pauses) return;
+        if (bench.graphics.sent.size() == pauses) {
+            console.functionKey(10);
+        } else {
+            bench.engine.SHOW_TVCARD(u"one.qrd"_s, false, false, {Asker::Kind::TimedCard, u"one.qrd"_s});
+        }
         bench.clock.time = bench.clock.time.addMSecs(longPause);
         QElapsedTimer looks;
         for (looks.start(); looks.elapsed() < 20;) QCoreApplication::processEvents();
@@ -125,12 +130,15 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     const auto play = [&](Asker::Kind who) {
         bench.engine.SHOW_TVCARD(u"one.qrd"_s, false, false, {who, u"one.qrd"_s});
         const qsizetype within = bench.graphics.sent.size();
-        EXPECT_TRUE(waitUntil([&] { return bench.graphics.sent.size() == 3 || !note.text().isEmpty(); }));
+        EXPECT_TRUE(waitUntil([&] { return bench.graphics.sent.size() == 2 * pauses + 1 || !note.text().isEmpty(); }));
         const QStringList all = sent();
         return QString(all.first(within).join(u' ') + u" | "_s + all.mid(within).join(u' '));
     };
     EXPECT_EQ(play(Asker::Kind::Operator), u"mPLAY 1 mkey 0 mends | "_s);
     EXPECT_EQ(play(Asker::Kind::TimedCard), u"mPLAY 1 mends | mkey 0"_s);
+    pauses = 2;
+    EXPECT_EQ(play(Asker::Kind::TimedCard), u"mPLAY 1 mPLAY 1 mends mends | mkey 0"_s);
+    pauses = 1;
     longPause = 1600;
     EXPECT_EQ(play(Asker::Kind::TimeCard), u"mPLAY 1 mends | "_s);
     EXPECT_EQ(note.text(), u"F10 pressed 1.6 s ago: not fired");

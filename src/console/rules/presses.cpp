@@ -25,7 +25,6 @@ void Presses::press(const QString& name, const Presser& presser, std::function<v
         tellLate(name, waited);
         return;
     }
-    if (!engine_.isRunning(heldUpBy_)) heldUpBy_ = engine_.sendingByItself();
     if (turning_ || isHeldUp() || engine_.program().databaseWait.isOn() || !waiting_.empty()) {
         wait({name, std::move(deed), now() - waited});
     } else {
@@ -44,7 +43,9 @@ void Presses::tellWait(bool another) {
     engine_.program().databaseWait.setPressWaits(another || !waiting_.empty());
 }
 
-bool Presses::isHeldUp() const {
+bool Presses::isHeldUp() {
+    // The one that held them up may have run inside another's pause.
+    if (!engine_.isRunning(heldUpBy_)) heldUpBy_ = engine_.sendingByItself();
     return engine_.isRunning(heldUpBy_) || engine_.pausesInsideAPause();
 }
 

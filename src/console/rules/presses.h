@@ -55,7 +55,7 @@ class Presses : public QObject {
 
     static constexpr int kLookInterval = 5;  // milliseconds, at a card that holds presses up
 
-    [[nodiscard]] bool isHeldUp() const;
+    [[nodiscard]] bool isHeldUp();
     void tellLate(const QString& name, qint64 waited);
     void carryOut(const std::function<void()>& deed);
     void turn();
