@@ -11,6 +11,7 @@
 #include <cstdio>
 
 #include "app_cards/cards_app.h"
+#include "app_cards/font_reading.h"
 #include "app_cards/ui_language.h"
 #include "app_cards/user_folder.h"
 #include "command_line/command_line.h"
@@ -135,7 +136,9 @@ int main(int argc, char* argv[]) {
         return 0;
     }
 
+    const std::future<void> fontFiles = zelvor::readFontFiles();
     QApplication application(argc, argv);
+    const std::future<void> fontList = zelvor::readFontList(fontFiles);
     // Not before: without a display Qt ends the program with its own words, which is no crash.
     zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
