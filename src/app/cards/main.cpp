@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPixmap>
 #include <QTextStream>
 #include <QTimer>
 #include <algorithm>
@@ -142,7 +143,8 @@ int main(int argc, char* argv[]) {
     // Not before: without a display Qt ends the program with its own words, which is no crash.
     zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
-    QApplication::setWindowIcon(QIcon(u":/icon.png"_s));
+    // With its format named Qt loads no plugins to find it out.
+    QApplication::setWindowIcon(QPixmap(u":/icon.png"_s, "PNG"));
     const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
     zelvor::CardsApp::Options wanted;
     QString language;
