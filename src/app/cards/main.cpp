@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
+#include <QImageReader>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
@@ -118,6 +119,13 @@ QString uiLanguage(const zelvor::CommandLine& line) {
     return *asked;
 }
 
+// Read as what it is: to find out, Qt would load all it has for pictures.
+QIcon icon() {
+    QImageReader reader(u":/icon.png"_s, "PNG");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -143,8 +151,7 @@ int main(int argc, char* argv[]) {
     // Not before: without a display Qt ends the program with its own words, which is no crash.
     zelvor::dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
-    // With its format named Qt loads no plugins to find it out.
-    QApplication::setWindowIcon(QPixmap(u":/icon.png"_s, "PNG"));
+    QApplication::setWindowIcon(icon());
     const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
     zelvor::CardsApp::Options wanted;
     QString language;
