@@ -143,15 +143,18 @@ QLineEdit* Mirrors::textBox(const ControlRow& row, int index) const {
         if (isColour(property) || property == Property::Enabled)
             widget->setPalette(theme::ownColours(control.backColour(), control.foreColour(), !control.enabled()));
     });
-    auto* sign = widget->addAction(QIcon(), QLineEdit::TrailingPosition);
-    follow(control, widget, [&control, widget, sign](Property property) {
+    follow(control, widget, [&control, widget](Property property) {
         if (property != Property::State) return;
         const bool wrong = !control.state().isEmpty();
         const QString words = wrong ? QString(control.hint() + u'\n' + control.state()) : control.hint();
-        sign->setVisible(wrong);
-        sign->setIcon(theme::warningSign());
-        sign->setText(words);
-        sign->setToolTip(words);
+        // A sign is a button of its own: most boxes never need one.
+        if (wrong && widget->actions().isEmpty()) widget->addAction(QIcon(), QLineEdit::TrailingPosition);
+        for (QAction* sign : widget->actions()) {
+            if (wrong) sign->setIcon(theme::warningSign());
+            sign->setVisible(wrong);
+            sign->setText(words);
+            sign->setToolTip(words);
+        }
         widget->setToolTip(words);
         widget->setAccessibleDescription(control.state());
         widget->setProperty("wrong", wrong);
