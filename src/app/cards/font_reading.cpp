@@ -1,6 +1,7 @@
 #include "app_cards/font_reading.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 #ifdef ZELVOR_FONTCONFIG
 #include <fontconfig/fontconfig.h>
