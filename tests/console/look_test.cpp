@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QFontMetrics>
 #include <QKeySequence>
 #include <QPaintEngine>
@@ -159,6 +160,20 @@ TEST(Theme, TextContrastsWithItsGround) {
                                gallery.form("frmGENERAL")})
             expectLegible(shown);
         EXPECT_GT(texts, 500);
+    }
+}
+
+TEST(Theme, WrongTextIsMarkedForAsLong) {
+    Gallery gallery;
+    gallery.writePack({"Score,score.csp"});
+    gallery.start();
+    const auto* box = gallery.find<QLineEdit>("txtGASPARPORT");
+    for (const QString& text : {u"5250"_s, u"x"_s, u"5251"_s, u"0"_s}) {
+        const bool wrong = text.size() == 1;
+        gallery.at("txtGASPARPORT").setText(text);
+        const auto isShown = [](const QAction* sign) { return sign->isVisible() && !sign->icon().isNull(); };
+        EXPECT_EQ(std::ranges::count_if(box->actions(), isShown), wrong ? 1 : 0) << text.toStdString();
+        EXPECT_EQ(box->toolTip().contains(u"not a number"), wrong);
     }
 }
 
