@@ -1,4 +1,4 @@
-// The operator's console.
+#include "app_cards/cards_program.h"
 
 #include <QApplication>
 #include <QFile>
@@ -128,7 +128,7 @@ QIcon icon() {
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int zelvor::runCards(int argc, char* argv[]) {
     QTextStream out(stdout);
     QTextStream err(stderr);
     // What needs no display is answered before one is looked for.
