@@ -72,7 +72,7 @@ function(zelvor_room name)
 endfunction()
 
 # zelvor_program(NAME [PRECOMPILED] SOURCES file... LINKS target...)
-# PRECOMPILED: it links Qt and is built for ./run.
+# PRECOMPILED: it reads Qt's headers and is no fuzz target.
 function(zelvor_program name)
   cmake_parse_arguments(PROGRAM "PRECOMPILED" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${PROGRAM_SOURCES})

@@ -103,9 +103,3 @@ TEST_F(AskForm, canBeCancelledWhenTheQueryFails) {
 
 }  // namespace
 }  // namespace zelvor::test
-
-int main(int argc, char* argv[]) {
-    const QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
