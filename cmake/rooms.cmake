@@ -6,6 +6,11 @@
 
 add_library(zelvor_options INTERFACE)
 target_compile_options(zelvor_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
+# In a large piece GCC looks for memory to free after half a GB (in KB) instead of 128 MB: once or never. Clang's tools
+# refuse the option; they read the files one by one.
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(zelvor_options INTERFACE --param=ggc-min-heapsize=524288)
+endif()
 target_compile_definitions(zelvor_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER ZELVOR_VERSION="${PROJECT_VERSION}")
 
