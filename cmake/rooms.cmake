@@ -51,7 +51,8 @@ function(add_meta_objects target)
       list(APPEND headers ${header})
     endif()
   endforeach()
-  qt_wrap_cpp(made ${headers} TARGET ${target})
+  # No TARGET, whose include path would have moc read all of Qt for each header; it needs none of it.
+  qt_wrap_cpp(made ${headers})
   target_sources(${target} PRIVATE ${made})
   # What two targets make waits for no more than both link: this one links nothing, and so no room waits for another.
   add_custom_target(${target}_meta_objects DEPENDS ${made})
