@@ -4,19 +4,24 @@
 
 #include <array>
 
+#include "support/cases.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
 namespace {
 
-const std::array kOptions{CommandLine::Option{u"--app-folder"_s, true},
-                          CommandLine::Option{u"--set"_s, true},
-                          CommandLine::Option{u"--yes"_s},
-                          CommandLine::Option{u"--no"_s},
-                          CommandLine::Option{u"--port"_s, true},
-                          CommandLine::Option{u"--to"_s, true},
-                          CommandLine::Option{u"--codepage"_s, true},
-                          CommandLine::Option{u"-h"_s}};
+const std::array kOptions = [] {
+    using Option = CommandLine::Option;
+    return std::array{Option{u"--app-folder"_s, true},
+                      Option{u"--set"_s, true},
+                      Option{u"--yes"_s},
+                      Option{u"--no"_s},
+                      Option{u"--port"_s, true},
+                      Option{u"--to"_s, true},
+                      Option{u"--codepage"_s, true},
+                      Option{u"-h"_s}};
+}();
 
 // What is wrong with the line as a program reads it; empty when nothing is.
 QString faultOf(const QStringList& arguments) {
@@ -49,19 +54,15 @@ TEST(CommandLines, GiveTheirOptionsAndWhatIsLeft) {
 }
 
 TEST(CommandLines, AreRefusedInOneWording) {
-    const std::pair<QStringList, QString> cases[] = {
-        {{u"--odd"_s, u"--set"_s}, u"unknown option --odd"_s},
-        {{u"--yes=1"_s}, u"unknown option --yes=1"_s},
-        {{u"--no"_s, u"--set"_s}, u"--set takes a value"_s},
-        {{u"--port"_s, u"65536"_s}, u"--port takes a number from 0 to 65535, not 65536"_s},
-        {{u"--port=x"_s, u"--port"_s, u"1"_s}, u"--port takes a number from 0 to 65535, not x"_s},
-        {{u"--port=0"_s, u"--to=localhost:65535"_s, u"--codepage=ISO-8859-7"_s}, {}},
-        {{u"--to=localhost"_s}, u"--to takes HOST:PORT, not localhost"_s},
-        {{u"--to=localhost:0"_s}, u"--to takes HOST:PORT, not localhost:0"_s},
-        {{u"--to=:5250"_s}, u"--to takes HOST:PORT, not :5250"_s},
-        {{u"--codepage=greek-ish"_s}, u"--codepage takes a code page such as windows-1253, not greek-ish"_s},
-    };
-    for (const auto& [arguments, fault] : cases) EXPECT_EQ(faultOf(arguments), fault);
+    test::forCases(
+        [](const QString& line, const QString& fault) { EXPECT_EQ(faultOf(line.split(u' ')), fault); },
+        "--odd --set -> unknown option --odd", "--yes=1 -> unknown option --yes=1", "--no --set -> --set takes a value",
+        "--port 65536 -> --port takes a number from 0 to 65535, not 65536",
+        "--port=x --port 1 -> --port takes a number from 0 to 65535, not x",
+        "--port=0 --to=localhost:65535 --codepage=ISO-8859-7 -> ",
+        "--to=localhost -> --to takes HOST:PORT, not localhost",
+        "--to=localhost:0 -> --to takes HOST:PORT, not localhost:0", "--to=:5250 -> --to takes HOST:PORT, not :5250",
+        "--codepage=greek-ish -> --codepage takes a code page such as windows-1253, not greek-ish");
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <array>
 
 #include "base/app_folder.h"
 #include "base/error_trap.h"

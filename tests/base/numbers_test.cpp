@@ -45,9 +45,8 @@ TEST(Numbers, WholeNumbersRoundHalvesToEvenAndMindTheirRange) {
     EXPECT_EQ(32767, wholeNumber16(32767.4));
     EXPECT_EQ(6, errorOf([] { wholeNumber16(u"32767.5"); }));
     EXPECT_EQ(6, errorOf([] { wholeNumber32(2147483648.0); }));
-    for (const QStringView text : {u"", u"x", u"1x", u"1 2", u"&H"}) {
+    for (const QStringView text : {u"", u"x", u"1x", u"1 2", u"&H"})
         EXPECT_EQ(13, errorOf([&] { wholeNumber32(text); })) << text.toString().toStdString();
-    }
 }
 
 TEST(Values, ReadAsTextAndAsNumbers) {

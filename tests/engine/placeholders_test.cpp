@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/run_time_error.h"
+#include "support/cases.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,21 +49,11 @@ class Placeholders : public testing::Test {
 };
 
 TEST_F(Placeholders, AreReplacedFromTheInsideOut) {
-    const std::pair<QString, QString> rows[] = {
-        {u""_s, u""_s},
-        {u"plain }"_s, u"plain }"_s},
-        {u"%{@X}"_s, u"%{@X}"_s},
-        {u"A{@X}B{@X}"_s, u"A1B1"_s},
-        {u"{@Y}"_s, u"1"_s},
-        {u"{@UNKNOWN}|"_s, u"|"_s},
-        {u"{@N}{@NULL}"_s, u"2.5"_s},
-        {u"{1|0} {{@X}|0} {2|{@X}}"_s, u"one one 22"_s},
-        {u"[{3|0}{1|3}{0|0}{1|2}{1|1}]"_s, u"[]"_s},
-        {u"{@OPEN}X}"_s, u"1"_s},
-        {u"{@CLOSE}"_s, u"a}b"_s},
-        {u"{@X{@UNKNOWN}}"_s, u"1"_s},
-    };
-    for (const auto& [text, expanded] : rows) EXPECT_EQ(expanded, expand(text)) << text.toStdString();
+    test::forCases(
+        [this](const QString& text, const QString& expanded) { EXPECT_EQ(expanded, expand(text)) << qPrintable(text); },
+        " -> ", "plain } -> plain }", "%{@X} -> %{@X}", "A{@X}B{@X} -> A1B1", "{@Y} -> 1", "{@UNKNOWN}| -> |",
+        "{@N}{@NULL} -> 2.5", "{1|0} {{@X}|0} {2|{@X}} -> one one 22", "[{3|0}{1|3}{0|0}{1|2}{1|1}] -> []",
+        "{@OPEN}X} -> 1", "{@CLOSE} -> a}b", "{@X{@UNKNOWN}} -> 1");
     EXPECT_NE(nullptr, variables_.find(u"@UNKNOWN"));
 }
 

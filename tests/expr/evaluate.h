@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
 
 #include "expr/cls_formula.h"
@@ -14,6 +15,17 @@ inline double evaluate(clsFormula& formula, std::string_view text) {
     const double value = formula.Eval();
     EXPECT_EQ(formula.ErrorID(), 0) << text << ": " << formula.ErrorDescription();
     return value;
+}
+
+// Each case is "formula -> value".
+template <class... Cases>
+void expectValues(clsFormula& formula, const Cases&... cases) {
+    const auto expect = [&formula](std::string_view text) {
+        const std::size_t arrow = text.find(" -> ");
+        EXPECT_DOUBLE_EQ(evaluate(formula, text.substr(0, arrow)), std::stod(std::string(text.substr(arrow + 4))))
+            << text;
+    };
+    (expect(cases), ...);
 }
 
 }  // namespace zelvor::expr

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstdlib>
 #include <limits>
 #include <new>
@@ -31,104 +30,57 @@ void operator delete(void* memory, std::size_t) noexcept {
 namespace zelvor::expr {
 namespace {
 
-using namespace std::string_literals;
+using namespace std::literals;
 
-void expectError(clsFormula& formula, std::string_view text, int id, int position, std::string_view message) {
+// error: "NUMBER at POSITION: MESSAGE".
+void expectError(clsFormula& formula, std::string_view text, std::string_view error) {
     formula.StoreExpression(text);
-    const double value = formula.Eval();
-    EXPECT_EQ(value, 0) << text;
-    EXPECT_EQ(formula.ErrorID(), id) << text;
-    EXPECT_EQ(formula.ErrorPos(), position) << text;
-    EXPECT_EQ(formula.ErrorDescription(), message) << text;
+    EXPECT_EQ(formula.Eval(), 0) << text;
+    const std::string place = std::to_string(formula.ErrorID()) + " at " + std::to_string(formula.ErrorPos());
+    EXPECT_EQ(place + ": " + std::string(formula.ErrorDescription()), error) << text;
 }
 
 TEST(Formula, FollowsTheGrammar) {
-    const struct {
-        const char* text;
-        double value;
-    } cases[] = {
-        {"2*(3+4]", 14},
-        {"{[(1)}]", 1},
-        {"2^3^2", 64},
-        {"-2^2", -4},
-        {"2^-1", 0.5},
-        {"2^-2^2", 0.0625},
-        {"2^--2", 4},
-        {"2*-3+1", -5},
-        {"2--3", 5},
-        {"+3-+2", 1},
-        {"-3!", -6},
-        {"3!!", 720},
-        {"50%^2", 0.25},
-        {"sqr(9)!", 6},
-        {"|2-5|*2", 6},
-        {"|-|-3||", 3},
-        {"|1|+|-2|", 3},
-        {"2.5\\1", 2},
-        {"-7\\2", -3},
-        {"(2<3)+2*(2=<1)+4*(2=>2)+8*(2<>3)+16*(1+1=2)+32*(3>=4)+64*(2<=2)", 93},
-        {"3>2>1", 0},
-        {"And(1<2,2<3)", 1},
-        {"1e3+1E-3+2e+1+.5+5.", 1025.501},
-        {"1e-400", 0},
-        {"0.0001e2", 0.01},
-        {" 2 *\t( 3 )\r\n", 6},
-        {"SIN (0)", 0},
-        {"sum(1,[2+3],max(4,|-5|))", 11},
-        {"PI/pi+e^0+(pi2*2-pi)", 2},
-        {"1+2*3+(4-5*(6-7))", 16},
-        {"7-2-1+100/10/2", 9},
-        {"123456789012345678", 123456789012345678.0},
-        {"9007199254740993*1", 9007199254740992.0},
-    };
     clsFormula formula;
-    for (const auto& [text, value] : cases) EXPECT_DOUBLE_EQ(evaluate(formula, text), value) << text;
+    expectValues(formula, "2*(3+4] -> 14", "{[(1)}] -> 1", "2^3^2 -> 64", "-2^2 -> -4", "2^-1 -> 0.5",
+                 "2^-2^2 -> 0.0625", "2^--2 -> 4", "2*-3+1 -> -5", "2--3 -> 5", "+3-+2 -> 1", "-3! -> -6", "3!! -> 720",
+                 "50%^2 -> 0.25", "sqr(9)! -> 6", "|2-5|*2 -> 6", "|-|-3|| -> 3", "|1|+|-2| -> 3", "2.5\\1 -> 2",
+                 "-7\\2 -> -3", "(2<3)+2*(2=<1)+4*(2=>2)+8*(2<>3)+16*(1+1=2)+32*(3>=4)+64*(2<=2) -> 93", "3>2>1 -> 0",
+                 "And(1<2,2<3) -> 1", "1e3+1E-3+2e+1+.5+5. -> 1025.501", "1e-400 -> 0", "0.0001e2 -> 0.01",
+                 " 2 *\t( 3 )\r\n -> 6", "SIN (0) -> 0", "sum(1,[2+3],max(4,|-5|)) -> 11", "PI/pi+e^0+(pi2*2-pi) -> 2",
+                 "1+2*3+(4-5*(6-7)) -> 16", "7-2-1+100/10/2 -> 9", "123456789012345678 -> 123456789012345678",
+                 "9007199254740993*1 -> 9007199254740992");
 }
 
+// The quotient by what is no finite number would be one again, and no function is given it.
 TEST(Formula, ReportsWhatIsWrongAndWhere) {
-    const struct {
-        const char* text;
-        int id;
-        int position;
-        const char* message;
-    } cases[] = {
-        {"|x", 4, 1, "abs symbols |.| mismatch"},
-        {"|(1|)", 4, 4, "abs symbols |.| mismatch"},
-        {"", 5, 1, "Syntax error at pos: 1"},
-        {"1 2", 5, 3, "Syntax error at pos: 3"},
-        {"2(3)", 5, 2, "Syntax error at pos: 2"},
-        {"1#2", 5, 2, "Syntax error at pos: 2"},
-        {"()", 5, 2, "Syntax error at pos: 2"},
-        {"(1,2)", 5, 3, "Syntax error at pos: 3"},
-        {"α+?", 5, 3, "Syntax error at pos: 3"},
-        {"1+foo(2)", 6, 3, "Function < foo > unknown at pos: 3"},
-        {"pi(2)", 6, 1, "Function < pi > unknown at pos: 1"},
-        {"1+2)", 7, 4, "Too many closing brackets at pos: 4"},
-        {"|3)|", 7, 3, "Too many closing brackets at pos: 3"},
-        {"(1+", 11, 1, "Not enough closing brackets"},
-        {"sin()", 8, 5, "missing argument"},
-        {"comb(,1)", 8, 6, "missing argument"},
-        {"1+", 8, 3, "missing argument"},
-        {"(2*)", 8, 4, "missing argument"},
-        {"sin(1,2)", 9, 6, "Too many arguments at pos: 6"},
-        {"(1+2", 11, 1, "Not enough closing brackets"},
-        {"2*sin(", 11, 3, "Not enough closing brackets"},
-        {"1e999", 12, 1, "Syntax error: 1e999"},
-        {"1+Sin*2", 13, 3, "Function < Sin > missing?"},
-        {"2+sqr(-4)", 14, 3, "Evaluation error < Sqr(-4) > at pos: 3"},
-        {"(-1)!", 14, 5, "Evaluation error < Fact(-1) > at pos: 5"},
-        {"LOGN(-1,10)", 15, 1, "Evaluation error < LogN(-1, 10) > at pos: 1"},
-        {"1/0", 16, 2, "Evaluation error < 1 / 0 > at pos: 2"},
-        {"(0-8)^0.5", 16, 6, "Evaluation error < -8 ^ 0.5 > at pos: 6"},
-        {"1E300*1E+10", 16, 6, "Evaluation error < 1E+300 * 10000000000 > at pos: 6"},
-        // The quotient by what is no finite number would be one again, and no function is given it.
-        {"1/(1E300*1E300)", 16, 9, "Evaluation error < 1E+300 * 1E+300 > at pos: 9"},
-        {"fact(1/0)+2/0", 16, 7, "Evaluation error < 1 / 0 > at pos: 7"},
-        {"clip(1,3,2)", 17, 1, "Evaluation error < Clip(1, 3, 2) > at pos: 1"},
-        {"2*a", 18, 3, "Variable < a > not assigned"},
-    };
     clsFormula formula;
-    for (const auto& [text, id, position, message] : cases) expectError(formula, text, id, position, message);
+    const auto expect = [&formula](const auto&... cases) {
+        (expectError(formula, cases.substr(0, cases.find(" -> ")), cases.substr(cases.find(" -> ") + 4)), ...);
+    };
+    expect("|x -> 4 at 1: abs symbols |.| mismatch"sv, "|(1|) -> 4 at 4: abs symbols |.| mismatch"sv,
+           " -> 5 at 1: Syntax error at pos: 1"sv, "1 2 -> 5 at 3: Syntax error at pos: 3"sv,
+           "2(3) -> 5 at 2: Syntax error at pos: 2"sv, "1#2 -> 5 at 2: Syntax error at pos: 2"sv,
+           "() -> 5 at 2: Syntax error at pos: 2"sv, "(1,2) -> 5 at 3: Syntax error at pos: 3"sv,
+           "α+? -> 5 at 3: Syntax error at pos: 3"sv, "1+foo(2) -> 6 at 3: Function < foo > unknown at pos: 3"sv,
+           "pi(2) -> 6 at 1: Function < pi > unknown at pos: 1"sv,
+           "1+2) -> 7 at 4: Too many closing brackets at pos: 4"sv,
+           "|3)| -> 7 at 3: Too many closing brackets at pos: 3"sv, "(1+ -> 11 at 1: Not enough closing brackets"sv,
+           "sin() -> 8 at 5: missing argument"sv, "comb(,1) -> 8 at 6: missing argument"sv,
+           "1+ -> 8 at 3: missing argument"sv, "(2*) -> 8 at 4: missing argument"sv,
+           "sin(1,2) -> 9 at 6: Too many arguments at pos: 6"sv, "(1+2 -> 11 at 1: Not enough closing brackets"sv,
+           "2*sin( -> 11 at 3: Not enough closing brackets"sv, "1e999 -> 12 at 1: Syntax error: 1e999"sv,
+           "1+Sin*2 -> 13 at 3: Function < Sin > missing?"sv,
+           "2+sqr(-4) -> 14 at 3: Evaluation error < Sqr(-4) > at pos: 3"sv,
+           "(-1)! -> 14 at 5: Evaluation error < Fact(-1) > at pos: 5"sv,
+           "LOGN(-1,10) -> 15 at 1: Evaluation error < LogN(-1, 10) > at pos: 1"sv,
+           "1/0 -> 16 at 2: Evaluation error < 1 / 0 > at pos: 2"sv,
+           "(0-8)^0.5 -> 16 at 6: Evaluation error < -8 ^ 0.5 > at pos: 6"sv,
+           "1E300*1E+10 -> 16 at 6: Evaluation error < 1E+300 * 10000000000 > at pos: 6"sv,
+           "1/(1E300*1E300) -> 16 at 9: Evaluation error < 1E+300 * 1E+300 > at pos: 9"sv,
+           "fact(1/0)+2/0 -> 16 at 7: Evaluation error < 1 / 0 > at pos: 7"sv,
+           "clip(1,3,2) -> 17 at 1: Evaluation error < Clip(1, 3, 2) > at pos: 1"sv,
+           "2*a -> 18 at 3: Variable < a > not assigned"sv);
 }
 
 TEST(Formula, MultipliesANumberAndItsLetter) {
@@ -189,62 +141,38 @@ TEST(Formula, SurvivesAnEvaluationError) {
 }
 
 TEST(Formula, ReadsAnglesInTheCurrentUnit) {
-    const struct {
-        const char* unit;
-        const char* text;
-        double value;
-    } cases[] = {
-        {"DEG", "sin(90)", 1},    {"DEG", "sin(180)", 0},         {"DEG", "cos(-270)", 0},
-        {"DEG", "tan(225)", 1},   {"DEG", "sec(60)", 2},          {"DEG", "cos(3.6e15+60)", 0.5},
-        {"DEG", "asin(0.5)", 30}, {"DEG", "acot(-1)", 135},       {"DEG", "rad(180)/pi", 1},
-        {"DEG", "grad(90)", 100}, {"GRAD", "sin(30)/sin(30)", 1}, {"GRAD", "cos(100)", 0},
-        {"GRAD", "Atn(1)", 50},   {"GRAD", "deg(100)", 90},       {"RAD", "deg(pi)", 180},
-        {"RAD", "grad(pi)", 200}, {"RAD", "rad(2)", 2},
-    };
     clsFormula formula;
     EXPECT_EQ(formula.AngleUnit(), "RAD");
-    for (const auto& [unit, text, value] : cases) {
-        ASSERT_TRUE(formula.AngleUnit(unit));
-        EXPECT_DOUBLE_EQ(evaluate(formula, text), value) << text;
-    }
-    formula.AngleUnit("DEG");
+    expectValues(formula, "deg(pi) -> 180", "grad(pi) -> 200", "rad(2) -> 2");
+    ASSERT_TRUE(formula.AngleUnit("GRAD"));
+    expectValues(formula, "sin(30)/sin(30) -> 1", "cos(100) -> 0", "Atn(1) -> 50", "deg(100) -> 90");
+    ASSERT_TRUE(formula.AngleUnit("DEG"));
+    expectValues(formula, "sin(90) -> 1", "sin(180) -> 0", "cos(-270) -> 0", "tan(225) -> 1", "sec(60) -> 2",
+                 "cos(3.6e15+60) -> 0.5", "asin(0.5) -> 30", "acot(-1) -> 135", "rad(180)/pi -> 1", "grad(90) -> 100");
     EXPECT_FALSE(formula.AngleUnit("TURN"));
     EXPECT_EQ(formula.AngleUnit(), "DEG");
-    expectError(formula, "tan(90)", 14, 1, "Evaluation error < Tan(90) > at pos: 1");
+    expectError(formula, "tan(90)", "14 at 1: Evaluation error < Tan(90) > at pos: 1");
 }
 
 TEST(Formula, ReadsUnitsAndDegrees) {
-    const struct {
-        const char* text;
-        double value;
-    } units[] = {
-        {"5mV", 0.005},  {"5m", 5},      {"3kg+2g", 3002}, {"2.5MHz", 2.5e6}, {"10cm", 0.1},
-        {"4uF", 4e-6},   {"4µF", 4e-6},  {"7nm", 7e-9},    {"7Nm", 7},        {"1GPa", 1e9},
-        {"1TOhm", 1e12}, {"3pA", 3e-12}, {"1mrad", 1e-3},  {"1e3 *2", 2000},  {"2mohm*3", 0.006},
-    };
     clsFormula formula;
     formula.OpUnitConv(true);
-    for (const auto& [text, value] : units) EXPECT_DOUBLE_EQ(evaluate(formula, text), value) << text;
-    expectError(formula, "1+5kq", 19, 3, "Constant unknown: kq");
+    expectValues(formula, "5mV -> 0.005", "5m -> 5", "3kg+2g -> 3002", "2.5MHz -> 2.5e6", "10cm -> 0.1", "4uF -> 4e-6",
+                 "4µF -> 4e-6", "7nm -> 7e-9", "7Nm -> 7", "1GPa -> 1e9", "1TOhm -> 1e12", "3pA -> 3e-12",
+                 "1mrad -> 1e-3", "1e3 *2 -> 2000", "2mohm*3 -> 0.006");
+    expectError(formula, "1+5kq", "19 at 3: Constant unknown: kq");
     EXPECT_TRUE(formula.StoreExpression("5x"));
     formula.OpUnitConv(false);
     EXPECT_FALSE(formula.StoreExpression("5m"));
 
-    const struct {
-        const char* text;
-        double value;
-    } degrees[] = {
-        {"10d30m", 10.5},      {"10d30m36s", 10.51},  {"10d36s", 10.01},     {"-10.5d+1", -9.5}, {"dec(1d30m)", 1.5},
-        {"dec(-1d30m)", -1.5}, {"sin(30d0m0s)", 0.5}, {"1d0m1.8s*2", 2.001}, {"2d^2", 4},
-    };
     formula.OpDMSConv(true);
     formula.AngleUnit("DEG");
-    for (const auto& [text, value] : degrees) EXPECT_DOUBLE_EQ(evaluate(formula, text), value) << text;
-    for (const char* const text : {"10d60m", "10d30", "10.5d30m", "10d5s3m", "30m", "1d2x"}) {
-        expectError(formula, text, 21, 1, "Wrong DMS format");
-    }
-    expectError(formula, "1+dec(10.5)", 22, 3, "No DMS format");
-    expectError(formula, "dec(1d+1)", 22, 1, "No DMS format");
+    expectValues(formula, "10d30m -> 10.5", "10d30m36s -> 10.51", "10d36s -> 10.01", "-10.5d+1 -> -9.5",
+                 "dec(1d30m) -> 1.5", "dec(-1d30m) -> -1.5", "sin(30d0m0s) -> 0.5", "1d0m1.8s*2 -> 2.001", "2d^2 -> 4");
+    for (const char* const text : {"10d60m", "10d30", "10.5d30m", "10d5s3m", "30m", "1d2x"})
+        expectError(formula, text, "21 at 1: Wrong DMS format");
+    expectError(formula, "1+dec(10.5)", "22 at 3: No DMS format");
+    expectError(formula, "dec(1d+1)", "22 at 1: No DMS format");
 
     formula.OpUnitConv(true);
     EXPECT_DOUBLE_EQ(evaluate(formula, "30m+1d"), 31);
@@ -275,12 +203,12 @@ TEST(Formula, KnowsItsLimits) {
     std::string sum = "v1";
     for (std::size_t i = 2; i <= kMaxVariables; ++i) sum += "+v" + std::to_string(i);
     EXPECT_TRUE(formula.StoreExpression(sum));
-    expectError(formula, sum + "+w", 1, static_cast<int>(sum.size()) + 2, "too many variables");
+    expectError(formula, sum + "+w", "1 at " + std::to_string(sum.size() + 2) + ": too many variables");
 
     std::string ones = "1";
     for (std::size_t i = 0; i < kMaxRows; ++i) ones += "+1";
     EXPECT_EQ(evaluate(formula, ones), static_cast<double>(kMaxRows) + 1);
-    expectError(formula, ones + "+1", 20, static_cast<int>(ones.size()) + 1, "Too many operations");
+    expectError(formula, ones + "+1", "20 at " + std::to_string(ones.size() + 1) + ": Too many operations");
 }
 
 TEST(Formula, TakesLongTexts) {

@@ -63,23 +63,17 @@ TEST_F(AmcpServerTest, AnswersHalfLinesLongLinesAndSeveralLinesAtOnce) {
     EXPECT_EQ(received(socket, refused.size()), refused);
 
     EXPECT_EQ(journal_.lines().back().text, u"PONG d"_s);
-    for (const Journal::Line& line : journal_.lines()) {
-        EXPECT_LT(line.text.size(), Journal::kMaxText + 40);
-    }
+    for (const Journal::Line& line : journal_.lines()) EXPECT_LT(line.text.size(), Journal::kMaxText + 40);
 }
 
 TEST_F(AmcpServerTest, ServesManyClientsAndNotesWhenTheyGo) {
     std::vector<std::unique_ptr<QTcpSocket>> sockets;
-    for (int i = 0; i < 200; ++i) {
-        connectTo(*sockets.emplace_back(std::make_unique<QTcpSocket>()));
-    }
+    for (int i = 0; i < 200; ++i) connectTo(*sockets.emplace_back(std::make_unique<QTcpSocket>()));
     ASSERT_TRUE(waitUntil([&] { return server_.clientCount() == 200; })) << server_.clientCount();
-    for (std::size_t i = 0; i < sockets.size(); ++i) {
+    for (std::size_t i = 0; i < sockets.size(); ++i)
         sockets[i]->write("PING " + QByteArray::number(int(i + 1000)) + "\r\n");
-    }
-    for (std::size_t i = 0; i < sockets.size(); ++i) {
+    for (std::size_t i = 0; i < sockets.size(); ++i)
         EXPECT_EQ(received(*sockets[i], 11), "PONG " + QByteArray::number(int(i + 1000)) + "\r\n");
-    }
     EXPECT_EQ(journal_.lines().size(), Journal::kMaxLines);
     sockets.clear();
     ASSERT_TRUE(waitUntil([&] { return server_.clientCount() == 0; }));
@@ -92,9 +86,7 @@ TEST_F(AmcpServerTest, DropsAClientThatNeverReads) {
     connectTo(lazy);
     ASSERT_TRUE(waitUntil([&] { return lazy.state() == QAbstractSocket::ConnectedState; }));
     const QByteArray line = "PING " + QByteArray(1 << 20, 'x') + "\r\n";
-    for (int i = 0; i < 64; ++i) {
-        lazy.write(line);
-    }
+    for (int i = 0; i < 64; ++i) lazy.write(line);
     ASSERT_TRUE(waitUntil([&] { return notes().contains(u"dropped: does not read its replies"_s); }));
     EXPECT_TRUE(waitUntil([&] { return server_.clientCount() == 0; }));
 

@@ -47,10 +47,13 @@ class Server {
     QString amcpPort_;
 };
 
+QString field(const QString& id, const QString& value) {
+    return uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData>)"_s.arg(
+        id, value);
+}
+
 QString lowerThird(const QString& name, const QString& title) {
-    return uR"(<templateData><componentData id=\"NAME\"><data type=\"txt\" ani=\"0\" value=\"%1\"></data></componentData>)"
-           uR"(<componentData id=\"TITLE\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData></templateData>)"_s
-               .arg(name, title);
+    return u"<templateData>"_s + field(u"NAME"_s, name) + field(u"TITLE"_s, title) + u"</templateData>"_s;
 }
 
 class BrowserTest : public testing::Test {
@@ -63,10 +66,12 @@ class BrowserTest : public testing::Test {
 
     void SetUp() override { ASSERT_TRUE(started_) << qPrintable(browser_->fault()); }
 
-    void open(const Server& server) {
-        browser_->open(server.page());
+    void TearDown() override { EXPECT_TRUE(server_.stop()); }
+    void start(const QString& templates = test::demoPath(u"templates"_s)) {
+        ASSERT_TRUE(server_.start(templates));
+        browser_->open(server_.page());
         ASSERT_TRUE(becomes([] { return page(u"document.querySelectorAll('.channel').length"_s); }, u"2"_s));
-        console_.connectToHost(u"127.0.0.1"_s, server.amcpPort().toUShort());
+        console_.connectToHost(u"127.0.0.1"_s, server_.amcpPort().toUShort());
         ASSERT_TRUE(test::waitUntil([&] { return console_.state() == QAbstractSocket::ConnectedState; }));
     }
 
@@ -91,6 +96,7 @@ class BrowserTest : public testing::Test {
         return testing::AssertionFailure() << "still \"" << qPrintable(last) << "\", not " << qPrintable(wanted);
     }
 
+    Server server_;
     QTcpSocket console_;
     static inline Browser* browser_ = nullptr;
     static inline bool started_ = false;
@@ -102,9 +108,7 @@ const QString kName = u"document.querySelector('[data-field=NAME]').textContent"
 const QString kStrap = u"getComputedStyle(document.querySelector('.strap')).clipPath"_s;
 
 TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
-    Server server;
-    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
-    open(server);
+    start();
     const auto name = [] { return frame(kLowerThird, kName); };
     const auto panel = [] { return frame(kLowerThird, kStrap); };
     // The name and the panel as soon as the new page has its name.
@@ -144,21 +148,18 @@ TEST_F(BrowserTest, ShowsUpdatesStopsAndReplaysATemplate) {
     EXPECT_EQ(send(u"CLEAR 1"_s), u"202 CLEAR OK"_s);
     EXPECT_TRUE(
         becomes([] { return page(u"`${document.querySelectorAll('iframe').length} frames`"_s); }, u"0 frames"_s));
-    EXPECT_TRUE(server.stop());
 }
 
 TEST_F(BrowserTest, ShowsDemoCardsFiredFromTheTerminal) {
     const test::DemoFolder demo;
     ASSERT_TRUE(demo.isMade());
-    Server server;
-    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
-    open(server);
+    start();
     const auto fire = [&](const QString& language, const QStringList& cardAndOptions) {
         QProcess zelvor;
         endWithTest(zelvor);
         zelvor.start(QStringLiteral(ZELVOR_PROGRAM),
                      QStringList{u"run"_s, u"--app-folder"_s, demo.path(), u"--main"_s,
-                                 u"127.0.0.1:"_s + server.amcpPort(), u"--language"_s, language} +
+                                 u"127.0.0.1:"_s + server_.amcpPort(), u"--language"_s, language} +
                          cardAndOptions);
         return zelvor.waitForFinished() && zelvor.exitStatus() == QProcess::NormalExit && zelvor.exitCode() == 0;
     };
@@ -176,7 +177,6 @@ TEST_F(BrowserTest, ShowsDemoCardsFiredFromTheTerminal) {
     EXPECT_TRUE(becomes([] { return frame(kLowerThird, kStrap); }, u"100%"_s));
     EXPECT_TRUE(fire(u"GR"_s, {u"clear.csp"_s}));
     EXPECT_TRUE(becomes([] { return page(u"`${document.querySelectorAll('iframe').length} left`"_s); }, u"0 left"_s));
-    EXPECT_TRUE(server.stop());
 }
 
 TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
@@ -194,9 +194,7 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
         spy.onmessage = () => note("spied"); spy.onclose = () => { document.title = "shut out"; };
         </script><img src="missing.png">)");
     file.close();
-    Server server;
-    ASSERT_TRUE(server.start(folder.path()));
-    open(server);
+    start(folder.path());
     const auto calls = [] { return frame(u"/calls.html"_s, u"document.getElementById('calls').textContent"_s); };
 
     // Quotes, a backslash, a line break and a line separator arrive as they were sent.
@@ -210,9 +208,8 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
     EXPECT_TRUE(becomes(calls, u"stop;SecurityError;SecurityError;"_s)) << "still there after STOP and a fault";
     EXPECT_FALSE(calls().contains(u"spied"_s));
     EXPECT_EQ(frame(u"/calls.html"_s, u"document.compatMode"_s), u"CSS1Compat"_s);
-    for (const QString& fault : {u"2-1 calls.html: cannot load"_s, u"stops badly"_s, u"the template has no next()"_s}) {
+    for (const QString& fault : {u"2-1 calls.html: cannot load"_s, u"stops badly"_s, u"the template has no next()"_s})
         EXPECT_TRUE(becomes(&BrowserTest::lines, fault));
-    }
     EXPECT_EQ(page(u"document.querySelectorAll('#lines b').length"_s), u"0"_s);
 
     // A second one of the same template knows nothing of the first.
@@ -229,25 +226,22 @@ TEST_F(BrowserTest, CallsInOrderAndKeepsTemplatesInTheirFrames) {
     EXPECT_TRUE(becomes(&BrowserTest::lines, u"404 CG ADD FAILED"_s));
     EXPECT_TRUE(becomes(&BrowserTest::lines, u"NOPE <b>x</b>"_s));
     EXPECT_EQ(page(u"lines.scrollTop + lines.clientHeight > lines.scrollHeight - 4"_s), u"true"_s);
-    EXPECT_TRUE(server.stop());
 }
 
 TEST_F(BrowserTest, ShowsATemplateAsItLooksAlone) {
-    Server server;
-    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
-    open(server);
+    start();
     const QString fields = uR"({"HOME":"North","SCOREA":"7"})"_s;
     const auto settled = [](const auto& read) {
         return becomes([&] { return read(u"`${document.getAnimations().length} left ${document.body.className}`"_s); },
                        u"0 left on"_s);
     };
-    browser_->open(server.page() + u"?channel=1&behind=black"_s);
+    browser_->open(server_.page() + u"?channel=1&behind=black"_s);
     send(u"CG 1-20 ADD 1 scorebug 1 \"%1\""_s.arg(QString(fields).replace(u'"', u"\\\""_s)));
     browser_->picture();  // from here on in the size of the programme
     ASSERT_TRUE(settled([](const QString& script) { return frame(u"/scorebug.html"_s, script); }));
     const QImage there = browser_->picture();
 
-    browser_->open(server.page() + u"templates/scorebug.html"_s);
+    browser_->open(server_.page() + u"templates/scorebug.html"_s);
     ASSERT_TRUE(becomes([] { return page(u"`${typeof update} ${document.readyState}`"_s); }, u"function complete"_s));
     page(u"document.documentElement.style.background = 'black'; update('%1'); play()"_s.arg(fields));
     ASSERT_TRUE(settled([](const QString& script) { return page(script); }));
@@ -268,13 +262,10 @@ TEST_F(BrowserTest, ShowsATemplateAsItLooksAlone) {
     }
     EXPECT_GT(lit, 10000) << "the bug is to be seen";
     EXPECT_EQ(different, 0);
-    EXPECT_TRUE(server.stop());
 }
 
 TEST_F(BrowserTest, FollowsConsoleAndServerThroughRestarts) {
-    Server server;
-    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
-    open(server);
+    start();
     const auto consoleStatus = [] { return page(u"document.getElementById('console').textContent"_s); };
     const auto serverStatus = [] { return page(u"document.getElementById('server').textContent"_s); };
 
@@ -282,34 +273,27 @@ TEST_F(BrowserTest, FollowsConsoleAndServerThroughRestarts) {
     console_.disconnectFromHost();
     EXPECT_TRUE(becomes(consoleStatus, u"Console disconnected at "_s));
 
-    const QStringList samePorts = {u"--amcp"_s, server.amcpPort(), u"--http"_s, server.httpPort()};
-    EXPECT_TRUE(server.stop());
+    const QStringList samePorts = {u"--amcp"_s, server_.amcpPort(), u"--http"_s, server_.httpPort()};
+    EXPECT_TRUE(server_.stop());
     EXPECT_TRUE(becomes(serverStatus, u"does not answer"_s));
-    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s), samePorts));
+    ASSERT_TRUE(server_.start(test::demoPath(u"templates"_s), samePorts));
     EXPECT_TRUE(becomes(serverStatus, u"Following"_s));
     EXPECT_TRUE(becomes(consoleStatus, u"No console yet: connect it to 127.0.0.1:"_s));
-    EXPECT_TRUE(server.stop());
 }
 
 TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
-    Server server;
-    ASSERT_TRUE(server.start(test::demoPath(u"templates"_s)));
+    start();
     const QString longName = u"Κωνσταντίνος-Αλέξανδρος Παπαχατζηθεοδωροπουλόπουλος von Wolfeschlegelsteinhausen"_s;
     QString data;
-    for (const char* field :
-         {"HOME", "AWAY", "NAME",  "TITLE",       "TEAM",       "LINE2",  "LABEL",    "COACH", "EXTRA",
-          "P1",   "P12",  "FIRST", "NOTE",        "L1",         "L5",     "F1",       "R1",    "H2",
-          "H7",   "R1C2", "VENUE", "COMPETITION", "COACHLABEL", "PLAYED", "HOMESHORT"}) {
-        data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"%2\"></data></componentData>)"_s.arg(
-            QLatin1String(field), longName);
-    }
-    for (const char* field : {"NUMBER", "SCOREA", "SCOREB", "N1", "N12", "A1", "B1", "V1", "V5", "R1C7", "PHOTO"}) {
-        data += uR"(<componentData id=\"%1\"><data type=\"txt\" ani=\"0\" value=\"188\"></data></componentData>)"_s.arg(
-            QLatin1String(field));
-    }
-    const QStringList names = {u"scorebug"_s,   u"lowerthird"_s, u"lineup"_s,  u"clock"_s,
-                               u"titles"_s,     u"comparison"_s, u"table"_s,   u"startingfive"_s,
-                               u"statistics"_s, u"timeout"_s,    u"fulltime"_s};
+    const QString texts =
+        u"HOME AWAY NAME TITLE TEAM LINE2 LABEL COACH EXTRA P1 P12 FIRST NOTE L1 L5 F1 R1 H2 H7 R1C2 VENUE COMPETITION "
+        "COACHLABEL PLAYED HOMESHORT"_s;
+    for (const QString& id : texts.split(u' ')) data += field(id, longName);
+    for (const QString& id : u"NUMBER SCOREA SCOREB N1 N12 A1 B1 V1 V5 R1C7 PHOTO"_s.split(u' '))
+        data += field(id, u"188"_s);
+    const QStringList names =
+        u"scorebug lowerthird lineup clock titles comparison table startingfive statistics timeout fulltime"_s.split(
+            u' ');
     // Every text that shows: inside the safe area, with the look for 4:3 sets that of the middle, and inside its box.
     const QString outside =
         u"half = document.body.classList.contains('narrow') ? innerHeight * 0.6 : innerWidth * 0.45;"
@@ -319,7 +303,6 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
         "    inner.left < innerWidth / 2 - half - 1 || inner.right > innerWidth / 2 + half + 1 ||"
         "    inner.top < innerHeight * 0.05 - 1 || inner.bottom > innerHeight * 0.95 + 1); }).map(text =>"
         "  text.parentElement.dataset.field ?? text.parentElement.id).join()"_s;
-    open(server);
     for (const QString& aspect : {u"16:9"_s, u"4:3"_s}) {
         page(
             u"{ const choice = document.getElementById('aspect'); choice.value = '%1';"
@@ -346,7 +329,6 @@ TEST_F(BrowserTest, FitsLongNamesIntoTheSafeArea) {
         }
         send(u"CLEAR 1"_s);
     }
-    EXPECT_TRUE(server.stop());
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "rehearsal/amcp_interpreter.h"
 #include "rehearsal/amcp_tokenizer.h"
+#include "support/cases.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,9 +48,8 @@ class Protocol : public testing::Test {
     QString calls(int channel, int layer) const {
         static const QStringList kNames = {u"update"_s, u"play"_s, u"stop"_s, u"next"_s, u"remove"_s, u"invoke"_s};
         QStringList made;
-        for (const TemplateCall& call : foreground(channel, layer).history.calls()) {
+        for (const TemplateCall& call : foreground(channel, layer).history.calls())
             made.append(u"%1(%2)"_s.arg(kNames[static_cast<int>(call.function)], call.argument));
-        }
         return made.join(u' ');
     }
 
@@ -85,89 +85,57 @@ TEST_F(Protocol, RepliesLikeTheRealServer) {
     EXPECT_EQ(compared, 140);
 }
 
-// One show in the order of the rows: each reply depends on what the rows before it put on air.
+// One show in the order of the lines, each "LINE -> REPLY": what is answered depends on what came before it.
 TEST_F(Protocol, AnswersAShow) {
-    const std::vector<std::pair<const char*, const char*>> rows = {
-        {"ping a \"b c\"", "PONG a b c\r\n"},
-        {"REQ abc CG 1-20 STOP 1", "RES abc 403 CG STOP FAILED\r\n"},
-        {"PLAY 1-10000 #FF0000", "202 PLAY OK\r\n"},
-        {"INFO 1-20", "201 INFO OK\r\n<channel><format>720p5000</format><stage/></channel>\r\n"},
-        // Templates: nothing there yet.
-        {"CG 1-20 ADD 1 ../bug 1", "404 CG ADD FAILED\r\n"},
-        {"CG 1-20 ADD 1 bug 1 \"\"", "403 CG ADD FAILED\r\n"},
-        {"CG 1-20 ADD 1 bug 1 stored", "404 CG ADD FAILED\r\n"},
-        {"DATA STORE Names \"<a v=\\\"K\\\"/>\"", "202 DATA STORE OK\r\n"},
-        {"DATA LIST", "200 DATA LIST OK\r\nNames\r\n\r\n"},
-        {"CG 1-21 ADD 1 bug 1 names", "202 CG OK\r\n"},
-        {"CG 1-21 CLEAR", "202 CG OK\r\n"},
-        // Templates: one on air.
-        {"cg 1-20 add 1 \"BUG\" 1 \"<a v=\\\"J\\\"/>\"", "202 CG OK\r\n"},
-        {"CG 1-20 UPDATE 1 \"{\\\"a\\\":1}\"", "202 CG OK\r\n"},
-        {"CG 1-20 UPDATE 1 stored", "404 CG UPDATE FAILED\r\n"},
-        {"CG 1-20 NEXT 1", "202 CG OK\r\n"},
-        {"CG 1-20 INVOKE 1 f", "202 CG OK\r\n"},
-        {"CG 1-20 STOP x", "501 CG STOP FAILED\r\n"},
-        {"CG 1-20 STOP 1", "202 CG OK\r\n"},
-        {"CG 1-20 STOP 1", "202 CG OK\r\n"},
-        {"CG 1-20 REMOVE 1", "202 CG OK\r\n"},
-        {"CG 1-20 STOP 1", "403 CG STOP FAILED\r\n"},
-        // Layers.
-        {"PLAY 1-20", "202 PLAY OK\r\n"},
-        {"PLAY 1-20 missing", "404 PLAY FAILED\r\n"},
-        {"PLAY 1-20 #12345", "404 PLAY FAILED\r\n"},
-        {"PLAY 1-20 #80FF0000 MIX 20", "202 PLAY OK\r\n"},
-        {"CG 1-20 STOP 1", "403 CG STOP FAILED\r\n"},
-        {"LOADBG 1-20 logo AUTO", "202 LOADBG OK\r\n"},
-        {"LOAD 2-1 [HTML] bug", "202 LOAD OK\r\n"},
-        {"PAUSE 1-20", "202 PAUSE OK\r\n"},
-        {"INFO 1-20",
-         "201 INFO "
-         "OK\r\n<channel><format>720p5000</format><stage><layer><number>20</number><paused>true</"
-         "paused><foreground><producer>color"
-         "</producer><name>#FF000080</name></foreground><background><producer>image</producer><name>logo.png</name>"
-         "</background></layer></stage></channel>\r\n"},
-        {"RESUME 1-20", "202 RESUME OK\r\n"},
-        {"STOP 1-20", "202 STOP OK\r\n"},
-        {"CLEAR 1-20", "202 CLEAR OK\r\n"},
-        // The mixer.
-        {"MIXER 1-20 OPACITY 0.5 25 easeinsine", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 OPACITY nan", "501 MIXER OPACITY FAILED\r\n"},
-        {"MIXER 1-20 OPACITY 0.25 DEFER", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 OPACITY", "201 MIXER OK\r\n0.5\r\n"},
-        {"MIXER 1 COMMIT", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 OPACITY", "201 MIXER OK\r\n0.25\r\n"},
-        {"MIXER 1-20 ANCHOR 0.25 1", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 ANCHOR", "201 MIXER OK\r\n0.250000 1.000000\r\n"},
-        {"MIXER 1-20 CHROMA 1", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 BLEND sepia", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 BLEND", "201 MIXER OK\r\nnormal\r\n"},
-        {"MIXER 1 MASTERVOLUME 2", "202 MIXER OK\r\n"},
-        {"MIXER 1 MASTERVOLUME", "201 MIXER OK\r\n2\r\n"},
-        {"MIXER 1 GRID 2", "202 MIXER OK\r\n"},
-        {"MIXER 1-4 FILL", "201 MIXER OK\r\n0.500000 0.500000 0.500000 0.500000\r\n"},
-        {"MIXER 1 CLEAR", "202 MIXER OK\r\n"},
-        {"MIXER 1-20 ANCHOR", "201 MIXER OK\r\n0.000000 0.000000\r\n"},
-        // Channels.
-        {"SET 2 MODE pal", "202 SET MODE OK\r\n"},
-        {"SET 2 MODE 13", "501 SET MODE FAILED\r\n"},
-        {"INFO", "200 INFO OK\r\n1 720p5000 PLAYING\r\n2 PAL PLAYING\r\n\r\n"},
-        {"ADD 2-700 FILE a.mov", "202 ADD OK\r\n"},
-        {"INFO 2-9", "201 INFO OK\r\n<channel><format>PAL</format><output>FILE a.mov</output><stage/></channel>\r\n"},
-        {"REMOVE 2-700", "202 REMOVE OK\r\n"},
-        {"SWAP 1-1 3-1", "501 SWAP FAILED\r\n"},
-        {"SWAP 1-1 2", "501 SWAP FAILED\r\n"},
+    const auto expect = [this](const auto&... cases) {
+        test::forCases(
+            [this](const QString& line, const QString& reply) {
+                EXPECT_EQ(answer(line).toStdString(), reply.toStdString() + "\r\n") << qPrintable(line);
+            },
+            cases...);
     };
-    for (const auto& [line, reply] : rows) {
-        EXPECT_EQ(answer(QString::fromUtf8(line)).toStdString(), reply) << line;
-    }
-}
-
-TEST_F(Protocol, RefusesWhatIsNotACommand) {
-    for (const QString& line :
-         {u"  "_s, u"NOPE 1-20 \"x\""_s, u"CG 1-20 NOPE 1"_s, u"CG 1-20"_s, u"CG"_s, u"CG ADD 1 bug 1"_s,
-          u"CG 1-20 ADD 1 bug"_s, u"COMMIT"_s, u"PLAY -1-20 RED"_s, u"PLAY 99999999999 RED"_s}) {
+    expect("ping a \"b c\" -> PONG a b c", "REQ abc CG 1-20 STOP 1 -> RES abc 403 CG STOP FAILED",
+           "PLAY 1-10000 #FF0000 -> 202 PLAY OK",
+           "INFO 1-20 -> 201 INFO OK\r\n<channel><format>720p5000</format><stage/></channel>");
+    // Templates: nothing there yet, then one on air.
+    expect("CG 1-20 ADD 1 ../bug 1 -> 404 CG ADD FAILED", "CG 1-20 ADD 1 bug 1 \"\" -> 403 CG ADD FAILED",
+           "CG 1-20 ADD 1 bug 1 stored -> 404 CG ADD FAILED",
+           "DATA STORE Names \"<a v=\\\"K\\\"/>\" -> 202 DATA STORE OK", "DATA LIST -> 200 DATA LIST OK\r\nNames\r\n",
+           "CG 1-21 ADD 1 bug 1 names -> 202 CG OK", "CG 1-21 CLEAR -> 202 CG OK",
+           "cg 1-20 add 1 \"BUG\" 1 \"<a v=\\\"J\\\"/>\" -> 202 CG OK",
+           "CG 1-20 UPDATE 1 \"{\\\"a\\\":1}\" -> 202 CG OK", "CG 1-20 UPDATE 1 stored -> 404 CG UPDATE FAILED",
+           "CG 1-20 NEXT 1 -> 202 CG OK", "CG 1-20 INVOKE 1 f -> 202 CG OK", "CG 1-20 STOP x -> 501 CG STOP FAILED",
+           "CG 1-20 STOP 1 -> 202 CG OK", "CG 1-20 STOP 1 -> 202 CG OK", "CG 1-20 REMOVE 1 -> 202 CG OK",
+           "CG 1-20 STOP 1 -> 403 CG STOP FAILED");
+    // Layers.
+    expect(
+        "PLAY 1-20 -> 202 PLAY OK", "PLAY 1-20 missing -> 404 PLAY FAILED", "PLAY 1-20 #12345 -> 404 PLAY FAILED",
+        "PLAY 1-20 #80FF0000 MIX 20 -> 202 PLAY OK", "CG 1-20 STOP 1 -> 403 CG STOP FAILED",
+        "LOADBG 1-20 logo AUTO -> 202 LOADBG OK", "LOAD 2-1 [HTML] bug -> 202 LOAD OK", "PAUSE 1-20 -> 202 PAUSE OK",
+        "INFO 1-20 -> 201 INFO "
+        "OK\r\n<channel><format>720p5000</format><stage><layer><number>20</number><paused>true</"
+        "paused><foreground><producer>color</producer><name>#FF000080</name></foreground><background><producer>image</"
+        "producer><name>logo.png</name></background></layer></stage></channel>",
+        "RESUME 1-20 -> 202 RESUME OK", "STOP 1-20 -> 202 STOP OK", "CLEAR 1-20 -> 202 CLEAR OK");
+    // The mixer.
+    expect("MIXER 1-20 OPACITY 0.5 25 easeinsine -> 202 MIXER OK", "MIXER 1-20 OPACITY nan -> 501 MIXER OPACITY FAILED",
+           "MIXER 1-20 OPACITY 0.25 DEFER -> 202 MIXER OK", "MIXER 1-20 OPACITY -> 201 MIXER OK\r\n0.5",
+           "MIXER 1 COMMIT -> 202 MIXER OK", "MIXER 1-20 OPACITY -> 201 MIXER OK\r\n0.25",
+           "MIXER 1-20 ANCHOR 0.25 1 -> 202 MIXER OK", "MIXER 1-20 ANCHOR -> 201 MIXER OK\r\n0.250000 1.000000",
+           "MIXER 1-20 CHROMA 1 -> 202 MIXER OK", "MIXER 1-20 BLEND sepia -> 202 MIXER OK",
+           "MIXER 1-20 BLEND -> 201 MIXER OK\r\nnormal", "MIXER 1 MASTERVOLUME 2 -> 202 MIXER OK",
+           "MIXER 1 MASTERVOLUME -> 201 MIXER OK\r\n2", "MIXER 1 GRID 2 -> 202 MIXER OK",
+           "MIXER 1-4 FILL -> 201 MIXER OK\r\n0.500000 0.500000 0.500000 0.500000", "MIXER 1 CLEAR -> 202 MIXER OK",
+           "MIXER 1-20 ANCHOR -> 201 MIXER OK\r\n0.000000 0.000000");
+    // Channels.
+    expect("SET 2 MODE pal -> 202 SET MODE OK", "SET 2 MODE 13 -> 501 SET MODE FAILED",
+           "INFO -> 200 INFO OK\r\n1 720p5000 PLAYING\r\n2 PAL PLAYING\r\n", "ADD 2-700 FILE a.mov -> 202 ADD OK",
+           "INFO 2-9 -> 201 INFO OK\r\n<channel><format>PAL</format><output>FILE a.mov</output><stage/></channel>",
+           "REMOVE 2-700 -> 202 REMOVE OK", "SWAP 1-1 3-1 -> 501 SWAP FAILED", "SWAP 1-1 2 -> 501 SWAP FAILED");
+    // No commands.
+    for (const QString& line : {u"  "_s, u"CG ADD 1 bug 1"_s, u"CG 1-20 ADD 1 bug"_s, u"COMMIT"_s, u"PLAY -1-20 RED"_s,
+                                u"PLAY 99999999999 RED"_s})
         EXPECT_EQ(answer(line).toStdString(), "400 ERROR\r\n" + line.toStdString() + "\r\n");
-    }
 }
 
 TEST_F(Protocol, MakesTheTemplateCallsInOrder) {
@@ -233,9 +201,8 @@ TEST_F(Protocol, KeepsOthersOffALockedChannel) {
 }
 
 TEST_F(Protocol, CarriesOutABatchOnCommit) {
-    for (const QString& line : {u"BEGIN"_s, u"PLAY 1-1 red"_s, u"REQ 7 PLAY 1-2 nope"_s}) {
+    for (const QString& line : {u"BEGIN"_s, u"PLAY 1-1 red"_s, u"REQ 7 PLAY 1-2 nope"_s})
         EXPECT_EQ(answer(line), QString());
-    }
     EXPECT_EQ(answer(u"NOPE"_s), u"400 ERROR\r\nNOPE\r\n"_s);
     EXPECT_TRUE(stage_.layers(1).empty());
     EXPECT_EQ(answer(u"REQ 8 COMMIT"_s), u"RES 7 404 PLAY FAILED\r\nRES 8 202 COMMIT OK\r\n"_s);
@@ -251,22 +218,16 @@ TEST_F(Protocol, CarriesOutABatchOnCommit) {
 
 TEST_F(Protocol, DoesNotGrowWithoutEnd) {
     answer(u"CG 1-20 ADD 1 bug 1 \"<first/>\""_s);
-    for (int i = 0; i < 1000; ++i) {
-        answer(u"CG 1-20 UPDATE 1 \"<n%1/>\""_s.arg(i));
-    }
+    for (int i = 0; i < 1000; ++i) answer(u"CG 1-20 UPDATE 1 \"<n%1/>\""_s.arg(i));
     EXPECT_EQ(foreground(1, 20).history.calls().size(), CallHistory::kMaxCalls);
     EXPECT_TRUE(calls(1, 20).startsWith(u"update(<first/>) play() update(<n8"_s));
     EXPECT_TRUE(calls(1, 20).endsWith(u"update(<n999/>)"_s));
 
     const QString large(CallHistory::kMaxText / 3, u'x');
-    for (int i = 0; i < 20; ++i) {
-        answer(u"CG 1-20 UPDATE 1 \"<%1/>\""_s.arg(large));
-    }
+    for (int i = 0; i < 20; ++i) answer(u"CG 1-20 UPDATE 1 \"<%1/>\""_s.arg(large));
     EXPECT_LE(calls(1, 20).size(), CallHistory::kMaxText + 200);
 
-    for (int layer = 100; layer < 500; ++layer) {
-        answer(u"PLAY 1-%1 red"_s.arg(layer));
-    }
+    for (int layer = 100; layer < 500; ++layer) answer(u"PLAY 1-%1 red"_s.arg(layer));
     EXPECT_EQ(stage_.layers(1).size(), Stage::kMaxLayersInUse);
     EXPECT_EQ(answer(u"PLAY 1-600 red"_s), u"501 PLAY FAILED\r\n"_s);
     EXPECT_EQ(answer(u"MIXER 1-600 OPACITY 0"_s), u"501 MIXER OPACITY FAILED\r\n"_s);

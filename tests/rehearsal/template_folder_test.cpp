@@ -44,13 +44,10 @@ TEST_F(TemplateFolderTest, FindsByNameAndNeverLeavesTheFolder) {
         {u"sub folder/line"_s, u"Sub Folder/Line.HTML"_s},
         {u"Sub Folder\\line"_s, u"Sub Folder/Line.HTML"_s},
     };
-    const QStringList notFound{u"folder"_s,        u"missing"_s,
-                               QString(),          u"../secret"_s,
-                               u"..\\secret"_s,    u"pictures/../bug"_s,
-                               u"./bug"_s,         u"/bug"_s,
-                               u"pictures//bug"_s, path(u"templates/bug.html"_s),
-                               u"link"_s,          u"up/secret"_s,
-                               u"bug\0"_s};
+    const QStringList notFound =
+        u"folder|missing||../secret|..\\secret|pictures/../bug|./bug|/bug|pictures//bug|link|up/secret|bug\0"_s.split(
+            u'|') +
+        QStringList{path(u"templates/bug.html"_s)};
     for (const QString& root : {u"templates"_s, u"root"_s}) {
         const TemplateFolder folder(path(root));
         for (const auto& [name, found] : rows) EXPECT_EQ(folder.findTemplate(name), found) << qPrintable(name);
