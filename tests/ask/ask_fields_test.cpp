@@ -13,14 +13,9 @@ const char* const kPlayer =
     "%:3\r\nASKTITLE:Player\r\nGETCODE:id\r\nDISPLAY:name\r\nAUTOTAG:PLAYER\r\nSQL:select 1: cut here\r\n";
 
 TEST(AskFields, areReadBlockByBlock) {
-    struct Case {
-        std::optional<QByteArray> file;
-        int tableSize;
-        QString title;  // of field 3, where there is one
-        QString error;  // what the message begins with
-    };
     const QByteArray player = kPlayer;
-    const std::vector<Case> cases{
+    // The file, the size of the table, the title of field 3 where there is one, how the message begins.
+    const std::tuple<std::optional<QByteArray>, int, QString, QString> cases[]{
         {std::nullopt, 2, {}, u"Error 53"_s},
         {"", 2, {}, {}},
         {"a line outside of every block\r\n" + player + "\r\nSQL:another\r\n", 4, u"Player"_s, {}},
@@ -32,23 +27,23 @@ TEST(AskFields, areReadBlockByBlock) {
         {player + "%:-1\r\n", 4, u"Player"_s, u"Error 9"_s},
         {player + "%:team\r\n", 4, u"Player"_s, u"Error 13"_s},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.file.value_or("no file").toStdString());
+    for (const auto& [file, tableSize, title, error] : cases) {
+        SCOPED_TRACE(file.value_or("no file").toStdString());
         EngineBench bench;
-        if (c.file) bench.write(u"QRD_TT/ASKFIELDS.TXT"_s, *c.file);
+        if (file) bench.write(u"QRD_TT/ASKFIELDS.TXT"_s, *file);
         bench.state.ask.ASK_FIELDS.resize(50);
         LOAD_ASK(bench.state, bench.program);
         const std::vector<AskField>& fields = bench.state.ask.ASK_FIELDS;
-        ASSERT_EQ(static_cast<int>(fields.size()), c.tableSize);
+        ASSERT_EQ(static_cast<int>(fields.size()), tableSize);
         EXPECT_TRUE(fields[0].title.isEmpty());
-        if (!c.title.isEmpty()) {
-            EXPECT_EQ(fields[3].title, c.title);
+        if (!title.isEmpty()) {
+            EXPECT_EQ(fields[3].title, title);
             EXPECT_EQ(fields[3].autoTag, u"PLAYER"_s);
             EXPECT_EQ(fields[3].sql, u"select 1"_s);
         }
         const QString shown = bench.operatorDesk.shown.join(u'\n');
-        EXPECT_EQ(shown.isEmpty(), c.error.isEmpty());
-        EXPECT_TRUE(shown.startsWith(c.error)) << shown.toStdString();
+        EXPECT_EQ(shown.isEmpty(), error.isEmpty());
+        EXPECT_TRUE(shown.startsWith(error)) << shown.toStdString();
     }
 }
 

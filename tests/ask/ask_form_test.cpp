@@ -38,12 +38,7 @@ class AskForm : public testing::Test {
 
 TEST_F(AskForm, answersByKeyboardAndMouse) {
     bench.rowsDatabase.fill({u"Άρης"_s, u"Βασίλης"_s, u"Γιώργος"_s});
-    struct Case {
-        const char* what;
-        std::function<void(QListWidget&)> act;
-        QString result;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, std::function<void(QListWidget&)>, QString> cases[]{
         {"letter and Enter",
          [](QListWidget& list) {
              QTest::sendKeyEvent(QTest::Click, &list, Qt::Key_unknown, u"β"_s, {});
@@ -63,16 +58,16 @@ TEST_F(AskForm, answersByKeyboardAndMouse) {
         {"program closing", [&](QListWidget&) { bench.program.closing.begin(); }, u"-1"_s},
         {"program has closed", {}, u"-1"_s},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, act, result] : cases) {
+        SCOPED_TRACE(what);
         bench.state.ask.ASK_CANCELLED = 0;
-        if (c.act) {
-            open(c.act);
+        if (act) {
+            open(act);
         } else {
             AskFormDialog(bench.state, bench.rowsDatabase, bench.program).show({});
         }
-        EXPECT_EQ(bench.state.ask.ASK_RESULT, c.result);
-        EXPECT_EQ(bench.state.ask.ASK_CANCELLED, c.result == u"-1" ? -1 : 0);
+        EXPECT_EQ(bench.state.ask.ASK_RESULT, result);
+        EXPECT_EQ(bench.state.ask.ASK_CANCELLED, result == u"-1" ? -1 : 0);
     }
 }
 

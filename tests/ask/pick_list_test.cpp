@@ -47,26 +47,21 @@ TEST(PickList, leavesOutRowsWithoutAKey) {
 }
 
 TEST(PickList, isEmptyAfterOneMessageWhenItCannotBeRead) {
-    struct Case {
-        const char* what;
-        void (*spoil)(AskBench&);
-        QString says;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<const char*, void (*)(AskBench&), QString> cases[]{
         {"query", [](AskBench& bench) { bench.rowsDatabase.fails = true; }, u"no such table"_s},
         {"code column", [](AskBench& bench) { bench.state.ask.ASK_FIELDS[2].getCode = u"key"_s; }, u"\"key\""_s},
         {"text column", [](AskBench& bench) { bench.state.ask.ASK_FIELDS[2].display.clear(); }, u"no column \"\""_s},
         {"no field", [](AskBench& bench) { bench.state.ask.ASK_FIELD = 3; }, u"Error 9"_s},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, spoil, says] : cases) {
+        SCOPED_TRACE(what);
         AskBench bench;
         bench.rowsDatabase.fill({u"A"_s, u"B"_s});
-        c.spoil(bench);
+        spoil(bench);
         PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
         EXPECT_TRUE(list.rows().empty());
         ASSERT_EQ(bench.operatorDesk.shown.size(), 1);
-        EXPECT_TRUE(bench.operatorDesk.shown[0].contains(c.says)) << bench.operatorDesk.shown[0].toStdString();
+        EXPECT_TRUE(bench.operatorDesk.shown[0].contains(says)) << bench.operatorDesk.shown[0].toStdString();
         EXPECT_EQ(bench.state.ask.ASK_OPEN, -1);
         list.cancel();
         EXPECT_EQ(bench.state.ask.ASK_OPEN, 0);

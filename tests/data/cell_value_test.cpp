@@ -12,13 +12,7 @@ namespace {
 
 TEST(CellValue, keepsItsKindOrBecomesAText) {
     using Kind = Value::Kind;
-    struct Case {
-        ColumnKind column;
-        QByteArray bytes;
-        Kind kind;
-        QString text;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<ColumnKind, QByteArray, Kind, QString> cases[]{
         {ColumnKind::Integer, "2.5", Kind::Double, u"2.5"_s},
         {ColumnKind::Integer, "7 of 9", Kind::Text, u"7 of 9"_s},
         {ColumnKind::Integer, "", Kind::Text, u""_s},
@@ -37,10 +31,10 @@ TEST(CellValue, keepsItsKindOrBecomesAText) {
         {ColumnKind::Date, "tomorrow, perhaps", Kind::Text, u"tomorrow, perhaps"_s},
     };
     CharacterSet utf8;
-    for (const Case& c : cases) {
-        const Value value = cellValue(c.column, c.bytes, utf8);
-        EXPECT_EQ(value.kind(), c.kind) << c.bytes.toStdString();
-        EXPECT_EQ(value.text(), c.text) << c.bytes.toStdString();
+    for (const auto& [column, bytes, kind, text] : cases) {
+        const Value value = cellValue(column, bytes, utf8);
+        EXPECT_EQ(value.kind(), kind) << bytes.toStdString();
+        EXPECT_EQ(value.text(), text) << bytes.toStdString();
     }
 }
 

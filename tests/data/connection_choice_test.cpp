@@ -14,17 +14,10 @@ const char* const kTwoConnections =
     "4==no string\r\n"
     "2==Spare, moved==Driver=C;x='UTF8'\r\n";
 
-struct ChoiceCase {
-    QString commandLine;
-    std::vector<std::optional<QString>> answers;
-    QString proposed;  // in the box, as often as it was shown
-    int boxes;
-    QString found;
-    QString fatalNumber;  // of the message that ends the program; empty for none
-};
-
 TEST(ConnectionChoice, followsTheCommandLineAndTheOperator) {
-    const std::vector<ChoiceCase> cases{
+    // The command line, the answers, what is proposed in the box and how often it is shown, what is found, the number
+    // in the message that ends the program.
+    const std::tuple<QString, QList<std::optional<QString>>, QString, int, QString, QString> cases[]{
         {u""_s, {u"1"_s}, u"1"_s, 1, u"Driver=A;INITSTMT=set names 'utf8'"_s, {}},
         {u"3 /PREVIEW"_s, {u"2"_s}, u"3"_s, 1, u"Driver=C;x='UTF8'"_s, {}},
         {u"2"_s, {std::nullopt, u""_s, u"x"_s, u"70000"_s, u"2"_s}, u"2"_s, 5, u"Driver=C;x='UTF8'"_s, {}},
@@ -32,45 +25,41 @@ TEST(ConnectionChoice, followsTheCommandLineAndTheOperator) {
         {u""_s, {u"4"_s}, u"1"_s, 1, {}, u"4"_s},
         {u""_s, {std::nullopt}, u"1"_s, 2, {}, {}},  // the program is closing
     };
-    for (const ChoiceCase& c : cases) {
-        SCOPED_TRACE(c.commandLine.toStdString() + " -> " + c.found.toStdString() + c.fatalNumber.toStdString());
+    for (const auto& [commandLine, answers, proposed, boxes, found, fatalNumber] : cases) {
+        SCOPED_TRACE(commandLine.toStdString() + " -> " + found.toStdString() + fatalNumber.toStdString());
         Show show;
         show.writeConnections(kTwoConnections);
-        show.operatorDesk.answers = c.answers;
-        show.make(c.commandLine);
-        EXPECT_EQ(show.connections->GET_CONNECTION_STRING(), c.found);
+        show.operatorDesk.answers = answers;
+        show.make(commandLine);
+        EXPECT_EQ(show.connections->GET_CONNECTION_STRING(), found);
         const QString box =
             u"Επιλογή σύνδεσης|1\tMain\r\n2\tSpare\r\nshort\t\r\n4\tno string\r\n2\tSpare, moved\r\n|"_s;
-        EXPECT_EQ(show.operatorDesk.asked, QStringList(c.boxes, box + c.proposed));
-        const QString fatal = u"|Error find connection for ConnID:"_s + c.fatalNumber + u"\r\nProgram stop!!!"_s;
-        EXPECT_EQ(show.operatorDesk.shown, c.fatalNumber.isEmpty() ? QStringList() : QStringList(fatal));
-        EXPECT_EQ(show.program.closing.hasBegun(), c.found.isEmpty());
+        EXPECT_EQ(show.operatorDesk.asked, QStringList(boxes, box + proposed));
+        const QString fatal = u"|Error find connection for ConnID:"_s + fatalNumber + u"\r\nProgram stop!!!"_s;
+        EXPECT_EQ(show.operatorDesk.shown, fatalNumber.isEmpty() ? QStringList() : QStringList(fatal));
+        EXPECT_EQ(show.program.closing.hasBegun(), found.isEmpty());
     }
 }
 
 TEST(ConnectionChoice, reportsWhatCannotBeOpened) {
-    struct Case {
-        std::optional<QByteArray> file;
-        QString begins;
-    };
-    const std::vector<Case> cases{
+    const std::pair<std::optional<QByteArray>, QString> cases[]{
         {std::nullopt, u"Error 53\r\n"_s},
         {QByteArray(), u"|Error find connection for ConnID:1"_s},
         {"1==x==Driver=NoSuchDriver;Database=y", u"Error 3704\r\n"_s},
         {"1==x==Provider=SQLOLEDB.1;Data Source=y", u"Error 3704\r\n"_s},
         {"1==x== provider = MSDASQL.1;Driver=SQLite3;Database=x.db", {}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.file.value_or("no file").toStdString());
+    for (const auto& [file, begins] : cases) {
+        SCOPED_TRACE(file.value_or("no file").toStdString());
         Show show;
-        if (c.file) show.writeConnections(*c.file);
+        if (file) show.writeConnections(*file);
         show.operatorDesk.answers = {u"1"_s};
         show.make(u""_s);
         show.connections->CONNECTDATABASE();
         const QString shown = show.operatorDesk.shown.join(u'\n');
-        EXPECT_EQ(show.operatorDesk.shown.size(), c.begins.isEmpty() ? 0 : 1);
-        EXPECT_TRUE(shown.startsWith(c.begins)) << shown.toStdString();
-        EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), c.begins.isEmpty() ? 1 : 0);
+        EXPECT_EQ(show.operatorDesk.shown.size(), begins.isEmpty() ? 0 : 1);
+        EXPECT_TRUE(shown.startsWith(begins)) << shown.toStdString();
+        EXPECT_EQ(show.connections->RUN_QUERY({}, u"select 1"_s), begins.isEmpty() ? 1 : 0);
     }
 }
 

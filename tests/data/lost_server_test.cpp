@@ -5,7 +5,6 @@
 #include "data/connection_status.h"
 #include "mariadb_server.h"
 #include "show_fixture.h"
-#include "support/fake_ports.h"
 #include "support/wait.h"
 
 using namespace Qt::StringLiterals;

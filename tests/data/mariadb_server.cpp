@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <QDeadlineTimer>
-#include <QFile>
 #include <QStandardPaths>
 #include <QTcpServer>
 #include <QThread>

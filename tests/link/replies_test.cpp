@@ -7,13 +7,8 @@ using namespace zelvor;
 
 namespace {
 
-// Lines as a CasparCG 2.4.3 has answered them in one connection.
-struct Exchange {
-    QString line;
-    QByteArray reply;
-    QString refusal;  // empty: not refused
-};
-const Exchange kExchanges[] = {
+// Lines as a CasparCG 2.4.3 has answered them in one connection, and the refusal where it is one.
+const std::tuple<QString, QByteArray, QString> kExchanges[] = {
     {u"VERSION"_s, "201 VERSION OK\r\n2.4.3 fd9168c73 Stable\r\n", {}},
     {u"CG 1-20 ADD 1 nosuch 1"_s, "404 CG ADD FAILED\r\n", u"404 CG ADD FAILED"_s},
     {u"INFO"_s, "200 INFO OK\r\n1 720p5000 PLAYING\r\n404 CG ADD FAILED\r\n\r\n", {}},
@@ -36,14 +31,14 @@ const Exchange kExchanges[] = {
 TEST(ReplyMatcher, FindsTheLineOfEachReply) {
     QByteArray all;
     QStringList wanted;
-    for (const Exchange& each : kExchanges) {
-        all += each.reply;
-        if (!each.refusal.isEmpty()) wanted += each.line + u": " + each.refusal;
+    for (const auto& [line, reply, refusal] : kExchanges) {
+        all += reply;
+        if (!refusal.isEmpty()) wanted += line + u": " + refusal;
     }
     // In one packet, in threes, and dripping.
     for (const qsizetype piece : {all.size(), qsizetype{3}, qsizetype{1}}) {
         ReplyMatcher matcher;
-        for (const Exchange& each : kExchanges) matcher.sent({each.line, {}, 0});
+        for (const auto& [line, reply, refusal] : kExchanges) matcher.sent({line, {}, 0});
         QStringList refused;
         for (qsizetype i = 0; i < all.size(); i += piece) {
             for (const auto& answer : matcher.read(all.mid(i, piece))) {

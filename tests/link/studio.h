@@ -7,17 +7,6 @@
 
 namespace zelvor::test {
 
-// Half past eight in the evening; the pause before "PLAY" is what the test makes of it.
-class StudioClock : public FakeClock {
- public:
-    StudioClock() { time.setTime(QTime(20, 31, 7)); }
-    bool turnEvents(int count, qint64 longest) override {
-        return FakeClock::turnEvents(count, longest) && duringTurns();
-    }
-
-    std::function<bool()> duringTurns = [] { return true; };
-};
-
 // Takes what it is sent and says nothing.
 struct Server : LineServer {
     explicit Server(bool reads = true) : LineServer(reads ? Manner::Listens : Manner::NeverReads) {}
@@ -26,6 +15,7 @@ struct Server : LineServer {
 // The links with all they work on, in an application folder of their own.
 struct Studio {
     explicit Studio(bool withModules = true) {
+        clock.time.setTime(QTime(20, 31, 7));
         if (withModules) QDir(folder.path()).mkdir(QStringLiteral("MODULES"));
         program.trap.setReporter([this](const ErrorPlace&, const QString& message) { told += message; });
     }
@@ -36,6 +26,12 @@ struct Studio {
         links.link(id).connectTo(QStringLiteral("127.0.0.1"), server.port());
         waitUntil([&] { return links.state(id) == Graphics::kConnected && server.peer != nullptr; });
     }
+    // The same as the operator does it, on the main link.
+    void pressConnect(const Server& server) {
+        at("txtGASPARPORT").setText(server.port());
+        console.cmdGASPARCONNECT();
+        EXPECT_TRUE(isIn(LinkId::Main, Graphics::kConnected) && waitUntil([&] { return server.peer != nullptr; }));
+    }
     Control& at(const char* control, int index = -1) const { return *form.find(QString::fromLatin1(control), index); }
     QByteArray logFile() const {
         QFile file(folder.filePath(QStringLiteral("MODULES/CASPAROUT.TXT")));
@@ -44,7 +40,7 @@ struct Studio {
 
     QTemporaryDir folder;
     FormModel form;
-    StudioClock clock;
+    FakeClock clock;
     QStringList told;
     Program program{AppFolder(folder.path()), {}, ErrorTrap(folder.filePath(QStringLiteral("errors.log")))};
     GraphicsLinks links{form, clock, program};

@@ -22,15 +22,20 @@ class FakeOperator : public Operator {
         if (whileAsked) whileAsked();
         return answerYes;
     }
-    std::optional<QString> input(const Asker&, const QString& title, const QString& prompt, const QString&) override {
-        shown += title + u'|' + prompt;
-        if (answers.isEmpty()) throw RunTimeError(ErrorNumber::InputPastEndOfFile);
-        return answers.takeFirst();
+    std::optional<QString> input(const Asker&, const QString& title, const QString& prompt,
+                                 const QString& proposed) override {
+        asked += title + u'|' + prompt + u'|' + proposed;
+        if (!answers.isEmpty()) return answers.takeFirst();
+        if (closing == nullptr) throw RunTimeError(ErrorNumber::InputPastEndOfFile);
+        closing->begin();
+        return std::nullopt;
     }
 
     QStringList shown;
     std::vector<Asker> askers;  // of the messages
-    QStringList answers;
+    QStringList asked;
+    QList<std::optional<QString>> answers;  // nullopt: Cancel
+    Closing* closing = nullptr;             // begins once no answer is left
     bool answerYes = true;
     std::function<void()> whileAsked;
 };
@@ -74,7 +79,7 @@ class FakeClock : public Clock {
     bool turnEvents(int count, qint64) override {
         turns += count;
         if (const auto happens = std::exchange(whileTurning, {})) happens();
-        return true;
+        return goesOn;
     }
     bool waitBriefly() override {
         time = time.addMSecs(100);
@@ -85,6 +90,7 @@ class FakeClock : public Clock {
     QDateTime time{QDate(2026, 11, 21), QTime(23, 59, 58)};
     qint64 setForward = 0;  // milliseconds
     int turns = 0;
+    bool goesOn = true;  // what turnEvents() gives
     std::function<void()> whileWaiting;
     std::function<void()> whileTurning;  // once
 };
