@@ -11,13 +11,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "app_run/run_command.h"
+#include "support/told.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,13 +77,8 @@ TEST_P(CardScripts, KeepTheirPromises) {
 
     QStringList arguments{u"--app-folder"_s, folder_.path(), u"--vars"_s};
     for (const QString& more : promised(script, u"args"_s)) arguments += more.split(u' ');
-    QString output;
-    QString errors;
-    QTextStream out(&output);
-    QTextStream err(&errors);
-    const int status = static_cast<int>(runCard(arguments << name, out, err));
-
-    const QStringList seen = output.split(u'\n', Qt::SkipEmptyParts);
+    const test::Told told(runCard, arguments << name);
+    const QStringList seen = told.out.split(u'\n', Qt::SkipEmptyParts);
     QStringList air;
     for (const QString& line : script) {
         if (line.startsWith(u"# main > ") || line.startsWith(u"# remote > ")) air += line.mid(2);
@@ -97,10 +92,9 @@ TEST_P(CardScripts, KeepTheirPromises) {
             << variable.toStdString() << "\nseen:\n"
             << beginningWith(seen, {u"var > "_s + variable.section(u' ', 0, 0)}).join(u'\n').toStdString();
     }
-    for (const QString& variable : promised(script, u"novar"_s)) {
+    for (const QString& variable : promised(script, u"novar"_s))
         EXPECT_TRUE(beginningWith(seen, {u"var > "_s + variable + u" = "_s}).isEmpty()) << variable.toStdString();
-    }
-    const QString said = errors.simplified();
+    const QString said = told.err.simplified();
     qsizetype at = 0;
     for (const QString& text : promised(script, u"says"_s)) {
         at = said.indexOf(text, at);
@@ -109,12 +103,11 @@ TEST_P(CardScripts, KeepTheirPromises) {
 
     const QStringList error = promised(script, u"error"_s).join(QString()).split(u" @ "_s);
     if (error[0].isEmpty()) {
-        EXPECT_EQ(promised(script, u"status"_s).value(0, u"0"_s).toInt(), status) << errors.toStdString();
+        EXPECT_EQ(promised(script, u"status"_s).value(0, u"0"_s).toInt(), told.status) << qPrintable(told.err);
     } else {
-        EXPECT_EQ(1, status);
-        EXPECT_TRUE(errors.contains(u"Error "_s + error[0] + u"\r\n"_s)) << errors.toStdString();
-        const QString line = u"Line "_s + error.value(1);
-        EXPECT_TRUE(errors.contains(line)) << errors.toStdString();
+        EXPECT_EQ(1, told.status);
+        for (const QString& part : QStringList{u"Error "_s + error[0] + u"\r\n"_s, u"Line "_s + error.value(1)})
+            EXPECT_TRUE(told.err.contains(part)) << qPrintable(told.err);
     }
 }
 

@@ -10,67 +10,46 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
-#include <array>
 
 #include "app_check/check_command.h"
-#include "command_line/command_line.h"
+#include "support/told.h"
 
 using namespace Qt::StringLiterals;
+using zelvor::test::Told;
 
 namespace {
 
 const QString kBroken = QStringLiteral(TEST_DATA_DIR) + u"/broken"_s;
 
-struct CheckRun {
-    explicit CheckRun(const QStringList& arguments) {
-        QTextStream outStream(&out);
-        QTextStream errStream(&err);
-        try {
-            status = zelvor::runCheck(arguments, outStream, errStream);
-        } catch (const zelvor::UsageError& error) {
-            err = error.text;
-            status = zelvor::UsageError::kExitStatus;
-        }
-    }
-
-    QString out;
-    QString err;
-    int status = -1;
-};
+Told check(const QStringList& arguments) {
+    return {zelvor::runCheck, arguments};
+}
 
 TEST(Check, FindsEachFaultAndNoOther) {
     QTemporaryDir cards;
     ASSERT_TRUE(QDir(cards.path()).mkpath(u"MODULES"_s));
     ASSERT_TRUE(QFile::link(QStringLiteral(CARDS_FOLDER), cards.filePath(u"MODULES/QRD_TT"_s)));
-    struct Row {
-        QStringList arguments;
-        QString expected;
-    };
-    for (const Row& row :
-         {Row{{kBroken}, u"/expected.txt"_s}, Row{{cards.path(), u"TT"_s}, u"/expected_of_cards.txt"_s}}) {
-        QFile file(QStringLiteral(TEST_DATA_DIR) + row.expected);
+    for (const auto& [arguments, expected] : {std::pair{QStringList{kBroken}, u"/expected.txt"_s},
+                                              {{cards.path(), u"TT"_s}, u"/expected_of_cards.txt"_s}}) {
+        QFile file(QStringLiteral(TEST_DATA_DIR) + expected);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n');
-        const CheckRun check(QStringList{u"--app-folder"_s} + row.arguments);
-        const QStringList found = check.out.split(u'\n');
-        for (qsizetype i = 0; i < qMax(found.size(), expected.size()); ++i) {
-            EXPECT_EQ(found.value(i).toStdString(), expected.value(i).toStdString());
-        }
-        EXPECT_EQ(check.status, 1);
+        const Told told = check(QStringList{u"--app-folder"_s} + arguments);
+        EXPECT_EQ(told.out.toStdString(), file.readAll().toStdString());
+        EXPECT_EQ(told.status, 1);
     }
 }
 
 TEST(Check, HasNothingToSayAboutTheDemo) {
-    const CheckRun check({u"--app-folder"_s, QStringLiteral(DEMO_FOLDER)});
-    EXPECT_EQ(check.out.toStdString(), "0 errors, 0 warnings\n");
-    EXPECT_EQ(check.status, 0);
+    const Told told = check({u"--app-folder"_s, QStringLiteral(DEMO_FOLDER)});
+    EXPECT_EQ(told.out.toStdString(), "0 errors, 0 warnings\n");
+    EXPECT_EQ(told.status, 0);
 }
 
 TEST(Check, ReportsForOtherTools) {
     const auto report = [](const QString& format) {
-        const CheckRun check({u"--app-folder"_s, kBroken, u"--format"_s, format, u"FLOW"_s});
-        EXPECT_EQ(check.status, 1);
-        return QJsonDocument::fromJson(check.out.toUtf8()).object();
+        const Told told = check({u"--app-folder"_s, kBroken, u"--format"_s, format, u"FLOW"_s});
+        EXPECT_EQ(told.status, 1);
+        return QJsonDocument::fromJson(told.out.toUtf8()).object();
     };
     const QJsonObject json = report(u"json"_s);
     const QJsonObject first = json[u"findings"_s].toArray()[1].toObject();
@@ -84,24 +63,18 @@ TEST(Check, ReportsForOtherTools) {
 }
 
 TEST(Check, TellsItsUsage) {
-    struct Row {
-        QStringList arguments;
-        int status;
-        QString err;  // how it begins
+    const std::tuple<QStringList, int, QString> rows[]{
+        {{u"--help"_s}, 0, {}},
+        {{u"--app-folder"_s}, 2, u"--app-folder takes a value"_s},
+        {{u"--app-folder"_s, kBroken, u"FLOW"_s, u"WORDS"_s}, 2, u"one pack at a time"_s},
+        {{u"--app-folder"_s, kBroken, u"GONE"_s}, 2, u"no such pack: GONE"_s},
+        {{u"--app-folder"_s, kBroken + u"/none"_s}, 2, u"no such folder"_s},
     };
-    const std::array rows{
-        Row{{u"--help"_s}, 0, {}},
-        Row{{u"--fast"_s}, 2, u"unknown option --fast"_s},
-        Row{{u"--app-folder"_s}, 2, u"--app-folder takes a value"_s},
-        Row{{u"--app-folder"_s, kBroken, u"FLOW"_s, u"WORDS"_s}, 2, u"one pack at a time"_s},
-        Row{{u"--app-folder"_s, kBroken, u"GONE"_s}, 2, u"no such pack: GONE"_s},
-        Row{{u"--app-folder"_s, kBroken + u"/none"_s}, 2, u"no such folder"_s},
-    };
-    for (const Row& row : rows) {
-        const CheckRun check(row.arguments);
-        EXPECT_EQ(check.status, row.status) << qPrintable(row.arguments.join(u' '));
-        EXPECT_TRUE(check.err.startsWith(row.err)) << qPrintable(check.err);
-        EXPECT_EQ(check.out.isEmpty(), row.status == 2);
+    for (const auto& [arguments, status, err] : rows) {
+        const Told told = check(arguments);
+        EXPECT_EQ(told.status, status) << qPrintable(arguments.join(u' '));
+        EXPECT_TRUE(told.err.startsWith(err)) << qPrintable(told.err);
+        EXPECT_EQ(told.out.isEmpty(), status == 2);
     }
 }
 

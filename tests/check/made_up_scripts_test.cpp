@@ -70,19 +70,11 @@ class ScriptMaker {
     const QStringList kArguments{u"1"_s,     u"0"_s,        u"-2"_s,  u"20"_s,      u"2.5"_s,    u"70000"_s, u"abc"_s,
                                  u""_s,      u"{@A}"_s,     u"@X"_s,  u"@A"_s,      u"N{@A}"_s,  u"1-2"_s,   u"a|b|c"_s,
                                  u"a#b#c"_s, u"P:1##Q:2"_s, u"red"_s, u"lblTime"_s, u"txtS5A"_s, u"&HFF"_s,  u"x y"_s};
-    const QStringList kExpressions{u"1+{@A}"_s,
-                                   u"Len(\"{@A}\")"_s,
-                                   u"Left(\"abc\",{@A})"_s,
-                                   u"Abs(-1"_s,
-                                   u"Nobody(1)"_s,
-                                   u"Mid(\"abc\",2)"_s,
-                                   u"Left(\"abc\")"_s,
-                                   u"Not(True)"_s,
-                                   u"7 mod (4)"_s,
-                                   u"{@A}"_s,
-                                   u"IIf({@A}>3,\"Foo(\",'x')"_s,
-                                   u"Round(2.5) & vbCrLf"_s,
-                                   u"1/0"_s};
+    const QStringList kExpressions =
+        QStringLiteral(
+            "1+{@A}~Len(\"{@A}\")~Left(\"abc\",{@A})~Abs(-1~Nobody(1)~Mid(\"abc\",2)~Left(\"abc\")~Not(True)~"
+            "7 mod (4)~{@A}~IIf({@A}>3,\"Foo(\",'x')~Round(2.5) & vbCrLf~1/0")
+            .split(u'~');
     const QStringList kFormulas{u"2*({@A}+1]"_s, u"Sqr({@A})"_s, u"Squirt(1)"_s, u"|-3|+5%"_s,      u"max(1,2,{@A})"_s,
                                 u"width"_s,      u"(1+"_s,       u"2pi"_s,       u"Comb(5,{@A})"_s, u"1/0"_s};
     std::mt19937 random_{kSeed};

@@ -9,6 +9,7 @@
 #include "app_run/run_command.h"
 #include "demo_folder.h"
 #include "rehearsal/amcp_server.h"
+#include "support/told.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,21 +27,15 @@ class CardsAlone : public testing::TestWithParam<const char*> {
     }
 
     // Fires the card with its pick lists answered.
-    RunStatus fire(const QString& card, const QStringList& more = {}) {
-        output_.clear();
-        errors_.clear();
-        QTextStream out(&output_);
-        QTextStream err(&errors_);
+    test::Told fire(const QString& card, const QStringList& more = {}) {
         QStringList arguments{u"--app-folder"_s, folder_.path(), u"--language"_s, pack_};
         for (const QString& line : folder_.script(pack_, card).split(u'\n')) {
             if (line.startsWith(u"ASKFIELD~"_s)) arguments += {u"--answer"_s, test::kChoices[line.mid(9).toInt()]};
         }
-        return runCard(arguments + more + QStringList{card}, out, err);
+        return {runCard, arguments + more + QStringList{card}};
     }
 
     const QString pack_ = QString::fromLatin1(GetParam());
-    QString output_;
-    QString errors_;
     test::DemoFolder folder_;
     rehearsal::Stage stage_{2};
     rehearsal::TemplateFolder templates_{test::demoPath(u"templates"_s)};
@@ -54,32 +49,30 @@ TEST_P(CardsAlone, RunFromTheTerminal) {
     for (const QString& card : folder_.scripts(pack_)) {
         stage_.clearChannel(1);
         replies_.clear();
-        EXPECT_EQ(RunStatus::Ran, fire(card, {u"--main"_s, server_.address()})) << qPrintable(card);
-        EXPECT_EQ("", errors_.toStdString()) << qPrintable(card);
-        EXPECT_FALSE(output_.contains(u"NO DATA"_s)) << qPrintable(card);
-        EXPECT_EQ(output_.count(u"main > "_s), replies_.size()) << qPrintable(card);
+        const test::Told told = fire(card, {u"--main"_s, server_.address()});
+        EXPECT_EQ(u"0"_s, QString::number(told.status) + told.err) << qPrintable(card);
+        EXPECT_FALSE(told.out.contains(u"NO DATA"_s)) << qPrintable(card);
+        EXPECT_EQ(told.out.count(u"main > "_s), replies_.size()) << qPrintable(card);
         for (const QString& reply : replies_)
             EXPECT_TRUE(reply.startsWith(u"202"_s)) << qPrintable(card + u' ' + reply);
     }
 }
 
 TEST_P(CardsAlone, EndWithTheStatusOfWhatWentWrong) {
-    const struct {
-        QByteArray lines;
-        RunStatus status;
-    } cases[] = {
+    const std::pair<QByteArray, RunStatus> cases[] = {
         {"CSPSEND~CLEAR 1\n", RunStatus::Ran},
         {"CSPSEND~NONSENSE\nCSPSEND~CLEAR 1\n", RunStatus::NotReached},
         {"SQL~select nothing\n", RunStatus::Failed},
         {"CSPSEND~NONSENSE\nSQL~select nothing\n", RunStatus::Failed},
     };
-    for (const auto& each : cases) {
+    for (const auto& [lines, status] : cases) {
         QFile card(folder_.file(pack_, u"tried.csp"_s));
-        ASSERT_TRUE(card.open(QIODevice::WriteOnly) && card.write(each.lines) > 0);
+        ASSERT_TRUE(card.open(QIODevice::WriteOnly) && card.write(lines) > 0);
         card.close();
-        EXPECT_EQ(each.status, fire(u"tried.csp"_s, {u"--main"_s, server_.address()})) << each.lines.data();
-        EXPECT_EQ(each.lines.contains("NONSENSE"), errors_.contains(u"zelvor run: main: 400 ERROR"_s))
-            << qPrintable(errors_);
+        const test::Told told = fire(u"tried.csp"_s, {u"--main"_s, server_.address()});
+        EXPECT_EQ(static_cast<int>(status), told.status) << lines.data();
+        EXPECT_EQ(lines.contains("NONSENSE"), told.err.contains(u"zelvor run: main: 400 ERROR"_s))
+            << qPrintable(told.err);
     }
 }
 
@@ -94,9 +87,7 @@ TEST_P(CardsAlone, MissWhatTheCheckerSaysIsMissing) {
     ASSERT_TRUE(QFile::remove(folder_.file(pack_, u"player_fields.inc"_s)));
     ASSERT_TRUE(QFile::remove(folder_.file(pack_, u"timeout.csp"_s)));
 
-    QString found;
-    QTextStream out(&found);
-    EXPECT_EQ(1, runCheck({u"--app-folder"_s, folder_.path(), pack_}, out, out));
+    const QString found = test::Told(runCheck, {u"--app-folder"_s, folder_.path(), pack_}).out;
     static const QRegularExpression kCard(
         u"card (\\S+) does not exist|(\\w+\\.csp):\\d+: error: .*"
         "(the include \\S+ does not exist|has no field)"_s);
@@ -110,7 +101,7 @@ TEST_P(CardsAlone, MissWhatTheCheckerSaysIsMissing) {
 
     QSet<QString> failing;
     for (const QString& card : folder_.scripts(pack_) + QStringList{u"timeout.csp"_s}) {
-        if (fire(card) != RunStatus::Ran) failing.insert(card);
+        if (fire(card).status != 0) failing.insert(card);
     }
     EXPECT_EQ(named, failing) << qPrintable(QStringList(failing.values()).join(u' '));
 }

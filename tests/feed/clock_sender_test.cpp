@@ -1,43 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <QNetworkDatagram>
-
 #include "app_feed/clock_sender.h"
 #include "app_feed/feed_command.h"
-#include "command_line/command_line.h"
 #include "studio.h"
+#include "support/cases.h"
+#include "support/receiver.h"
+#include "support/told.h"
 
 using namespace Qt::StringLiterals;
 using namespace zelvor;
 using namespace zelvor::test;
-
-namespace {
-
-struct Receiver : QUdpSocket {
-    Receiver() {
-        connect(this, &QUdpSocket::readyRead, this, [this] {
-            while (hasPendingDatagrams()) heard += QString::fromLatin1(receiveDatagram().data());
-        });
-        bind(QHostAddress::LocalHost, 0);
-    }
-    QString address() const { return u"127.0.0.1:"_s + QString::number(localPort()); }
-
-    QStringList heard;
-};
-
-// What `zelvor feed` prints, and its exit status.
-std::pair<QString, int> runWith(const QStringList& arguments) {
-    QString printed;
-    QTextStream out(&printed);
-    try {
-        const int status = runFeed(arguments, out, out);
-        return {printed, status};
-    } catch (const UsageError& error) {
-        return {error.text, UsageError::kExitStatus};
-    }
-}
-
-}  // namespace
 
 TEST(ClockSender, CountsDownAndUpToTheEnd) {
     const std::pair<QStringList, QString> cases[] = {
@@ -47,11 +19,10 @@ TEST(ClockSender, CountsDownAndUpToTheEnd) {
     };
     for (const auto& [arguments, heard] : cases) {
         Receiver receiver;
-        const auto [printed, status] =
-            runWith(arguments + QStringList{u"--speed"_s, u"200"_s, u"--to"_s, receiver.address()});
-        EXPECT_EQ(status, 0);
+        const Told told(runFeed, arguments + QStringList{u"--speed"_s, u"200"_s, u"--to"_s, receiver.address()});
+        EXPECT_EQ(told.status, 0);
         const auto count = heard.count(u' ') + 1;
-        EXPECT_TRUE(printed.endsWith(QString::number(count) + u" datagrams sent\n"_s)) << printed.toStdString();
+        EXPECT_TRUE(told.out.endsWith(QString::number(count) + u" datagrams sent\n"_s)) << qPrintable(told.out);
         EXPECT_TRUE(waitUntil([&] { return receiver.heard.size() == count; }));
         EXPECT_EQ(receiver.heard.join(u' '), heard);
     }
@@ -82,17 +53,12 @@ TEST(ClockSender, PausesAndGoesOn) {
 }
 
 TEST(ClockSender, RefusesWrongUsage) {
-    const std::vector<std::pair<QStringList, QString>> cases{
-        {{u"--to"_s, u"localhost"_s}, u"--to takes HOST:PORT, not localhost"_s},
-        {{u"--from"_s, u"60:01"_s}, u"--from takes a clock from 0:00 to 60:00, not 60:01"_s},
-        {{u"--speed"_s, u"nan"_s}, u"--speed takes a number above 0, up to 1000, not nan"_s},
-        {{u"--speed"_s}, u"--speed takes a value"_s},
-        {{u"--fast"_s}, u"unknown option --fast"_s},
-        {{u"10:00"_s}, u"not understood: 10:00"_s},
+    const auto refuses = [](const QString& line, const QString& fault) {
+        const Told told(runFeed, line.split(u' '));
+        EXPECT_EQ(told.status, 2);
+        EXPECT_EQ(told.err, fault);
     };
-    for (const auto& [arguments, fault] : cases) {
-        const auto [printed, status] = runWith(arguments);
-        EXPECT_EQ(status, 2);
-        EXPECT_EQ(printed, fault);
-    }
+    forCases(refuses, "--to localhost -> --to takes HOST:PORT, not localhost",
+             "--from 60:01 -> --from takes a clock from 0:00 to 60:00, not 60:01",
+             "--speed nan -> --speed takes a number above 0, up to 1000, not nan", "10:00 -> not understood: 10:00");
 }

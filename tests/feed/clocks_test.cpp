@@ -7,13 +7,8 @@ using namespace zelvor;
 using namespace zelvor::test;
 
 TEST(LocalClock, ShowsTheTimeOrTheCountdown) {
-    struct Case {
-        int option;  // of optTIMERS; -1: neither
-        QTime now;
-        QString target;
-        QString left;  // lblCLOCK|@CLOCKS|@LOCALTIME
-    };
-    const Case cases[] = {
+    // Which of optTIMERS, -1 for neither; the time, the target, then lblCLOCK|@CLOCKS|@LOCALTIME.
+    const std::tuple<int, QTime, QString, QString> cases[] = {
         {0, QTime(9, 5, 7), u"bad"_s, u"09:05:07|09:05:07|09:05:07"_s},
         {-1, QTime(9, 5, 7), u"10:00:00"_s, u"00:00:00|-|09:05:07"_s},
         {1, QTime(0, 0, 5), u"00:00:10"_s, u"00:00:05|00:00:05|00:00:05"_s},
@@ -22,14 +17,14 @@ TEST(LocalClock, ShowsTheTimeOrTheCountdown) {
         {1, QTime(20, 0), u"25:61:00"_s, u"00:00:00|-|-"_s},
         {1, QTime(20, 0), QString(), u"00:00:00|-|-"_s},
     };
-    for (const Case& each : cases) {
+    for (const auto& [option, now, target, left] : cases) {
         Studio studio;
-        for (int i = 0; i < 2; ++i) studio.at("optTIMERS", i).setChecked(i == each.option);
-        studio.at("txtCOUNTDOWNTIME").setText(each.target);
-        studio.clock.time.setTime(each.now);
+        for (int i = 0; i < 2; ++i) studio.at("optTIMERS", i).setChecked(i == option);
+        studio.at("txtCOUNTDOWNTIME").setText(target);
+        studio.clock.time.setTime(now);
         studio.desk.localClock.tick();
         EXPECT_EQ(QString(studio.at("lblCLOCK").text() + u'|' + studio.variablesText({u"@CLOCKS"_s, u"@LOCALTIME"_s})),
-                  each.left);
+                  left);
         EXPECT_EQ(studio.operatorDesk.shown, QStringList());
     }
 }

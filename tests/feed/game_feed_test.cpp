@@ -13,21 +13,15 @@ constexpr auto kClock = GameFeed::Outcome::Clock;
 constexpr auto kPause = GameFeed::Outcome::Pause;
 constexpr auto kRefused = GameFeed::Outcome::Refused;
 
-struct FeedCase {
-    std::optional<QString> threshold;  // nullopt: extra time is not split off
-    QStringList datagrams;
-    GameFeed::Outcome outcome;  // of the last one
-    // @FULLTIMER|@TIMER|@TIMERNUMBER|@TIMEREXTRA|@TIMEREXTRANUMBER|@SHOWEXTRATIME|@EXTRATIMEONAIR|lblTime|lblETime
-    QString left;
-};
-
 const QStringList kFeedVariables{u"@FULLTIMER"_s,        u"@TIMER"_s,         u"@TIMERNUMBER"_s,   u"@TIMEREXTRA"_s,
                                  u"@TIMEREXTRANUMBER"_s, u"@SHOWEXTRATIME"_s, u"@EXTRATIMEONAIR"_s};
 
 }  // namespace
 
 TEST(GameFeed, SetsTheGameTimeAndSplitsExtraTime) {
-    const FeedCase cases[] = {
+    // The threshold, if extra time is split off; the datagrams and what becomes of the last; the variables, lblTime,
+    // lblETime.
+    const std::tuple<std::optional<QString>, QStringList, GameFeed::Outcome, QString> cases[] = {
         {std::nullopt, {u"xt45:00tt:t9:99t"_s}, kClock, u"45:00|45:00|4500| |0|0|0|45:00| "_s},
         {std::nullopt, {u"t0:05"_s}, kClock, u"0:05|0:05|5| |0|0|0|0:05| "_s},
         {std::nullopt, {u"t-1:05t"_s}, kClock, u"-1:05|-1:05|-105| |0|0|0|-1:05| "_s},
@@ -48,17 +42,17 @@ TEST(GameFeed, SetsTheGameTimeAndSplitsExtraTime) {
         {std::nullopt, {u"t99999999999t"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
         {u"abc"_s, {u"t9:58t"_s}, kRefused, u"-|-|-|-|-|-|-||"_s},
     };
-    for (const FeedCase& each : cases) {
+    for (const auto& [threshold, datagrams, outcome, left] : cases) {
         Studio studio;
-        studio.at("chkEAFTER").setChecked(each.threshold.has_value());
-        if (each.threshold) studio.at("txtEAFTER").setText(*each.threshold);
-        GameFeed::Outcome outcome = kPause;
-        for (const QString& datagram : each.datagrams) outcome = studio.desk.feed.handle(datagram);
-        SCOPED_TRACE(each.datagrams.join(u' ').toStdString());
-        EXPECT_EQ(outcome, each.outcome);
+        studio.at("chkEAFTER").setChecked(threshold.has_value());
+        if (threshold) studio.at("txtEAFTER").setText(*threshold);
+        GameFeed::Outcome last = kPause;
+        for (const QString& datagram : datagrams) last = studio.desk.feed.handle(datagram);
+        SCOPED_TRACE(datagrams.join(u' ').toStdString());
+        EXPECT_EQ(last, outcome);
         EXPECT_EQ(QString(studio.variablesText(kFeedVariables) + u'|' + studio.at("lblTime").text() + u'|' +
                           studio.at("lblETime").text()),
-                  each.left);
+                  left);
         EXPECT_EQ(studio.operatorDesk.shown, QStringList());
     }
 }
@@ -178,22 +172,15 @@ TEST(FeedStatus, SaysWhatKeepsTheClockFromFollowing) {
 
 TEST(FeedBoxes, AreMarkedWhileTheirTextIsOfNoUse) {
     Studio studio;
-    const struct {
-        const char* box;
-        QString text;
-        bool right;
-    } cases[] = {
-        {"txtEAFTER", u""_s, true},
-        {"txtEAFTER", u"4500"_s, true},
-        {"txtEAFTER", u"45:00"_s, false},
-        {"txtEAFTER", u"99999999999"_s, false},
-        {"txtCOUNTDOWNTIME", u"8:05"_s, true},
-        {"txtCOUNTDOWNTIME", u"20:30:00"_s, true},
-        {"txtCOUNTDOWNTIME", u"24:00:00"_s, false},
-        {"txtCOUNTDOWNTIME", u""_s, false},
+    // What is right, what is wrong.
+    const std::tuple<const char*, QStringList, QStringList> cases[] = {
+        {"txtEAFTER", {u""_s, u"4500"_s}, {u"45:00"_s, u"99999999999"_s}},
+        {"txtCOUNTDOWNTIME", {u"8:05"_s, u"20:30:00"_s}, {u"24:00:00"_s, u""_s}},
     };
-    for (const auto& each : cases) {
-        studio.at(each.box).setText(each.text);
-        EXPECT_EQ(studio.at(each.box).state().isEmpty(), each.right) << each.box << each.text.toStdString();
+    for (const auto& [box, right, wrong] : cases) {
+        for (const QString& text : right + wrong) {
+            studio.at(box).setText(text);
+            EXPECT_EQ(studio.at(box).state().isEmpty(), right.contains(text)) << box << text.toStdString();
+        }
     }
 }

@@ -20,13 +20,8 @@ QString inColour(const Studio& studio, const char* labels, Colour colour) {
 }  // namespace
 
 TEST(Scoreboard, FollowsTheScoresInBothModes) {
-    struct Case {
-        bool manual;
-        const char* control;
-        QString text;
-        QString left;  // lblScoreA|lblScoreB|@GREENSCOREA|@GREENSCOREB|@MANUALSCOREA|@MANUALSCOREB
-    };
-    const Case cases[] = {
+    // Manual mode, what changes and to what, then lblScoreA|lblScoreB|@GREENSCOREA|..B|@MANUALSCOREA|..B.
+    const std::tuple<bool, const char*, QString, QString> cases[] = {
         {false, "lblAutoScoreA", u"12"_s, u"12|0|12|-|-|-"_s},
         {false, "lblAutoScoreB", u"9 pts"_s, u"0|9 pts|-|9|-|-"_s},
         {false, "mnSCOREA", u"07"_s, u"0|0|-|-|7|-"_s},
@@ -35,15 +30,15 @@ TEST(Scoreboard, FollowsTheScoresInBothModes) {
         {true, "mnSCOREB", u"-3"_s, u"0|-3|-|-3|-|-3"_s},
         {true, "mnSCOREA", u"1e999"_s, u"0|0|-|-|-|-"_s},
     };
-    for (const Case& each : cases) {
+    for (const auto& [manual, control, text, left] : cases) {
         Studio studio;
-        studio.at("chkMANUAL").setChecked(each.manual);
-        studio.at(each.control).setText(each.text);
-        SCOPED_TRACE(each.left.toStdString());
+        studio.at("chkMANUAL").setChecked(manual);
+        studio.at(control).setText(text);
+        SCOPED_TRACE(left.toStdString());
         EXPECT_EQ(QString(studio.at("lblScoreA").text() + u'|' + studio.at("lblScoreB").text() + u'|' +
                           studio.variablesText(
                               {u"@GREENSCOREA"_s, u"@GREENSCOREB"_s, u"@MANUALSCOREA"_s, u"@MANUALSCOREB"_s})),
-                  each.left);
+                  left);
         EXPECT_EQ(studio.operatorDesk.shown, QStringList());
     }
 }
@@ -66,16 +61,6 @@ TEST(Scoreboard, SwitchesManualMode) {
         EXPECT_EQ(studio.at("lblAutoScoreB").foreColour(), manual ? colours::kRed : colours::kGreen);
         EXPECT_EQ(studio.at("lblLIVEBLINK").visible(), !manual);
         EXPECT_EQ(timer->isActive(), !manual);
-    }
-}
-
-TEST(Scoreboard, StepsTheManualScore) {
-    const QString afterButton[] = {u"1|7"_s, u"-1|7"_s, u"0|8"_s, u"0|6"_s, u"0|07"_s};  // mnSCOREA|mnSCOREB
-    for (int button = 0; button < 5; ++button) {
-        Studio studio;
-        studio.at("mnSCOREB").setText(u"07"_s);
-        studio.desk.scoreboard.cmdMANSCORE(button);
-        EXPECT_EQ(QString(studio.at("mnSCOREA").text() + u'|' + studio.at("mnSCOREB").text()), afterButton[button]);
     }
 }
 
@@ -119,28 +104,24 @@ TEST(PlayerLabels, MarkThePlayerAndSetHisAnswers) {
 }
 
 TEST(Proposals, RunTheCardAndMarkItUsed) {
-    struct Case {
-        QString tag;
-        bool taken;
-        QString answers;  // AUTOTAG_P|AUTOTAG_T
-    };
-    const Case cases[] = {
+    // The tag, whether it is taken, then AUTOTAG_P|AUTOTAG_T.
+    const std::tuple<QString, bool, QString> cases[] = {
         {u"17|N|stats.qrd|P:12##T:AWAY"_s, true, u"12|AWAY"_s},
         {u"17|Y|stats.qrd|"_s, true, u"-|-"_s},
         {u"17|N|stats.qrd|P:12##broken"_s, false, u"12|-"_s},
         {QString(), false, u"-|-"_s},
     };
-    for (const Case& each : cases) {
+    for (const auto& [tag, taken, answers] : cases) {
         Studio studio;
         studio.write(u"QRD_TT/stats.csp"_s, "ON~2\nCSPSEND~stats\n");
         studio.state.console.playerSelected = true;
-        studio.at("lblPROPOSED", 8).setTag(each.tag);
+        studio.at("lblPROPOSED", 8).setTag(tag);
         studio.desk.proposals.lblPROPOSED(8);
-        SCOPED_TRACE(each.tag.toStdString());
-        EXPECT_EQ(studio.graphics.sent, each.taken ? QStringList({u"mstats"_s}) : QStringList());
-        EXPECT_EQ(studio.database.statements.size(), each.taken ? 1 : 0);
-        EXPECT_EQ(studio.at("lblPROPOSED", 8).backColour().has_value(), each.taken);
-        EXPECT_EQ(studio.variablesText({u"AUTOTAG_P"_s, u"AUTOTAG_T"_s}), each.answers);
+        SCOPED_TRACE(tag.toStdString());
+        EXPECT_EQ(studio.graphics.sent, taken ? QStringList({u"mstats"_s}) : QStringList());
+        EXPECT_EQ(studio.database.statements.size(), taken ? 1 : 0);
+        EXPECT_EQ(studio.at("lblPROPOSED", 8).backColour().has_value(), taken);
+        EXPECT_EQ(studio.variablesText({u"AUTOTAG_P"_s, u"AUTOTAG_T"_s}), answers);
         EXPECT_NE(studio.at("cmbCARD", 2).state(), u"ON"_s) << "card buttons keep their states";
         EXPECT_FALSE(studio.state.console.playerSelected);
         EXPECT_EQ(studio.operatorDesk.shown, QStringList());

@@ -60,12 +60,7 @@ TEST(LiveStats, CorrectsDeletesAndListensAgain) {
     };
     const QByteArray two = with(with(kShot, "3pt", "2pt").replace(":80", ":81"), "57", "56");
     const QByteArray list = R"({"type":"playbyplay","actions":[)" + kShot + "]}";
-    struct Case {
-        QByteArrayList lines;
-        int home;
-        qsizetype actions;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<QByteArrayList, int, qsizetype> cases[]{
         {{kShot, kShot}, 57, 1},                                                 // told twice
         {{kShot, two}, 56, 1},                                                   // corrected
         {{two, kShot}, 56, 1},                                                   // the older version comes last
@@ -78,10 +73,10 @@ TEST(LiveStats, CorrectsDeletesAndListensAgain) {
          57,
          1},
     };
-    for (const Case& c : cases) {
-        const Listened heard(QByteArrayList{kTeams, kStatus} + c.lines);
-        EXPECT_EQ(heard.home(), c.home) << c.lines.join('\n').constData();
-        EXPECT_EQ(heard.actions().size(), c.actions) << c.lines.join('\n').constData();
+    for (const auto& [lines, home, actions] : cases) {
+        const Listened heard(QByteArrayList{kTeams, kStatus} + lines);
+        EXPECT_EQ(heard.home(), home) << lines.join('\n').constData();
+        EXPECT_EQ(heard.actions().size(), actions) << lines.join('\n').constData();
     }
 }
 
@@ -139,12 +134,7 @@ TEST(Daktronics, NeverShowsHalfAScore) {
     const QByteArray other = scoreboardPacket(0, " 9:27");
     QByteArray wrong = second;
     wrong[wrong.size() - 2] = wrong.at(wrong.size() - 2) == '0' ? '1' : '0';
-    struct Case {
-        QByteArray bytes;
-        int score;
-        QString refused;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<QByteArray, int, QString> cases[]{
         {first, 99, {}},
         {first + second, 100, {}},
         {scoreboardPacket(110, "8") + other, 98, {}},
@@ -156,13 +146,13 @@ TEST(Daktronics, NeverShowsHalfAScore) {
         {first + QByteArray("\x16xx\x02\x04zz\x17") + other, 99, u"1 packet malformed"_s},
         {'\x16' + QByteArray(100'000, '7') + other, 99, u"1 packet without end"_s},
     };
-    for (const Case& c : cases) {
+    for (const auto& [bytes, score, refused] : cases) {
         Refusals refusals;
         DaktronicsDecoder decoder(refusals);
         decoder.take(all, 0);
-        for (const char byte : c.bytes) decoder.take(QByteArray(1, byte), 0);
-        EXPECT_EQ(decoder.game().teams[0].score, c.score) << c.bytes.left(60).toPercentEncoding().constData();
-        EXPECT_EQ(refusals.text(), c.refused);
+        for (const char byte : bytes) decoder.take(QByteArray(1, byte), 0);
+        EXPECT_EQ(decoder.game().teams[0].score, score) << bytes.left(60).toPercentEncoding().constData();
+        EXPECT_EQ(refusals.text(), refused);
     }
     Refusals refusals;
     DaktronicsDecoder lenient(refusals, false);
