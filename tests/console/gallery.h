@@ -11,7 +11,6 @@
 
 #include "app_cards/cards_app.h"
 #include "support/line_server.h"
-#include "support/wait.h"
 
 namespace zelvor::test {
 
@@ -25,7 +24,11 @@ class Gallery {
         QFile file(folder.filePath(QStringLiteral("MODULES/") + name));
         if (file.open(QIODevice::WriteOnly)) file.write(bytes);
     }
-    // A pack "EN": set 1 holds `cards`, the rest of its 21 lines are empty; set 2 a card "Second".
+    void writeCard(const QByteArray& name, const QByteArray& script) const {
+        write(QStringLiteral("QRD_EN/%1.csp").arg(QString::fromLatin1(name)), script + "\r\n");
+    }
+    // A pack "EN": set 1 holds `cards`, the rest of its 21 lines are empty; set 2 a card "Second". Each card sends its
+    // script's name in capitals until another script is written, and CLEAR "CLEAR 1".
     void writePack(const QByteArrayList& cards, const QByteArray& head = {}) const {
         write(QStringLiteral("PACKS.TXT"), "EN;Basketball\r\n");
         write(QStringLiteral("QRD_EN/CONNECTIONS.TXT"), "1==Test==Driver=SQLite3;Database=test.db\r\n");
@@ -35,8 +38,13 @@ class Gallery {
         while (lines.size() < CardTable::kCards) lines += ",";
         QByteArrayList second(CardTable::kCards, ",");
         second[0] = "Second,second.csp";
-        write(QStringLiteral("QRD_EN/CARDS.TXT"), head + "SETNO:1,Game\r\n" + lines.join("\r\n") +
+        write(QStringLiteral("QRD_EN/CARDS.TXT"), head + "CLEAR:clear.csp\r\nSETNO:1,Game\r\n" + lines.join("\r\n") +
                                                       "\r\nSETNO:2,Players\r\n" + second.join("\r\n") + "\r\n");
+        for (const QByteArray& card : cards + second.first(1)) {
+            const QByteArray name = card.split(',').value(1).split('.').first();
+            if (!name.isEmpty()) writeCard(name, "CSPSEND~" + name.toUpper());
+        }
+        writeCard("clear", "FUNCTIONCARD\r\nCSPSEND~CLEAR 1");
     }
 
     // Starts the console; every box is answered with "1" and Enter and remembered with its title and text.

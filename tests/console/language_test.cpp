@@ -2,9 +2,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 
@@ -22,11 +19,10 @@ namespace {
 QSet<QString> knownWords() {
     const QString system =
         u"CLEAR ON AIR LIVE Main Connect Disconnect Connected Show Last XML CG Log caspar Extra after time Manual "
-        u"Score "
-        u"START STOP Start Stop Scores Effect Network Caspar Clocks Simple clock Countdown Mode Reload db vars Cards "
-        u"Display Vars "
-        u"General Screen mode Stored Variables pasted to clipboard Zelvor HH MM SS max Off Fast ON OFF none "
-        u"Ctrl Alt Shift Del Delete Up Down Enter Esc Tab CASPAROUT TXT MODULES invoke infodata dat txt csp"_s;
+        "Score START STOP Start Stop Scores Effect Network Caspar Clocks Simple clock Countdown Mode Reload db "
+        "vars Cards Display Vars General Screen mode Stored Variables pasted to clipboard Zelvor HH MM SS max Off "
+        "Fast ON OFF none Ctrl Alt Shift Del Delete Up Down Enter Esc Tab CASPAROUT TXT MODULES invoke infodata "
+        "dat txt csp"_s;
     const QString ofThisPack = u"Game Players Second Harbour City EN FOLDER app folder user error"_s;
     const QStringList words = QString(system + u' ' + ofThisPack).split(u' ');
     return {words.begin(), words.end()};
@@ -61,7 +57,7 @@ QStringList toldByWindows() {
 struct GreekConsole {
     GreekConsole() {
         at.writePack({"Σκορ,score.csp", "Ερώτηση,ask.csp", ",", ","}, "SHOWCONTROLS:YES\r\n");
-        at.write(u"QRD_EN/ask.csp"_s, "MSGBOX~Μήνυμα\r\n");
+        at.writeCard("ask", "MSGBOX~Μήνυμα");
         at.write(u"QRD_EN/infodata.dat"_s, {});
         at.adjust = [](CardsApp::Options& options) { options.keepsAsRun = false; };
         at.start();

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QScrollArea>
 
@@ -17,10 +16,7 @@ class TouchTest : public testing::Test {
  protected:
     TouchTest() {
         gallery.adjust = [](CardsApp::Options& options) { options.touch = true; };
-        gallery.writePack({"Score,score.csp", "Player,player.csp"}, "CLEAR:clear.csp\r\n");
-        gallery.write(u"QRD_EN/score.csp"_s, "CSPSEND~SCORE\r\n");
-        gallery.write(u"QRD_EN/player.csp"_s, "CSPSEND~PLAYER\r\n");
-        gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n");
+        gallery.writePack({"Score,score.csp", "Player,player.csp"});
         gallery.start();
         gallery.connectMain(peer);
         const QRect room = QGuiApplication::screens().constLast()->availableGeometry();
@@ -43,9 +39,6 @@ class TouchTest : public testing::Test {
     }
     QTest::QTouchEventSequence event() { return QTest::touchEvent(gallery.app->window().windowHandle(), finger.get()); }
     QPoint at(QWidget* widget, QPoint place) { return widget->mapTo(&gallery.app->window(), place); }
-    bool sent(const QStringList& lines) {
-        return waitUntil([&] { return peer.bytes.count('\n') >= lines.size(); }) && peer.takeLines() == lines;
-    }
 
     LineServer peer;
     Gallery gallery;
@@ -57,14 +50,14 @@ TEST_F(TouchTest, FingersPressAsTheMouseDoes) {
     for (QWidget* widget : {static_cast<QWidget*>(card), static_cast<QWidget*>(card),
                             gallery.find<QWidget>("cmbCARD", 1), gallery.find<QWidget>("GradientButtonAIR")})
         tap(widget);
-    EXPECT_TRUE(sent({u"SCORE"_s, u"PLAYER"_s, u"CLEAR 1"_s})) << "a double tap is one press";
+    EXPECT_TRUE(peer.heard({u"SCORE"_s, u"PLAYER"_s, u"CLEAR 1"_s})) << "a double tap is one press";
     // A long press is the right button's deed, in place of the left one's.
     int asked = 0;
     QObject::connect(&card->small(), &QAbstractButton::clicked, card, [&asked] { ++asked; });
     goDown(card);
     EXPECT_TRUE(waitUntil([&] { return asked == 1; }));
     lift(card);
-    EXPECT_TRUE(sent({u"SCORE"_s}));
+    EXPECT_TRUE(peer.heard({u"SCORE"_s}));
     goDown(card);
     event().move(0, at(card, {1, 300}));
     lift(card);
@@ -91,7 +84,7 @@ TEST_F(TouchTest, PlayersAndProposalsArePressedAsWell) {
     EXPECT_EQ(player.foreColour(), colours::kRed) << "lifting the finger presses nothing more";
     EXPECT_EQ(gallery.app->state().variables.text(u"AUTOTAG_O"), u"7");
     tap(gallery.find<QWidget>("lblPROPOSED", 2));
-    EXPECT_TRUE(sent({u"PLAYER"_s}));
+    EXPECT_TRUE(peer.heard({u"PLAYER"_s}));
 }
 
 TEST_F(TouchTest, WhatIsPressedIsLargeEnough) {

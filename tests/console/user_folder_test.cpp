@@ -19,11 +19,12 @@ TEST(UserFolder, IsMadeFromTheDemoOnceAndThenTheUsers) {
     EXPECT_FALSE(worksOnUserFolder(work.filePath(u"bin"_s)));
 
     QDir().mkpath(demo + u"/MODULES/QRD_EN"_s);
-    QFile card(demo + u"/MODULES/QRD_EN/a.csp"_s);
-    ASSERT_TRUE(card.open(QIODevice::WriteOnly));
-    card.write("demo");
-    card.close();
-    card.setPermissions(QFile::ReadOwner);
+    const auto write = [](const QString& path, const QByteArray& bytes) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    };
+    write(demo + u"/MODULES/QRD_EN/a.csp"_s, "demo");
+    QFile::setPermissions(demo + u"/MODULES/QRD_EN/a.csp"_s, QFile::ReadOwner);
 
     EXPECT_TRUE(worksOnUserFolder(work.filePath(u"bin"_s)));
     QDir().mkpath(work.filePath(u"bin/MODULES"_s));
@@ -31,12 +32,8 @@ TEST(UserFolder, IsMadeFromTheDemoOnceAndThenTheUsers) {
     EXPECT_EQ(makeUserFolder(own, demo), QString());
     QFile copy(own + u"/MODULES/QRD_EN/a.csp"_s);
     EXPECT_TRUE(copy.permissions() & QFile::WriteOwner) << "the user's to edit";
-    ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
-    copy.write("mine");
-    copy.close();
-
-    QFile other(demo + u"/MODULES/PACKS.TXT"_s);
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    write(copy.fileName(), "mine");
+    write(demo + u"/MODULES/PACKS.TXT"_s, {});
     EXPECT_EQ(makeUserFolder(own, demo), QString());
     EXPECT_FALSE(QFile::exists(own + u"/MODULES/PACKS.TXT"_s));
     ASSERT_TRUE(copy.open(QIODevice::ReadOnly));

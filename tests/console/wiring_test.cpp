@@ -82,7 +82,7 @@ const Tie kTies[] = {
      "GradientButtonS(0) off, GradientButtonS(1) on, cmbCARD(0)=Second, cmbCARD(1)=, cmbCARD(7)="},
     {"GradientButtonS", 0, "above", "cmbCARD", 0, press,
      "GradientButtonS(0) on, GradientButtonS(1) off, cmbCARD(0)=Card, cmbCARD(1)=Card, cmbCARD(7)=Card"},
-    {"GradientButtonAIR", -1, "right of", "lblONAIRCARD", -1, press, "> CLEAR"},
+    {"GradientButtonAIR", -1, "right of", "lblONAIRCARD", -1, press, "> CLEAR 1"},
     {"cmdSCREENMODE", 0, "left of", "cmdSCREENMODE", 1, press, "cmdSCREENMODE(0) chosen"},
     {"lblFKEYTITLE", 3, "right of", "lblFKEY", 3, press, "> KEY"},
     {"lblPROPOSED", 5, "below", "lblPROPOSED", 1, look, ""},
@@ -103,6 +103,7 @@ const Tie kTies[] = {
     {"lblScoreB", -1, "above", "cmdMANSCORE", 2, look, ""},
     {"cmdMANSCORE", 0, "right of", "mnSCOREA", -1, press, "lblScoreA=1, mnSCOREA=1"},
     {"cmdMANSCORE", 1, "left of", "mnSCOREA", -1, press, "lblScoreA=0, mnSCOREA=0"},
+    {"cmdMANSCORE", 1, "left of", "mnSCOREA", -1, press, "lblScoreA=-1, mnSCOREA=-1"},
     {"cmdMANSCORE", 2, "right of", "mnSCOREB", -1, press, "lblScoreB=1, mnSCOREB=1"},
     {"cmdMANSCORE", 3, "left of", "mnSCOREB", -1, press, "lblScoreB=0, mnSCOREB=0"},
     {"mnSCOREA", -1, "left of", "mnSCOREB", -1, typeNine, "lblScoreA=9, mnSCOREA=9"},
@@ -114,12 +115,16 @@ const Tie kTies[] = {
     {"chkEAFTER", -1, "right of", "lblETime", -1, tick, "chkEAFTER on"},
     // Line-ups: home above away.
     {"cmdTAB", 1, "left of", "cmdTAB", 2, press, "Frame1 hidden, Frame2 shown, cmdTAB(0) off, cmdTAB(1) on"},
+    {"cmdTAB", 2, "left of", "cmdTAB", 3, press, "Frame2 hidden, Frame3 shown, cmdTAB(1) off, cmdTAB(2) on"},
+    {"cmdTAB", 3, "left of", "cmdTAB", 4, press, "Frame3 hidden, Frame4 shown, cmdTAB(2) off, cmdTAB(3) on"},
+    {"cmdTAB", 4, "left of", "cmdTAB", 5, press, "Frame4 hidden, Frame5 shown, cmdTAB(3) off, cmdTAB(4) on"},
+    {"cmdTAB", 5, "right of", "cmdTAB", 4, press, "Frame5 hidden, Frame7 shown, cmdTAB(4) off, cmdTAB(5) on"},
     {"txtS5H", 3, "above", "txtS5A", 3, typeNine, "txtS5H(3)=9"},
     {"txtS5A", 4, "right of", "txtS5A", 3, typeNine, "txtS5A(4)=9"},
     {"txtS11H", 10, "above", "txtS11A", 10, typeNine, "txtS11H(10)=9"},
     {"txtS11A", 10, "right of", "txtS11A", 9, typeNine, "txtS11A(10)=9"},
-    {"cmdINVOKE", -1, "right of", "cmdAUTO5ADA", -1, press, "> INVOKE"},
-    {"cmdAUTO5ADA", -1, "left of", "cmdAUTOCARD", -1, press, "> FIVE"},
+    {"cmdINVOKE", -1, "right of", "cmdAUTO5ADA", -1, press, "> invoke"},
+    {"cmdAUTO5ADA", -1, "left of", "cmdAUTOCARD", -1, press, "> auto5ada"},
     {"cmbFADE", 1, "right of", "cmbFADE", 0, wheel, ""},
     {"cmbFADE", 2, "below", "cmbFADE", 0, next, "cmbFADE(2)=11"},
     {"optTIMERS", 1, "below", "optTIMERS", 0, tick, "optTIMERS(0) off, optTIMERS(1) on"},
@@ -184,15 +189,10 @@ TEST(Wiring, EveryWidgetActsAsItsPlaceSays) {
     Gallery gallery;
     QByteArrayList cards(8, ",");
     for (const int each : {0, 1, 7}) cards[each] = "Card,card.csp";
-    gallery.writePack(cards, "FKEYS:1|Key|none.csp,4|Key|KEY.csp\r\nCLEAR:CLEAR.csp\r\n");
-    for (const auto& [script, line] : {std::pair{"card", "CARD {@CARD_BUTTON_INDEX}"},
-                                       {"KEY", "KEY"},
-                                       {"CLEAR", "CLEAR"},
-                                       {"invoke", "INVOKE"},
-                                       {"auto5ada", "FIVE"}}) {
-        gallery.write(u"QRD_EN/%1.csp"_s.arg(QLatin1StringView(script)),
-                      QByteArray("FUNCTIONCARD\r\nCSPSEND~") + line + "\r\n");
-    }
+    gallery.writePack(cards, "FKEYS:1|Key|none.csp,4|Key|KEY.csp\r\n");
+    gallery.writeCard("card", "FUNCTIONCARD\r\nCSPSEND~CARD {@CARD_BUTTON_INDEX}");
+    for (const char* script : {"KEY", "invoke", "auto5ada"})
+        gallery.writeCard(script, QByteArray("FUNCTIONCARD\r\nCSPSEND~") + script);
     gallery.start();
     gallery.connectMain(main);
     gallery.at("txtGASPARIPREMOTE").setText(u"127.0.0.1"_s);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemModel>
 #include <QComboBox>
 #include <QProcess>
 #include <QTableView>
@@ -22,11 +21,11 @@ class Evening {
  public:
     Evening() {
         gallery_.writePack({"Score,score.csp", "Note,note.csp", "Store,store.csp"});
-        gallery_.write(u"QRD_EN/score.csp"_s,
-                       "SQL~select name from team\r\nCLEARDATA\r\nSDATA~TEAM;{1|0}\r\nMAKEXML\r\n"
-                       "CSPSEND~CG 1-20 UPDATE 1 '{@WORD} {@CASPARXML}'\r\n");
-        gallery_.write(u"QRD_EN/note.csp"_s, "OFILE8\r\nWFILE8~{@WORD}\r\nCFILE8~MODULES/note.txt\r\n");
-        gallery_.write(u"QRD_EN/store.csp"_s, "SQLU~update team set coach = '{@WORD}'\r\n");
+        gallery_.writeCard("score",
+                           "SQL~select name from team\r\nCLEARDATA\r\nSDATA~TEAM;{1|0}\r\nMAKEXML\r\n"
+                           "CSPSEND~CG 1-20 UPDATE 1 '{@WORD} {@CASPARXML}'");
+        gallery_.writeCard("note", "OFILE8\r\nWFILE8~{@WORD}\r\nCFILE8~MODULES/note.txt");
+        gallery_.writeCard("store", "SQLU~update team set coach = '{@WORD}'");
         gallery_.write(u"QRD_EN/infodata.dat"_s, grid("old"));
         gallery_.write(u"note.txt"_s, kMark + "old");
         gallery_.write(u"SELECTIONS.TXT"_s, selections(0));

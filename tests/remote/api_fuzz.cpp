@@ -1,5 +1,4 @@
 #include <QCoreApplication>
-#include <memory>
 
 #include "remote/api_routes.h"
 #include "support/fake_ports.h"

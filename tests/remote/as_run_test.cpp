@@ -12,6 +12,7 @@
 #include "as_run/as_run_reader.h"
 #include "as_run/standing_graphics.h"
 #include "console/gallery.h"
+#include "support/told.h"
 
 using namespace Qt::StringLiterals;
 
@@ -85,13 +86,7 @@ TEST(AsRunFile, FullDiskIsToldOnceAndEndsNothing) {
 
 // Run and line, at tenths of a second; what leaves, as "run:tenths".
 TEST(AsRun, GraphicsStandUntilTheyAreTakenOff) {
-    struct Step {
-        qint64 run;
-        QString line;
-        QString gone;
-        bool refused = false;
-    };
-    const std::vector<Step> steps{
+    const std::tuple<qint64, QString, QString> steps[]{
         {1, u"CG 1-20 ADD 1 \"a\" 1 \"<x>CLEAR</x>\""_s, {}},
         {1, u"CG 1-21 ADD 1 \"b\" 1"_s, {}},
         {2, u"CG 1-20 UPDATE 1 \"STOP\""_s, {}},
@@ -100,7 +95,7 @@ TEST(AsRun, GraphicsStandUntilTheyAreTakenOff) {
         {4, u"CG 1-22 ADD 1 \"d\" 0"_s, {}},
         {5, u"CG 1-22 PLAY 1"_s, {}},
         {5, u"CG 1-22 PLAY 1"_s, {}},
-        {6, u"PLAY 1-23 LOGO"_s, {}, true},
+        {6, u"PLAY 1-23 LOGO"_s, {}},
         {7, u"CLEAR 1-23"_s, {}},
         {0, u"PLAY 2-1 FILM"_s, {}},
         {8, u"CLEAR 1"_s, u"2:8 5:5"_s},
@@ -108,12 +103,12 @@ TEST(AsRun, GraphicsStandUntilTheyAreTakenOff) {
     };
     StandingGraphics graphics;
     qint64 at = 0;
-    for (const Step& step : steps) {
-        QStringList gone;
-        for (const auto& each : graphics.sent(LinkId::Main, step.line, step.run, at))
-            gone += u"%1:%2"_s.arg(each.run).arg(each.stood);
-        EXPECT_EQ(gone.join(u' '), step.gone) << step.line.toStdString();
-        if (step.refused) graphics.refused(LinkId::Main, step.line, step.run);
+    for (const auto& [run, line, gone] : steps) {
+        QStringList left;
+        for (const auto& each : graphics.sent(LinkId::Main, line, run, at))
+            left += u"%1:%2"_s.arg(each.run).arg(each.stood);
+        EXPECT_EQ(left.join(u' '), gone) << line.toStdString();
+        if (line.endsWith(u"LOGO")) graphics.refused(LinkId::Main, line, run);
         ++at;
     }
 }
@@ -122,12 +117,11 @@ TEST(AsRun, GraphicsStandUntilTheyAreTakenOff) {
 TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
     LineServer server(LineServer::Manner::Listens);
     Gallery gallery;
-    gallery.writePack({"Strap,strap.csp", "Bad,bad.csp"}, "CLEAR:clear.csp\r\n");
-    gallery.write(u"QRD_EN/strap.csp"_s,
-                  "BREAK~Sure?\r\nCSPSENDREMOTE~CG 1-1 STOP 1\r\nSETVAR~@SPONSOR;Harbour, \"Bank\"\r\nCSPSEND~CG 1-20 "
-                  "ADD 1 'a' 1\r\n");
-    gallery.write(u"QRD_EN/bad.csp"_s, "SETVAR~@SPONSOR;\r\nCSPSEND~CG 1-30 ADD 1 'b' 1\r\n");
-    gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEAR 1\r\n");
+    gallery.writePack({"Strap,strap.csp", "Bad,bad.csp"});
+    gallery.writeCard("strap",
+                      "BREAK~Sure?\r\nCSPSENDREMOTE~CG 1-1 STOP 1\r\nSETVAR~@SPONSOR;Harbour, \"Bank\"\r\n"
+                      "CSPSEND~CG 1-20 ADD 1 'a' 1");
+    gallery.writeCard("bad", "SETVAR~@SPONSOR;\r\nCSPSEND~CG 1-30 ADD 1 'b' 1");
     gallery.start();
     gallery.connectMain(server);
     gallery.click("cmbCARD", 0);
@@ -137,7 +131,7 @@ TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
     ASSERT_TRUE(waitUntil([&] { return !gallery.at("lblONAIRTROUBLE").text().isEmpty(); }));
     gallery.click("GradientButtonAIR");
     // Of the runs of a timed card those that put something on air are told, the others counted.
-    gallery.write(u"QRD_EN/tick.csp"_s, "IFL~{@GO};=;1~\"CSPSEND~TICK\"\r\n");
+    gallery.writeCard("tick", "IFL~{@GO};=;1~\"CSPSEND~TICK\"");
     gallery.app->state().cards.timedCards = {{u"tick.csp"_s, 1}};
     for (const int go : {0, 0, 1, 0}) {
         gallery.app->state().variables.SetVar(u"@GO", go);
@@ -146,20 +140,14 @@ TEST(AsRun, ConsoleKeepsWhatWasOnAirAndTheTerminalTellsIt) {
     gallery.app.reset();
 
     const auto tell = [&](const QStringList& arguments) -> QString {
-        QString out;
-        QString err;
-        QTextStream outStream(&out);
-        QTextStream errStream(&err);
-        const int status =
-            runAsRun(QStringList{u"--app-folder"_s, gallery.folder.path()} + arguments, outStream, errStream);
-        return QString::number(status) + out + err;
+        const Told told(runAsRun, QStringList{u"--app-folder"_s, gallery.folder.path()} + arguments);
+        return QString::number(told.status) + told.out + told.err;
     };
     const QString csv = tell({u"--csv"_s});
-    EXPECT_TRUE(csv.contains(u",EN,1,1,Strap,strap.csp,button,,yes,ran,0,"_s)) << csv.toStdString();
-    EXPECT_TRUE(csv.contains(u",\"Harbour, \"\"Bank\"\"\",1\n"_s)) << csv.toStdString();
-    EXPECT_TRUE(csv.contains(u",Bad,bad.csp,button,,,ran,1,,,1\n"_s)) << csv.toStdString();
-    EXPECT_TRUE(csv.contains(u"clear.csp,clear,,,ran,"_s)) << csv.toStdString();
-    EXPECT_TRUE(csv.contains(u"GetGame.csp,start,"_s)) << csv.toStdString();
+    for (const QString& part :
+         {u",EN,1,1,Strap,strap.csp,button,,yes,ran,0,"_s, u",\"Harbour, \"\"Bank\"\"\",1\n"_s,
+          u",Bad,bad.csp,button,,,ran,1,,,1\n"_s, u"clear.csp,clear,,,ran,"_s, u"GetGame.csp,start,"_s})
+        EXPECT_TRUE(csv.contains(part)) << qPrintable(part + u" in\n" + csv);
     const QString ticks = tell({u"--from"_s, u"timer"_s, u"--csv"_s});
     EXPECT_EQ(ticks.count(u",tick,tick.csp,timer,,,ran,"_s), 2) << ticks.toStdString();
     EXPECT_TRUE(ticks.contains(u"ran,0,,,3\n"_s)) << ticks.toStdString();

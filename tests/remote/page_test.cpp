@@ -15,10 +15,9 @@ TEST(ControlPage, WorksTheConsoleByTouch) {
     ASSERT_TRUE(browser.start()) << browser.fault().toStdString();
     LineServer server;
     Gallery gallery;
-    gallery.writePack({"Strap,strap.csp", "Asks,asks.csp"}, "FKEYS:1|Key|strap.csp\r\nCLEAR:clear.csp\r\n");
-    gallery.write(u"QRD_EN/strap.csp"_s, "ON~1\r\nCSPSEND~STRAP\r\n");
-    gallery.write(u"QRD_EN/asks.csp"_s, "BREAK~Sure?\r\nCSPSEND~SURE\r\n");
-    gallery.write(u"QRD_EN/clear.csp"_s, "FUNCTIONCARD\r\nCSPSEND~CLEARED\r\n");
+    gallery.writePack({"Strap,strap.csp", "Asks,asks.csp"}, "FKEYS:1|Key|strap.csp\r\n");
+    gallery.writeCard("strap", "ON~1\r\nCSPSEND~STRAP");
+    gallery.writeCard("asks", "BREAK~Sure?\r\nCSPSEND~SURE");
     gallery.adjust = [](CardsApp::Options& options) {
         options.remoteControl.control = {{u"127.0.0.1"_s, 0}, QHostAddress::LocalHost, {}, {}, {}};
     };
@@ -64,7 +63,7 @@ TEST(ControlPage, WorksTheConsoleByTouch) {
                   "b.offsetHeight < 44).length"_s),
               u"0");
     press(u"header"_s, u"CLEAR"_s);
-    EXPECT_TRUE(waitUntil([&] { return server.bytes.contains("CLEARED"); }));
+    EXPECT_TRUE(waitUntil([&] { return server.bytes.contains("CLEAR 1"); }));
 }
 
 // All it says but what stays as it is in every language: no word of Latin letters, nothing that was not put in.
@@ -74,8 +73,8 @@ TEST(ControlPage, SpeaksTheConsolesLanguage) {
     const UiLanguage greek(u"el"_s);
     Gallery gallery;
     gallery.writePack({"Σκορ,score.csp", "Ερώτηση,asks.csp"});
-    gallery.write(u"QRD_EN/asks.csp"_s, "BREAK~Σίγουρα;\r\n");
-    gallery.write(u"QRD_EN/score.csp"_s, "ON~1\r\n");
+    gallery.writeCard("asks", "BREAK~Σίγουρα;");
+    gallery.writeCard("score", "ON~1");
     QByteArray token;
     gallery.adjust = [&](CardsApp::Options& options) {
         options.remoteControl.control = {{u"127.0.0.1"_s, 0}, QHostAddress::LocalHost, token, {}, {}};
