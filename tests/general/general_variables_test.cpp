@@ -26,14 +26,8 @@ class GeneralVariablesTest : public testing::Test {
 };
 
 TEST(GeneralCell, ShowsItsValueAndKeepsItsMarkerOrList) {
-    struct Case {
-        QString text;
-        Kind kind;
-        QString value;
-        QStringList choices;
-        QString afterX;  // the text with the value X
-    };
-    const std::vector<Case> cases{
+    // The text, its kind, value and choices, and the text with the value X.
+    const std::tuple<QString, Kind, QString, QStringList, QString> cases[]{
         {u"plain:1"_s, Kind::Plain, u"plain:1"_s, {}, u"X"_s},
         {u"ON:ON|OFF"_s, Kind::Choice, u"ON"_s, {u"ON"_s, u"OFF"_s}, u"X:ON|OFF"_s},
         {u":a|b:c"_s, Kind::Choice, u""_s, {u"a"_s, u"b:c"_s}, u"X:a|b:c"_s},
@@ -43,13 +37,13 @@ TEST(GeneralCell, ShowsItsValueAndKeepsItsMarkerOrList) {
         {u"C:/a.png[file]"_s, Kind::File, u"C:/a.png"_s, {}, u"X[file]"_s},
         {u"[FILE]x"_s, Kind::Plain, u"[FILE]x"_s, {}, u"X"_s},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.text.toStdString());
-        const GeneralCell cell(each.text);
-        EXPECT_EQ(cell.kind(), each.kind);
-        EXPECT_EQ(cell.value(), each.value);
-        EXPECT_EQ(cell.choices(), each.choices);
-        EXPECT_EQ(cell.withValue(u"X"_s), each.afterX);
+    for (const auto& [text, kind, value, choices, afterX] : cases) {
+        SCOPED_TRACE(text.toStdString());
+        const GeneralCell cell(text);
+        EXPECT_EQ(cell.kind(), kind);
+        EXPECT_EQ(cell.value(), value);
+        EXPECT_EQ(cell.choices(), choices);
+        EXPECT_EQ(cell.withValue(u"X"_s), afterX);
     }
     GeneralGrid grid;
     grid.append({{u"[folder]"_s, {}, u"@CLIPS"_s, {}}});
@@ -93,25 +87,21 @@ TEST(GridFile, EveryTextSurvives) {
 }
 
 TEST(GridFile, DamageIsFoundInItsLine) {
-    struct Case {
-        QByteArray bytes;
-        int line;
-        size_t rows;
-    };
     const QByteArray head = "zelvor-grid 1\n1\tT\t@A\tH\n";
-    for (const Case& each : std::vector<Case>{{"", 1, 0},
-                                              {"zelvor-grid 2\n", 1, 0},
-                                              {QByteArray(4096, '\0'), 1, 0},
-                                              {head + "1\tT\t@B\n", 3, 1},
-                                              {head + "1\tT\t@B\tH\tX\n", 3, 1},
-                                              {head + "\\x\tT\t@B\tH\n", 3, 1},
-                                              {head + "1\tT\t@B\tH\\\n", 3, 1},
-                                              {head + "\xE1\tT\t@B\tH\n" + "2\tT\t@C\tH\n", 3, 1},
-                                              {head + "1\tT\t@B\tHe", 3, 1}}) {
-        const GridReading reading = readGrid(each.bytes);
-        SCOPED_TRACE(each.bytes.left(60).toStdString());
-        EXPECT_EQ(reading.damagedLine, each.line);
-        EXPECT_EQ(reading.rows.size(), each.rows);
+    const std::tuple<QByteArray, int, size_t> cases[]{{"", 1, 0},
+                                                      {"zelvor-grid 2\n", 1, 0},
+                                                      {QByteArray(4096, '\0'), 1, 0},
+                                                      {head + "1\tT\t@B\n", 3, 1},
+                                                      {head + "1\tT\t@B\tH\tX\n", 3, 1},
+                                                      {head + "\\x\tT\t@B\tH\n", 3, 1},
+                                                      {head + "1\tT\t@B\tH\\\n", 3, 1},
+                                                      {head + "\xE1\tT\t@B\tH\n" + "2\tT\t@C\tH\n", 3, 1},
+                                                      {head + "1\tT\t@B\tHe", 3, 1}};
+    for (const auto& [bytes, line, rows] : cases) {
+        const GridReading reading = readGrid(bytes);
+        SCOPED_TRACE(bytes.left(60).toStdString());
+        EXPECT_EQ(reading.damagedLine, line);
+        EXPECT_EQ(reading.rows.size(), rows);
         EXPECT_FALSE(reading.damage.isEmpty());
     }
 }

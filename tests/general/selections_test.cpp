@@ -68,28 +68,24 @@ TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
 }
 
 TEST(Selections, ABrokenFileIsOneMessageAndWhatWasReadStays) {
-    struct Case {
-        QByteArray bytes;
-        QString error;
-        int period;  // position afterwards
-        int fadeOut;
-    };
-    for (const Case& each : std::vector<Case>{{"3\r\n", u"62"_s, 3, 9},
-                                              {"", u"62"_s, 0, 9},
-                                              {" 3 \r\n 4 \r\n100\r\n5\r\n", u"380"_s, 3, 9},
-                                              {"9\r\n4\r\n4\r\n", u"380"_s, 0, 9},
-                                              {"3\r\n4\r\n8\r\nrubbish\r\n", u"13"_s, 3, 8},
-                                              {"3\r\n4\r\n8\r\n99999\r\n", u"6"_s, 3, 8},
-                                              {QByteArray(500, '\xFF'), u"13"_s, 0, 9}}) {
-        SCOPED_TRACE(each.bytes.left(40).toStdString());
+    // The file, its error, and the positions of period and FADE OUT afterwards.
+    const std::tuple<QByteArray, QString, int, int> cases[]{{"3\r\n", u"62"_s, 3, 9},
+                                                            {"", u"62"_s, 0, 9},
+                                                            {" 3 \r\n 4 \r\n100\r\n5\r\n", u"380"_s, 3, 9},
+                                                            {"9\r\n4\r\n4\r\n", u"380"_s, 0, 9},
+                                                            {"3\r\n4\r\n8\r\nrubbish\r\n", u"13"_s, 3, 8},
+                                                            {"3\r\n4\r\n8\r\n99999\r\n", u"6"_s, 3, 8},
+                                                            {QByteArray(500, '\xFF'), u"13"_s, 0, 9}};
+    for (const auto& [bytes, error, period, fadeOut] : cases) {
+        SCOPED_TRACE(bytes.left(40).toStdString());
         Desk desk;
-        desk.write(u"SELECTIONS.TXT"_s, each.bytes);
+        desk.write(u"SELECTIONS.TXT"_s, bytes);
         desk.selections.LoadSelections();
         ASSERT_EQ(desk.operatorDesk.shown.size(), 1);
-        EXPECT_TRUE(desk.operatorDesk.shown[0].startsWith(u"Error "_s + each.error + u"\r\n"))
+        EXPECT_TRUE(desk.operatorDesk.shown[0].startsWith(u"Error "_s + error + u"\r\n"))
             << desk.operatorDesk.shown[0].toStdString();
-        EXPECT_EQ(desk.form.at(controls.cbQt).position(), each.period);
-        EXPECT_EQ(desk.form.at(controls.cmbFADE, 1).position(), each.fadeOut);
+        EXPECT_EQ(desk.form.at(controls.cbQt).position(), period);
+        EXPECT_EQ(desk.form.at(controls.cmbFADE, 1).position(), fadeOut);
         EXPECT_EQ(desk.form.at(controls.txtS5A, 4).text(), u"0");
     }
 }

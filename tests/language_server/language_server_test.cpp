@@ -55,9 +55,8 @@ class LanguageServers : public testing::Test {
     }
     QStringList labels(int line, int column) {
         QStringList found;
-        for (const QJsonValue& item : ask(u"textDocument/completion"_s, u"new.csp"_s, line, column).toArray()) {
+        for (const QJsonValue& item : ask(u"textDocument/completion"_s, u"new.csp"_s, line, column).toArray())
             found += item[u"label"_s].toString();
-        }
         return found;
     }
     // What the last findings say of a file: "line from-to text".
@@ -93,12 +92,7 @@ TEST_F(LanguageServers, TellFindingsAsTheTextStands) {
 }
 
 TEST_F(LanguageServers, CompleteByWhatStandsThere) {
-    struct Row {
-        QString line;
-        QString offered;
-        QString not_;
-    };
-    const QList<Row> rows{
+    const std::tuple<QString, QString, QString> rows[]{
         {u"SD"_s, u"SDATA"_s, u"@TEAM"_s},
         {u"SDATA~N;{@"_s, u"@TEAM"_s, u"SDATA"_s},
         {u"SDATA~N;{@"_s, u"@RETURNKEY"_s, u"lblTime"_s},
@@ -110,11 +104,11 @@ TEST_F(LanguageServers, CompleteByWhatStandsThere) {
         {u"EVAL~X;"_s, u"UCase"_s, u"BesselJ"_s},
         {u"IFL~1;=;1~\"SHOW2LABEL~"_s, u"lblTime"_s, u"SDATA"_s},
     };
-    for (const Row& row : rows) {
-        open(u"new.csp"_s, row.line);
-        const QStringList found = labels(0, static_cast<int>(row.line.size()));
-        EXPECT_TRUE(found.contains(row.offered)) << qPrintable(row.line);
-        EXPECT_FALSE(found.contains(row.not_)) << qPrintable(row.line);
+    for (const auto& [line, offered, not_] : rows) {
+        open(u"new.csp"_s, line);
+        const QStringList found = labels(0, static_cast<int>(line.size()));
+        EXPECT_TRUE(found.contains(offered)) << qPrintable(line);
+        EXPECT_FALSE(found.contains(not_)) << qPrintable(line);
     }
 }
 
