@@ -28,29 +28,14 @@ const QString kFolder = QStringLiteral(TEST_DATA_DIR);
 
 QStringList promised(const QStringList& script, const QString& kind) {
     QStringList promises;
-    for (const QString& line : script) {
+    for (const QString& line : script)
         if (line.startsWith(u"# "_s + kind + u" > "_s)) promises += line.mid(kind.size() + 5);
-    }
     return promises;
 }
 
-QStringList beginningWith(const QStringList& lines, const QStringList& beginnings) {
-    QStringList found;
-    for (const QString& line : lines) {
-        for (const QString& beginning : beginnings) {
-            if (line.startsWith(beginning)) found += line;
-        }
-    }
-    return found;
-}
-
-void expectInOrder(const QStringList& promises, const QStringList& seen, const char* what) {
-    qsizetype at = 0;
-    for (const QString& promise : promises) {
-        const qsizetype found = seen.indexOf(promise, at);
-        EXPECT_GE(found, 0) << what << ": " << promise.toStdString() << "\nseen:\n" << seen.join(u'\n').toStdString();
-        if (found >= 0) at = found + 1;
-    }
+// beginning: a regular expression.
+QStringList beginningWith(const QStringList& lines, const QString& beginning) {
+    return lines.filter(QRegularExpression(u"^(?:%1)"_s.arg(beginning)));
 }
 
 class CardScripts : public testing::TestWithParam<std::string> {
@@ -80,20 +65,23 @@ TEST_P(CardScripts, KeepTheirPromises) {
     const test::Told told(runCard, arguments << name);
     const QStringList seen = told.out.split(u'\n', Qt::SkipEmptyParts);
     QStringList air;
-    for (const QString& line : script) {
-        if (line.startsWith(u"# main > ") || line.startsWith(u"# remote > ")) air += line.mid(2);
+    for (const QString& line : beginningWith(script, u"# main > |# remote > "_s)) air += line.mid(2);
+    EXPECT_EQ(air.join(u'\n'), beginningWith(seen, u"main > |remote > "_s).join(u'\n'));
+    const QStringList changes = beginningWith(seen, u"console > "_s);
+    qsizetype next = 0;
+    for (const QString& change : promised(script, u"console"_s)) {
+        const qsizetype found = changes.indexOf(u"console > "_s + change, next);
+        EXPECT_GE(found, 0) << qPrintable(change + u"\nseen:\n" + changes.join(u'\n'));
+        next = std::max(next, found + 1);
     }
-    EXPECT_EQ(air.join(u'\n'), beginningWith(seen, {u"main > "_s, u"remote > "_s}).join(u'\n'));
-    QStringList changes = promised(script, u"console"_s);
-    changes.replaceInStrings(QRegularExpression(u"^"_s), u"console > "_s);
-    expectInOrder(changes, beginningWith(seen, {u"console > "_s}), "console");
     for (const QString& variable : promised(script, u"var"_s)) {
         EXPECT_TRUE(seen.contains(u"var > "_s + variable))
             << variable.toStdString() << "\nseen:\n"
-            << beginningWith(seen, {u"var > "_s + variable.section(u' ', 0, 0)}).join(u'\n').toStdString();
+            << beginningWith(seen, u"var > "_s + variable.section(u' ', 0, 0)).join(u'\n').toStdString();
     }
     for (const QString& variable : promised(script, u"novar"_s))
-        EXPECT_TRUE(beginningWith(seen, {u"var > "_s + variable + u" = "_s}).isEmpty()) << variable.toStdString();
+        EXPECT_TRUE(beginningWith(seen, u"var > "_s + QRegularExpression::escape(variable) + u" = "_s).isEmpty())
+            << variable.toStdString();
     const QString said = told.err.simplified();
     qsizetype at = 0;
     for (const QString& text : promised(script, u"says"_s)) {

@@ -60,10 +60,6 @@ MariaDbServer::MariaDbServer(QStringList options) : options_(std::move(options))
     }
 }
 
-MariaDbServer::~MariaDbServer() {
-    kill();
-}
-
 void MariaDbServer::beginStart() {
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.setStandardOutputFile(inFolder(u"server.log"_s));

@@ -11,7 +11,7 @@ class MariaDbServer {
  public:
     // options: further ones for the server. Throws std::runtime_error when the server does not come up.
     explicit MariaDbServer(QStringList options = {});
-    ~MariaDbServer();
+    ~MariaDbServer() { kill(); }
 
     // Starts it again, on the same port, after kill().
     void start();

@@ -65,10 +65,6 @@ PostgresServer::PostgresServer() {
     start();
 }
 
-PostgresServer::~PostgresServer() {
-    kill();
-}
-
 void PostgresServer::start() {
     process_.start(postgresProgram(u"postgres"_s), {u"-D"_s, folder_.filePath(u"data"_s), u"-k"_s, folder_.path(),
                                                     u"-h"_s, QString(), u"-c"_s, u"fsync=off"_s});

@@ -13,7 +13,7 @@ class PostgresServer {
 
     // Throws std::runtime_error when the server does not come up.
     PostgresServer();
-    ~PostgresServer();
+    ~PostgresServer() { kill(); }
 
     void start();
     void kill();

@@ -19,7 +19,8 @@ TEST(ClockSender, CountsDownAndUpToTheEnd) {
     };
     for (const auto& [arguments, heard] : cases) {
         Receiver receiver;
-        const Told told(runFeed, arguments + QStringList{u"--speed"_s, u"200"_s, u"--to"_s, receiver.address()});
+        const QString to = u"--to=127.0.0.1:%1"_s.arg(receiver.localPort());
+        const Told told(runFeed, arguments + QStringList{u"--speed=200"_s, to});
         EXPECT_EQ(told.status, 0);
         const auto count = heard.count(u' ') + 1;
         EXPECT_TRUE(told.out.endsWith(QString::number(count) + u" datagrams sent\n"_s)) << qPrintable(told.out);

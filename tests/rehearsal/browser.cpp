@@ -62,14 +62,6 @@ bool Browser::start() {
     return true;
 }
 
-void Browser::open(const QString& url) {
-    call(u"Page.navigate"_s, {{u"url"_s, url}}, page_);
-}
-
-QString Browser::evaluate(const QString& script) {
-    return evaluateIn(page_, script);
-}
-
 QString Browser::evaluateInFrame(const QString& path, const QString& script, int which) {
     for (const QString& frame : QStringList(frames_)) {
         if (evaluateIn(frame, u"location.pathname"_s).endsWith(path) && which-- == 0) {

@@ -21,10 +21,10 @@ class Browser {
     bool start();
     const QString& fault() const { return fault_; }
 
-    void open(const QString& url);
+    void open(const QString& url) { call(QStringLiteral("Page.navigate"), {{QStringLiteral("url"), url}}, page_); }
 
     // What SCRIPT gives in the page; a string, number or boolean, as text. "exception: ..." when it throws.
-    QString evaluate(const QString& script);
+    QString evaluate(const QString& script) { return evaluateIn(page_, script); }
     // The same in the frame whose path ends in PATH, of several the one opened as number WHICH from 0; empty when there
     // is no such frame.
     QString evaluateInFrame(const QString& path, const QString& script, int which = 0);

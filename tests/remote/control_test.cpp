@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 namespace zelvor::test {
 namespace {
 
-const QByteArray kToken = "a token of the test";
-
 // The whole console with a way in on a port of its own, and a client of it.
 class ControlTest : public testing::Test {
  protected:
@@ -217,9 +215,10 @@ TEST_F(ControlTest, FloodsLeaveTheConsoleAsItWas) {
 }
 
 TEST_F(ControlTest, TokenIsAskedForAndWrongOnesWait) {
-    start(kToken);
+    const QByteArray token = "a token of the test";
+    start(token);
     EXPECT_EQ(answerOf(send("GET", u"/api/state"_s)).left(3), u"401");
-    bearer = kToken;
+    bearer = token;
     EXPECT_EQ(answerOf(send("GET", u"/api/state"_s)).left(3), u"200");
     // The page's form gives a cookie, which the client keeps.
     bearer.clear();

@@ -14,7 +14,6 @@ struct Receiver : QUdpSocket {
         });
         bind(QHostAddress::LocalHost, 0);
     }
-    QString address() const { return QStringLiteral("127.0.0.1:") + QString::number(localPort()); }
 
     QStringList heard;
 };
