@@ -169,7 +169,7 @@ TEST_F(BadInput, DeedsWhileACardWaits) {
             EXPECT_EQ(gallery.app->program().closing.hasBegun(), !deed.goesOn);
             const QStringList expected =
                 deed.before + (deed.goesOn && !deed.endsTheCard ? QStringList{moment.after} : QStringList());
-            EXPECT_TRUE(peer.heard(expected));
+            EXPECT_TRUE(heard(peer, expected));
             if (deed.goesOn) expectUsable(gallery);
         }
     }

@@ -80,7 +80,7 @@ TEST(CardsAppTies, ScriptEditedToTheSameLengthIsReadAgain) {
         file.setFileTime(QDateTime::currentDateTime().addSecs(60 * ++minutes), QFileDevice::FileModificationTime);
         file.close();
         gallery.click("cmbCARD", 0);
-        EXPECT_TRUE(server.heard({QLatin1StringView(word)}));
+        EXPECT_TRUE(heard(server, {QLatin1StringView(word)}));
     }
 }
 

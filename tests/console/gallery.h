@@ -10,7 +10,7 @@
 #include <memory>
 
 #include "app_cards/cards_app.h"
-#include "support/line_server.h"
+#include "support/heard.h"
 
 namespace zelvor::test {
 

@@ -50,14 +50,14 @@ TEST_F(TouchTest, FingersPressAsTheMouseDoes) {
     for (QWidget* widget : {static_cast<QWidget*>(card), static_cast<QWidget*>(card),
                             gallery.find<QWidget>("cmbCARD", 1), gallery.find<QWidget>("GradientButtonAIR")})
         tap(widget);
-    EXPECT_TRUE(peer.heard({u"SCORE"_s, u"PLAYER"_s, u"CLEAR 1"_s})) << "a double tap is one press";
+    EXPECT_TRUE(heard(peer, {u"SCORE"_s, u"PLAYER"_s, u"CLEAR 1"_s})) << "a double tap is one press";
     // A long press is the right button's deed, in place of the left one's.
     int asked = 0;
     QObject::connect(&card->small(), &QAbstractButton::clicked, card, [&asked] { ++asked; });
     goDown(card);
     EXPECT_TRUE(waitUntil([&] { return asked == 1; }));
     lift(card);
-    EXPECT_TRUE(peer.heard({u"SCORE"_s}));
+    EXPECT_TRUE(heard(peer, {u"SCORE"_s}));
     goDown(card);
     event().move(0, at(card, {1, 300}));
     lift(card);
@@ -84,7 +84,7 @@ TEST_F(TouchTest, PlayersAndProposalsArePressedAsWell) {
     EXPECT_EQ(player.foreColour(), colours::kRed) << "lifting the finger presses nothing more";
     EXPECT_EQ(gallery.app->state().variables.text(u"AUTOTAG_O"), u"7");
     tap(gallery.find<QWidget>("lblPROPOSED", 2));
-    EXPECT_TRUE(peer.heard({u"PLAYER"_s}));
+    EXPECT_TRUE(heard(peer, {u"PLAYER"_s}));
 }
 
 TEST_F(TouchTest, WhatIsPressedIsLargeEnough) {

@@ -52,7 +52,7 @@ TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
     EXPECT_EQ(gallery.app->window().windowTitle(), u"Zelvor Cards (" ZELVOR_VERSION ")");
     gallery.connectMain(peer);
     gallery.click("cmbCARD", 0);
-    EXPECT_TRUE(peer.heard({u"SCORE"_s}));
+    EXPECT_TRUE(heard(peer, {u"SCORE"_s}));
     const auto* score = gallery.find<CardButton>("cmbCARD", 0);
     EXPECT_EQ(score->face(), (CardButton::Face{true, false, true, true, u"F1"_s}));
     EXPECT_EQ(score->accessibleName(), u"Card 1: Score, ON · F1");
@@ -64,7 +64,7 @@ TEST_F(MainWindowTest, ClicksAndKeysPutCardsOnAir) {
     gallery.click("cmbCARD", 0);
     gallery.press(Qt::Key_F4);
     gallery.click("GradientButtonAIR");
-    EXPECT_TRUE(peer.heard({u"SECOND"_s, u"PLAYER"_s, u"CLEAR 1"_s}));
+    EXPECT_TRUE(heard(peer, {u"SECOND"_s, u"PLAYER"_s, u"CLEAR 1"_s}));
     EXPECT_EQ(gallery.find<TextLabel>("lblONAIR")->text(), u"");
 
     peer.stop();
@@ -103,7 +103,7 @@ TEST_F(MainWindowTest, KeysBelongToTheForm) {
     for (QWidget* target :
          {static_cast<QWidget*>(&window), static_cast<QWidget*>(address), gallery.find<QWidget>("cmbCARD", 1)}) {
         QTest::keyClick(target, Qt::Key_F1);
-        EXPECT_TRUE(peer.heard({u"SCORE"_s})) << target->objectName().toStdString();
+        EXPECT_TRUE(heard(peer, {u"SCORE"_s})) << target->objectName().toStdString();
     }
     // An open list closes, and the key still fires.
     gallery.click("cmdTAB", 0);
@@ -111,7 +111,7 @@ TEST_F(MainWindowTest, KeysBelongToTheForm) {
     periods->showPopup();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     QTest::keyClick(periods->view(), Qt::Key_F4);
-    EXPECT_TRUE(peer.heard({u"PLAYER"_s}));
+    EXPECT_TRUE(heard(peer, {u"PLAYER"_s}));
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(&window, &repeated);
@@ -132,7 +132,7 @@ TEST_F(MainWindowTest, KeysBelongToTheForm) {
     QTest::keyClick(lock, Qt::Key_Space);
     EXPECT_TRUE(gallery.at("chkONAIRLOCK").checked());
     gallery.press(Qt::Key_F4);
-    EXPECT_TRUE(peer.heard({u"PLAYER"_s})) << "nothing else was fired before";
+    EXPECT_TRUE(heard(peer, {u"PLAYER"_s})) << "nothing else was fired before";
 }
 
 // Through the window, as the platform brings keys.
@@ -149,14 +149,14 @@ TEST_F(MainWindowTest, EveryDeedHasAKey) {
     constexpr int kGreekAlpha = 0x391;
     for (const int letter : {static_cast<int>(Qt::Key_A), kGreekAlpha}) {
         key(letter, Qt::AltModifier);
-        EXPECT_TRUE(peer.heard({u"SCORE"_s})) << letter;
+        EXPECT_TRUE(heard(peer, {u"SCORE"_s})) << letter;
         key(letter, Qt::AltModifier | Qt::ShiftModifier);
-        EXPECT_TRUE(peer.heard({u"SCORE"_s})) << letter;
+        EXPECT_TRUE(heard(peer, {u"SCORE"_s})) << letter;
     }
     key(Qt::Key_2, Qt::ControlModifier);
     key(Qt::Key_A, Qt::AltModifier);
     key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(peer.heard({u"SECOND"_s, u"CLEAR 1"_s}));
+    EXPECT_TRUE(heard(peer, {u"SECOND"_s, u"CLEAR 1"_s}));
     // A tab leads on into its panel, a key of a box to its panel.
     key(Qt::Key_1, Qt::AltModifier);
     EXPECT_TRUE(gallery.at("Frame1").visible());
@@ -253,11 +253,11 @@ TEST_F(MainWindowTest, FindsAndFires) {
         return gallery.form("frmFIND")->isVisible();
     };
     EXPECT_FALSE(find(u"SECO"_s));
-    EXPECT_TRUE(peer.heard({u"SECOND"_s})) << "a card of another set";
+    EXPECT_TRUE(heard(peer, {u"SECOND"_s})) << "a card of another set";
     EXPECT_FALSE(find({}));
-    EXPECT_TRUE(peer.heard({u"SECOND"_s})) << "fired last, first in the list";
+    EXPECT_TRUE(heard(peer, {u"SECOND"_s})) << "fired last, first in the list";
     EXPECT_FALSE(find(u"clear csp"_s, Qt::ShiftModifier));
-    EXPECT_TRUE(peer.heard({u"CLEAR 1"_s})) << "a script that has no card";
+    EXPECT_TRUE(heard(peer, {u"CLEAR 1"_s})) << "a script that has no card";
     EXPECT_TRUE(find(u"no such thing"_s));
     gallery.form("frmFIND")->close();
     EXPECT_FALSE(find(u"4:3"_s));
@@ -276,7 +276,7 @@ TEST_F(MainWindowTest, ManualLineAndHistory) {
     line->setFocus();
     QTest::keyClicks(line, u"CG 1-1 ADD 1 '{@HTLNAMEEN}' 1"_s);
     QTest::keyClick(line, Qt::Key_Return);
-    EXPECT_TRUE(peer.heard({u"CG 1-1 ADD 1 \"Harbour City\" 1"_s}));
+    EXPECT_TRUE(heard(peer, {u"CG 1-1 ADD 1 \"Harbour City\" 1"_s}));
     line->clear();
     QTest::keyClick(line, Qt::Key_Up);
     EXPECT_EQ(line->text(), u"CG 1-1 ADD 1 '{@HTLNAMEEN}' 1");
@@ -400,7 +400,7 @@ TEST_F(MainWindowTest, QuestionsOfATimedCardLeaveTheKeyboardAlone) {
         QTest::keyClicks(line, u"VERSION"_s);
         gallery.press(Qt::Key_Return);
         QTest::keyClick(&box, Qt::Key_F4);  // also where he has clicked the question itself
-        EXPECT_TRUE(peer.heard({u"PLAYER"_s, u"VERSION"_s, u"PLAYER"_s}));
+        EXPECT_TRUE(heard(peer, {u"PLAYER"_s, u"VERSION"_s, u"PLAYER"_s}));
         box.accept();
     };
     gallery.app->state().cards.timedCards = {{u"asks.csp"_s, 1}};

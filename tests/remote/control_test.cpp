@@ -11,6 +11,7 @@
 
 #include "console/gallery.h"
 #include "remote/api_routes.h"
+#include "support/heard.h"
 
 using namespace Qt::StringLiterals;
 
@@ -78,7 +79,7 @@ class ControlTest : public testing::Test {
 TEST_F(ControlTest, FiresAsTheButtonsDoAndTellsTheState) {
     start();
     EXPECT_EQ(post(u"/api/cards/1/1/fire"_s), uR"(200 {"outcome":"ran","run":2})");
-    EXPECT_TRUE(server.heard({u"STRAP"_s}));
+    EXPECT_TRUE(heard(server, {u"STRAP"_s}));
     EXPECT_TRUE(gallery.at("lblNOTE").text().contains(u"HTTP 127.0.0.1"_s)) << "the operator is told";
     QJsonObject now = state();
     EXPECT_EQ(now["onAir"_L1]["card"_L1], u"Strap"_s);

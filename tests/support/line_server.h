@@ -1,12 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QStringList>
 #include <QTcpServer>
 #include <QTcpSocket>
-
-#include "support/wait.h"
 
 namespace zelvor::test {
 
@@ -33,13 +29,6 @@ class LineServer : public QTcpServer {
         QStringList lines = QString::fromUtf8(std::exchange(bytes, {})).split(QStringLiteral("\r\n"));
         lines.removeLast();
         return lines;
-    }
-    // Whether these lines have come since the last take, and no others.
-    testing::AssertionResult heard(const QStringList& lines) {
-        waitUntil([&] { return bytes.count('\n') >= lines.size(); });
-        const QStringList came = takeLines();
-        if (came == lines) return testing::AssertionSuccess();
-        return testing::AssertionFailure() << "heard: " << came.join(u'\n').toStdString();
     }
     // The server goes away.
     void stop() {
