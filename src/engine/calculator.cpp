@@ -29,6 +29,9 @@ Calculator::Calculator(const Clock& clock)
       evaluator_([&clock] { return clock.now(); }, [] { return QRandomGenerator::global()->generateDouble(); }) {}
 
 double Calculator::calculate(QStringView formula) {
+    const std::optional<double> stored = stored_.calculate(formula);
+    wasStored_ = stored.has_value();
+    if (wasStored_) return *stored;
     const QByteArray utf8 = formula.toUtf8();
     const double result =
         formula_.StoreExpression({utf8.data(), static_cast<size_t>(utf8.size())}) ? formula_.Eval() : 0;
