@@ -78,7 +78,7 @@ QString RemoteDesk::listenForControl(const RemoteOptions::Control& options) {
         if (!settings.tls) return fault;
     }
     control_ = std::make_unique<ControlServer>(console_, watch_, settings);
-    const QString fault = control_->listen();
+    QString fault = control_->listen();
     if (!fault.isEmpty()) control_.reset();
     return fault;
 }
