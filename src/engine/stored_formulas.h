@@ -21,7 +21,7 @@ class StoredFormulas {
     std::optional<double> calculate(QStringView text);
 
  private:
-    static constexpr std::size_t kMost = 16;
+    static constexpr std::size_t kMost = 64;
 
     bool takeApart(QStringView text);
 
