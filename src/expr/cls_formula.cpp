@@ -128,7 +128,7 @@ double clsFormula::Eval() {
     }
     table_.context.warning = {};
     const double value = evaluate(table_);
-    if (std::isnan(value)) [[unlikely]] {
+    if (!std::isfinite(value)) [[unlikely]] {
         return failEvaluation();
     }
     return value;

@@ -65,36 +65,50 @@ double notEqual(double a, double b) {
 }
 
 // The call at a step's end is its last deed, which compilers make a jump of.
-double goOn(const Step* step, EvaluationTable& table, double spoilt, double result) {
+double goOn(const Step* step, EvaluationTable& table, double result) {
     *step->result = result;
     const Step* const next = step + 1;
-    return next->run(next, table, spoilt + (result - result), result);
+    return next->run(next, table, result);
 }
+
+// Whether a result that is no finite number would be lost in this operation's own: a sum, a difference or a product of
+// it is none either, a quotient only of a dividend.
+template <double (*operate)(double, double)>
+constexpr bool kHidesFirst = operate != add&& operate != subtract&& operate != multiply&& operate != divide&& operate !=
+                             square&& operate != percent&& operate != negative;
+template <double (*operate)(double, double)>
+constexpr bool kHidesSecond = kHidesFirst<operate> || operate == divide;
 
 // Which operand is the result of the step before: that one need not be read from its slot.
 enum class Before { Neither, First, Second };
 
-template <double (*compute)(double, double), Before is>
-double runOperator(const Step* step, EvaluationTable& table, double spoilt, double before) {
+template <double (*operate)(double, double), Before is>
+double runOperator(const Step* step, EvaluationTable& table, double before) {
     const double first = is == Before::First ? before : *step->first;
     const double second = is == Before::Second ? before : *step->second;
-    return goOn(step, table, spoilt, compute(first, second));
+    if (kHidesFirst<operate> && !std::isfinite(first)) return kFailed;
+    if (kHidesSecond<operate> && !std::isfinite(second)) return kFailed;
+    return goOn(step, table, operate(first, second));
 }
 
-// Functions take finite numbers only, so that what is spoilt ends before them.
-double runUnary(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
-    if (std::isnan(spoilt)) return kFailed;
-    return goOn(step, table, 0, step->unary(*step->first));
+// Functions take finite numbers only.
+double runUnary(const Step* step, EvaluationTable& table, double /*unused*/) {
+    const double argument = *step->first;
+    if (!std::isfinite(argument)) return kFailed;
+    return goOn(step, table, step->unary(argument));
 }
 
-double runAngular(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
-    if (std::isnan(spoilt)) return kFailed;
-    return goOn(step, table, 0, step->angular(*step->first, table.context.angle));
+double runAngular(const Step* step, EvaluationTable& table, double /*unused*/) {
+    const double argument = *step->first;
+    if (!std::isfinite(argument)) return kFailed;
+    return goOn(step, table, step->angular(argument, table.context.angle));
 }
 
-double runBinary(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
-    if (std::isnan(spoilt)) return kFailed;
-    return goOn(step, table, 0, step->binary(*step->first, *step->second));
+double runBinary(const Step* step, EvaluationTable& table, double /*unused*/) {
+    const double first = *step->first;
+    const double second = *step->second;
+    if (!std::isfinite(first) || !std::isfinite(second)) return kFailed;
+    return goOn(step, table, step->binary(first, second));
 }
 
 // Functions of more than two arguments, of any number, or with a need for more than their arguments.
@@ -108,16 +122,17 @@ double call(const Row& row, const Arguments& values, Context& context) {
     return std::get<Contextual>(body)(values, context);
 }
 
-double runCall(const Step* step, EvaluationTable& table, double spoilt, double /*unused*/) {
-    if (std::isnan(spoilt)) return kFailed;
+double runCall(const Step* step, EvaluationTable& table, double /*unused*/) {
     const Row& row = *step->row;
     const Arguments values(table.slots.data(), table.arguments.data() + row.argumentsAt, row.argumentCount);
-    return goOn(step, table, 0, call(row, values, table.context));
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (!std::isfinite(values[i])) return kFailed;
+    }
+    return goOn(step, table, call(row, values, table.context));
 }
 
-// Takes 0 or what is not a number away, which leaves the sign of 0 as well.
-double end(const Step* step, EvaluationTable& /*unused*/, double spoilt, double /*unused*/) {
-    return *step->first - spoilt;
+double end(const Step* step, EvaluationTable& /*unused*/, double /*unused*/) {
+    return *step->first;
 }
 
 using Runner = decltype(Step::run);
@@ -208,7 +223,7 @@ void makeSteps(EvaluationTable& table) {
 
 double evaluate(EvaluationTable& table) {
     const Step* const first = table.steps.data();
-    return first->run(first, table, 0, 0);
+    return first->run(first, table, 0);
 }
 
 }  // namespace zelvor::expr

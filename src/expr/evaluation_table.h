@@ -49,11 +49,11 @@ struct Row {
 
 struct EvaluationTable;
 
-// A row as it is evaluated: computes its result and goes on with the step behind it. `spoilt` is 0, and not a number
-// once a result was no finite one, so that not each has to be looked at; `before` is the result of the step before.
-// Gives the formula's value, NaN when one was spoilt.
+// A row as it is evaluated: computes its result and goes on with the step behind it; `before` is the result of the step
+// before. Gives the formula's value. A result that is no finite number makes that of each row that takes it none either,
+// or ends the evaluation there, so that not each has to be looked at.
 struct Step {
-    double (*run)(const Step* step, EvaluationTable& table, double spoilt, double before) = nullptr;
+    double (*run)(const Step* step, EvaluationTable& table, double before) = nullptr;
     // The function of a call, by its shape; the row where it is none of these.
     union {
         const Row* row = nullptr;
@@ -98,7 +98,7 @@ std::string_view operationName(const Row& row);
 // Makes the steps of the rows, which stay where they are from then on, as the slots do.
 void makeSteps(EvaluationTable& table);
 
-// The formula's value; NaN when a row failed, whose slot is then the first result that is no finite number.
+// The formula's value; no finite number when a row failed, whose slot is then the first result that is none.
 double evaluate(EvaluationTable& table);
 
 bool isComparison(Operation operation);

@@ -79,6 +79,11 @@ TEST(Formula, ReportsWhatIsWrongAndWhere) {
            "1E300*1E+10 -> 16 at 6: Evaluation error < 1E+300 * 10000000000 > at pos: 6"sv,
            "1/(1E300*1E300) -> 16 at 9: Evaluation error < 1E+300 * 1E+300 > at pos: 9"sv,
            "fact(1/0)+2/0 -> 16 at 7: Evaluation error < 1 / 0 > at pos: 7"sv,
+           "1<1/0 -> 16 at 4: Evaluation error < 1 / 0 > at pos: 4"sv,
+           "1^(1/0) -> 16 at 5: Evaluation error < 1 / 0 > at pos: 5"sv,
+           "not(1/0) -> 16 at 6: Evaluation error < 1 / 0 > at pos: 6"sv,
+           "and(1,1/0) -> 16 at 8: Evaluation error < 1 / 0 > at pos: 8"sv,
+           "min(1,1/0) -> 16 at 8: Evaluation error < 1 / 0 > at pos: 8"sv,
            "clip(1,3,2) -> 17 at 1: Evaluation error < Clip(1, 3, 2) > at pos: 1"sv,
            "2*a -> 18 at 3: Variable < a > not assigned"sv);
 }
