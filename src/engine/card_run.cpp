@@ -80,9 +80,10 @@ void CardRun::warn(const QString& text) {
 }
 
 void CardRun::noteTemplateFaults(const QStringList& faults) {
-    for (const QString& fault : faults) warn(u"MAKEXML: "_s + fault);
-    templateFaults_ += faults;
-    templateFaults_.removeDuplicates();
+    for (const QString& fault : faults) {
+        warn(u"MAKEXML: "_s + fault);
+        if (!templateFaults_.contains(fault)) templateFaults_ += fault;
+    }
     const QString fault = templateFaults_.join(u", "_s);
     for (CardTable::Set& set : state().cards.sets) {
         for (CardEntry& card : set) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <ctime>
 
 #include "base/closing.h"
 #include "engine/ports.h"
@@ -14,7 +15,7 @@ class SystemClock : public Clock {
     explicit SystemClock(const Closing& closing) : closing_(closing) {}
 
     [[nodiscard]] QDateTime now() const override;
-    [[nodiscard]] qint64 secondsSinceEpoch() const override { return QDateTime::currentSecsSinceEpoch(); }
+    [[nodiscard]] qint64 secondsSinceEpoch() const override { return std::time(nullptr); }
     [[nodiscard]] qint64 steadyMilliseconds() const override { return QDeadlineTimer::current().deadline(); }
     bool turnEvents(int turns, qint64 longest) override;
     bool waitBriefly() override;
