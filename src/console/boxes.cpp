@@ -40,13 +40,24 @@ QString severityWord(Severity severity) {
     return {};
 }
 
+// Can be selected from when the mouse reaches it: as a document it would take longer to be shown.
+class BoxText : public QLabel {
+ public:
+    using QLabel::QLabel;
+
+ protected:
+    void enterEvent(QEnterEvent* event) override {
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        QLabel::enterEvent(event);
+    }
+};
+
 // The text of a box: a label, or a scrolling view when it is long.
 QWidget* textPart(const QString& text) {
     if (text.count(u'\n') < kLongText) {
-        auto* label = new QLabel(text);
+        auto* label = new BoxText(text);
         label->setObjectName(u"text"_s);
         label->setTextFormat(Qt::PlainText);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         label->setWordWrap(true);
         label->setMinimumWidth(360);
         return label;

@@ -1,8 +1,12 @@
 #include "app_cards/cards_app.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QIcon>
+#include <QImageReader>
+#include <QPixmap>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -14,6 +18,17 @@
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
+
+namespace {
+
+// Read as what it is: to find out, Qt would load all it has for pictures.
+QIcon icon() {
+    QImageReader reader(u":/icon.png"_s, "PNG");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
+}
+
+}  // namespace
 
 CardsApp::CardsApp(const Options& options)
     : options_(options),
@@ -50,6 +65,8 @@ CardsApp::Front::Front(CardsApp& app)
 
 CardsApp::Front& CardsApp::front() {
     if (!front_) {
+        QApplication::setWindowIcon(icon());
+        QAccessible::setRootObject(qApp);
         front_.emplace(*this);
         answerWindow();
     }

@@ -2,11 +2,9 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
-#include <QImageReader>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPixmap>
+#include <QNetworkProxy>
 #include <QTextStream>
 #include <QTimer>
 #include <algorithm>
@@ -22,28 +20,30 @@
 
 using namespace Qt::StringLiterals;
 
+namespace zelvor {
+
 namespace {
 
 constexpr int kNoFolder = 1;
 
-std::vector<zelvor::CommandLine::Option> allOptions() {
-    std::vector<zelvor::CommandLine::Option> options{{u"--app-folder"_s, true},
-                                                     {u"--user-folder"_s},
-                                                     {u"--codepage"_s, true},
-                                                     {u"--feed-port"_s, true},
-                                                     {u"--pack"_s, true},
-                                                     {u"--connection"_s, true},
-                                                     {u"--main"_s, true},
-                                                     {u"--remote"_s, true},
-                                                     {u"--connect"_s},
-                                                     {u"--query-seconds"_s, true},
-                                                     {u"--no-as-run"_s},
-                                                     {u"--language-ui"_s, true},
-                                                     {u"--theme"_s, true},
-                                                     {u"--touch"_s},
-                                                     {u"--help"_s},
-                                                     {u"--version"_s}};
-    std::ranges::copy(zelvor::remoteOptionNames(), std::back_inserter(options));
+std::vector<CommandLine::Option> allOptions() {
+    std::vector<CommandLine::Option> options{{u"--app-folder"_s, true},
+                                             {u"--user-folder"_s},
+                                             {u"--codepage"_s, true},
+                                             {u"--feed-port"_s, true},
+                                             {u"--pack"_s, true},
+                                             {u"--connection"_s, true},
+                                             {u"--main"_s, true},
+                                             {u"--remote"_s, true},
+                                             {u"--connect"_s},
+                                             {u"--query-seconds"_s, true},
+                                             {u"--no-as-run"_s},
+                                             {u"--language-ui"_s, true},
+                                             {u"--theme"_s, true},
+                                             {u"--touch"_s},
+                                             {u"--help"_s},
+                                             {u"--version"_s}};
+    std::ranges::copy(remoteOptionNames(), std::back_inserter(options));
     return options;
 }
 
@@ -82,60 +82,52 @@ Fires the cards of a pack on the air, from one window.
 )"_s;
 
 // All but where the error log stands. Throws UsageError.
-zelvor::CardsApp::Options readOptions(const zelvor::CommandLine& line) {
+CardsApp::Options readOptions(const CommandLine& line) {
     line.check();
-    zelvor::CardsApp::Options wanted;
+    CardsApp::Options wanted;
     wanted.appFolder = line.appFolder();
-    if (const auto codePage = line.codePage(u"--codepage")) wanted.files = zelvor::TextFiles(*codePage);
+    if (const auto codePage = line.codePage(u"--codepage")) wanted.files = TextFiles(*codePage);
     wanted.feedPort = line.port(u"--feed-port").value_or(wanted.feedPort);
     wanted.pack = line.value(u"--pack").value_or(QString());
     if (const auto number = line.number(u"--connection", 0, INT16_MAX))
         wanted.connection = static_cast<qint16>(*number);
-    wanted.querySeconds =
-        line.number(u"--query-seconds", 1, zelvor::Patience::kMostSeconds).value_or(wanted.querySeconds);
+    wanted.querySeconds = line.number(u"--query-seconds", 1, Patience::kMostSeconds).value_or(wanted.querySeconds);
     wanted.main = line.hostPort(u"--main");
     wanted.remote = line.hostPort(u"--remote");
     wanted.connects = line.has(u"--connect");
-    wanted.remoteControl = zelvor::readRemoteOptions(line);
+    wanted.remoteControl = readRemoteOptions(line);
     wanted.keepsAsRun = !line.has(u"--no-as-run");
     wanted.touch = line.has(u"--touch");
     if (const auto word = line.value(u"--theme")) {
-        wanted.theme = zelvor::theme::themeOf(*word);
-        if (!wanted.theme) throw zelvor::UsageError{u"--theme takes dark, light or high-contrast"_s};
+        wanted.theme = theme::themeOf(*word);
+        if (!wanted.theme) throw UsageError{u"--theme takes dark, light or high-contrast"_s};
     }
     if (wanted.connects && !wanted.main && !wanted.remote) {
-        throw zelvor::UsageError{u"--connect takes --main or --remote beside it"_s};
+        throw UsageError{u"--connect takes --main or --remote beside it"_s};
     }
     wanted.commandLine = line.restText();
     return wanted;
 }
 
 // Throws UsageError.
-QString uiLanguage(const zelvor::CommandLine& line) {
+QString uiLanguage(const CommandLine& line) {
     const auto asked = line.value(u"--language-ui");
-    if (!asked) return zelvor::UiLanguage::firstSpoken(QLocale::system().uiLanguages());
-    const QStringList known = zelvor::UiLanguage::all();
-    if (!known.contains(*asked)) throw zelvor::UsageError{u"--language-ui takes "_s + known.join(u" or "_s)};
+    if (!asked) return UiLanguage::firstSpoken(QLocale::system().uiLanguages());
+    const QStringList known = UiLanguage::all();
+    if (!known.contains(*asked)) throw UsageError{u"--language-ui takes "_s + known.join(u" or "_s)};
     return *asked;
-}
-
-// Read as what it is: to find out, Qt would load all it has for pictures.
-QIcon icon() {
-    QImageReader reader(u":/icon.png"_s, "PNG");
-    reader.setAutoDetectImageFormat(false);
-    return QPixmap::fromImageReader(&reader);
 }
 
 }  // namespace
 
-int zelvor::runCards(int argc, char* argv[]) {
+int runCards(int argc, char* argv[]) {
     QTextStream out(stdout);
     QTextStream err(stderr);
     // What needs no display is answered before one is looked for.
     QStringList words;
     for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
-    const std::vector<zelvor::CommandLine::Option> options = allOptions();
-    const zelvor::CommandLine asked(words, options);
+    const std::vector<CommandLine::Option> options = allOptions();
+    const CommandLine asked(words, options);
     if (asked.has(u"--help")) {
         out << kHelp;
         return 0;
@@ -145,45 +137,49 @@ int zelvor::runCards(int argc, char* argv[]) {
         return 0;
     }
 
-    const std::future<void> fontFiles = zelvor::readFontFiles();
+    const std::future<void> fontFiles = readFontFiles();
     QApplication application(argc, argv);
-    const std::future<void> fontList = zelvor::readFontList(fontFiles);
+    const std::future<void> fontList = readFontList(fontFiles);
     // Not before: without a display Qt ends the program with its own words, which is no crash.
-    zelvor::dumpCrashes();
+    dumpCrashes();
     QGuiApplication::setDesktopFileName(u"zelvor-cards"_s);
-    QApplication::setWindowIcon(icon());
-    const zelvor::CommandLine line(QApplication::arguments().mid(1), options);
-    zelvor::CardsApp::Options wanted;
+    // Servers and feeds stand beside the console: the system is not asked which proxy leads to them, and not waited
+    // for.
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    const CommandLine line(QApplication::arguments().mid(1), options);
+    CardsApp::Options wanted;
     QString language;
     try {
         wanted = readOptions(line);
         language = uiLanguage(line);
-    } catch (const zelvor::UsageError& error) {
+    } catch (const UsageError& error) {
         err << error.line(u"zelvor-cards"_s);
-        return zelvor::UsageError::kExitStatus;
+        return UsageError::kExitStatus;
     }
-    const zelvor::UiLanguage spoken(language);
+    const UiLanguage spoken(language);
     const QString programFolder = QApplication::applicationDirPath();
     const bool namesNone = !line.has(u"--user-folder") && !line.has(u"--app-folder");
-    if (line.has(u"--user-folder") || (namesNone && zelvor::worksOnUserFolder(programFolder))) {
-        wanted.appFolder = zelvor::userFolder();
-        const QString fault = zelvor::makeUserFolder(wanted.appFolder, zelvor::installedDemo(programFolder));
+    if (line.has(u"--user-folder") || (namesNone && worksOnUserFolder(programFolder))) {
+        wanted.appFolder = userFolder();
+        const QString fault = makeUserFolder(wanted.appFolder, installedDemo(programFolder));
         if (!fault.isEmpty()) {
             // Started from the desktop, it has no terminal to say it in.
             QMessageBox::critical(nullptr, u"Zelvor Cards"_s, fault);
             return kNoFolder;
         }
     }
-    zelvor::dumpCrashes(QFile::encodeName(wanted.appFolder).toStdString());
-    wanted.errorLog = zelvor::errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
+    dumpCrashes(QFile::encodeName(wanted.appFolder).toStdString());
+    wanted.errorLog = errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 
-    zelvor::theme::prepare(application);
-    zelvor::CardsApp app(wanted);
+    theme::prepare(application);
+    CardsApp app(wanted);
     // Not by the last window: after its answer the first question is that.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(
-        &app.program().closing, &zelvor::Closing::begun, &application, [] { QApplication::exit(); },
-        Qt::QueuedConnection);
-    QTimer::singleShot(0, &app, &zelvor::CardsApp::start);
-    return QApplication::exec();
+        &app.program().closing, &Closing::begun, &application, [] { QApplication::exit(); }, Qt::QueuedConnection);
+    QTimer::singleShot(0, &app, &CardsApp::start);
+    // Not QApplication's own, which would wait for the desktop's bus before the first question.
+    return QCoreApplication::exec();
 }
+
+}  // namespace zelvor
