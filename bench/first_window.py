@@ -9,9 +9,11 @@ import time
 class Screen:
     """Xvfb without a window manager: windows appear as soon as they are asked for."""
 
+    SIZE = "1280x800"
+
     def __init__(self):
         read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", "1280x800x24"],
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-noreset", "-screen", "0", f"{self.SIZE}x24"],
                                        pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as said:

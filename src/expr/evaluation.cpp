@@ -71,13 +71,13 @@ double goOn(const Step* step, EvaluationTable& table, double result) {
     return next->run(next, table, result);
 }
 
-// Whether a result that is no finite number would be lost in this operation's own: a sum, a difference or a product of
-// it is none either, a quotient only of a dividend.
+// Whether an operand that is no finite number leaves a result that is none either: a dividend does, a divisor may not.
 template <double (*operate)(double, double)>
-constexpr bool kHidesFirst = operate != add&& operate != subtract&& operate != multiply&& operate != divide&& operate !=
-                             square&& operate != percent&& operate != negative;
+constexpr bool kShowsFirst = (operate == add) || (operate == subtract) || (operate == multiply) ||
+                             (operate == divide) || (operate == square) || (operate == percent) ||
+                             (operate == negative);
 template <double (*operate)(double, double)>
-constexpr bool kHidesSecond = kHidesFirst<operate> || operate == divide;
+constexpr bool kShowsSecond = kShowsFirst<operate> && (operate != divide);
 
 // Which operand is the result of the step before: that one need not be read from its slot.
 enum class Before { Neither, First, Second };
@@ -86,8 +86,8 @@ template <double (*operate)(double, double), Before is>
 double runOperator(const Step* step, EvaluationTable& table, double before) {
     const double first = is == Before::First ? before : *step->first;
     const double second = is == Before::Second ? before : *step->second;
-    if (kHidesFirst<operate> && !std::isfinite(first)) return kFailed;
-    if (kHidesSecond<operate> && !std::isfinite(second)) return kFailed;
+    if (!kShowsFirst<operate> && !std::isfinite(first)) return kFailed;
+    if (!kShowsSecond<operate> && !std::isfinite(second)) return kFailed;
     return goOn(step, table, operate(first, second));
 }
 

@@ -65,6 +65,7 @@ CardsApp::Front::Front(CardsApp& app)
 
 CardsApp::Front& CardsApp::front() {
     if (!front_) {
+        // The first question did not wait for these two either.
         QApplication::setWindowIcon(icon());
         QAccessible::setRootObject(qApp);
         front_.emplace(*this);
