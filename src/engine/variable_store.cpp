@@ -26,8 +26,8 @@ QString VariableStore::text(QStringView name) const {
 }
 
 void VariableStore::remove(QStringView name) {
-    const auto found = index_.find(name);
-    if (found != index_.end() && !found->second->isCleared) removeEntry(found->second);
+    const auto found = index_.constFind({name});
+    if (found != index_.cend() && !(*found)->isCleared) removeEntry(*found);
 }
 
 std::map<QStringView, VariableStore::Entries::iterator>& VariableStore::sorted() {
@@ -45,13 +45,13 @@ void VariableStore::clear() {
 }
 
 const VariableStore::Entry* VariableStore::existing(QStringView name) const {
-    const auto found = index_.find(name);
-    return found == index_.end() || found->second->isCleared ? nullptr : &*found->second;
+    const auto found = index_.constFind({name});
+    return found == index_.cend() || (*found)->isCleared ? nullptr : &**found;
 }
 
 VariableStore::Entry& VariableStore::last(QStringView name) {
-    const auto found = index_.find(name);
-    const auto entry = found == index_.end() ? makeCleared(name) : found->second;
+    const auto found = index_.constFind({name});
+    const auto entry = found == index_.cend() ? makeCleared(name) : *found;
     entries_.splice(entries_.end(), entry->isCleared ? cleared_ : entries_, entry);
     if (entry->isCleared && sorted_) sorted_->emplace(entry->name, entry);
     entry->isCleared = false;
@@ -61,17 +61,16 @@ VariableStore::Entry& VariableStore::last(QStringView name) {
 VariableStore::Entries::iterator VariableStore::makeCleared(QStringView name) {
     if (cleared_.empty()) {
         cleared_.push_back({name.toString(), {}, true});
-        return index_.emplace(cleared_.back().name, cleared_.begin()).first->second;
+    } else {
+        Entry& oldest = cleared_.front();
+        index_.remove({oldest.name});
+        oldest.name.setUnicode(name.data(), name.size());
     }
-    const auto oldest = cleared_.begin();
-    auto indexed = index_.extract(oldest->name);
-    oldest->name.setUnicode(name.data(), name.size());
-    indexed.key() = oldest->name;
-    return index_.insert(std::move(indexed)).position->second;
+    return *index_.insert({cleared_.front().name}, cleared_.begin());
 }
 
 void VariableStore::removeEntry(Entries::iterator entry) {
-    index_.erase(QStringView(entry->name));
+    index_.remove({entry->name});
     if (sorted_) sorted_->erase(QStringView(entry->name));
     entries_.erase(entry);
 }

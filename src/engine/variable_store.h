@@ -6,7 +6,6 @@
 #include <list>
 #include <map>
 #include <optional>
-#include <unordered_map>
 
 #include "base/value.h"
 
@@ -65,17 +64,16 @@ class VariableStore {
     };
     using Entries = std::list<Entry>;
     // Names are a few characters long: one multiplication each (by 2^64 / the golden ratio) is less than a call.
-    struct Hash {
-        size_t operator()(QStringView name) const {
-            quint64 hash = 0;
-            for (const QChar c : name) hash = (hash ^ c.unicode()) * 0x9E3779B97F4A7C15U;
-            return hash ^ hash >> 32;
-        }
-    };
+    struct Key {
+        QStringView name;
 
-    struct Equal {
-        bool operator()(QStringView a, QStringView b) const {
-            return std::equal(a.begin(), a.end(), b.begin(), b.end());
+        bool operator==(Key other) const {
+            return std::equal(name.begin(), name.end(), other.name.begin(), other.name.end());
+        }
+        friend size_t qHash(Key key, size_t seed) noexcept {
+            quint64 hash = seed;
+            for (const QChar c : key.name) hash = (hash ^ c.unicode()) * 0x9E3779B97F4A7C15U;
+            return hash ^ hash >> 32;
         }
     };
 
@@ -93,7 +91,7 @@ class VariableStore {
     // under the same names.
     Entries cleared_;
     // Of both. The names are views of the entries' own.
-    std::unordered_map<QStringView, Entries::iterator, Hash, Equal> index_;
+    QHash<Key, Entries::iterator> index_;
     // The names in sorted order, made when prefixes are first removed and kept from then on.
     std::optional<std::map<QStringView, Entries::iterator>> sorted_;
 };
