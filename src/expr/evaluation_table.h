@@ -50,8 +50,8 @@ struct Row {
 struct EvaluationTable;
 
 // A row as it is evaluated: computes its result and goes on with the step behind it; `before` is the result of the step
-// before. Gives the formula's value. A result that is no finite number makes that of each row that takes it none either,
-// or ends the evaluation there, so that not each has to be looked at.
+// before. Gives the formula's value. A result that is no finite number makes that of each row that takes it none
+// either, or ends the evaluation there, so that not each has to be looked at.
 struct Step {
     double (*run)(const Step* step, EvaluationTable& table, double before) = nullptr;
     // The function of a call, by its shape; the row where it is none of these.
