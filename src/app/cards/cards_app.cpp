@@ -91,12 +91,13 @@ void CardsApp::answerWindow() {
     connect(&window, &MainWindow::olderLineWanted, &linkConsole_, &LinkConsole::recallOlder);
     connect(&window, &MainWindow::newerLineWanted, &linkConsole_, &LinkConsole::recallNewer);
     connect(&cards_.presses(), &Presses::turnBefore, &front_->paintHold, &PaintHold::hold);
-    connect(&program_.closing, &Closing::begun, &window, &QWidget::close);
+    connect(&window, &MainWindow::closed, &program_.closing, &Closing::begin);
     window.setMayClose([this] { return mayClose(); });
-    connect(&window, &MainWindow::closed, &program_.closing, [this, &window] {
-        // The preview instance stands beside the console, whose place it is that counts.
-        if (!state_.preview) look_.keepPlace(window);
-        program_.closing.begin();
+    connect(&program_.closing, &Closing::begun, &window, [this, &window] {
+        // The preview instance stands beside the console, whose place it is that counts; before it is shown a window
+        // has none.
+        if (!state_.preview && window.isVisible()) look_.keepPlace(window);
+        window.close();
     });
 }
 

@@ -15,6 +15,7 @@
 #include "app_cards/ui_language.h"
 #include "app_cards/user_folder.h"
 #include "command_line/command_line.h"
+#include "command_line/termination.h"
 #include "console/theme.h"
 #include "crash/crash_dump.h"
 
@@ -172,7 +173,9 @@ int runCards(int argc, char* argv[]) {
     wanted.errorLog = errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);
 
     theme::prepare(application);
+    const Termination termination;  // outlives the console, whose end takes a while
     CardsApp app(wanted);
+    QObject::connect(&termination, &Termination::wanted, &app.program().closing, &Closing::begin);
     // Not by the last window: after its answer the first question is that.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(

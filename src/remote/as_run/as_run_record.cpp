@@ -117,6 +117,7 @@ void AsRunRecord::end(const Asker& asker, RunOutcome outcome) {
 }
 
 void AsRunRecord::addAnswer(const Question& question, const QString& answer) {
+    if (engine_.program().closing.hasBegun()) return;  // it has ended, and nobody has answered
     QJsonObject given{{u"question"_s, question.kind == Question::Kind::List ? question.title : question.text},
                       {u"answer"_s, answer}};
     const int choice = question.choice(answer);
