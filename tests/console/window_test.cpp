@@ -200,6 +200,8 @@ TEST_F(MainWindowTest, LooksAsItDidLast) {
     gallery.app->settings().choose(u"mnLight"_s);
     gallery.app->window().setGeometry(40, 30, 700, 500);
     gallery.app->window().close();
+    CardsApp unseen({gallery.folder.path(), {}, gallery.folder.filePath(u"errors.log"_s), {}, 0});
+    unseen.window().close();
     startWithCards();
     EXPECT_EQ(theme::current(), theme::Theme::Light);
     EXPECT_EQ(gallery.app->window().geometry(), QRect(40, 30, 700, 500));
