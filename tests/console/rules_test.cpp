@@ -35,6 +35,8 @@ class CardRules : public testing::Test {
 TEST_F(CardRules, MarkACardWhoseLineWasRefused) {
     CardTroubles troubles(bench.engine);
     QObject::connect(&console, &CardConsole::clearing, &troubles, &CardTroubles::clear);
+    int cleared = 0;
+    QObject::connect(&troubles, &CardTroubles::cleared, &troubles, [&] { ++cleared; });
     const Control& line = bench.form.at(controls.lblONAIRTROUBLE);
     const auto press = [&](int button) {
         console.pressCard(button);
@@ -59,12 +61,25 @@ TEST_F(CardRules, MarkACardWhoseLineWasRefused) {
     EXPECT_EQ(console.troubleOf(20), QString());
     console.selectBox(0);
     EXPECT_EQ(console.troubleOf(0), u"404 CG ADD FAILED");
+    EXPECT_EQ(cleared, 0);
 
-    troubles.wentWell(press(0));
-    EXPECT_EQ(line.text() + console.troubleOf(0), QString());
-    troubles.add(press(0), u"not sent: main link down"_s);
-    console.CLEAR_TV();
-    EXPECT_EQ(line.text() + console.troubleOf(0), QString());
+    const std::vector<std::function<void()>> waysOut{
+        [&] { troubles.wentWell(press(0)); },
+        [&] {
+            troubles.add(press(0), u"not sent: main link down"_s);
+            console.CLEAR_TV();
+        },
+        [&] {
+            troubles.add(timed, u"404 CG UPDATE FAILED"_s);
+            ++timed.run;
+            troubles.wentWell(timed);
+        },
+    };
+    for (const auto& leave : waysOut) {
+        leave();
+        EXPECT_EQ(line.text() + console.troubleOf(0), QString());
+        EXPECT_EQ(std::exchange(cleared, 0), 1) << "told once that nothing is marked";
+    }
 }
 
 TEST_F(CardRules, ButtonsFireTheRowOfTheCurrentSet) {

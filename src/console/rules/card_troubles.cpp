@@ -43,6 +43,7 @@ void CardTroubles::wentWell(const Asker& asker) {
     if (state_.console.troubles.erase(CardEngine::scriptName(asker.card)) == 0) return;
     if (shown_.card == asker.card) showNone();
     Q_EMIT changed();
+    if (state_.console.troubles.empty()) Q_EMIT cleared();
 }
 
 void CardTroubles::clear() {
