@@ -146,13 +146,13 @@ void LinkWatch::followLink(LinkState state) {
         reason_.clear();
         lostLines_ = 0;
         Q_EMIT cameUp(timesUp_);
-    } else if (isDown(state) && wanted()) {
-        // Of a lost link the loss is told, not the tries to get it back.
-        if (wasConnected_) lostAt_ = clock_.now().toString(u"hh:mm:ss"_s);
-        if (wasConnected_ || lostAt_.isEmpty()) reason_ = link_.errorText();
+    } else if (isDown(state)) {
         silentFor_ = 0;
         answersSince_ = -1;
         refusal_.clear();
+        // Of a lost link the loss is told, not the tries to get it back.
+        if (wanted() && wasConnected_) lostAt_ = clock_.now().toString(u"hh:mm:ss"_s);
+        if (wanted() && (wasConnected_ || lostAt_.isEmpty())) reason_ = link_.errorText();
     }
     wasConnected_ = state == LinkState::Connected;
     updateRetrying();

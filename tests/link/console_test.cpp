@@ -89,6 +89,12 @@ TEST(LinkConsole, TriesALostLinkAgainAndCountsTheLinesThatWereLost) {
     studio.pressConnect(server);
     EXPECT_TRUE(status.text().endsWith(u" connected"_s));
     EXPECT_FALSE(timer->isActive());
+    studio.console.watch(LinkId::Main).showRefusal(u"404 CG ADD FAILED"_s);
+    EXPECT_TRUE(status.text().endsWith(u"connected, 404 CG ADD FAILED"_s));
+    studio.console.cmdGASPARCONNECT();
+    studio.pressConnect(server);
+    EXPECT_TRUE(status.text().endsWith(u"connected again at 20:31: what is on air must be fired again"_s))
+        << "what a connection that is over refused is no longer told";
 
     server.stop();
     EXPECT_TRUE(waitUntil([&] { return timer->isActive(); }));
@@ -104,7 +110,7 @@ TEST(LinkConsole, TriesALostLinkAgainAndCountsTheLinesThatWereLost) {
     EXPECT_TRUE(studio.isIn(LinkId::Main, 7));
     EXPECT_FALSE(timer->isActive());
     EXPECT_TRUE(status.text().endsWith(u"connected again at 20:31: what is on air must be fired again"_s));
-    EXPECT_EQ(times, (QList<int>{1, 2}));
+    EXPECT_EQ(times, (QList<int>{1, 2, 3}));
     server.stop();
     EXPECT_TRUE(waitUntil([&] { return timer->isActive(); }));
     studio.console.cmdGASPARCONNECT();
