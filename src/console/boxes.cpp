@@ -170,7 +170,7 @@ bool Boxes::run(const Question& question, QDialog& box) {
 void Boxes::showNotice(const QString& card, const QString& title, const QString& text, Severity severity) {
     if (program_.closing.hasBegun()) return;
     if (notice_ || quietCards_.contains(card)) {
-        countSilenced(card);
+        countSilenced(card.isEmpty() ? title : card);
         return;
     }
     notice_ = new QDialog(window_);
@@ -179,12 +179,15 @@ void Boxes::showNotice(const QString& card, const QString& title, const QString&
     notice_->setAttribute(Qt::WA_ShowWithoutActivating);
     Box box(*notice_, title, text, QDialogButtonBox::Ok);
     addSeverity(box, severity);
-    auto* quiet = new QCheckBox(translate("console", "Do not show this again for this card until cards are reloaded"));
-    quiet->setObjectName(u"quiet"_s);
-    box.column->addWidget(quiet);
-    connect(notice_, &QDialog::finished, this, [this, card, quiet] {
-        if (quiet->isChecked()) quietCards_.insert(card);
-    });
+    if (!card.isEmpty()) {
+        auto* quiet =
+            new QCheckBox(translate("console", "Do not show this again for this card until cards are reloaded"));
+        quiet->setObjectName(u"quiet"_s);
+        box.column->addWidget(quiet);
+        connect(notice_, &QDialog::finished, this, [this, card, quiet] {
+            if (quiet->isChecked()) quietCards_.insert(card);
+        });
+    }
     box.column->addWidget(box.buttons);
     notice_->show();
     Q_EMIT opened(notice_);

@@ -436,6 +436,14 @@ TEST_F(MainWindowTest, FaultyTimedCardCanBeSilenced) {
     for (const int times : {1, 0}) EXPECT_EQ(told(u"missing.csp"_s), times) << "its script is not there";
     gallery.app->boxes().forgetQuietCards();
     EXPECT_EQ(told(u"broken.csp"_s), 1);
+
+    gallery.app->boxes().forgetQuietCards();
+    gallery.answer = [](QDialog& box) { EXPECT_EQ(box.findChild<QCheckBox*>(u"quiet"_s), nullptr); };
+    for (int times = 0; times < 2; ++times) {
+        gallery.app->boxes().message({Asker::Kind::TimedCard}, u"As-run record"_s, u"full"_s);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(gallery.at("lblSILENCED").text(), u"1 message of As-run record not shown") << "no card's";
 }
 
 TEST_F(MainWindowTest, ClosingAsksWhileSomethingIsOnAirOrUnsaved) {
