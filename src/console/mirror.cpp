@@ -258,7 +258,7 @@ QComboBox* Mirrors::list(const ControlRow& row, int index, bool editable) const 
     QObject::connect(widget, &QComboBox::currentIndexChanged, &control, [&control, widget](int position) {
         if (position < 0) return;
         control.setPosition(position);
-        widget->changedTo = position;
+        widget->changedTo = widget->currentIndex();  // a choice that is refused has gone back
     });
     // Choosing what is chosen already is a click, though no change.
     QObject::connect(widget, &QComboBox::activated, &control, [&events = events_, &control, widget](int position) {

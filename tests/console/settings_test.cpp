@@ -133,9 +133,19 @@ TEST_F(SettingsTest, ChoosingTheLanguageAgainReadsTheCards) {
     gallery.start();
     gallery.writePack({"Edited,first.csp"});
     auto* languages = gallery.find<QComboBox>("cmbLANG");
-    QTest::keyClick(languages, Qt::Key_Down, Qt::AltModifier);
-    QTest::keyClick(languages->view(), Qt::Key_Return);
+    const auto choose = [&](bool next) {
+        QTest::keyClick(languages, Qt::Key_Down, Qt::AltModifier);
+        if (next) QTest::keyClick(languages->view(), Qt::Key_Down);
+        QTest::keyClick(languages->view(), Qt::Key_Return);
+        return languages->currentText();
+    };
+    choose(false);
     EXPECT_EQ(gallery.at("cmbCARD", 0).text(), u"Edited");
+    gallery.writePack({"Later,first.csp"});
+    QFile::remove(gallery.folder.filePath(u"MODULES/QRD_GR/CARDS.TXT"_s));
+    EXPECT_EQ(choose(true), u"EN");
+    EXPECT_EQ(gallery.at("cmbCARD", 0).text(), u"Edited") << "a language that is refused reads nothing anew";
+    EXPECT_EQ(choose(false) + gallery.at("cmbCARD", 0).text(), u"ENLater");
 }
 
 TEST_F(SettingsTest, ClosingTheConsoleAsksNothing) {
