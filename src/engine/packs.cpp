@@ -94,6 +94,15 @@ std::optional<int> Packs::askNumber(const QString& prompt, qsizetype packs) {
     return std::nullopt;
 }
 
+QString Packs::cardTableFile(const QString& language) const {
+    return program_.folder.resolve(program_.folder.packFile(language, u"CARDS.TXT"));
+}
+
+bool Packs::hasCards(const QString& language) {
+    return program_.trap.run({u"mGLOBAL.LOAD_CARDS"_s}, ErrorTrap::Tell::Operator,
+                             [&] { static_cast<void>(program_.files.readLines(cardTableFile(language))); });
+}
+
 bool Packs::LOAD_CARDS() {
     if (state_.variables.find(u"@LANGUAGE") == nullptr) {
         operator_.message({}, {}, u"No default Pack found. Please select a pack in order to load Cards"_s,
@@ -101,8 +110,7 @@ bool Packs::LOAD_CARDS() {
         return false;
     }
     ErrorPlace place{u"mGLOBAL.LOAD_CARDS"_s};
-    const AppFolder& folder = program_.folder;
-    const QString path = folder.resolve(folder.packFile(state_.language(), u"CARDS.TXT"));
+    const QString path = cardTableFile(state_.language());
     bool isCardTable = false;
     const bool read = program_.trap.run(place, ErrorTrap::Tell::Operator, [&] {
         const QStringList lines = program_.files.readLines(path);

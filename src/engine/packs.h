@@ -19,6 +19,9 @@ class Packs {
     // Reads CARDS.TXT of the chosen pack into the card table and shows the current set. True when the file was read;
     // a file that is missing leaves the cards as they are, one that is broken is read up to the fault.
     bool LOAD_CARDS();
+    // True when that pack's CARDS.TXT can be read; else the operator is told what LOAD_CARDS would say. The chosen pack
+    // stays what it is, also for the cards that fire by themselves meanwhile.
+    bool hasCards(const QString& language);
 
     // The language code of the first pack whose folder exists, empty when there is none. Throws when PACKS.TXT cannot
     // be read.
@@ -30,6 +33,7 @@ class Packs {
         QStringList missing;               // codes of packs without a folder
     };
     [[nodiscard]] PackList readPacks() const;
+    [[nodiscard]] QString cardTableFile(const QString& language) const;
     bool choosePack(const PackList& packs, const QString& code);
     [[nodiscard]] std::optional<int> askNumber(const QString& prompt, qsizetype packs);
 

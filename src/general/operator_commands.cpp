@@ -103,7 +103,7 @@ void OperatorCommands::showGeneral() {
 
 void OperatorCommands::changeLanguage(const QString& language) {
     const bool isOther = language != language_;
-    if (!hasCards(language) || (isOther && !mayLeaveGeneral())) {
+    if (!packs_.hasCards(language) || (isOther && !mayLeaveGeneral())) {
         const QScopedValueRollback goingBack(goingBack_, true);
         languages_.setText(language_);
         return;
@@ -126,15 +126,6 @@ void OperatorCommands::changeLanguage(const QString& language) {
     } else {
         mnReloadVar();
     }
-}
-
-bool OperatorCommands::hasCards(const QString& language) {
-    const AppFolder& folder = engine_.program().folder;
-    if (folder.exists(folder.packFile(language, u"CARDS.TXT"))) return true;
-    state_.variables.SetVar(u"@LANGUAGE", language);
-    packs_.LOAD_CARDS();  // says what is missing
-    state_.variables.SetVar(u"@LANGUAGE", language_);
-    return false;
 }
 
 bool OperatorCommands::mayLeaveGeneral() {

@@ -50,8 +50,6 @@ class OperatorCommands : public QObject {
     void takeEffect(const Control& box);
     void takePeriod(const Control& box);
     void changeLanguage(const QString& language);
-    // A language without a card table is told: the former one stays in force with its cards.
-    bool hasCards(const QString& language);
     // Asks when general variables are not saved.
     bool mayLeaveGeneral();
 
