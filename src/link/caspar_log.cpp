@@ -44,8 +44,11 @@ void CasparLog::stop(const QDateTime& now) {
 
 void CasparLog::write(const QString& line) {
     if (!file_.isOpen()) return;
-    const QByteArray bytes = files_.encode(oneLine(line) + u"\r\n"_s);
-    if (file_.write(bytes) != bytes.size()) throw RunTimeError(ErrorNumber::DiskFull, file_.fileName());
+    const QString end = u"\r\n"_s;
+    const QByteArray bytes = files_.encode((inLine_ ? end : QString()) + oneLine(line) + end);
+    const qint64 written = file_.write(bytes);
+    if (written > 0) inLine_ = written < bytes.size();
+    if (written != bytes.size()) throw RunTimeError(ErrorNumber::DiskFull, file_.fileName());
 }
 
 }  // namespace zelvor

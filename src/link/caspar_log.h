@@ -20,7 +20,8 @@ class CasparLog {
     void start(const QDateTime& now);
     // Writes the closing lines and closes the file; nothing when it is not open.
     void stop(const QDateTime& now);
-    // Writes one line, line breaks in it as blanks; nothing when the file is not open. Throws 61 when the disk is full.
+    // Writes one line, line breaks in it as blanks; nothing when the file is not open. Throws 61 when the disk is full;
+    // what was cut there ends before the next line.
     void write(const QString& line);
 
     [[nodiscard]] bool isOpen() const { return file_.isOpen(); }
@@ -29,6 +30,7 @@ class CasparLog {
     AppFolder folder_;
     TextFiles files_;
     QFile file_;
+    bool inLine_ = false;  // the disk was full in the middle of one
 };
 
 // The general date-and-time form of a locale: its short date, and its time with seconds and without a time zone.

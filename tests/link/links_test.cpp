@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "studio.h"
+#include "support/full_disk.h"
 
 using namespace Qt::StringLiterals;
 using namespace zelvor;
@@ -75,6 +76,12 @@ TEST(GraphicsLinks, LogsEverythingInItsOwnWords) {
     studio.at("chkLOGFILE").setChecked(true);
     const QByteArray closed = "LOG stop at " + now + "\r\n" + QByteArray(36, '=') + "\r\n";
     EXPECT_EQ(studio.logFile(), opened + lines + closed + opened) << "the log grows";
+    {
+        const FullDisk full(static_cast<rlim_t>(studio.logFile().size() + 2));
+        for (int i = 0; i < 2; ++i) studio.links.writeLog(u"lost"_s);
+    }
+    studio.links.writeLog(u"C"_s);
+    EXPECT_TRUE(studio.logFile().endsWith("\r\nlo\r\nC\r\n")) << "a line of its own after one that was cut";
 
     EXPECT_EQ(generalDateText(studio.clock.now(), QLocale(u"en_US"_s)), u"11/21/26 8:31:07 PM"_s);
 }

@@ -1,17 +1,16 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QBuffer>
 #include <QFile>
 #include <QJsonObject>
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "app_as_run/as_run_command.h"
 #include "as_run/as_run_file.h"
 #include "as_run/as_run_reader.h"
 #include "as_run/standing_graphics.h"
 #include "console/gallery.h"
+#include "support/full_disk.h"
 #include "support/told.h"
 
 using namespace Qt::StringLiterals;
@@ -69,14 +68,10 @@ TEST(AsRunFile, FullDiskIsToldOnceAndEndsNothing) {
     int told = 0;
     QObject::connect(&file, &AsRunFile::failed, [&] { ++told; });
     file.append(fired(u"1"_s));
-    rlimit limit{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{static_cast<rlim_t>(bytesOf(file.path()).size() + 10), limit.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
-    for (int i = 0; i < 3; ++i) file.append(fired(u"lost"_s));
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, before);
+    {
+        const FullDisk full(static_cast<rlim_t>(bytesOf(file.path()).size() + 10));
+        for (int i = 0; i < 3; ++i) file.append(fired(u"lost"_s));
+    }
     EXPECT_EQ(told, 1);
     file.append(fired(u"2"_s));
     const auto cards = read(bytesOf(file.path()));
