@@ -38,7 +38,7 @@ void say(Control& label, const QString& words) {
 }  // namespace
 
 Proposal::Proposal(const Control& label) {
-    const QString record = label.tag();
+    const QString& record = label.tag();
     const Pieces fields(record, u'|');
     if (fields.count() < 4) {
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
