@@ -56,7 +56,8 @@ QStringList TextFiles::readLines(const QString& path) const {
 
 QString TextFiles::decode(const QByteArray& bytes) const {
     if (const auto utf16 = utf16Of(bytes)) return QStringDecoder(*utf16).decode(bytes);
-    QStringDecoder utf8(QStringConverter::Utf8);
+    // Stateless: a character cut off by the end is an error, too, not one that waits for more.
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     QString text = utf8.decode(bytes);
     if (!utf8.hasError()) return text;
     QStringDecoder codePage(readingCodePage_.constData());

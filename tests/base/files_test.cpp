@@ -42,6 +42,7 @@ TEST_F(Files, AreReadAsUtf8OrInTheCodePage) {
     EXPECT_EQ(u"#b"_s, files.read(write(u"v"_s, QByteArray("\0#\0b", 4))));
     // Ά is 0xA2 in windows-1253 and 0xB6 in ISO-8859-7.
     EXPECT_EQ(u"Άλφα"_s, files.read(write(u"b"_s, "\xA2\xEB\xF6\xE1")));
+    EXPECT_EQ(u"B Γ"_s, files.read(write(u"d"_s, "B \xC3")));
     const TextFiles greek("ISO-8859-7");
     EXPECT_EQ(u"Άλφα"_s, greek.read(write(u"c"_s, "\xB6\xEB\xF6\xE1")));
     EXPECT_EQ("\xB6\xEB\xF6\xE1", greek.encode(u"Άλφα"_s));
