@@ -1,5 +1,8 @@
 #include "engine/placeholders.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "base/number.h"
 #include "base/run_time_error.h"
 #include "base/text_search.h"
@@ -96,11 +99,15 @@ class Expansion {
     [[nodiscard]] QString cell(const QString& inner) const {
         const QStringList parts = inner.split(u'|');
         if (parts.size() < 2) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u'{' + inner.left(80) + u'}');
-        const int row = wholeNumber32(parts[0]);
-        const int field = wholeNumber32(parts[1]);
-        if (row < 0 || field < 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u'{' + inner.left(80) + u'}');
-        const Value* value = result_.find(row, field);
+        const Value* value = result_.find(place(parts[0], inner), place(parts[1], inner));
         return value == nullptr ? QString() : value->text();
+    }
+
+    // A row or column; one that no table can have is any that this one has not.
+    static int place(const QString& text, const QString& inner) {
+        double number = 0;
+        if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, u'{' + inner.left(80) + u'}');
+        return wholeNumber32(std::clamp<double>(number, -1, std::numeric_limits<qint32>::max()));
     }
 
     VariableStore& variables_;

@@ -52,16 +52,17 @@ TEST_F(Placeholders, AreReplacedFromTheInsideOut) {
     test::forCases(
         [this](const QString& text, const QString& expanded) { EXPECT_EQ(expanded, expand(text)) << qPrintable(text); },
         " -> ", "plain } -> plain }", "%{@X} -> %{@X}", "A{@X}B{@X} -> A1B1", "{@Y} -> 1", "{@UNKNOWN}| -> |",
-        "{@N}{@NULL} -> 2.5", "{1|0} {{@X}|0} {2|{@X}} -> one one 22", "[{3|0}{1|3}{0|0}{1|2}{1|1}] -> []",
-        "{@OPEN}X} -> 1", "{@CLOSE} -> a}b", "{@X{@UNKNOWN}} -> 1");
+        "{@N}{@NULL} -> 2.5", "{1|0} {{@X}|0} {2|{@X}} -> one one 22",
+        "[{3|0}{1|3}{0|0}{1|2}{1|1}{-1|0}{1|-0.6}{5000000000|0}] -> []", "{@OPEN}X} -> 1", "{@CLOSE} -> a}b",
+        "{@X{@UNKNOWN}} -> 1");
     EXPECT_NE(nullptr, variables_.find(u"@UNKNOWN"));
 }
 
 TEST_F(Placeholders, ThatCannotBeReplacedAreErrors) {
     const std::pair<QString, int> rows[] = {
-        {u"{@X"_s, 5},          {u"a}{@X}"_s, 5}, {u"{@X}}{@X}"_s, 5}, {u"{@X {@X}"_s, 5},
-        {u"{@CLOSE}{@X}"_s, 5}, {u"{a|1}"_s, 13}, {u"{1|}"_s, 13},     {u"{1}"_s, 9},
-        {u"{}"_s, 9},           {u"{-1|0}"_s, 9}, {u"{@LOOP}"_s, 28},  {u"{@GROWS}"_s, 28},
+        {u"{@X"_s, 5},          {u"a}{@X}"_s, 5},   {u"{@X}}{@X}"_s, 5}, {u"{@X {@X}"_s, 5},
+        {u"{@CLOSE}{@X}"_s, 5}, {u"{a|1}"_s, 13},   {u"{1|}"_s, 13},     {u"{1}"_s, 9},
+        {u"{}"_s, 9},           {u"{@LOOP}"_s, 28}, {u"{@GROWS}"_s, 28},
     };
     for (const auto& [text, number] : rows) EXPECT_EQ(u"error %1"_s.arg(number), expand(text)) << text.toStdString();
 }
