@@ -28,9 +28,10 @@ void FOREACHREC(CardRun& run, const Arguments& args) {
 void ROF(CardRun& run, const Arguments&) {
     if (run.loop.start == 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"ROF without FOREACHREC"_s);
     run.loop.counter += 1;
-    if (run.loop.counter > run.loop.mostRounds) throw RunTimeError(ErrorNumber::OutOfStackSpace, u"FOREACHREC"_s);
     run.variables().SetVar(run.loop.variable, static_cast<qint64>(run.loop.counter));
-    if (run.loop.counter <= run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) run.jumpTo(run.loop.start);
+    if (run.loop.counter > run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) return;
+    if (run.loop.counter > run.loop.mostRounds) throw RunTimeError(ErrorNumber::OutOfStackSpace, u"FOREACHREC"_s);
+    run.jumpTo(run.loop.start);
 }
 
 // An operand that begins with "EVAL" stands for the value of the script expression behind it.
