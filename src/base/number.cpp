@@ -8,6 +8,8 @@
 #include "base/run_time_error.h"
 #include "plain/number.h"
 
+using namespace Qt::StringLiterals;
+
 namespace zelvor {
 
 namespace {
@@ -98,9 +100,7 @@ Whole wholeNumber(double number) {
 
 template <class Whole>
 Whole wholeNumber(QStringView text) {
-    double number = 0;
-    if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, text.left(80).toString());
-    return wholeNumber<Whole>(number);
+    return wholeNumber<Whole>(wantedNumber(text));
 }
 
 }  // namespace
@@ -142,6 +142,13 @@ bool readNumber(QStringView text, double& number) {
     const char* end = nullptr;
     number = decimalNumber(ascii, end);
     return end == ascii.end();
+}
+
+double wantedNumber(QStringView text) {
+    double number = 0;
+    if (readNumber(text, number)) return number;
+    const QStringView shown = text.trimmed().left(80);
+    throw RunTimeError(ErrorNumber::TypeMismatch, shown.isEmpty() ? u"\"\""_s : shown.toString());
 }
 
 qint16 wholeNumber16(QStringView text) {

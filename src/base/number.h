@@ -17,6 +17,9 @@ double Val(QStringView text);
 // True when the whole text (blanks around it aside) is one number, its value in `number`.
 bool readNumber(QStringView text, double& number);
 
+// The same number; a text that is none throws 13 with the text.
+double wantedNumber(QStringView text);
+
 // Whole numbers, halves to the even neighbour. A text that is no number throws 13, one out of range throws 6.
 qint16 wholeNumber16(QStringView text);
 qint32 wholeNumber32(QStringView text);

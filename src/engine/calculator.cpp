@@ -1,6 +1,7 @@
 #include "engine/calculator.h"
 
 #include <QRandomGenerator>
+#include <algorithm>
 
 #include "base/run_time_error.h"
 
@@ -16,8 +17,10 @@ double wholeSecondOf(const QDateTime& now) {
 
 // The part of a long expression around the place of an error, counted from 1.
 QString excerpt(QStringView expression, int position) {
+    if (expression.trimmed().isEmpty()) return u"\"\""_s;
     constexpr qsizetype kShown = 120;
-    const qsizetype first = std::max<qsizetype>(0, position - kShown / 2);
+    const qsizetype last = std::max<qsizetype>(0, expression.size() - kShown);
+    const qsizetype first = std::clamp<qsizetype>(position - kShown / 2, 0, last);
     const QStringView part = expression.mid(first, kShown);
     return (first > 0 ? u"..."_s : QString()) + part + (first + kShown < expression.size() ? u"..."_s : QString());
 }
@@ -36,8 +39,9 @@ double Calculator::calculate(QStringView formula) {
     const double result =
         formula_.StoreExpression({utf8.data(), static_cast<size_t>(utf8.size())}) ? formula_.Eval() : 0;
     if (formula_.ErrorID() != 0) {
-        throw RunTimeError::withText(ErrorNumber::InvalidProcedureCall,
-                                     QString::fromStdString(formula_.ErrorDescription()));
+        throw RunTimeError::withText(
+            ErrorNumber::InvalidProcedureCall,
+            QString::fromStdString(formula_.ErrorDescription()) + u" in "_s + excerpt(formula, formula_.ErrorPos()));
     }
     return result;
 }

@@ -24,7 +24,9 @@ const AskField& AskState::field(int number) const {
 }
 
 QString& OnAirTable::at(int row, int column) {
-    if (column < 0 || column >= kColumns) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    if (column < 0 || column >= kColumns) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"%1-%2"_s.arg(row).arg(column));
+    }
     return rows_[row][column];
 }
 

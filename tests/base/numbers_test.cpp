@@ -47,6 +47,11 @@ TEST(Numbers, WholeNumbersRoundHalvesToEvenAndMindTheirRange) {
     EXPECT_EQ(6, errorOf([] { wholeNumber32(2147483648.0); }));
     for (const QStringView text : {u"", u"x", u"1x", u"1 2", u"&H"})
         EXPECT_EQ(13, errorOf([&] { wholeNumber32(text); })) << text.toString().toStdString();
+    try {
+        wholeNumber32(u" ");
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ("Type mismatch: \"\"", error.text().toStdString());
+    }
 }
 
 TEST(Values, ReadAsTextAndAsNumbers) {

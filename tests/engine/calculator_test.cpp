@@ -42,11 +42,16 @@ TEST(Calculator, GivesWhatEachFormulaGivesByItself) {
                 EXPECT_EQ(alone.ErrorID(), 0) << text;
                 ++values;
             } catch (const RunTimeError& error) {
-                EXPECT_EQ(error.text().toStdString(), alone.ErrorDescription()) << text;
+                EXPECT_EQ(error.text().toStdString(), alone.ErrorDescription() + " in " + text);
             }
         }
     }
     EXPECT_GT(values, 3000);
+    try {
+        calculator.calculate(u"");
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.text().toStdString(), "Syntax error at pos: 1 in \"\"");
+    }
 }
 
 }  // namespace

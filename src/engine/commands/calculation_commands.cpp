@@ -33,8 +33,7 @@ void CALC(CardRun& run, const Arguments& args) {
 
 double rounded(QStringView text, int digits) {
     constexpr int kMostDigits = 22;
-    double number = 0;
-    if (!readNumber(text, number)) throw RunTimeError(ErrorNumber::TypeMismatch, text.left(80).toString());
+    const double number = wantedNumber(text);
     if (digits < 0 || digits > kMostDigits) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     return script::roundedTo(number, digits, script::Halves::ToEven);
 }

@@ -76,10 +76,11 @@ void ADD2LABELARRAY(CardRun& run, const Arguments& args) {
 void PROPOSE(CardRun& run, const Arguments& args) {
     const Pieces pieces = args.pieces();
     Control& label = run.form().at(controls.lblPROPOSED, wholeNumber32(pieces[0]));
+    const QStringView used = pieces[3];
     label.setTag(pieces[1].toString());
     label.setState({});
     label.setText(pieces[2].toString().replace(u"[VBCRLF]"_s, u"\r\n"_s));
-    label.setBackColour(pieces[3] == u"Y" ? colours::kAcceptedProposal : colours::kOpenProposal);
+    label.setBackColour(used == u"Y" ? colours::kAcceptedProposal : colours::kOpenProposal);
 }
 
 // The proposal's card as a slot holds it with the proposal's tag; empty when none does.

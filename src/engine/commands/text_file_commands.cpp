@@ -45,6 +45,7 @@ void LOADTXT(CardRun& run, const Arguments& args) {
 // The position of the last "S" in a header "#CL:,,S,".
 int selectorColumn(const QString& header, int before) {
     const Pieces parts(header, u':');
+    if (parts.count() < 2) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, header.left(80));
     const Pieces entries(parts[1], u',');
     int column = before;
     // Meant: the last entry is never looked at, so a header ends with a "," behind the "S".
