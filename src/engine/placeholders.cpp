@@ -1,7 +1,10 @@
 #include "engine/placeholders.h"
 
+#include <QSet>
+#include <QVarLengthArray>
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 #include "base/number.h"
 #include "base/run_time_error.h"
@@ -25,9 +28,9 @@ class Expansion {
         while (!inputs_.empty()) {
             if (inputs_.back().at == inputs_.back().text.size()) {
                 inputs_.pop_back();
-                continue;
+            } else {
+                readOn();
             }
-            if (readOn()) return out_;
         }
         if (!opens_.empty()) throw RunTimeError(ErrorNumber::InvalidProcedureCall, u"\"{\" without \"}\""_s);
         return out_;
@@ -44,25 +47,25 @@ class Expansion {
         pending_ += text.size();
     }
 
-    // Reads up to and including the next bracket; true when nothing is left to replace.
-    bool readOn() {
+    // Reads up to and including the next bracket.
+    void readOn() {
         Input& input = inputs_.back();
         const QStringView rest = QStringView(input.text).mid(input.at);
         qsizetype length = 0;
         while (length < rest.size() && rest[length] != u'{' && rest[length] != u'}') ++length;
         out_ += rest.left(length);
         advance(input, length);
-        if (length == rest.size()) return false;
-        if (rest[length] == u'{') {
+        if (length == rest.size()) return;
+        const bool opens = rest[length] == u'{';
+        advance(input, 1);
+        if (opens) {
             opens_.push_back(out_.size());
             out_ += u'{';
-            advance(input, 1);
-            return false;
+        } else if (opens_.empty()) {
+            closeWithoutOpen();
+        } else {
+            replace();
         }
-        if (opens_.empty()) return closeWithoutOpen();
-        advance(input, 1);
-        replace();
-        return false;
     }
 
     void advance(Input& input, qsizetype length) {
@@ -70,14 +73,11 @@ class Expansion {
         pending_ -= length;
     }
 
-    // A "}" with no "{" before it is ordinary text when no "{" follows either.
-    bool closeWithoutOpen() {
-        for (size_t i = inputs_.size(); i-- > 0;) {
-            const QStringView rest = QStringView(inputs_[i].text).mid(inputs_[i].at);
-            if (rest.contains(u'{')) throw RunTimeError(ErrorNumber::InvalidProcedureCall, u"\"}\" before \"{\""_s);
-            out_ += rest;
-        }
-        return true;
+    // A "}" with no "{" before it is ordinary text when no new placeholder follows: one met before is replaced wherever
+    // it stands.
+    void closeWithoutOpen() {
+        out_ += u'}';
+        if (!known_) known_.emplace(replaced_.begin(), replaced_.end());
     }
 
     void replace() {
@@ -88,6 +88,10 @@ class Expansion {
             out_ += u'}';
             return;
         }
+        if (known_ && !known_->contains(inner)) {
+            throw RunTimeError(ErrorNumber::InvalidProcedureCall, u"\"}\" before \"{\""_s);
+        }
+        replaced_.append(inner);
         out_.truncate(open);
         const QString value = inner.startsWith(u'@') ? variables_.GetVar(inner).text() : cell(inner);
         push(value);
@@ -116,7 +120,9 @@ class Expansion {
     QString out_;
     std::vector<Input> inputs_;
     std::vector<qsizetype> opens_;  // where the open "{" stand in out_
-    qsizetype pending_ = 0;         // units not yet read, over all inputs
+    QVarLengthArray<QString, 8> replaced_;
+    std::optional<QSet<QString>> known_;  // behind a "}" without "{": what may be replaced there
+    qsizetype pending_ = 0;               // units not yet read, over all inputs
     int replacements_ = 0;
 };
 

@@ -54,13 +54,13 @@ TEST_F(Placeholders, AreReplacedFromTheInsideOut) {
         " -> ", "plain } -> plain }", "%{@X} -> %{@X}", "A{@X}B{@X} -> A1B1", "{@Y} -> 1", "{@UNKNOWN}| -> |",
         "{@N}{@NULL} -> 2.5", "{1|0} {{@X}|0} {2|{@X}} -> one one 22",
         "[{3|0}{1|3}{0|0}{1|2}{1|1}{-1|0}{1|-0.6}{5000000000|0}] -> []", "{@OPEN}X} -> 1", "{@CLOSE} -> a}b",
-        "{@X{@UNKNOWN}} -> 1");
+        "{@X}}{@X} -> 1}1", "{@CLOSE}{@CLOSE}} -> a}ba}b}", "{@X{@UNKNOWN}} -> 1");
     EXPECT_NE(nullptr, variables_.find(u"@UNKNOWN"));
 }
 
 TEST_F(Placeholders, ThatCannotBeReplacedAreErrors) {
     const std::pair<QString, int> rows[] = {
-        {u"{@X"_s, 5},          {u"a}{@X}"_s, 5},   {u"{@X}}{@X}"_s, 5}, {u"{@X {@X}"_s, 5},
+        {u"{@X"_s, 5},          {u"a}{@X}"_s, 5},   {u"{@X}}{@Y}"_s, 5}, {u"{@X {@X}"_s, 5},
         {u"{@CLOSE}{@X}"_s, 5}, {u"{a|1}"_s, 13},   {u"{1|}"_s, 13},     {u"{1}"_s, 9},
         {u"{}"_s, 9},           {u"{@LOOP}"_s, 28}, {u"{@GROWS}"_s, 28},
     };

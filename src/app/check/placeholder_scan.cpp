@@ -1,5 +1,6 @@
 #include "app_check/placeholder_scan.h"
 
+#include <QSet>
 #include <algorithm>
 #include <vector>
 
@@ -41,6 +42,8 @@ PlaceholderScan scanPlaceholders(const QString& text) {
         return scan;
     }
     std::vector<qsizetype> opens;
+    QSet<QString> known;    // the placeholders before a "}" without "{": behind it no other is replaced
+    bool isClosed = false;  // whether there was such a "}"
     for (qsizetype at = 0; at < text.size(); ++at) {
         if (text[at] == u'{') opens.push_back(scan.text.size());
         if (text[at] != u'}') {
@@ -48,14 +51,18 @@ PlaceholderScan scanPlaceholders(const QString& text) {
             continue;
         }
         if (opens.empty()) {
-            const QStringView rest = QStringView(text).mid(at);
-            if (rest.contains(u'{')) scan.fault = u"\"}\" before \"{\""_s;
-            scan.text += rest;
-            return scan;
+            isClosed = true;
+            scan.text += u'}';
+            continue;
         }
         const QString inner = scan.text.mid(opens.back() + 1);
         scan.text.truncate(opens.back());
         opens.pop_back();
+        if (!isClosed) {
+            known.insert(inner);
+        } else if (!known.contains(inner) && !inner.contains(kAnything)) {
+            scan.fault = u"\"}\" before \"{\""_s;
+        }
         if (inner.startsWith(u'@')) {
             scan.variables += inner;
         } else if (!mayBeCell(inner)) {
@@ -63,7 +70,7 @@ PlaceholderScan scanPlaceholders(const QString& text) {
         }
         scan.text += kAnything;
     }
-    if (!opens.empty()) scan.fault = u"\"{\" without \"}\""_s;
+    if (!opens.empty()) scan.fault = isClosed ? u"\"}\" before \"{\""_s : u"\"{\" without \"}\""_s;
     return scan;
 }
 
