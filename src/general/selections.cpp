@@ -74,18 +74,23 @@ void Selections::SaveSelections() {
 
 void Selections::LoadSelections() {
     saving_ = false;
-    program_.trap.run({u"frmMAIN.LoadSelections"_s}, Tell::Operator, [&] {
+    ErrorPlace place{u"frmMAIN.LoadSelections"_s};
+    program_.trap.run(place, Tell::Operator, [&] {
         if (!program_.folder.exists(program_.folder.modulesFile(u"SELECTIONS.TXT"))) return;
-        read(program_.files.readLines(path()));
+        const QStringList lines = program_.files.readLines(path());
+        try {
+            read(lines, place.line);
+        } catch (const RunTimeError& error) {
+            throw RunTimeError::withText(error.code(), error.text() + u": SELECTIONS.TXT"_s);
+        }
     });
     saving_ = true;
 }
 
-void Selections::read(const QStringList& lines) {
-    qsizetype at = 0;
+void Selections::read(const QStringList& lines, int& lineNo) {
     const auto next = [&] {
-        if (at == lines.size()) throw RunTimeError(ErrorNumber::InputPastEndOfFile, u"SELECTIONS.TXT"_s);
-        return lines[at++];
+        if (lineNo == lines.size()) throw RunTimeError(ErrorNumber::InputPastEndOfFile);
+        return lines[lineNo++];
     };
     Control& period = form_.at(controls.cbQt);
     restorePosition(period, next());

@@ -24,7 +24,7 @@ class Selections : public QObject {
 
  private:
     [[nodiscard]] QString path() const;
-    void read(const QStringList& lines);
+    void read(const QStringList& lines, int& lineNo);
 
     Program& program_;
     ShowState& state_;

@@ -68,22 +68,25 @@ TEST(Selections, SavesFromTheLoadOnAndFindsAllAgain) {
 }
 
 TEST(Selections, ABrokenFileIsOneMessageAndWhatWasReadStays) {
-    // The file, its error, and the positions of period and FADE OUT afterwards.
-    const std::tuple<QByteArray, QString, int, int> cases[]{{"3\r\n", u"62"_s, 3, 9},
-                                                            {"", u"62"_s, 0, 9},
-                                                            {" 3 \r\n 4 \r\n100\r\n5\r\n", u"380"_s, 3, 9},
-                                                            {"9\r\n4\r\n4\r\n", u"380"_s, 0, 9},
-                                                            {"3\r\n4\r\n8\r\nrubbish\r\n", u"13"_s, 3, 8},
-                                                            {"3\r\n4\r\n8\r\n99999\r\n", u"6"_s, 3, 8},
-                                                            {QByteArray(500, '\xFF'), u"13"_s, 0, 9}};
-    for (const auto& [bytes, error, period, fadeOut] : cases) {
+    // The file, its error and the line reached, and the positions of period and FADE OUT afterwards.
+    const std::tuple<QByteArray, QString, QString, int, int> cases[]{
+        {"3\r\n", u"62"_s, u"1"_s, 3, 9},
+        {"", u"62"_s, u"0"_s, 0, 9},
+        {" 3 \r\n 4 \r\n100\r\n5\r\n", u"380"_s, u"3"_s, 3, 9},
+        {"9\r\n4\r\n4\r\n", u"380"_s, u"1"_s, 0, 9},
+        {"3\r\n4\r\n8\r\nrubbish\r\n", u"13"_s, u"4"_s, 3, 8},
+        {"3\r\n4\r\n8\r\n99999\r\n", u"6"_s, u"4"_s, 3, 8},
+        {QByteArray(500, '\xFF'), u"13"_s, u"1"_s, 0, 9}};
+    for (const auto& [bytes, error, line, period, fadeOut] : cases) {
         SCOPED_TRACE(bytes.left(40).toStdString());
         Desk desk;
         desk.write(u"SELECTIONS.TXT"_s, bytes);
         desk.selections.LoadSelections();
         ASSERT_EQ(desk.operatorDesk.shown.size(), 1);
-        EXPECT_TRUE(desk.operatorDesk.shown[0].startsWith(u"Error "_s + error + u"\r\n"))
-            << desk.operatorDesk.shown[0].toStdString();
+        const QString& told = desk.operatorDesk.shown[0];
+        EXPECT_TRUE(told.startsWith(u"Error "_s + error + u"\r\n")) << told.toStdString();
+        EXPECT_TRUE(told.contains(u": SELECTIONS.TXT\r\n") && told.endsWith(u"\r\nLine "_s + line))
+            << told.toStdString();
         EXPECT_EQ(desk.form.at(controls.cbQt).position(), period);
         EXPECT_EQ(desk.form.at(controls.cmbFADE, 1).position(), fadeOut);
         EXPECT_EQ(desk.form.at(controls.txtS5A, 4).text(), u"0");
