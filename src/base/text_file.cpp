@@ -20,9 +20,15 @@ void throwOpenError(const QString& path, QFileDevice::FileError error, Opening o
     throw RunTimeError(ErrorNumber::FileNotFound, path);
 }
 
+void expectFile(const QString& path) {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
+}
+
 QByteArray readWholeFile(const QString& path) {
+    expectFile(path);
     QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
+    if (!file.open(QIODevice::ReadOnly)) throwOpenError(path, file.error());
     // In pieces: a read makes room for all it is asked for, which would be the largest file's each time.
     constexpr qint64 kPiece = qint64{64} * 1024;
     QByteArray bytes;
@@ -86,9 +92,7 @@ QStringList splitLines(const QString& text) {
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes) {
-    // A device or a pipe is no file to put another in the place of.
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
+    expectFile(path);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) throwOpenError(path, file.error(), Opening::ForWriting);
     // What is written only in commit() could fail there unnoticed, and an empty file would take the place of the old

@@ -41,6 +41,10 @@ QStringList splitLines(const QString& text);
 // path.
 void replaceFile(const QString& path, const QByteArray& bytes);
 
+// Throws 75 with the path for what is there and is no file: a pipe or a device may keep its reader or writer waiting
+// without end, and is nothing to put a file in the place of.
+void expectFile(const QString& path);
+
 // Throws the error that a file which could not be opened stands for: 53, 61, 70, 75 or 76 with the path.
 enum class Opening { ForReading, ForWriting };
 [[noreturn]] void throwOpenError(const QString& path, QFileDevice::FileError error,

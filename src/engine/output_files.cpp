@@ -6,6 +6,7 @@ namespace zelvor {
 
 void OutputFiles::open(const QString& path) {
     file_.close();
+    expectFile(path);
     file_.setFileName(path);
     if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throwOpenError(path, file_.error(), Opening::ForWriting);

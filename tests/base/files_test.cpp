@@ -54,6 +54,7 @@ TEST_F(Files, ThatCannotBeReadSayWhy) {
     EXPECT_EQ(75, readError(folder_.path()));
     const QString pipe = folder_.filePath(u"pipe"_s);
     ASSERT_EQ(0, mkfifo(qPrintable(pipe), 0600));
+    EXPECT_EQ(75, readError(pipe));
     EXPECT_THROW(replaceFile(pipe, "x"), RunTimeError);
     EXPECT_FALSE(QFileInfo(pipe).isFile());
     QFile large(folder_.filePath(u"large"_s));
