@@ -44,10 +44,10 @@ PlaceholderScan scanPlaceholders(const QString& text) {
     std::vector<qsizetype> opens;
     QSet<QString> known;    // the placeholders before a "}" without "{": behind it no other is replaced
     bool isClosed = false;  // whether there was such a "}"
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        if (text[at] == u'{') opens.push_back(scan.text.size());
-        if (text[at] != u'}') {
-            scan.text += text[at];
+    for (const QChar character : text) {
+        if (character == u'{') opens.push_back(scan.text.size());
+        if (character != u'}') {
+            scan.text += character;
             continue;
         }
         if (opens.empty()) {
