@@ -104,13 +104,7 @@ void GraphicsLinks::writeLog(const QString& line) {
 }
 
 void GraphicsLinks::appendHistory(std::initializer_list<QStringView> pieces) {
-    const QString& time = timeOfDay();
-    qsizetype size = time.size();
-    for (const QStringView piece : pieces) size += piece.size();
-    QString line(size, Qt::Uninitialized);
-    QChar* to = std::copy(time.begin(), time.end(), line.data());
-    for (const QStringView piece : pieces) to = std::copy(piece.begin(), piece.end(), to);
-    history_.add(std::move(line));
+    history_.add(timeOfDay(), pieces);
 }
 
 void GraphicsLinks::clearHistory() {
@@ -147,8 +141,8 @@ void GraphicsLinks::showLogWritten(bool written) {
 void GraphicsLinks::addResponse(const QString& text) {
     const bool alarm = tellsOfError(text);
     const QString& now = timeOfDay();
-    responses_.add(now + u' ' + text, alarm);
-    history_.add(now + u" < "_s + text, alarm);
+    responses_.add(now, {u" "_s, text}, alarm);
+    history_.add(now, {u" < "_s, text}, alarm);
 }
 
 const QString& GraphicsLinks::timeOfDay() {

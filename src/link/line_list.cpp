@@ -1,14 +1,51 @@
 #include "link/line_list.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zelvor {
 
+namespace {
+
+// A text of this many characters keeps its memory for the next turn.
+constexpr qsizetype kKeptText = 64 * 1024;
+
+}  // namespace
+
+void LineList::Added::add(QStringView head, std::initializer_list<QStringView> rest, bool alarm) {
+    const qsizetype start = text_.size();
+    qsizetype end = start + head.size();
+    for (const QStringView piece : rest) end += piece.size();
+    text_.resize(end);
+    QChar* to = std::copy(head.begin(), head.end(), text_.data() + start);
+    for (const QStringView piece : rest) to = std::copy(piece.begin(), piece.end(), to);
+    ends_.push_back({end, alarm});
+}
+
+void LineList::Added::clear() {
+    if (text_.capacity() > kKeptText) text_ = QString();
+    text_.resize(0);
+    ends_.clear();
+}
+
+LineList::Line LineList::Added::line(size_t number) const {
+    const qsizetype start = startOf(number);
+    return {text_.mid(start, ends_[number].at - start), ends_[number].alarm};
+}
+
+void LineList::Added::dropOldest(size_t count) {
+    const qsizetype dropped = startOf(count);
+    text_.remove(0, dropped);
+    ends_.erase(ends_.begin(), ends_.begin() + static_cast<std::ptrdiff_t>(count));
+    for (End& end : ends_) end.at -= dropped;
+}
+
 LineList::LineList(Newest newest, QObject* parent) : QAbstractListModel(parent), newest_(newest) {}
 
-void LineList::add(QString text, bool alarm) {
-    added_.push_back({std::move(text), alarm});
-    if (added_.size() > kMostLines) added_.pop_front();
+void LineList::add(QStringView head, std::initializer_list<QStringView> rest, bool alarm) {
+    added_.add(head, rest, alarm);
+    // Twice as many are let in, so that the oldest go all at once.
+    if (added_.count() == size_t{2} * kMostLines) added_.dropOldest(kMostLines);
     changeSoon();
 }
 
@@ -29,16 +66,17 @@ void LineList::change() {
         lines_.clear();
         endResetModel();
     }
-    if (added_.empty()) return;
+    if (added_.count() > kMostLines) added_.dropOldest(added_.count() - kMostLines);
+    if (added_.count() == 0) return;
 
     const bool first = newest_ == Newest::First;
     const int row = first ? 0 : rowCount();
-    beginInsertRows({}, row, row + static_cast<int>(added_.size()) - 1);
-    for (Line& line : added_) {
+    beginInsertRows({}, row, row + static_cast<int>(added_.count()) - 1);
+    for (size_t number = 0; number < added_.count(); ++number) {
         if (first) {
-            lines_.push_front(std::move(line));
+            lines_.push_front(added_.line(number));
         } else {
-            lines_.push_back(std::move(line));
+            lines_.push_back(added_.line(number));
         }
     }
     added_.clear();

@@ -3,6 +3,8 @@
 #include <QAbstractListModel>
 #include <QString>
 #include <deque>
+#include <initializer_list>
+#include <vector>
 
 namespace zelvor {
 
@@ -20,8 +22,9 @@ class LineList : public QAbstractListModel {
 
     explicit LineList(Newest newest, QObject* parent = nullptr);
 
-    // Adds the newest line, then drops the oldest one when there are more than kMostLines.
-    void add(QString text, bool alarm = false);
+    // Adds the head and the rest behind it as the newest line; the oldest one goes when there are more than
+    // kMostLines.
+    void add(QStringView head, std::initializer_list<QStringView> rest = {}, bool alarm = false);
     void clear();
 
     // The line's text; row 0 is the top line. Empty outside of the list.
@@ -35,13 +38,33 @@ class LineList : public QAbstractListModel {
         bool alarm = false;
     };
 
+    // The lines added since the last turn, as one text that is cut only when they are shown.
+    class Added {
+     public:
+        void add(QStringView head, std::initializer_list<QStringView> rest, bool alarm);
+        void clear();
+        [[nodiscard]] size_t count() const { return ends_.size(); }
+        [[nodiscard]] Line line(size_t number) const;
+        void dropOldest(size_t count);
+
+     private:
+        struct End {
+            qsizetype at = 0;  // behind the line's last character
+            bool alarm = false;
+        };
+        [[nodiscard]] qsizetype startOf(size_t number) const { return number > 0 ? ends_[number - 1].at : 0; }
+
+        QString text_;
+        std::vector<End> ends_;
+    };
+
     void changeSoon();
     void change();
 
     Newest newest_;
     std::deque<Line> lines_;
-    std::deque<Line> added_;  // since the last turn
-    bool cleared_ = false;    // before those
+    Added added_;
+    bool cleared_ = false;  // before those
     bool changesSoon_ = false;
 };
 

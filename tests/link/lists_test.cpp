@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
+#include "link/line_list.h"
 #include "link/recall_list.h"
 #include "link/reply_decoder.h"
 
@@ -36,4 +39,30 @@ TEST(RecallList, StepsThroughTheLast50Lines) {
     for (int i = 0; i < 60; ++i) older();
     EXPECT_EQ(older(), u"3"_s);
     EXPECT_EQ(RecallList().older(u"kept"_s), u"kept"_s);
+}
+
+TEST(LineList, ShowsTheNewest500HoweverManyATurnAdds) {
+    for (const auto newest : {LineList::Newest::First, LineList::Newest::Last}) {
+        LineList list(newest);
+        int last = 0;
+        for (const int added : {1, 499, 500, 501, 999, 1000, 1001, 2600, 3}) {
+            for (const int end = last + added; last < end;) {
+                ++last;
+                list.add(QString::number(last), {u" "_s, QString(last % 9, u'x')}, last % 7 == 0);
+            }
+            QCoreApplication::sendPostedEvents(&list);
+            ASSERT_EQ(list.rowCount(), std::min(last, 500));
+            for (int age = 0; age < list.rowCount(); ++age) {
+                const int line = last - age;
+                const int row = newest == LineList::Newest::First ? age : list.rowCount() - 1 - age;
+                ASSERT_EQ(list.text(row), QString::number(line) + u' ' + QString(line % 9, u'x')) << added;
+                ASSERT_EQ(list.data(list.index(row), LineList::kAlarmRole).toBool(), line % 7 == 0) << added;
+            }
+        }
+        list.clear();
+        list.add(u"after"_s);
+        QCoreApplication::sendPostedEvents(&list);
+        EXPECT_EQ(list.rowCount(), 1);
+        EXPECT_EQ(list.text(0), u"after"_s);
+    }
 }
