@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QFile>
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
@@ -18,13 +19,10 @@ class AsRunFile : public QObject {
  public:
     // day: on which the console started.
     AsRunFile(const AppFolder& folder, QDate day);
-    AsRunFile(const AsRunFile&) = delete;
-    AsRunFile& operator=(const AsRunFile&) = delete;
-    ~AsRunFile() override;
 
     // Appends it. What cannot be written is left out, and tried anew with the next one.
     void append(const QJsonObject& object);
-    [[nodiscard]] const QString& path() const { return path_; }
+    [[nodiscard]] QString path() const { return file_.fileName(); }
 
     // Where the record of a day stands, whether it is there or not.
     static QString pathOf(const AppFolder& folder, QDate day);
@@ -38,8 +36,7 @@ class AsRunFile : public QObject {
     bool write(const QByteArray& bytes);
     void fail();
 
-    QString path_;
-    int file_ = -1;
+    QFile file_;
     bool inLine_ = false;  // the file ends within a line
     bool failed_ = false;
 };
