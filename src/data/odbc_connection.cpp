@@ -1,14 +1,12 @@
 #include "data/odbc_connection.h"
 
-#include <sched.h>
-#include <unistd.h>
-
 #include <QDir>
 #include <QFile>
 #include <array>
 
 #include "base/run_time_error.h"
 #include "data/statement_kind.h"
+#include "system/thread_folder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,18 +18,17 @@ namespace {
 // own where the system allows that (containers may not), else the process's, which gets its own back.
 class WorkingFolder {
  public:
-    explicit WorkingFolder(const QString& folder)
-        : before_(unshare(CLONE_FS) == 0 ? QByteArray() : QFile::encodeName(QDir::currentPath())) {
-        if (chdir(QFile::encodeName(folder).constData()) != 0) throw RunTimeError(ErrorNumber::PathNotFound, folder);
+    explicit WorkingFolder(const QString& folder) : before_(takeOwnWorkingFolder() ? QString() : QDir::currentPath()) {
+        if (!QDir::setCurrent(folder)) throw RunTimeError(ErrorNumber::PathNotFound, folder);
     }
     WorkingFolder(const WorkingFolder&) = delete;
     WorkingFolder& operator=(const WorkingFolder&) = delete;
     ~WorkingFolder() {
-        if (!before_.isEmpty() && chdir(before_.constData()) != 0) qWarning("the working folder is gone");
+        if (!before_.isEmpty() && !QDir::setCurrent(before_)) qWarning("the working folder is gone");
     }
 
  private:
-    QByteArray before_;
+    QString before_;
 };
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "engine/card_script.h"
 
-#include <sys/stat.h>
-
 #include <QFile>
 #include <algorithm>
 
@@ -12,10 +10,6 @@ namespace zelvor {
 namespace {
 
 constexpr QStringView kBlockEnd = u"FI~";
-
-constexpr qint64 nanoseconds(const timespec& time) {
-    return qint64{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
-}
 
 std::shared_ptr<const LineCondition> parseCondition(const QString& line, const ExpandableText& comparison) {
     auto condition = std::make_shared<LineCondition>();
@@ -28,13 +22,6 @@ std::shared_ptr<const LineCondition> parseCondition(const QString& line, const E
 }
 
 }  // namespace
-
-// A copy that keeps the other file's time and has its size still changes when this one was last changed as a file.
-std::optional<ScriptStamp> scriptStamp(const QString& path) {
-    struct stat file {};
-    if (stat(QFile::encodeName(path).constData(), &file) != 0) return std::nullopt;
-    return ScriptStamp{nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), file.st_size};
-}
 
 QString cleanedScriptLine(QString line) {
     line.remove(u'\t');
@@ -80,7 +67,7 @@ CardScript::CardScript(const QString& card, const QString& path, const QString& 
 }
 
 QStringList CardScript::readSource(const QString& path, const TextFiles& files) {
-    sources_.push_back({path, scriptStamp(path)});
+    sources_.push_back({path, fileStamp(path)});
     return files.readLines(path);
 }
 
@@ -101,7 +88,7 @@ int CardScript::findBlockEnd(QStringView label, int from) const {
 
 bool CardScript::isCurrent() const {
     return std::ranges::all_of(
-        sources_, [](const Source& source) { return source.stamp && scriptStamp(source.path) == source.stamp; });
+        sources_, [](const Source& source) { return source.stamp && fileStamp(source.path) == source.stamp; });
 }
 
 std::shared_ptr<const CardScript> CardScriptCache::current(const QString& name) const {

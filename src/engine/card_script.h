@@ -11,6 +11,7 @@
 #include "base/text_file.h"
 #include "engine/command_table.h"
 #include "engine/placeholders.h"
+#include "system/file_stamp.h"
 
 namespace zelvor {
 
@@ -37,18 +38,6 @@ struct LineCondition {
     std::unique_ptr<ScriptLine> elseLine;
 };
 
-// What tells one version of a script file from another. Times are nanoseconds since 1970.
-struct ScriptStamp {
-    qint64 modified = 0;
-    qint64 changed = 0;
-    qint64 size = 0;
-
-    bool operator==(const ScriptStamp&) const = default;
-};
-
-// Null when there is no such file.
-std::optional<ScriptStamp> scriptStamp(const QString& path);
-
 // A card's script with its includes put in.
 class CardScript {
  public:
@@ -71,7 +60,7 @@ class CardScript {
  private:
     struct Source {
         QString path;
-        std::optional<ScriptStamp> stamp;
+        std::optional<FileStamp> stamp;
     };
 
     QStringList readSource(const QString& path, const TextFiles& files);

@@ -1,10 +1,10 @@
 #include "http/http_connection.h"
 
-#include <sys/socket.h>
-
 #include <QSslSocket>
 #include <boost/beast/http/parser.hpp>
 #include <boost/beast/http/string_body.hpp>
+
+#include "system/socket_calls.h"
 
 namespace zelvor {
 
@@ -156,8 +156,7 @@ void HttpConnection::afterAnswer() {
         // A connection closed at once, with bytes of the client still unread, would take the answer with it.
         socket_->skip(socket_->bytesAvailable());
         const bool isPlain = qobject_cast<QSslSocket*>(socket_) == nullptr;
-        if (!isPlain || ::shutdown(static_cast<int>(socket_->socketDescriptor()), SHUT_WR) != 0)
-            socket_->disconnectFromHost();
+        if (!isPlain || !endSending(socket_->socketDescriptor())) socket_->disconnectFromHost();
         deadline_.start(kDraining);
         return;
     }

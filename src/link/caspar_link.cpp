@@ -1,15 +1,10 @@
 #include "link/caspar_link.h"
 
-#include <sys/socket.h>
-
 #include <QNetworkProxy>
 #include <QSignalBlocker>
-#include <algorithm>
-#include <array>
-#include <cerrno>
 
 #include "base/translate.h"
-#include "link/dead_peer.h"
+#include "system/socket_calls.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,17 +15,6 @@ namespace {
 QString reasonOf(const QAbstractSocket& socket) {
     return socket.error() == QAbstractSocket::SocketTimeoutError ? translate("link", "timed out")
                                                                  : socket.errorString();
-}
-
-// The bytes that the network takes now, which saves the event loop from watching for it; -1 for an error. A close by
-// the server is left for the socket to meet.
-qint64 sendAtOnce(const QAbstractSocket& socket, const QByteArray& bytes) {
-    const auto file = static_cast<int>(socket.socketDescriptor());
-    const ssize_t taken =
-        ::send(file, bytes.constData(), static_cast<size_t>(bytes.size()), MSG_DONTWAIT | MSG_NOSIGNAL);
-    if (taken >= 0) return taken;
-    constexpr std::array kLeft{EAGAIN, EINTR, EPIPE, ECONNRESET};
-    return std::ranges::find(kLeft, errno) == kLeft.end() ? -1 : 0;
 }
 
 }  // namespace
@@ -71,7 +55,8 @@ void CasparLink::close() {
 void CasparLink::send(const QString& line) {
     if (state_ != LinkState::Connected) return;
     const QByteArray bytes = line.toUtf8() + "\r\n";
-    const qint64 taken = unsentBytes() == 0 ? sendAtOnce(socket_, bytes) : 0;
+    // Past the socket, which would have the event loop watch until it may write.
+    const qint64 taken = unsentBytes() == 0 ? sendAtOnce(socket_.socketDescriptor(), bytes) : 0;
     if (taken < 0) {
         const QString reason = qt_error_string();
         dropConnection();

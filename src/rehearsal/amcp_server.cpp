@@ -1,7 +1,5 @@
 #include "rehearsal/amcp_server.h"
 
-#include <sys/socket.h>
-
 #include <QTcpSocket>
 
 #include "rehearsal/reply.h"

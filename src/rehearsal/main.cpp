@@ -2,10 +2,10 @@
 #include <cstdio>
 
 #include "command_line/command_line.h"
-#include "command_line/termination.h"
 #include "crash/crash_dump.h"
 #include "rehearsal/options.h"
 #include "rehearsal/page_server.h"
+#include "system/termination.h"
 
 using namespace Qt::StringLiterals;
 using namespace zelvor::rehearsal;

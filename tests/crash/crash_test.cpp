@@ -9,9 +9,9 @@
 #include <QThread>
 #include <csignal>
 
-#include "command_line/termination.h"
 #include "crash/crash_dump.h"
 #include "support/wait.h"
+#include "system/termination.h"
 
 using namespace Qt::StringLiterals;
 

@@ -15,9 +15,9 @@
 #include "app_cards/ui_language.h"
 #include "app_cards/user_folder.h"
 #include "command_line/command_line.h"
-#include "command_line/termination.h"
 #include "console/theme.h"
 #include "crash/crash_dump.h"
+#include "system/termination.h"
 
 using namespace Qt::StringLiterals;
 

@@ -6,8 +6,8 @@
 #include "app_feed/clock_sender.h"
 #include "app_feed/console_lock.h"
 #include "app_feed/live_command.h"
-#include "app_feed/terminal_keys.h"
-#include "command_line/termination.h"
+#include "system/terminal.h"
+#include "system/termination.h"
 
 using namespace Qt::StringLiterals;
 

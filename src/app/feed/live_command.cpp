@@ -1,16 +1,15 @@
 #include "app_feed/live_command.h"
 
-#include <unistd.h>
-
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QSysInfo>
 
 #include "app_feed/live_feed.h"
 #include "app_feed/live_source_choice.h"
-#include "app_feed/terminal_keys.h"
 #include "base/run_time_error.h"
 #include "data/pack_connection.h"
 #include "live/table_schema.h"
+#include "system/terminal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +23,8 @@ QString connectionString(const LiveOptions& options) {
 }
 
 QString ownName() {
-    return QSysInfo::machineHostName().remove(u'\'').left(40) + u" process "_s + QString::number(getpid());
+    return QSysInfo::machineHostName().remove(u'\'').left(40) + u" process "_s +
+           QString::number(QCoreApplication::applicationPid());
 }
 
 // Rewrites one line of a terminal twice a second; elsewhere a line every five seconds where there are other words to
@@ -90,7 +90,7 @@ FeedStatusCode runLive(const FeedOptions& options, const QHostAddress& host, QTe
     QEventLoop loop;
     TerminalKeys keys;
     LiveFeed feed(*source, *decoder, refusals, files, writer.get(), host, options.to.port);
-    StatusPrinter printer(feed, out, isatty(STDOUT_FILENO) != 0);
+    StatusPrinter printer(feed, out, outputIsTerminal());
     QObject::connect(&keys, &TerminalKeys::pressed, &loop, [&](char key) {
         if (key == 'q' || key == '\x03' || key == '\x04') loop.quit();
     });

@@ -1,8 +1,6 @@
 #include "app_language_server/language_server_command.h"
 
-#include <poll.h>
-#include <unistd.h>
-
+#include <QFile>
 #include <QJsonDocument>
 #include <array>
 #include <cstdio>
@@ -10,6 +8,7 @@
 #include "app_language_server/language_server.h"
 #include "app_language_server/message_reader.h"
 #include "command_line/command_line.h"
+#include "system/terminal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,12 +34,6 @@ void write(const QJsonObject& message) {
     std::fflush(stdout);
 }
 
-// Whether there is something to read within the time.
-bool isReady(int milliseconds) {
-    pollfd input{STDIN_FILENO, POLLIN, 0};
-    return poll(&input, 1, milliseconds) != 0;
-}
-
 }  // namespace
 
 int runLanguageServer(const QStringList& arguments, QTextStream& out, QTextStream&) {
@@ -56,9 +49,11 @@ int runLanguageServer(const QStringList& arguments, QTextStream& out, QTextStrea
     LanguageServer server(write);
     MessageReader reader;
     std::array<char, 65536> buffer{};
+    QFile input;
+    if (!input.open(0, QIODevice::ReadOnly | QIODevice::Unbuffered)) return server.exitStatus();
     while (!server.ended()) {
-        if (server.hasChanges() && !isReady(kQuiet)) server.idle();
-        const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
+        if (server.hasChanges() && !inputIsReady(kQuiet)) server.idle();
+        const qint64 count = input.read(buffer.data(), buffer.size());
         if (count <= 0) break;
         reader.add(QByteArray(buffer.data(), count));
         while (const auto message = reader.next()) server.receive(*message);

@@ -30,12 +30,12 @@ bool CardFiles::waitForChange(Clock& clock) {
     return true;
 }
 
-std::map<QString, std::optional<ScriptStamp>> CardFiles::stamps() const {
+std::map<QString, std::optional<FileStamp>> CardFiles::stamps() const {
     const auto path = [this](QStringView name) {
         return program_.folder.resolve(program_.folder.packFile(language_, name));
     };
-    std::map<QString, std::optional<ScriptStamp>> found;
-    const auto look = [&](const QString& file) { found[file] = scriptStamp(file); };
+    std::map<QString, std::optional<FileStamp>> found;
+    const auto look = [&](const QString& file) { found[file] = fileStamp(file); };
     const QString script = path(script_);
     look(script);
     try {

@@ -4,8 +4,8 @@
 #include <map>
 
 #include "base/program.h"
-#include "engine/card_script.h"
 #include "engine/ports.h"
+#include "system/file_stamp.h"
 
 namespace zelvor {
 
@@ -18,12 +18,12 @@ class CardFiles {
     bool waitForChange(Clock& clock);
 
  private:
-    [[nodiscard]] std::map<QString, std::optional<ScriptStamp>> stamps() const;
+    [[nodiscard]] std::map<QString, std::optional<FileStamp>> stamps() const;
 
     const Program& program_;
     QString language_;
     QString script_;
-    std::map<QString, std::optional<ScriptStamp>> known_;
+    std::map<QString, std::optional<FileStamp>> known_;
 };
 
 }  // namespace zelvor

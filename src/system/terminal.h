@@ -1,12 +1,15 @@
 #pragma once
 
-#include <termios.h>
-
 #include <QObject>
-#include <QSocketNotifier>
-#include <optional>
+#include <memory>
 
 namespace zelvor {
+
+// Whether somebody reads the output at a terminal; false where that is not known.
+[[nodiscard]] bool outputIsTerminal();
+
+// Whether the standard input has something to read within the time, or has ended; false where that is not known.
+[[nodiscard]] bool inputIsReady(int milliseconds);
 
 // Single keys of the terminal on standard input, without Enter and unseen. Without a terminal there are none. Gives
 // the terminal back as it was.
@@ -19,17 +22,18 @@ class TerminalKeys : public QObject {
     TerminalKeys& operator=(const TerminalKeys&) = delete;
     ~TerminalKeys() override;
 
-    [[nodiscard]] bool available() const { return before_.has_value(); }
+    [[nodiscard]] bool available() const { return terminal_ != nullptr; }
 
  Q_SIGNALS:
     // Ctrl+C arrives as '\x03' and the end of the input as '\x04'.
     void pressed(char key);
 
  private:
+    struct Terminal;
+
     void read();
 
-    std::optional<termios> before_;
-    std::optional<QSocketNotifier> notifier_;
+    std::unique_ptr<Terminal> terminal_;
 };
 
 }  // namespace zelvor

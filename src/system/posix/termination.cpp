@@ -1,6 +1,4 @@
-#include "command_line/termination.h"
-
-#ifdef Q_OS_UNIX
+#include "system/termination.h"
 
 #include <unistd.h>
 
@@ -75,14 +73,3 @@ Termination::~Termination() {
 }
 
 }  // namespace zelvor
-
-#else
-
-namespace zelvor {
-
-Termination::Termination() = default;
-Termination::~Termination() = default;
-
-}  // namespace zelvor
-
-#endif

@@ -1,22 +1,40 @@
-#include "link/dead_peer.h"
+#include "system/socket_calls.h"
 
-#if __has_include(<netinet/tcp.h>)
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
-#endif
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
 
 namespace zelvor {
 
 namespace {
 
 template <class Value>
-[[maybe_unused]] void setOption(qintptr socket, int level, int option, const Value& value) {
+void setOption(qintptr socket, int level, int option, const Value& value) {
     // What a system refuses it does as it always did.
     setsockopt(static_cast<int>(socket), level, option, &value, sizeof value);
 }
 
 }  // namespace
+
+qint64 sendAtOnce([[maybe_unused]] qintptr socket, [[maybe_unused]] const QByteArray& bytes) {
+#if defined(MSG_DONTWAIT) && defined(MSG_NOSIGNAL)
+    const ssize_t taken = ::send(static_cast<int>(socket), bytes.constData(), static_cast<size_t>(bytes.size()),
+                                 MSG_DONTWAIT | MSG_NOSIGNAL);
+    if (taken >= 0) return taken;
+    constexpr std::array kLeft{EAGAIN, EINTR, EPIPE, ECONNRESET};
+    return std::ranges::find(kLeft, errno) == kLeft.end() ? -1 : 0;
+#else
+    return 0;
+#endif
+}
+
+bool endSending(qintptr socket) {
+    return ::shutdown(static_cast<int>(socket), SHUT_WR) == 0;
+}
 
 void endWithDeadPeer([[maybe_unused]] qintptr socket) {
 #ifdef TCP_USER_TIMEOUT
@@ -30,10 +48,8 @@ void endWithDeadPeer([[maybe_unused]] qintptr socket) {
 #endif
 }
 
-void discardOnClose([[maybe_unused]] qintptr socket) {
-#if __has_include(<netinet/tcp.h>)
+void discardOnClose(qintptr socket) {
     setOption(socket, SOL_SOCKET, SO_LINGER, linger{1, 0});
-#endif
 }
 
 }  // namespace zelvor

@@ -1,0 +1,7 @@
+#include "crash/crash_dump.h"
+
+namespace zelvor {
+
+void dumpCrashes(std::string_view) {}
+
+}  // namespace zelvor
