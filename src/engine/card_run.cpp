@@ -1,5 +1,7 @@
 #include "engine/card_run.h"
 
+#include <tuple>
+
 #include "engine/condition.h"
 #include "engine/on_air.h"
 
@@ -106,6 +108,22 @@ void CardRun::goOn() const {
     const Program& program = engine_.program();
     if (program.closing.hasBegun()) throw ProgramClosing();
     if (program.clearing.count() != clearings_ || program.databaseWait.hasEnded(place_.asker)) throw RunCleared();
+}
+
+void CardRun::letClearIn() {
+    constexpr int kRoundsBetweenLooks = 16;
+    constexpr qint64 kLongestAlone = 250;  // milliseconds
+    if (++rounds_ < kRoundsBetweenLooks) return;
+    rounds_ = 0;
+    Clock& clock = ports().clock;
+    if (alone_ && clock.steadyMilliseconds() - *alone_ <= kLongestAlone) return;
+    if (alone_) {
+        const DatabaseWait::Scope wait(engine_.program().databaseWait, asker());
+        clock.turnEvents(1);
+        std::ignore = wait.goesOn();  // ends the run for a press
+    }
+    goOn();
+    alone_ = clock.steadyMilliseconds();
 }
 
 void CardRun::finish() {

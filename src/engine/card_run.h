@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <memory>
+#include <optional>
 
 #include "base/error_trap.h"
 #include "engine/card_engine.h"
@@ -56,6 +57,9 @@ class CardRun {
     // Ends the run at once when the program is closing, CLEAR was pressed since it began, or it has made room for a
     // press; called after everything that waits.
     void goOn() const;
+    // Called for each round of a loop: one that goes on for long does not hold up CLEAR, the links and painting. No
+    // card begins meanwhile. Ends the run as goOn() does.
+    void letClearIn();
     // Shows the card as on air, or that it had no data, and remembers it as the last one.
     void finish();
 
@@ -78,9 +82,11 @@ class CardRun {
     bool autoRun_;
     bool keepStates_;
     ErrorPlace& place_;
-    int clearings_;    // before this run
-    int lineNo_ = 0;   // a command may move it
-    int reached_ = 0;  // the line that runs or has run last; 0 before the first
+    int clearings_;                // before this run
+    int lineNo_ = 0;               // a command may move it
+    int reached_ = 0;              // the line that runs or has run last; 0 before the first
+    int rounds_ = 0;               // of loops, since the time was looked at
+    std::optional<qint64> alone_;  // since when nothing else has had its turn, in milliseconds
     bool hasData_ = true;
     bool abandoned_ = false;
     QStringList templateFaults_;

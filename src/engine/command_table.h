@@ -19,6 +19,7 @@ struct Command {
     // What an argument stands for, for whoever reads a pack without running it.
     enum class Role {
         Text,
+        Filled,          // a text that must not be empty: a file, a statement
         Variable,        // the whole name of a variable that is set
         VariableName,    // the same without its "@"
         WrittenName,     // the same, its placeholders not replaced
@@ -48,6 +49,7 @@ struct Command {
         Character,
         Number,
         WholeNumber,
+        CellNumber,  // a row or column of the query's result
         Places,      // decimal places
         FeedNumber,  // read as far as it is a number
         Field,       // of a template; its value is the last argument
@@ -65,6 +67,7 @@ struct Command {
     QStringView usage;    // the ";"-separated arguments, "[...]" where they may be left out; empty for none
     QStringView summary;  // what it does, in a line
     Roles roles{};        // of the arguments, in the order of `usage`
+    QStringView needs{};  // the command without which, in the same script, this one fails; empty for none
 };
 
 constexpr Command::Roles roles(Command::Role first, Command::Role second = Command::Role::Text,

@@ -87,6 +87,21 @@ TEST_F(CardRuns, EndAtOnceWhenTheProgramCloses) {
     }
 }
 
+TEST_F(CardRuns, ALongLoopLetsClearInAndNoCard) {
+    const QByteArray loop = "SETVAR~@RECORDCOUNT;1e5\nFOREACHREC~I\nCSPSEND~x\nROF\n";
+    const int turns = clock.turns;
+    EXPECT_EQ(Outcome::Ran, run(loop));
+    EXPECT_EQ(clock.turns, turns);
+    graphics.sent.clear();
+    graphics.whileSending = [this] { clock.time = clock.time.addMSecs(5); };
+    clock.whileTurning = [this] {
+        EXPECT_TRUE(program.databaseWait.isOn());
+        program.clearing.begin();
+    };
+    EXPECT_EQ(Outcome::Cleared, run(loop));
+    EXPECT_LT(graphics.sent.size(), 100);
+}
+
 TEST_F(CardRuns, ErrorsNameTheFileItsLineAndWhatIsMissing) {
     write(u"QRD_TT/part.inc"_s, "\n\nSDATA~A\n");
     const std::vector<std::pair<QByteArray, QString>> cases{
@@ -96,6 +111,8 @@ TEST_F(CardRuns, ErrorsNameTheFileItsLineAndWhatIsMissing) {
         {"INCLUDE~part.inc\n\n", u"part.inc, line 3\terror 9"_s},
         {"X\n\nINCLUDE\n", u"line 3\terror 9\tSubscript out of range: INCLUDE~file"_s},
         {"\nINCLUDE~none.inc\n", u"line 2\terror 53\tFile not found"_s},
+        {"PROPOSE~1;7|N|card.csp|P:1;x\n",
+         u"line 1\terror 9\tSubscript out of range: PROPOSE~index;tag;caption;used"_s},
         {"\nIFL~1;=\n", u"line 2\terror 9\tSubscript out of range: IFL~left;operator;right~\"then"_s},
         {"CLEARDATA\n\nSDATA~B;1|2\nSDATAREMOTE~C;5|6\nMAKEXML\nMAKEXMLREMOTE\n",
          u"line 6\terror 9\tSubscript out of range: field t-0*C = 5|6"_s},

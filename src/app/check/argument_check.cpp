@@ -62,6 +62,11 @@ void ArgumentCheck::check(const Command& command, qsizetype at, const GivenArgum
             return expressions_.checkExpression(argument, place, facts.findings);
         case Role::Operand:
             return expressions_.checkOperand(argument, place, facts.findings);
+        case Role::Filled:
+            if (argument.trimmed().isEmpty()) {
+                facts.findings.error(place, u"%1 is given no %2"_s.arg(command.word, command.usage.split(u';')[at]));
+            }
+            return;
         case Role::Operation:
             return checkOperator(argument, place, facts.findings);
         case Role::AskField:

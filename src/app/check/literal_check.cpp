@@ -84,6 +84,11 @@ void checkLiteral(Role role, const QString& argument, const Place& place, Findin
             return checkNumbered(argument, 0, CardTable::kCards - 1, u"card button"_s, place, findings);
         case Role::Proposal:
             return checkNumbered(argument, 1, 8, u"proposal"_s, place, findings);
+        case Role::CellNumber:
+            if (wholeNumberOf(argument).value_or(-1) < 0) {
+                findings.error(place, u"\"%1\" is no row or column: they are counted from 0"_s.arg(argument));
+            }
+            return;
         case Role::Slot:
             return checkSlot(argument, place, findings);
         case Role::Places:

@@ -40,6 +40,7 @@ ScriptCheck::ScriptCheck(PackFiles& files, const QSet<int>& askFields)
 
 ScriptFacts ScriptCheck::check(const QString& path) {
     facts_ = {};
+    commands_.clear();
     lastBlockEnds_.clear();
     openedLabels_.clear();
     openLoop_.reset();
@@ -51,6 +52,7 @@ ScriptFacts ScriptCheck::check(const QString& path) {
         facts_.findings.error(files_.place(path), error.text());
         return facts_;
     }
+    for (const PlacedLine& line : lines) noteCommands(line.content);
     for (size_t i = 0; i < lines.size(); ++i) {
         const QString& text = lines[i].content.text;
         if (text.startsWith(kBlockEnd)) lastBlockEnds_[text.mid(kBlockEnd.size())] = static_cast<int>(i);
@@ -60,6 +62,16 @@ ScriptFacts ScriptCheck::check(const QString& path) {
     }
     if (openLoop_) facts_.findings.error(*openLoop_, u"FOREACHREC without its ROF"_s);
     return facts_;
+}
+
+void ScriptCheck::noteCommands(const ScriptLine& line) {
+    if (line.condition) {
+        for (const ScriptLine* branch : {line.condition->thenLine.get(), line.condition->elseLine.get()}) {
+            if (branch != nullptr) noteCommands(*branch);
+        }
+    } else if (line.command != nullptr) {
+        commands_.insert(line.command->word);
+    }
 }
 
 void ScriptCheck::checkLine(const ScriptLine& line, const Spot& spot) {
@@ -103,6 +115,9 @@ void ScriptCheck::checkCommand(const ScriptLine& line, const Spot& spot) {
     if (command.roles[0] == Role::Include) checkInclude(line, spot);
     const QString argument = scanned(line, spot.place);
     if (!checkCount(line, argument, spot.place)) return;
+    if (!command.needs.isEmpty() && !commands_.contains(command.needs)) {
+        facts_.findings.error(spot.place, command.word + u" without "_s + command.needs);
+    }
     noteWaiting(command, argument, spot.place);
     const bool several = command.usage.contains(u';');
     const auto pieces = [&](const QString& text) { return several ? text.split(u';') : QStringList(text); };

@@ -28,6 +28,7 @@ class ScriptCheck {
         bool branch;
     };
 
+    void noteCommands(const ScriptLine& line);
     void checkLine(const ScriptLine& line, const Spot& spot);
     void checkCondition(const ScriptLine& line, const Spot& spot);
     void checkCommand(const ScriptLine& line, const Spot& spot);
@@ -48,6 +49,7 @@ class ScriptCheck {
 
     // Of the script being checked.
     ScriptFacts facts_;
+    QSet<QStringView> commands_;         // that stand in a line or under a condition
     QHash<QString, int> lastBlockEnds_;  // the last "FI~label" line of each label
     QSet<QString> openedLabels_;
     std::optional<Place> openLoop_;

@@ -96,7 +96,7 @@ constexpr std::array kCalculationCommands{
             u"splits max as a to b into @PERCM1 and @PERCM2"},
     Command{u"PERCENT", PERCENT, Argument::Expanded, u"row;column1;column2",
             u"@PERC becomes column1 in percent of column2 of a row of the query result",
-            roles(Role::WholeNumber, Role::WholeNumber, Role::WholeNumber)},
+            roles(Role::CellNumber, Role::CellNumber, Role::CellNumber)},
     Command{
         u"REPLACE", REPLACE, Argument::Expanded, u"variable;find;replacement",
         u"replaces every find in the variable's value, written {@NAME}: without the braces the name itself is the text",

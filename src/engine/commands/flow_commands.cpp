@@ -26,11 +26,13 @@ void FOREACHREC(CardRun& run, const Arguments& args) {
 }
 
 void ROF(CardRun& run, const Arguments&) {
-    if (run.loop.start == 0) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"ROF without FOREACHREC"_s);
     run.loop.counter += 1;
-    run.variables().SetVar(run.loop.variable, static_cast<qint64>(run.loop.counter));
+    const bool begun = run.loop.start != 0;
+    if (begun) run.variables().SetVar(run.loop.variable, static_cast<qint64>(run.loop.counter));
     if (run.loop.counter > run.variables().GetVar(u"@RECORDCOUNT").leadingNumber()) return;
+    if (!begun) throw RunTimeError(ErrorNumber::SubscriptOutOfRange, u"ROF without FOREACHREC"_s);
     if (run.loop.counter > run.loop.mostRounds) throw RunTimeError(ErrorNumber::OutOfStackSpace, u"FOREACHREC"_s);
+    run.letClearIn();
     run.jumpTo(run.loop.start);
 }
 
