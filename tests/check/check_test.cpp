@@ -45,6 +45,15 @@ TEST(Check, HasNothingToSayAboutTheDemo) {
     EXPECT_EQ(told.status, 0);
 }
 
+TEST(Check, TellsWhichFileCannotBeRead) {
+    for (const QString& name : {u"infodata.txt"_s, u"infodata.dat"_s, u"CARDS.TXT"_s, u"ASKFIELDS.TXT"_s}) {
+        QTemporaryDir folder;
+        ASSERT_TRUE(QDir(folder.path()).mkpath(u"MODULES/QRD_TT/"_s + name));
+        const Told told = check({u"--app-folder"_s, folder.path(), u"TT"_s});
+        EXPECT_TRUE(told.out.contains(name + u":1: error: Path/File access error"_s)) << qPrintable(told.out);
+    }
+}
+
 TEST(Check, ReportsForOtherTools) {
     const auto report = [](const QString& format) {
         const Told told = check({u"--app-folder"_s, kBroken, u"--format"_s, format, u"FLOW"_s});

@@ -56,6 +56,11 @@ class Terminal(Pack):
         with open(os.path.join(self.folder, "MODULES", "PACKS.TXT"), encoding="utf-8") as packs:
             self.assertEqual([line.split(";")[0] for line in packs], ["CUP", "OTHER"])
         self.assertEqual(sorted(os.listdir(self.path(""))), before)
+        # A list of packs that cannot be read: nothing is made.
+        os.rename(os.path.join(self.folder, "MODULES", "PACKS.TXT"), os.path.join(self.folder, "PACKS.TXT"))
+        os.mkdir(os.path.join(self.folder, "MODULES", "PACKS.TXT"))
+        self.assertEqual(zelvor("new", "--app-folder", self.folder, "HALF").returncode, 1)
+        self.assertEqual(sorted(os.listdir(os.path.join(self.folder, "MODULES"))), ["PACKS.TXT", "QRD_CUP", "QRD_OTHER"])
 
     def test_a_watched_card_runs_again(self):
         self.write("watched.csp", "INCLUDE~part.inc\nCSPSEND~{@N}\n")

@@ -1,5 +1,6 @@
 #include "app_check/pack_check.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 #include "app_check/ask_field_check.h"
@@ -28,25 +29,27 @@ void checkRows(const std::vector<GeneralRow>& rows, PackFiles& files, const QStr
 
 // The grid and its plain source; a pack need not have either.
 void readGeneralVariables(PackFiles& files, VariableUse& variables, Findings& findings) {
-    const QString source = u"infodata.txt"_s;
-    if (files.exists(source)) {
-        const QString path = files.path(source);
+    const auto readFile = [&](const QString& name, const auto& read) {
+        const QString path = files.path(name);
+        if (!files.isThere(path) && !QFileInfo::exists(path)) return;
+        try {
+            read(path);
+        } catch (const RunTimeError& error) {
+            findings.error(files.place(path), error.text());
+        }
+    };
+    readFile(u"infodata.txt"_s, [&](const QString& path) {
         const ImportedRows imported = importRows(files.lines(path));
         for (const ImportedRows::Remark& remark : imported.remarks)
             findings.warning(files.place(path, remark.line), remark.text);
         checkRows(imported.rows, files, path, 1, variables, findings);
-    }
-    const QString path = files.path(u"infodata.dat");
-    if (!files.exists(u"infodata.dat")) return;
-    GridReading reading;
-    try {
-        reading = readGrid(readWholeFile(path));
-    } catch (const RunTimeError& error) {
-        findings.error(files.place(path), error.text());
-    }
-    constexpr int kFirstLine = 2;  // below the version
-    checkRows(reading.rows, files, path, kFirstLine, variables, findings);
-    if (reading.damagedLine > 0) findings.error(files.place(path, reading.damagedLine), reading.damage);
+    });
+    readFile(u"infodata.dat"_s, [&](const QString& path) {
+        const GridReading reading = readGrid(readWholeFile(path));
+        constexpr int kFirstLine = 2;  // below the version
+        checkRows(reading.rows, files, path, kFirstLine, variables, findings);
+        if (reading.damagedLine > 0) findings.error(files.place(path, reading.damagedLine), reading.damage);
+    });
 }
 
 }  // namespace

@@ -49,11 +49,11 @@ const std::array kFiles{
 };
 
 void makePack(const AppFolder& folder, const QString& code) {
+    const QString packs = folder.resolve(folder.modulesFile(u"PACKS.TXT"));
+    QByteArray list = QFileInfo::exists(packs) ? readWholeFile(packs) : QByteArray();
     const QString path = folder.resolve(folder.packFolder(code));
     if (!QDir().mkpath(path)) throw RunTimeError(ErrorNumber::PathFileAccessError, path);
     for (const PackFile& file : kFiles) replaceFile(path + u'/' + file.name, file.text.toUtf8());
-    const QString packs = folder.resolve(folder.modulesFile(u"PACKS.TXT"));
-    QByteArray list = QFileInfo::exists(packs) ? readWholeFile(packs) : QByteArray();
     if (!list.isEmpty() && !list.endsWith('\n')) list += '\n';
     replaceFile(packs, list + code.toUtf8() + ";New pack\n");
 }
