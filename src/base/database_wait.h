@@ -7,8 +7,9 @@
 
 namespace zelvor {
 
-// The wait for the database, and what a long loop lets in between its rounds. While it is on the event loop turns, but no card begins: presses and what fires cards by
-// itself have their turn when it is over. So waits never nest, and neither do runs inside of one.
+// The wait for the database, and what a long loop lets in between its rounds. While it is on the event loop turns, but
+// no card begins: presses and what fires cards by itself have their turn when it is over. So waits never nest, and
+// neither do runs inside of one.
 class DatabaseWait : public QObject {
     Q_OBJECT
 

@@ -8,7 +8,7 @@ namespace zelvor {
 namespace {
 
 // A text of this many characters keeps its memory for the next turn.
-constexpr qsizetype kKeptText = 64 * 1024;
+constexpr qsizetype kKeptText = qsizetype{64} * 1024;
 
 }  // namespace
 
