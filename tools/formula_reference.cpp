@@ -71,7 +71,8 @@ case) stand for the current date, the time and both.
 
 constexpr std::string_view kWaves = R"(
 In the waveforms t is the time, p the period, u the part of the period that has passed, from 0 to 1. Duties lie
-between 0 and 1, decays a are counted per period, frequencies fo and fm per unit of time.
+between 0 and 1, decays a (not negative; of wpulsef above 0) are counted per period, frequencies fo and fm per unit of
+time.
 
 ![The waveforms over two periods](waves.svg)
 )";

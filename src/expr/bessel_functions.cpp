@@ -21,6 +21,8 @@ double ofOrder(double order, Function function) {
 }  // namespace
 
 double besselI(double x, double order) {
+    // Infinite.
+    if (x == 0 && order < 0 && order != std::floor(order)) return kFailed;
     return ofOrder(order, [=] { return boost::math::cyl_bessel_i(order, x); });
 }
 

@@ -14,6 +14,9 @@ double zetaFunction(double s);
 double betaFunction(double a, double b);
 // Regularized, lower, with arguments a >= 0 (not both 0) and x >= 0; warns when one is above 1e8.
 double incompleteGamma(const Arguments& values, Context& context);
+// True for some arguments whose value is below the smallest number; an intermediate result may then be beyond the
+// largest.
+bool incompleteGammaVanishes(double a, double x);
 // Regularized, 0 <= x <= 1, a and b above 0.
 double incompleteBeta(double x, double a, double b);
 

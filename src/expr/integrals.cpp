@@ -113,7 +113,7 @@ double exponentialIntegral(double x) {
 }
 
 double exponentialIntegralOfOrder(double x, double n) {
-    if (n < 0 || n > kMaxOrder || n != std::floor(n)) return kFailed;
+    if (n < 0 || n > kMaxOrder || n != std::floor(n) || (x == 0 && n < 2)) return kFailed;
     return guarded([=] { return boost::math::expint(static_cast<unsigned>(n), x); });
 }
 
@@ -143,6 +143,11 @@ double ellipticFirst(double phi, double k) {
 }
 
 double ellipticSecond(double phi, double k) {
+    if (std::fabs(k) == 1) {
+        // The integral of |cos|: 2 for each half turn.
+        const Real halfTurns = std::round(phi / kPi);
+        return static_cast<double>(2 * halfTurns + std::sin(phi - halfTurns * kPi));
+    }
     return guarded([=] { return boost::math::ellint_2(k, phi); });
 }
 

@@ -61,6 +61,7 @@ double poissonDensity(double k, double mean) {
 
 double poissonCumulative(double k, double mean) {
     if (!isCount(k) || mean < 0) return kFailed;
+    if (incompleteGammaVanishes(k + 1, mean)) return 1;
     return guarded([=] { return boost::math::gamma_q(k + 1, mean); });
 }
 

@@ -30,7 +30,8 @@ TEST(Calc, PrintsResultsAndErrors) {
          "",
          "Syntax error at pos: 101\n                                      #\n"
          "                                      ^\n"},
-        {{"--var", "y=1", "2"}, 1, "", "Variable not found: y\n"},
+        {{"--var", "y=1", "2"}, 0, "2\n", "Variable not found: y\n"},
+        {{"--var", "X=1", "2x"}, 1, "", "Variable not found: X\nVariable < x > not assigned\n  2x\n   ^\n"},
     };
     for (const auto& [arguments, status, out, err] : cases) {
         std::ostringstream outText;

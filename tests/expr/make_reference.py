@@ -113,7 +113,7 @@ rows("PolyHe", lambda x, n: mp.hermite(int(n), x), "0.3 5", "-2.5 20", "10 100")
 rows("PolyCh", lambda x, n: mp.chebyt(int(n), x), "0.3 5", "-0.99 100", "1.5 20", "0.25 1000")
 rows("PolyLa", lambda x, n: mp.laguerre(int(n), 0, x), "0.3 5", "10 20", "-3 50", "100 200")
 rows("elli1", lambda phi, k: mp.ellipf(phi, k * k), "0.5 0.3", "1.5 0.99", "10 0.8", "-1 0.5", "1e-5 1")
-rows("elli2", lambda phi, k: mp.ellipe(phi, k * k), "0.5 0.3", "1.5 0.99", "10 0.8", "-1 0.5", "1.5 1")
+rows("elli2", lambda phi, k: mp.ellipe(phi, k * k), "0.5 0.3", "1.5 0.99", "10 0.8", "-1 0.5", "1.5 1", "-5 1")
 rows("DNorm", lambda x, m, s: mp.npdf(x, m, s), "0 0 1", "3 1 0.5", "-37 0 1")
 rows("CNorm", lambda x, m, s: mp.erfc((m - x) / s / mp.sqrt(2)) / 2, "0 0 1", "3 1 0.5", "-37 0 1", "0.1 0 1")
 rows("DBinom", lambda k, n, p: mp.binomial(n, k) * p**k * (1 - p) ** (n - k), "3 10 0.3", "0 5 0.2", "500 1000 0.45",
@@ -123,4 +123,5 @@ rows("DPoisson", lambda k, m: mp.exp(-m) * m**k / mp.factorial(k), "3 2.5", "0 1
 rows("CPoisson", lambda k, m: mp.gammainc(k + 1, m, mp.inf, regularized=True), "3 2.5", "0 1e-5", "1000 900", "5 50")
 rows("HypGeom", hyp, "1 1 2 0.5", "0.5 1.5 2.5 -0.3", "1 2 3 0.9", "1 1 2 0.999999", "0.5 0.5 1 -5", "2 3 4 -1000",
      "1 2 4 -1e10", "1.5 1.5 3.5 0.75", "-5 3 2 7", "0.3 0.4 2.5 1", "3 4 1 0.95", "5 6 7 -0.8", "1 -2.5 -3.5 0.4",
-     "2 2 2 -50", "10 12 15 0.6", "3 1 1 -4500")
+     "2 2 2 -50", "10 12 15 0.6", "3 1 1 -4500",
+     "10 0.5 0.5 -100", "-9.5 0.5 0.5 0.999")

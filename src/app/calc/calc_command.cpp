@@ -26,7 +26,7 @@ constexpr std::string_view kHelp =
     "\n"
     "Evaluates a formula and prints its value.\n"
     "\n"
-    "  --var NAME=VALUE    gives a variable its value; may be repeated\n"
+    "  --var NAME=VALUE    gives a variable its value; may be repeated; one that the formula lacks is only told\n"
     "  --angle UNIT        RAD (the default), DEG or GRAD\n"
     "  --dms               angles may be written in degrees, minutes and seconds: 10d30m15s\n"
     "  --units             numbers may carry units: 5mV is 0.005\n"
@@ -87,10 +87,8 @@ int evaluate(const CalcOptions& options, std::ostream& out, std::ostream& err) {
     if (!formula.StoreExpression(options.formula)) return printError(formula, err);
     for (const auto& [name, value] : options.variables) {
         formula.VarSymb(name, value);
-        if (formula.ErrorID() != 0) {
-            err << formula.ErrorDescription() << ": " << name << '\n';
-            return kFormulaError;
-        }
+        // Told, for it may be misspelt; the value does not depend on it.
+        if (formula.ErrorID() != 0) err << formula.ErrorDescription() << ": " << name << '\n';
     }
     const double value = formula.Eval();
     if (options.dump) out << formula.ET_Dump();
