@@ -24,6 +24,8 @@ constexpr std::string_view kCheckAccuracy = "Warning! You should check the accur
 constexpr Real kSeriesEnd = 0.5L;
 // How far one Taylor step goes, as a part of its radius of convergence.
 constexpr Real kStep = 0.5L;
+// A series may end where its terms fall by this factor.
+constexpr Real kFall = 0.75L;
 constexpr int kMaxTerms = 20000;
 // Digits lost to cancellation beyond which a result is called into question.
 constexpr Real kMaxLoss = 1e7L;
@@ -31,16 +33,17 @@ constexpr Real kMaxLoss = 1e7L;
 struct Value {
     Real function;
     Real derivative;
-    // The largest size that a sum passed through on the way here: what it lost stays lost, however small the function
-    // becomes.
+    // The largest size that a sum, or that of the derivative, passed through on the way here: what it lost stays lost,
+    // however small the function becomes.
     Real largest;
 };
 
 // A series that needs more terms than it may have; the function fails then.
 constexpr Value kUnsettled{std::numeric_limits<Real>::quiet_NaN(), 0, std::numeric_limits<Real>::max()};
 
-bool isExact(const Value& value) {
-    return value.largest <= kMaxLoss * std::fabs(value.function);
+Real loss(const Value& value) {
+    const Real size = std::fabs(value.function);
+    return size > 0 ? value.largest / size : std::numeric_limits<Real>::max();
 }
 
 bool isNonPositiveWhole(Real x) {
@@ -61,14 +64,18 @@ Value powerSeries(Real a, Real b, Real c, Real x) {
     bool settled = false;
     for (int n = 0; n < kMaxTerms && !settled; ++n) {
         const Real m = static_cast<Real>(n);
-        const Real coefficient = term * (a + m) * (b + m) / ((c + m) * (m + 1));
+        const Real upper = (a + m) * (b + m);
+        // Where the series ends, c + n may be 0 as well.
+        const Real coefficient = upper == 0 ? 0 : term * upper / ((c + m) * (m + 1));
         settled = coefficient == 0;
         derivative += coefficient * (m + 1);
+        // Behind a c far below 0 the terms rise once more.
+        const bool falls = std::fabs(coefficient * x) < kFall * std::fabs(term);
         term = coefficient * x;
         sum += term;
-        largest = std::max(largest, std::fabs(term));
+        largest = std::max(largest, std::fabs(term) * (m + 1));
         const bool pastParameters = m > std::fabs(a) && m > std::fabs(b) && m > std::fabs(c);
-        settled = settled || (pastParameters && std::fabs(term) < kEpsilon * std::fabs(sum) / 16);
+        settled = settled || (pastParameters && falls && std::fabs(term) < kEpsilon * std::fabs(sum) / 16);
     }
     if (!settled) return kUnsettled;
     return {sum, derivative, largest};
@@ -91,7 +98,7 @@ Value taylorStep(Real a, Real b, Real c, Real distance, Real h, const Value& fro
                           (factor * (m + 2) * (m + 1));
         sum += next;
         derivative += (m + 2) * next / h;
-        largest = std::max(largest, std::fabs(next));
+        largest = std::max(largest, std::fabs(next) * (m + 2));
         u = v;
         v = next;
         const Real threshold = kEpsilon * std::fabs(sum) / 16;
@@ -109,6 +116,9 @@ Value continued(Real a, Real b, Real c, Real distance) {
     while (at > distance) {
         const Real target = std::max(distance, at * (1 - kStep));
         value = taylorStep(a, b, c, at, at - target, value);
+        // What was lost grows on as the equation's other solutions do, the one of 0 and the one of 1.
+        value.largest *= std::pow((1 - target) / (1 - at), std::max(Real{0}, 1 - c)) *
+                         std::pow(at / target, std::max(Real{0}, a + b - c));
         at = target;
     }
     return value;
@@ -118,10 +128,10 @@ Value continued(Real a, Real b, Real c, Real distance) {
 // (NIST DLMF 15.8.1): it takes the fall out as a factor.
 Value insideUnit(Real a, Real b, Real c, Real distance) {
     const Value value = continued(a, b, c, distance);
-    if (isExact(value)) return value;
+    if (loss(value) <= kMaxLoss) return value;
     const Value other = continued(c - a, c - b, c, distance);
     const Real scale = std::pow(distance, c - a - b);
-    return isExact(other) ? Value{other.function * scale, 0, other.largest * scale} : value;
+    return loss(other) < loss(value) ? Value{other.function * scale, 0, other.largest * scale} : value;
 }
 
 // Gauss's sum, NIST DLMF 15.4.20.
@@ -162,7 +172,7 @@ double hypergeometric(const Arguments& values, Context& context) {
         value = insideUnit(a, c - b, c, 1 / (1 - x));
         scale = std::pow(1 - x, -a);
     }
-    if (!isExact(value)) context.warning = kCheckAccuracy;
+    if (loss(value) > kMaxLoss) context.warning = kCheckAccuracy;
     return static_cast<double>(value.function * scale);
 }
 
