@@ -26,7 +26,7 @@ constexpr std::string_view kHelp =
     "\n"
     "Evaluates a formula and prints its value.\n"
     "\n"
-    "  --var NAME=VALUE    gives a variable its value; may be repeated; one that the formula lacks is only told\n"
+    "  --var NAME=VALUE    gives a variable its value; repeatable; told when the formula lacks it\n"
     "  --angle UNIT        RAD (the default), DEG or GRAD\n"
     "  --dms               angles may be written in degrees, minutes and seconds: 10d30m15s\n"
     "  --units             numbers may carry units: 5mV is 0.005\n"
