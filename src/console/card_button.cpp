@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "console/fitted_text.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -17,6 +19,7 @@ constexpr int kStatePixels = 11;
 constexpr int kSmallWidth = 26;
 constexpr int kSmallMargin = 2;
 constexpr int kLamp = 13;  // pixels
+constexpr int kSpare = 4;  // pixels kept free above and below two lines
 constexpr int kFrame = 3;  // pixels kept free around the button for the frame of the card fired last
 }  // namespace
 
@@ -97,28 +100,28 @@ void CardButton::drawFace(QPainter& painter) const {
                                                         : theme::colour(face_.quiet ? Role::Muted : Role::Text));
     const QString state =
         QFontMetrics(theme::font(kStatePixels, face_.on)).elidedText(stateLine(), Qt::ElideRight, textRoom());
-    QRect inner(padding(), kFrame + 2, textRoom(), height() - 2 * kFrame - 4);
-    const QFontMetrics captionMetrics(font());
     const QFont stateFont = theme::font(kStatePixels, face_.on);
-    const int stateHeight = QFontMetrics(stateFont).height();
-    const bool twoLines = inner.height() >= captionMetrics.height() + stateHeight;
-    QRect captionArea = inner;
-    if (!state.isEmpty() && twoLines) {
-        const int top = inner.top() + (inner.height() - captionMetrics.height() - stateHeight) / 2;
-        captionArea = QRect(inner.left(), top, inner.width(), captionMetrics.height());
-    } else if (!state.isEmpty()) {
+    const QFontMetrics stateMetrics(stateFont);
+    QRect inner(padding(), kFrame, textRoom(), height() - 2 * kFrame);
+    const bool isBelow =
+        !state.isEmpty() && inner.height() >= QFontMetrics(font()).height() + stateMetrics.height() + kSpare;
+    QSize room(inner.width(), inner.height() - (isBelow ? stateMetrics.height() + kSpare : 0));
+    if (!state.isEmpty() && !isBelow) {
         inner.setRight(inner.right() - (isLamped ? kLamp + 6 : 0));
-        captionArea.setRight(inner.right() - QFontMetrics(stateFont).horizontalAdvance(state) - 6);
+        room.setWidth(inner.width() - stateMetrics.horizontalAdvance(state) - 6);
     }
+    const FittedText caption = fitted({text()}, font(), room);
+    const int block = caption.height() + (isBelow ? stateMetrics.height() : 0);
+    const QRect captionArea(QPoint(inner.left(), inner.top() + (inner.height() - block) / 2),
+                            QSize(room.width(), caption.height()));
     painter.setPen(ink);
-    painter.drawText(captionArea, Qt::AlignLeft | Qt::AlignVCenter,
-                     captionMetrics.elidedText(text(), Qt::ElideRight, captionArea.width()));
+    caption.draw(painter, captionArea, Qt::AlignLeft);
     if (state.isEmpty()) return;
 
     painter.setFont(stateFont);
     if (!groundColour()) painter.setPen(theme::colour(face_.on ? Role::OnText : Role::Muted));
-    if (twoLines) {
-        painter.drawText(QRect(inner.left(), captionArea.bottom() + 1, inner.width(), stateHeight),
+    if (isBelow) {
+        painter.drawText(QRect(inner.left(), captionArea.bottom() + 1, inner.width(), stateMetrics.height()),
                          Qt::AlignLeft | Qt::AlignVCenter, state);
     } else {
         painter.drawText(inner, Qt::AlignRight | Qt::AlignVCenter, state);

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <algorithm>
 
+#include "console/fitted_text.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -12,7 +14,9 @@ namespace zelvor {
 namespace {
 constexpr int kPadding = 8;  // pixels
 constexpr int kLeastPadding = 2;
-constexpr int kRounding = 2;  // pixels by which a text may be wider on a screen of 150 %
+constexpr int kEdge = 2;       // pixels above and below the text
+constexpr int kUnderline = 3;  // pixels
+constexpr int kRounding = 2;   // pixels by which a text may be wider on a screen of 150 %
 }  // namespace
 
 ConsoleButton::ConsoleButton(const Look& look, QWidget* parent) : QAbstractButton(parent), look_(look) {
@@ -111,7 +115,7 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
         {ground, theme::colour(framed ? (ownGround_ ? theme::Role::Text : theme::Role::Accent) : look_.line), 4,
          framed ? 2 : 1});
     if (look_.underlined) {
-        painter.fillRect(QRect(1, height() - 3, width() - 2, 3),
+        painter.fillRect(QRect(1, height() - kUnderline, width() - 2, kUnderline),
                          theme::colour(selected_ ? theme::Role::Accent : theme::Role::Line));
     }
 
@@ -120,8 +124,8 @@ void ConsoleButton::paintEvent(QPaintEvent*) {
     if (ownGround_) ink = theme::readableOn(*ownGround_);
     painter.setPen(ownInk().value_or(ink));
     if (selected_ && look_.underlined) painter.setFont(theme::font(look_.pixels, true));
-    const QRect area = rect().adjusted(padding(), 0, -padding(), 0);
-    painter.drawText(area, Qt::AlignCenter, painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+    const QRect area = rect().adjusted(padding(), kEdge, -padding(), look_.underlined ? -kUnderline - 1 : -kEdge);
+    fitted({text()}, painter.font(), area.size()).draw(painter, area, Qt::AlignCenter);
     drawFocus(painter);
 }
 

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "console/fitted_text.h"
+
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
@@ -173,8 +175,12 @@ void TextLabel::drawWords(QPainter& painter) const {
         shown = shown.first(fit);
         shown.last() += u'…';
     }
-    for (QString& line : shown) line = elided(line, area.width());
-    painter.drawText(area, static_cast<int>(look_.alignment), shown.join(u'\n'));
+    if (look_.keepsEnd) {
+        for (QString& line : shown) line = elided(line, area.width());
+        painter.drawText(area, static_cast<int>(look_.alignment), shown.join(u'\n'));
+    } else {
+        fitted(shown, font(), area.size()).draw(painter, area, look_.alignment);
+    }
 }
 
 void TextLabel::drawMark(QPainter& painter, const QRectF& area) const {

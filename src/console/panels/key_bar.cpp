@@ -21,7 +21,7 @@ class KeyChip : public QWidget {
  public:
     KeyChip(const Mirrors& mirrors, int index) {
         auto* row = new QHBoxLayout(this);
-        row->setContentsMargins(4, 3, 4, 3);
+        row->setContentsMargins(4, 2, 4, 2);
         row->setSpacing(2);
         TextLabel* key = mirrors.label(controls.lblFKEY, index,
                                        {11, true, Qt::AlignCenter, Role::Text, Role::ButtonHover, false, false, 5});
@@ -36,7 +36,7 @@ class KeyChip : public QWidget {
         title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         const Control& control = mirrors.form().at(controls.lblFKEYTITLE, index);
         follow(control, {Control::Property::Visible, Control::Property::Text}, this, [this, &control, title] {
-            constexpr int kLeast = 46;  // pixels
+            constexpr int kLeast = 52;  // pixels
             title->setMinimumWidth(std::min(title->sizeHint().width(), kLeast));
             setVisible(control.visible() && !control.text().isEmpty());
         });

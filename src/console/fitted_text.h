@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QFont>
+#include <QSize>
+#include <QStringList>
+
+class QPainter;
+class QRect;
+
+namespace zelvor {
+
+// A caption as it fits into its place: in its own size where it can, else in two lines or smaller, and only then
+// elided.
+struct FittedText {
+    QStringList lines;
+    QFont font;
+    int step = 0;  // pixels from one line to the next
+
+    [[nodiscard]] int height() const { return step * static_cast<int>(lines.size()); }
+    void draw(QPainter& painter, const QRect& area, Qt::Alignment alignment) const;
+};
+
+// lines: several stay several; a single one may be broken at a blank. room: in pixels.
+FittedText fitted(const QStringList& lines, const QFont& font, QSize room);
+
+}  // namespace zelvor
