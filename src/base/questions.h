@@ -72,7 +72,7 @@ class Questions : public QObject {
     // Answers it; false when it does not take that.
     bool answerTop(const QString& given);
 
-    // What a box or list was answered with in the end, whoever gave it.
+    // What a box or list was answered with in the end, whoever gave it; of one that CLEAR has ended nothing is told.
     void tellAnswer(const Question& question, const QString& answer) { Q_EMIT answered(question, answer); }
 
  Q_SIGNALS:

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ask_dialog/clear_button.h"
 #include "base/translate.h"
@@ -24,7 +25,9 @@ namespace zelvor {
 
 namespace {
 
-constexpr int kLongText = 12;  // lines; beyond them the text scrolls
+constexpr int kLongText = 1000;       // characters; beyond them the text scrolls
+constexpr QSize kTextRoom{520, 220};  // pixels that a text takes that is not scrolled
+constexpr int kTabbedLine = 40;       // characters
 
 using Severity = Operator::Severity;
 
@@ -52,9 +55,20 @@ class BoxText : public QLabel {
     }
 };
 
-// The text of a box: a label, or a scrolling view when it is long.
+// A label cuts a word that is wider than itself, and loses what follows a tab in a line that it wraps.
+bool fitsLabel(const QString& text, const QFont& font) {
+    if (text.size() > kLongText) return false;
+    const QStringList lines = text.split(u'\n');
+    if (std::any_of(lines.begin(), lines.end(),
+                    [](const QString& line) { return line.size() > kTabbedLine && line.contains(u'\t'); }))
+        return false;
+    const QSize taken = QFontMetrics(font).boundingRect(QRect({}, kTextRoom), Qt::TextWordWrap, text).size();
+    return taken.width() <= kTextRoom.width() && taken.height() <= kTextRoom.height();
+}
+
+// The text of a box: a label, or a scrolling view where that would not show all of it.
 QWidget* textPart(const QString& text) {
-    if (text.count(u'\n') < kLongText) {
+    if (fitsLabel(text, QApplication::font())) {
         auto* label = new BoxText(text);
         label->setObjectName(u"text"_s);
         label->setTextFormat(Qt::PlainText);
@@ -223,6 +237,7 @@ void Boxes::message(const Asker& asker, const QString& title, const QString& tex
 
 bool Boxes::yesNo(const Asker& asker, const QString& title, const QString& text) {
     const Question question{Question::Kind::YesNo, asker, title, text};
+    const int clearings = program_.clearing.count();
     bool yes = false;
     if (const auto given = program_.questions.answeredBeforehand(question)) {
         yes = *given == Question::kYes;
@@ -232,7 +247,8 @@ bool Boxes::yesNo(const Asker& asker, const QString& title, const QString& text)
         addButtons(box, asker, program_.clearing);
         yes = run(question, dialog);
     }
-    program_.questions.tellAnswer(question, yes ? Question::kYes : Question::kNo);
+    if (program_.clearing.count() == clearings)
+        program_.questions.tellAnswer(question, yes ? Question::kYes : Question::kNo);
     return yes;
 }
 

@@ -5,11 +5,13 @@
 #include <QKeySequence>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QScrollArea>
 #include <algorithm>
 #include <set>
 
 #include "app_cards/ui_language.h"
+#include "console/fitted_text.h"
 #include "console/panels/history_panel.h"
 #include "console/text_label.h"
 #include "console/theme.h"
@@ -220,6 +222,47 @@ TEST(TextLabel, WhatDoesNotFitIsElidedAndStandsInTheToolTip) {
     label.resize(400, 20);
     label.setText(u"one\r\ntwo"_s);
     EXPECT_EQ(label.toolTip(), u"one\r\ntwo\nhint");
+}
+
+TEST(FittedText, IsBrokenAndSmallerBeforeItIsElided) {
+    const QString caption = u"Player lower third"_s;
+    const QFont font = theme::font(15, true);
+    const int whole = QFontMetrics(font).horizontalAdvance(caption);
+    const std::tuple<double, int, QString, int> cases[]{
+        {1, 28, caption, 15},
+        {0.85, 28, caption, 12},
+        {0.7, 60, u"Player|lower third"_s, 15},
+        {0.7, 28, u"Player|lower third"_s, 12},
+        {0.6, 20, u"Player lower…"_s, 11},
+    };
+    for (const auto& [part, height, lines, pixels] : cases) {
+        const QSize room(qRound(whole * part), height);
+        const FittedText text = fitted({caption}, font, room);
+        EXPECT_EQ(text.lines.join(u'|').toStdString(), lines.toStdString());
+        EXPECT_EQ(text.font.pixelSize(), pixels) << part << ' ' << height;
+        EXPECT_LE(text.height(), std::max(height, QFontMetrics(text.font).height()));
+    }
+}
+
+TEST(Boxes, ScrollWhatALabelWouldNotShowWhole) {
+    Gallery gallery;
+    gallery.start();
+    const std::pair<QString, bool> cases[]{
+        {u"Sure?\nYes\tor no"_s, false},
+        {QString(u"word "_s).repeated(250), true},
+        {QString(u"line\n"_s).repeated(30), true},
+        {QString(u'w').repeated(200), true},
+        {QString(u"select\ta, b "_s).repeated(5), true},
+    };
+    for (const auto& [text, scrolls] : cases) {
+        bool isView = false;
+        gallery.answer = [&](QDialog& box) {
+            isView = box.findChild<QPlainTextEdit*>(u"text"_s) != nullptr;
+            box.reject();
+        };
+        gallery.app->boxes().yesNo({}, {}, text);
+        EXPECT_EQ(isView, scrolls) << text.left(20).toStdString();
+    }
 }
 
 TEST(HistoryPanel, TemplateDataIsReadableOrAsItIs) {

@@ -18,7 +18,8 @@ namespace zelvor {
 namespace {
 
 constexpr int kRowsShown = 20;
-constexpr int kWidth = 460;  // pixels
+constexpr int kWidth = 460;       // pixels
+constexpr int kFrameHeight = 60;  // pixels that a window manager may put around it
 
 QString headerText(size_t rows) {
     const QString count = rows == 1 ? translate("ask", "1 row") : translate("ask", "%1 rows").arg(rows);
@@ -76,7 +77,7 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
     const int listHeight = view->heightForRows(kRowsShown);
     const int rest = header->sizeHint().height() + cancel->sizeHint().height() + 2 * column->spacing() +
                      column->contentsMargins().top() + column->contentsMargins().bottom();
-    resize(kWidth, std::min(listHeight + rest, screen()->availableGeometry().height()));
+    resize(kWidth, std::min(listHeight + rest, screen()->availableGeometry().height() - kFrameHeight));
     const QRect around = parent != nullptr ? parent->window()->frameGeometry() : screen()->availableGeometry();
     move(around.center() - rect().center());
 }
@@ -105,6 +106,7 @@ void AskFormDialog::show(const Asker& asker) {
         return;
     }
     const Question question = questionOf(list, asker);
+    const int clearings = program_.clearing.count();
     if (const auto given = program_.questions.answeredBeforehand(question)) {
         answerList(list, question.choice(*given));
     } else {
@@ -115,6 +117,7 @@ void AskFormDialog::show(const Asker& asker) {
         });
         form.answer();
     }
+    if (program_.clearing.count() != clearings) return;
     const bool cancelled = state_.ask.ASK_CANCELLED == AskState::kYes;
     program_.questions.tellAnswer(question, cancelled ? Question::kCancel : state_.ask.ASK_RESULT);
 }

@@ -25,7 +25,7 @@ void AsRunFile::append(const QJsonObject& object) {
 
 bool AsRunFile::open() {
     const QFileInfo found(path());
-    QDir().mkpath(found.path());
+    if (!QDir().mkpath(found.path())) return false;
     // A pipe or a device of that name would hold up the console.
     if (found.exists() && !found.isFile()) {
         errno = EINVAL;
