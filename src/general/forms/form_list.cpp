@@ -12,7 +12,8 @@ namespace {
 // lies in the lower right corner, where the least of the cards is.
 QPoint placeBeside(const QWidget& console, QSize content) {
     const QRect taken = console.frameGeometry();
-    const QSize size = content + (taken.size() - console.size());  // with a frame like the console's
+    // With a frame like the console's, which has hardly one while it fills its screen.
+    const QSize size = content + (taken.size() - console.size()).expandedTo(kFormFrame);
     for (const QScreen* screen : QGuiApplication::screens()) {
         const QRect free = screen->availableGeometry();
         if (!free.intersects(taken)) return free.center() - QRect({}, size).center();

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "base/translate.h"
+#include "general_forms/form_list.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +22,6 @@ namespace zelvor {
 namespace {
 
 constexpr QSize kEditorSize{1060, 520};
-constexpr QSize kFrame{20, 60};  // what a window manager may put around it
 constexpr int kValueWidth = 240;
 constexpr int kTitleWidth = 200;
 constexpr int kVariableWidth = 160;
@@ -44,7 +44,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     setObjectName(u"frmGENERAL"_s);
     setWindowTitle(u"General Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(kEditorSize.boundedTo(screen()->availableSize() - kFrame));
+    resize(kEditorSize.boundedTo(screen()->availableSize() - kFormFrame));
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(translate("general", "Search"));
     search_->setToolTip(translate("general", "Shows the rows that hold this text"));
