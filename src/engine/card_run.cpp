@@ -126,13 +126,19 @@ void CardRun::letClearIn() {
     alone_ = clock.steadyMilliseconds();
 }
 
+// Not where the button was asked for another card, or has become another one's by a new card table meanwhile.
+bool CardRun::isOnItsButton() {
+    if (!asker().place || CardEngine::scriptName(asker().card) != cardFile_) return false;
+    return CardEngine::scriptName(state().cards.entry(asker().place->set, asker().place->index + 1).script) ==
+           cardFile_;
+}
+
 void CardRun::finish() {
     if (script_->functionCard()) return;
     if (hasData_) {
         SHOW_RTX(engine_.program().folder);
         state().lastCard = cardFile_;
-        const bool isWhatWasAskedFor = CardEngine::scriptName(asker().card) == cardFile_;
-        if (asker().place && isWhatWasAskedFor) state().console.lastFired = asker().place;
+        if (isOnItsButton()) state().console.lastFired = asker().place;
         if (!onAirLocked(form())) SHOW_ONAIR(state(), form(), cardFile_);
     } else {
         state().lastCard.clear();

@@ -61,6 +61,7 @@ class CardRun {
     // card begins meanwhile. Ends the run as goOn() does.
     void letClearIn();
     // Shows the card as on air, or that it had no data, and remembers it as the last one.
+    [[nodiscard]] bool isOnItsButton();
     void finish();
 
     struct RecordLoop {

@@ -279,6 +279,10 @@ TEST_F(CardRules, LastFiredIsTheCardThatWentOnAir) {
     set(1, row).on = true;
     console.pressClear();
     EXPECT_FALSE(set(1, row).on);
+    bench.write(u"QRD_TT/one.csp"_s, "SETVAR~@A;1\r\nDELAY~1\r\n");
+    bench.clock.whileWaiting = [this] { set(1, 1) = {u"Another"_s, {}, u"two.csp"_s}; };
+    console.pressCard(0);
+    EXPECT_FALSE(console.isLastFired(0)) << "other cards were loaded meanwhile";
 }
 
 TEST_F(CardRules, FunctionKeysOneToTen) {
