@@ -12,9 +12,9 @@ namespace {
 constexpr int kCodeLength = 3;
 constexpr qsizetype kLongestLine = qsizetype{16} * 1024 * 1024;
 
-// 404 of "404 CG ADD FAILED", 0 when the line begins no reply.
+// 404 of "404 CG ADD FAILED" or "404", 0 when the line begins no reply.
 int codeOf(QStringView line) {
-    if (line.size() <= kCodeLength || line[kCodeLength] != u' ') return 0;
+    if (line.size() < kCodeLength || (line.size() > kCodeLength && line[kCodeLength] != u' ')) return 0;
     bool isNumber = false;
     const int code = line.left(kCodeLength).toInt(&isNumber);
     return isNumber && code >= 100 && code < 600 ? code : 0;

@@ -23,6 +23,7 @@ const std::tuple<QString, QByteArray, QString> kExchanges[] = {
     {u"  "_s, "", {}},
     {u"mixer 1-10 FILL 0"_s, "402 MIXER FILL FAILED\r\n", u"402 MIXER FILL FAILED"_s},
     {u"CG 1-20 STOP 1"_s, "403 CG STOP FAILED\r\n", u"403 CG STOP FAILED"_s},
+    {u"CG 1-20 STOP 1"_s, "404\r\n", u"404"_s},
     {u"CG 1-20 STOP 1 Ά"_s, "202 CG OK\r\n", {}},
 };
 
