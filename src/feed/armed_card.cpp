@@ -10,7 +10,7 @@ ArmedCard::ArmedCard(CardEngine& engine, UnattendedCards& cards, Asker::Kind kin
       kind_(kind),
       procedure_(std::move(procedure)),
       which_(std::move(which)) {
-    connect(&engine.program().databaseWait, &DatabaseWait::over, this, [this] {
+    connect(&cards, &UnattendedCards::mayBeginAgain, this, [this] {
         if (due_ && !running_) fireSoon();
     });
 }

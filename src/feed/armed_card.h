@@ -7,8 +7,8 @@
 
 namespace zelvor {
 
-// The card of the clock, which follows each of its seconds. It never runs inside itself, nor while the
-// database is waited for: what falls into that time is one run afterwards.
+// The card of the clock, which follows each of its seconds. It never runs inside itself, nor while none may begin:
+// what falls into that time is one run afterwards.
 class ArmedCard : public QuietRules {
     Q_OBJECT
 

@@ -43,7 +43,7 @@ bool FeedSocket::hasRoom() const {
 void FeedSocket::read() {
     takeArrived();
     tellWaiting();
-    const bool isCardDue = cardDueSince_ && !feed_.onlyWrites();
+    const bool isCardDue = cardDueSince_ && feed_.mayRunCard();
     if (mayHandle() && (!waiting_.empty() || isCardDue) && !next_.isActive()) next_.start(0);
 }
 
@@ -68,7 +68,7 @@ void FeedSocket::handleWaiting() {
         handleSlice();
         tellWaiting();
         const bool isNewest = waiting_.empty();
-        if (cardDueSince_ && !feed_.onlyWrites() &&
+        if (cardDueSince_ && feed_.mayRunCard() &&
             (isNewest || clock_.steadyMilliseconds() - *cardDueSince_ > kLongestWithoutCard)) {
             runTimeCard();
         }

@@ -46,7 +46,7 @@ GameFeed::GameFeed(CardEngine& engine, UnattendedCards& cards)
     follow(threshold_, {Control::Property::Text}, this, [this] {
         threshold_.setState(isThreshold(threshold_.text()) ? QString() : translate("feed", "not a number"));
     });
-    connect(&engine.program().databaseWait, &DatabaseWait::over, this, &GameFeed::cardMayRun);
+    connect(&cards, &UnattendedCards::mayBeginAgain, this, &GameFeed::cardMayRun);
 }
 
 GameFeed::Outcome GameFeed::handle(const QString& datagram) {

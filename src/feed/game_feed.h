@@ -22,12 +22,13 @@ class GameFeed : public QuietRules {
     Outcome handle(const QString& datagram);
     // While the database is waited for a message only writes: the next one may be handled inside of another, and the
     // time card runs afterwards.
-    [[nodiscard]] bool onlyWrites() const { return !cards_.mayBegin(); }
-    // Runs the armed time card, if there is one.
+    [[nodiscard]] bool onlyWrites() const { return engine_.program().databaseWait.isOn(); }
+    [[nodiscard]] bool mayRunCard() const { return cards_.mayBegin(); }
+    // Runs the armed time card, if there is one. Only while it may.
     void runTimeCard();
 
  Q_SIGNALS:
-    // The database is no longer waited for.
+    // After a time in which it was not to.
     void cardMayRun();
 
  private:

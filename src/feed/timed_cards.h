@@ -19,8 +19,8 @@ class TimedCards : public QuietRules {
     // Switches tmrCARD on.
     void start();
     // Counts one tick for every timed card and runs those that are due. The timer is off meanwhile, so that ticks do
-    // not stack. A card whose interval is 0 or less never fires. One that is due while the database is waited for runs
-    // at the first tick afterwards.
+    // not stack. A card whose interval is 0 or less never fires. One that is due while none may begin runs at the first
+    // tick afterwards.
     void tick();
 
  private:

@@ -10,6 +10,8 @@ UnattendedCards::UnattendedCards(CardEngine& engine) : engine_(engine) {
     connect(&engine.program().databaseWait, &DatabaseWait::ranOut, this, [this](const Asker& asker) {
         if (!asker.isAttended()) troubles_[CardEngine::scriptName(asker.card)].now = true;
     });
+    connect(&engine.program().databaseWait, &DatabaseWait::over, this, &UnattendedCards::mayBeginAgain);
+    connect(&engine.program().pressRoom, &PressRoom::ended, this, &UnattendedCards::mayBeginAgain);
     shown_.setSingleShot(true);
     connect(&shown_, &QTimer::timeout, this, &UnattendedCards::showPaused);
 }

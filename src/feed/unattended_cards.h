@@ -19,10 +19,16 @@ class UnattendedCards : public QObject {
 
     explicit UnattendedCards(CardEngine& engine);
 
-    // Whether one may begin: none does while the database is waited for.
-    [[nodiscard]] bool mayBegin() const { return !engine_.program().databaseWait.isOn(); }
+    // Whether one may begin: none does while the database is waited for or a press waits for its turn.
+    [[nodiscard]] bool mayBegin() const {
+        return !engine_.program().databaseWait.isOn() && !engine_.program().pressRoom.isMade(now());
+    }
     // Only while one may begin.
     void run(const QString& card, Asker::Kind kind);
+
+ Q_SIGNALS:
+    // The database is no longer waited for, or no press any more.
+    void mayBeginAgain();
 
  private:
     struct Trouble {

@@ -27,6 +27,7 @@ class CardRules : public testing::Test {
     }
     CardEntry& set(int number, int row) { return bench.state.cards.entry(number, row); }
     QStringList sent() { return std::exchange(bench.graphics.sent, {}); }
+    bool makesRoom() const { return bench.program.pressRoom.isMade(bench.clock.steadyMilliseconds()); }
 
     EngineBench bench;
     CardConsole console{bench.engine};
@@ -101,11 +102,13 @@ TEST_F(CardRules, ButtonsFireTheRowOfTheCurrentSet) {
 TEST_F(CardRules, PressesKeepTheirOrder) {
     // What is pressed in the turn of a press comes after it, from the set that was seen.
     bench.clock.whileTurning = [this] {
+        EXPECT_TRUE(makesRoom()) << "no card by itself before it";
         console.functionKey(10);
         console.selectBox(1);
     };
     console.pressCard(0);
     EXPECT_EQ(sent(), (QStringList{u"mone 0"_s, u"mkey 0"_s}));
+    EXPECT_FALSE(makesRoom());
 
     // A card changes the set and holds the console: the next press was made on what stood there before.
     console.selectBox(0);
@@ -128,10 +131,12 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     bench.write(u"QRD_TT/one.csp"_s, "CSPSEND~PLAY 1\r\nCSPSEND~ends\r\n");
     int longPause = 0;  // milliseconds
     int pauses = 1;     // one inside the other
+    bool isHeld = false;
     bench.graphics.whileSending = [&] {
         if (bench.graphics.sent.size() > pauses) return;
         if (bench.graphics.sent.size() == pauses) {
             console.functionKey(10);
+            isHeld = makesRoom();
         } else {
             bench.engine.SHOW_TVCARD(u"one.qrd"_s, false, false, {Asker::Kind::TimedCard, u"one.qrd"_s});
         }
@@ -143,6 +148,7 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     const auto play = [&](Asker::Kind who) {
         bench.engine.SHOW_TVCARD(u"one.qrd"_s, false, false, {who, u"one.qrd"_s});
         const qsizetype within = bench.graphics.sent.size();
+        EXPECT_EQ(isHeld, who != Asker::Kind::Operator);
         EXPECT_TRUE(waitUntil([&] { return bench.graphics.sent.size() == 2 * pauses + 1 || !note.text().isEmpty(); }));
         const QStringList all = sent();
         return QString(all.first(within).join(u' ') + u" | "_s + all.mid(within).join(u' '));

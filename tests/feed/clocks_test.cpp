@@ -97,35 +97,59 @@ TEST(TimedCards, SwitchTheirTimerOffMeanwhile) {
     EXPECT_EQ(studio.operatorDesk.askers[0].card, u"card.csp");
 }
 
-TEST(UnattendedCards, FollowAWaitForTheDatabaseOnce) {
-    Studio studio;
-    studio.write(u"QRD_TT/clock.csp"_s, "FUNCTIONCARD\nSQLU~slow\nCSPSEND~{@CLOCKS}\n");
-    studio.writeCard("time.csp", "{@TIMER}");
-    studio.writeCard("tenth.csp", "tenth");
-    CardSwitches& switches = studio.state.switches;
-    switches.AutoClockCard = u"clock.csp"_s;
-    switches.AutoTimeCard = u"time.csp"_s;
-    switches.IsClockCard = switches.IsTimeCard = true;
-    studio.state.cards.timedCards = {{u"tenth.csp"_s, 3}};
-    ASSERT_TRUE(studio.desk.feedSocket.bind(0));
-    studio.clock.time.setTime(QTime(20, 0, 1));
-    studio.database.whileWaiting = [&] {
-        studio.database.whileWaiting = {};
-        studio.clock.time.setTime(QTime(20, 0, 3));
-        for (int i = 0; i < 9; ++i) studio.desk.timedCards.tick();
-        studio.desk.localClock.tick();
-        studio.sendToFeed({"t2:42t", "t2:41t", "t2:40t"});
-        EXPECT_TRUE(waitUntil([&] { return studio.taken() == 3; }));
-        EXPECT_EQ(studio.variablesText({u"@CLOCKS"_s, u"@TIMER"_s}), u"20:00:03|2:40");
-        EXPECT_EQ(studio.graphics.sent, QStringList()) << "the form follows, no card runs";
-    };
-    studio.desk.localClock.tick();
-    EXPECT_EQ(studio.graphics.sent, QStringList{u"m20:00:03"_s});
-    QCoreApplication::processEvents();
-    studio.desk.timedCards.tick();
-    EXPECT_EQ(studio.graphics.sent.size(), 4) << studio.graphics.sent.join(u' ').toStdString();
-    for (const char* line : {"m20:00:03", "m2:40", "mtenth"})
-        EXPECT_TRUE(studio.graphics.sent.mid(1).contains(QLatin1StringView(line))) << line;
+TEST(UnattendedCards, FollowAWaitOnce) {
+    for (const bool forPress : {false, true}) {
+        SCOPED_TRACE(forPress);
+        Studio studio;
+        studio.write(u"QRD_TT/clock.csp"_s, "FUNCTIONCARD\nSQLU~slow\nCSPSEND~{@CLOCKS}\n");
+        studio.writeCard("time.csp", "{@TIMER}");
+        studio.writeCard("tenth.csp", "tenth");
+        CardSwitches& switches = studio.state.switches;
+        switches.AutoClockCard = u"clock.csp"_s;
+        switches.AutoTimeCard = u"time.csp"_s;
+        switches.IsClockCard = switches.IsTimeCard = true;
+        studio.state.cards.timedCards = {{u"tenth.csp"_s, 3}};
+        ASSERT_TRUE(studio.desk.feedSocket.bind(0));
+        const auto meanwhile = [&] {
+            for (int i = 0; i < 9; ++i) studio.desk.timedCards.tick();
+            studio.desk.localClock.tick();
+            studio.sendToFeed({"t2:42t", "t2:41t", "t2:40t"});
+            EXPECT_TRUE(waitUntil([&] { return studio.taken() == 3; }));
+            EXPECT_EQ(studio.variablesText({u"@CLOCKS"_s, u"@TIMER"_s}), u"20:00:03|2:40");
+            EXPECT_EQ(studio.graphics.sent, QStringList()) << "the form follows, no card runs";
+        };
+        PressRoom& room = studio.program.pressRoom;
+        if (forPress) {
+            studio.clock.time.setTime(QTime(20, 0, 3));
+            room.make(studio.clock.steadyMilliseconds());
+            meanwhile();
+            room.end();
+        } else {
+            studio.clock.time.setTime(QTime(20, 0, 1));
+            studio.database.whileWaiting = [&] {
+                studio.database.whileWaiting = {};
+                studio.clock.time.setTime(QTime(20, 0, 3));
+                meanwhile();
+            };
+            studio.desk.localClock.tick();
+            EXPECT_EQ(std::exchange(studio.graphics.sent, {}), QStringList{u"m20:00:03"_s});
+        }
+        QCoreApplication::processEvents();
+        studio.desk.timedCards.tick();
+        QStringList& sent = studio.graphics.sent;
+        sent.sort();
+        EXPECT_EQ(sent, QStringList({u"m20:00:03"_s, u"m2:40"_s, u"mtenth"_s}));
+
+        // Presses without end do not stop the clock on air.
+        room.make(studio.clock.steadyMilliseconds());
+        for (const int waited : {499, 1}) {
+            sent.clear();
+            studio.clock.time = studio.clock.time.addMSecs(waited);
+            room.make(studio.clock.steadyMilliseconds());
+            studio.desk.localClock.tick();
+            EXPECT_EQ(sent.size(), waited == 1);
+        }
+    }
 }
 
 TEST(UnattendedCards, RestWhenTheDatabaseDoesNotAnswerThem) {

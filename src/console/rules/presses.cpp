@@ -40,7 +40,13 @@ void Presses::wait(Waiting press) {
 }
 
 void Presses::tellWait(bool another) {
-    engine_.program().databaseWait.setPressWaits(another || !waiting_.empty());
+    const bool waits = another || !waiting_.empty();
+    engine_.program().databaseWait.setPressWaits(waits);
+    if (waits) {
+        engine_.program().pressRoom.make(now());
+    } else {
+        engine_.program().pressRoom.end();
+    }
 }
 
 bool Presses::isHeldUp() {

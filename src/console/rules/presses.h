@@ -13,7 +13,8 @@ namespace zelvor {
 // PLAY, a question) the next press is carried out at once, inside; in the pause before PLAY of a card that runs by
 // itself, and while one waits for the database, it waits: for the end of a card that runs by itself, which a wait for
 // the database brings about at once, or for the operator's own statement. Pauses before PLAY stand two deep at most: a
-// press in the inner one waits for its end, so that many at once do not keep the first of them from the air.
+// press in the inner one waits for its end, so that many at once do not keep the first of them from the air. No card
+// that runs by itself begins before a press that waits.
 class Presses : public QObject {
     Q_OBJECT
 
@@ -63,7 +64,7 @@ class Presses : public QObject {
     void carryOutSoon();
     void wait(Waiting press);
     [[nodiscard]] qint64 now() const;
-    // Tells the wait for the database whether a press waits, beside those in the queue.
+    // Tells what is to make room whether a press waits, beside those in the queue.
     void tellWait(bool another = false);
 
     CardEngine& engine_;
