@@ -1,6 +1,7 @@
 #include "base/questions.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zelvor {
 
@@ -46,10 +47,10 @@ std::optional<QString> Questions::answeredBeforehand(const Question& question) c
 }
 
 bool Questions::answerTop(const QString& given) {
-    if (standing_.empty()) return false;
+    if (standing_.empty() || isTopAnswered()) return false;
     const std::optional<QString> answer = standing_.back().question.read(given);
     if (!answer) return false;
-    const Answer end = standing_.back().answer;
+    const Answer end = std::exchange(standing_.back().answer, {});
     end(*answer);
     return true;
 }

@@ -69,7 +69,9 @@ class Questions : public QObject {
     [[nodiscard]] const Question* top() const { return standing_.empty() ? nullptr : &standing_.back().question; }
     // Counted from 1; 0 when none stands.
     [[nodiscard]] qint64 topNumber() const { return standing_.empty() ? 0 : standing_.back().number; }
-    // Answers it; false when it does not take that.
+    // Whether it has been answered and its box is about to close.
+    [[nodiscard]] bool isTopAnswered() const { return !standing_.empty() && !standing_.back().answer; }
+    // Answers it, once; false when it does not take that.
     bool answerTop(const QString& given);
 
     // What a box or list was answered with in the end, whoever gave it; of one that CLEAR has ended nothing is told.

@@ -16,6 +16,8 @@ DeedResult wrongDeed(int status, const QString& error) {
 RemoteConsole::RemoteConsole(CardEngine& engine, CardConsole& cards, GameDesk& desk)
     : engine_(engine), cards_(cards), desk_(desk) {
     second_.start();
+    // Of deeds that came at once the first may ask.
+    cards.presses().setMayComeFromOutside([this](const Presser& presser) { return mayComeNow(presser); });
     Questions& questions = engine.program().questions;
     questions.setBeforehand([this](const Question& question) -> std::optional<QString> {
         const auto found = pending_.find(question.asker.presser.number);
@@ -54,16 +56,12 @@ RemoteConsole::RemoteConsole(CardEngine& engine, CardConsole& cards, GameDesk& d
 
 RemoteConsole::~RemoteConsole() {
     engine_.program().questions.setBeforehand({});
+    cards_.presses().setMayComeFromOutside({});
 }
 
 std::optional<DeedResult> RemoteConsole::refusal() {
     if (!open_ || engine_.program().closing.hasBegun()) return wrongDeed(503, u"the console is not ready"_s);
-    const Question* top = engine_.program().questions.top();
-    if (top != nullptr && top->asker.isAttended()) {
-        DeedResult result = wrongDeed(409, u"a question is open"_s);
-        result.body.insert(u"question"_s, question());
-        return result;
-    }
+    if (auto asked = refusalByQuestion()) return asked;
     if (pending_.size() >= kMostAtOnce) return wrongDeed(503, u"too many deeds are not over"_s);
     constexpr qint64 kSecond = 1000;
     if (second_.elapsed() >= kSecond) {
@@ -72,6 +70,20 @@ std::optional<DeedResult> RemoteConsole::refusal() {
     }
     if (++inSecond_ > kMostInSecond) return wrongDeed(429, u"too many deeds in a second"_s);
     return std::nullopt;
+}
+
+std::optional<DeedResult> RemoteConsole::refusalByQuestion() const {
+    const Question* top = engine_.program().questions.top();
+    if (top == nullptr || !top->asker.isAttended()) return std::nullopt;
+    DeedResult result = wrongDeed(409, u"a question is open"_s);
+    result.body.insert(u"question"_s, question());
+    return result;
+}
+
+bool RemoteConsole::mayComeNow(const Presser& presser) {
+    const auto asked = refusalByQuestion();
+    if (asked) finish(presser.number, *asked);
+    return !asked;
 }
 
 // From the event loop, never from within the call: a deed may wait for long, and others are taken meanwhile.
@@ -195,6 +207,7 @@ DeedResult RemoteConsole::answer(const QString& given, qint64 number, const QStr
     Questions& questions = engine_.program().questions;
     if (questions.top() == nullptr) return wrongDeed(404, u"no question is open"_s);
     if (number != 0 && number != questions.topNumber()) return wrongDeed(409, u"another question is open"_s);
+    if (questions.isTopAnswered()) return wrongDeed(409, u"it was answered already"_s);
     engine_.ports().notes.appendHistory({u" = "_s, from, u": answer "_s, given});
     if (!questions.answerTop(given)) return wrongDeed(422, u"the question does not take this answer"_s);
     return {};

@@ -74,6 +74,10 @@ class RemoteConsole : public QObject {
     };
     // The refusal of any deed now; nullopt when it may be done.
     [[nodiscard]] std::optional<DeedResult> refusal();
+    // That of any deed while a question of his stands.
+    [[nodiscard]] std::optional<DeedResult> refusalByQuestion() const;
+    // When its turn has come; one that may not is refused.
+    bool mayComeNow(const Presser& presser);
     void press(const QString& what, const Request& request, const std::function<void(const Presser&)>& deed);
     void carryOut(qint64 number, const std::function<void(const Presser&)>& deed);
     void tell(qint64 number, const DeedResult& result);

@@ -25,6 +25,11 @@ void Presses::press(const QString& name, const Presser& presser, std::function<v
         tellLate(name, waited);
         return;
     }
+    if (!presser.from.isEmpty() && mayComeFromOutside_) {
+        deed = [this, presser, deed = std::move(deed)] {
+            if (mayComeFromOutside_(presser)) deed();
+        };
+    }
     if (turning_ || isHeldUp() || engine_.program().databaseWait.isOn() || !waiting_.empty()) {
         wait({name, std::move(deed), now() - waited});
     } else {

@@ -30,6 +30,10 @@ class Presses : public QObject {
     // Without one no press is ever late.
     void setWaited(Waited waited) { waited_ = std::move(waited); }
 
+    // Asked of a press from outside when its turn has come: false when it is no longer to be carried out.
+    using MayCome = std::function<bool(const Presser& presser)>;
+    void setMayComeFromOutside(MayCome may) { mayComeFromOutside_ = std::move(may); }
+
     // name: of the press, as the operator is told of it ("F1"). One from outside has waited nowhere before. Throws what
     // the deed throws.
     void press(const QString& name, const Presser& presser, std::function<void()> deed);
@@ -69,6 +73,7 @@ class Presses : public QObject {
 
     CardEngine& engine_;
     Waited waited_;
+    MayCome mayComeFromOutside_;
     std::deque<Waiting> waiting_;
     QStringList late_;       // told since the last press that was made afterwards
     qint64 toldLateAt_ = 0;  // steady milliseconds
