@@ -119,8 +119,9 @@ bool OscDoor::takeScore(const QStringList& path, const QVariant& argument, const
     bool isNumber = false;
     const double number = argument.toDouble(&isNumber);
     const bool isSide = path.value(1) == u"home" || path.value(1) == u"away";
-    const bool isWhole = isNumber && std::abs(number) <= kHighestScore && number == std::floor(number);
-    if (!isSide || !isWhole || path.size() != (sets ? 3 : 2)) return false;
+    const double lowest = sets ? 0 : -kHighestScore;
+    const bool isTaken = isNumber && number >= lowest && number <= kHighestScore && number == std::floor(number);
+    if (!isSide || !isTaken || path.size() != (sets ? 3 : 2)) return false;
     const TeamControls& team = path[1] == u"home" ? kHomeControls : kAwayControls;
     Control& manual = console_.engine().form().at(team.manualScore);
     console_.act(

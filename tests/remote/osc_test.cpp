@@ -77,11 +77,13 @@ TEST_F(OscTest, PressesAndIsToldWhatIsOn) {
     lo_send(address, "/zelvor/clear", "");
     EXPECT_TRUE(waitUntil([&] { return server.bytes.contains("CLEAR 1"); }));
     EXPECT_EQ(server.bytes.count("STRAP"), 1);
-    for (const char* path : {"/zelvor/nothing", "/other", "/zelvor/card/1/99", "/zelvor/script/..%2Fx.csp"}) {
+    for (const char* path :
+         {"/zelvor/nothing", "/other", "/zelvor/card/1/99", "/zelvor/script/..%2Fx.csp", "/zelvor/score/home/set"}) {
         heard.clear();
-        lo_send_from(address, client, kAtOnce, path, "");
+        lo_send_from(address, client, kAtOnce, path, "i", -1);
         EXPECT_TRUE(hears(u"/zelvor/error"_s)) << path;
     }
+    EXPECT_EQ(gallery.at("lblScoreA").text(), u"11");
 }
 
 TEST_F(OscTest, CutAndNestedPacketsEndNothing) {
