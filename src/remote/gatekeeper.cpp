@@ -93,6 +93,8 @@ std::optional<HttpResponse> Gatekeeper::refusal(const HttpRequest& request) {
 
 HttpResponse Gatekeeper::logIn(const HttpRequest& request) {
     if (auto stranger = strangerRefusal(request)) return *stranger;
+    // Also where no token is asked for: there is none to compare with.
+    if (isKnown(request)) return {303, "text/plain; charset=utf-8", "Welcome\n", {{"Location", "/"}}};
     if (auto waits = waitRefusal(request.peer)) return *waits;
     QByteArray form = request.body;
     const QUrlQuery fields(QString::fromUtf8(form.replace('+', ' ')));

@@ -158,6 +158,7 @@ TEST_F(ControlTest, WrongCallsHaveAStatusEach) {
     call(405, "DELETE", card, {});
     const std::tuple<int, QByteArray, QStringList> calls[] = {
         {200, "GET", {u"/"_s, u"/page/control.js"_s}},
+        {200, "POST", {u"/login token=none-is-asked-for"_s}},
         {404, "GET", {u"/api/question"_s, u"/page/..%2Flogin.html"_s}},
         {404,
          "POST",
