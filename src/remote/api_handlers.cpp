@@ -1,6 +1,8 @@
 #include "remote/api_handlers.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "base/number.h"
 #include "remote/json_texts.h"
@@ -12,14 +14,6 @@ namespace zelvor::api {
 namespace {
 
 constexpr int kHighestScore = 999;
-
-// A whole number of one to three digits, as paths hold them; -1 for anything else.
-int numberIn(const QString& text) {
-    constexpr qsizetype kDigits = 3;
-    const bool isNumber = !text.isEmpty() && text.size() <= kDigits &&
-                          std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return isNumber ? text.toInt() : -1;
-}
 
 const TeamControls* teamNamed(const QString& side) {
     if (side == u"home") return &kHomeControls;
@@ -59,16 +53,18 @@ void getQuestion(const ApiCall& call) {
 void answerQuestion(const ApiCall& call) {
     const std::optional<QString> answer = scalarText(call.body.value("answer"_L1));
     if (!answer) return refuse(call, 400, u"\"answer\" is to be a text or a number"_s);
-    const auto number = static_cast<qint64>(call.body.value("number"_L1).toDouble());
-    call.request.done(call.console.answer(*answer, number, call.request.from));
+    const QJsonValue meant = call.body.value("number"_L1);
+    const auto number = meant.isUndefined() ? 0 : wholeNumber(meant, 0, std::numeric_limits<int>::max());
+    if (!number) return refuse(call, 400, u"\"number\" is to be that of a question"_s);
+    call.request.done(call.console.answer(*answer, *number, call.request.from));
 }
 
 void fireCard(const ApiCall& call) {
-    call.console.fireCard(numberIn(call.values[0]), numberIn(call.values[1]), call.request);
+    call.console.fireCard(numberInPath(call.values[0]), numberInPath(call.values[1]), call.request);
 }
 
 void pressKey(const ApiCall& call) {
-    call.console.pressKey(numberIn(call.values[0]), call.request);
+    call.console.pressKey(numberInPath(call.values[0]), call.request);
 }
 
 void clear(const ApiCall& call) {
@@ -80,7 +76,7 @@ void runScript(const ApiCall& call) {
 }
 
 void showSet(const ApiCall& call) {
-    const int set = numberIn(call.values[0]);
+    const int set = numberInPath(call.values[0]);
     if (set < 1 || set > CardConsole::kSelectors) return refuse(call, 404, u"there is no such set of cards"_s);
     call.console.act(
         u"set %1"_s.arg(set), [&cards = call.console.cards(), set] { cards.selectBox(set - 1); }, call.request);
@@ -128,7 +124,7 @@ void clearTags(const ApiCall& call) {
 
 void tagPlayer(const ApiCall& call) {
     const TeamControls* team = teamNamed(call.values[0]);
-    const int index = numberIn(call.values[1]);
+    const int index = numberInPath(call.values[1]);
     const Control* label = team == nullptr ? nullptr : call.console.engine().form().find(team->players.name, index);
     if (label == nullptr || label->text().isEmpty()) return refuse(call, 404, u"no player stands there"_s);
     const Qt::MouseButton button = call.body.value("second"_L1).toBool() ? Qt::RightButton : Qt::LeftButton;
@@ -144,7 +140,7 @@ void tagPlayer(const ApiCall& call) {
 
 void setStarter(const ApiCall& call) {
     const TeamControls* team = teamNamed(call.values[0]);
-    const int place = numberIn(call.values[1]);
+    const int place = numberInPath(call.values[1]);
     Control* box = team == nullptr ? nullptr : call.console.engine().form().find(team->startFive.name, place - 1);
     if (box == nullptr) return refuse(call, 404, u"the places are 1 to 5 of home and away"_s);
     const std::optional<QString> player = scalarText(call.body.value("player"_L1));
@@ -156,7 +152,7 @@ void setStarter(const ApiCall& call) {
 }
 
 void takeProposal(const ApiCall& call) {
-    call.console.takeProposal(numberIn(call.values[0]), call.request);
+    call.console.takeProposal(numberInPath(call.values[0]), call.request);
 }
 
 }  // namespace zelvor::api

@@ -23,6 +23,13 @@ bool isOneLine(const QString& text) {
     return std::ranges::none_of(text, [](QChar c) { return c.category() == QChar::Other_Control; });
 }
 
+int numberInPath(const QString& piece) {
+    constexpr qsizetype kDigits = 3;
+    const bool isNumber = !piece.isEmpty() && piece.size() <= kDigits &&
+                          std::ranges::all_of(piece, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return isNumber ? piece.toInt() : -1;
+}
+
 bool isScriptName(const QString& name) {
     constexpr qsizetype kLongest = 100;
     constexpr QStringView kOfPaths = u"/\\:~{}";

@@ -14,14 +14,6 @@ namespace {
 constexpr int kMostInTurn = 100;  // packets; further ones wait for the next turn of the event loop
 constexpr int kHighestScore = 999;
 
-// Of an address's piece: 1 to 3 digits; -1 for anything else.
-int pieceNumber(const QString& text) {
-    constexpr qsizetype kDigits = 3;
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber && text.size() <= kDigits ? number : -1;
-}
-
 // Buttons send 1 when they are pressed and 0 when they are let go; without an argument it is a press.
 bool isRelease(const OscMessage& message) {
     return !message.arguments.isEmpty() && !message.arguments.constFirst().isNull() &&
@@ -94,15 +86,15 @@ bool OscDoor::take(const OscMessage& message, const OscFeedback::Peer& peer) {
     if (word == u"clear" && path.size() == 1) {
         console_.clear(request);
     } else if (word == u"card" && path.size() == 3) {
-        console_.fireCard(pieceNumber(path[1]), pieceNumber(path[2]), request);
+        console_.fireCard(numberInPath(path[1]), numberInPath(path[2]), request);
     } else if (word == u"key" && path.size() == 2) {
-        console_.pressKey(pieceNumber(path[1]), request);
+        console_.pressKey(numberInPath(path[1]), request);
     } else if (word == u"script" && path.size() == 2) {
         console_.runScript(path[1], request);
     } else if (word == u"proposal" && path.size() == 2) {
-        console_.takeProposal(pieceNumber(path[1]), request);
+        console_.takeProposal(numberInPath(path[1]), request);
     } else if (word == u"set" && path.size() == 2) {
-        const int set = pieceNumber(path[1]);
+        const int set = numberInPath(path[1]);
         if (set < 1 || set > CardConsole::kSelectors) return false;
         CardConsole& cards = console_.cards();
         console_.act(

@@ -111,6 +111,7 @@ TEST_F(ControlTest, QuestionsAreAnsweredInTheCallOrLater) {
     gallery.answer = [&](QDialog& box) {
         EXPECT_EQ(post(u"/api/cards/1/1/fire"_s).left(4), u"409 ") << "a question is open";
         EXPECT_EQ(post(u"/api/question"_s, R"({"answer":"yes","number":99})").left(4), u"409 ");
+        EXPECT_EQ(post(u"/api/question"_s, R"({"answer":"yes","number":"99"})").left(4), u"400 ") << "not whichever";
         EXPECT_EQ(post(u"/api/question"_s, R"({"answer":"perhaps"})").left(4), u"422 ");
         QObject::connect(&box, &QDialog::finished, [&] { ended = true; });
         for (const char* answer : {"yes", "no"}) {
