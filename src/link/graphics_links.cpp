@@ -10,11 +10,6 @@ namespace zelvor {
 
 namespace {
 
-// AMCP replies of the 400 and 500 ranges tell of an error.
-bool tellsOfError(const QString& reply) {
-    return reply.startsWith(u'4') || reply.startsWith(u'5');
-}
-
 // Goes from "P" to "P": lines are thousands of characters long, where a search for a word costs ten times one for a
 // character.
 bool holdsPlay(QStringView line) {

@@ -10,6 +10,11 @@
 
 namespace zelvor {
 
+// Whether a reply is one of the 400 and 500 ranges.
+inline bool tellsOfError(QStringView reply) {
+    return reply.startsWith(u'4') || reply.startsWith(u'5');
+}
+
 // Finds the line that each reply of a server belongs to. Replies come in the order of the lines and name the command
 // word; a line that a server leaves without a reply is passed over by the next reply that is not its own.
 class ReplyMatcher {
@@ -26,7 +31,7 @@ class ReplyMatcher {
     struct Answer {
         SentLine to;
         QString reply;  // its first line: "404 CG ADD FAILED"
-        [[nodiscard]] bool refused() const { return reply.startsWith(u'4') || reply.startsWith(u'5'); }
+        [[nodiscard]] bool refused() const { return tellsOfError(reply); }
     };
 
     void sent(SentLine line);

@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+#include "link/reply_matcher.h"
+
 namespace zelvor {
 
 // A card as the record of a day tells of it.
@@ -18,9 +20,7 @@ struct AsRunCard {
         QString in;     // "player.csp, line 6"
         QString reply;  // empty while none has come
         bool sent = true;
-        [[nodiscard]] bool refused() const {
-            return !sent || reply.startsWith(QLatin1Char('4')) || reply.startsWith(QLatin1Char('5'));
-        }
+        [[nodiscard]] bool refused() const { return !sent || tellsOfError(reply); }
     };
 
     QString run;   // names it within the day
