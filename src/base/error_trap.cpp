@@ -30,11 +30,10 @@ QString errorLogPath(const QString& executablePath, const QString& appFolder) {
 }
 
 bool ErrorTrap::writtenJustNow(const QString& fault) {
-    constexpr int kPause = 1000;  // milliseconds
-    QDeadlineTimer& pause = justWritten_[fault];
-    if (!pause.hasExpired()) return true;
-    pause.setRemainingTime(kPause);
-    return false;
+    constexpr qint64 kPause = 1000;  // milliseconds
+    // A warning may hold what changes each time, a clock's formula: they would gather for the whole evening.
+    std::erase_if(justWritten_, [](const auto& written) { return written.second.hasExpired(); });
+    return !justWritten_.try_emplace(fault, kPause).second;
 }
 
 void ErrorTrap::write(const ErrorPlace& place, const QString& kind, const QString& text) {
