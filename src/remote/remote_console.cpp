@@ -1,7 +1,6 @@
 #include "remote/remote_console.h"
 
 #include <QTimer>
-#include <algorithm>
 
 #include "remote/json_texts.h"
 

@@ -29,8 +29,8 @@ class RemoteConsole : public QObject {
     static constexpr int kLongestAnswer = 2000;  // milliseconds until a deed that goes on is answered
 
     using Done = std::function<void(const DeedResult& result)>;
-    // Who asks, with the answers to what his card may ask, and what he is told: once, in time, not from within the
-    // call.
+    // Who asks, with the answers to what his card may ask, and what he is told: once, in time; a refusal from within
+    // the call.
     struct Request {
         QString from;  // "HTTP 10.0.0.5"
         QStringList answers = {};
