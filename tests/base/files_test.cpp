@@ -73,6 +73,8 @@ TEST_F(Files, AreFoundInAnySpelling) {
 }
 
 TEST_F(Files, TrappedErrorsAreLoggedAndToldOnlyWhereWanted) {
+    EXPECT_EQ(folder_.filePath(u"cards.log"_s), errorLogPath(folder_.filePath(u"cards"_s), u"/show"_s));
+    EXPECT_EQ(u"/show/cards.log"_s, errorLogPath(folder_.filePath(u"none/cards"_s), u"/show"_s));
     const QString log = folder_.filePath(u"program.log"_s);
     ErrorTrap trap(log);
     QStringList told;

@@ -21,10 +21,10 @@ int errorOf(Action&& action) {
 
 TEST(Numbers, ValTakesTheLeadingNumber) {
     const std::pair<QString, double> rows[] = {
-        {u""_s, 0},        {u"12abc"_s, 12},      {u" 1 2 . 5 x"_s, 12.5}, {u"-.5"_s, -0.5},
-        {u"1e3"_s, 1000},  {u"1D-2z"_s, .01},     {u"2e+"_s, 2},           {u"&HFF"_s, 255},
-        {u"&HFFFF"_s, -1}, {u"&h10000"_s, 65536}, {u"&17"_s, 15},          {u"--1"_s, 0},
-        {u"1,5"_s, 1},     {u"٣"_s, 0},           {u"1e-999"_s, 0},        {u"\t\r\n 9"_s, 9},
+        {u""_s, 0},         {u"12abc"_s, 12}, {u" 1 2 . 5 x"_s, 12.5}, {u"-.5"_s, -0.5},  {u"1e3"_s, 1000},
+        {u"1D-2z"_s, .01},  {u"2e+"_s, 2},    {u"&HFF"_s, 255},        {u"&HFFFF"_s, -1}, {u"&h10000"_s, 65536},
+        {u"&17"_s, 15},     {u"--1"_s, 0},    {u"1,5"_s, 1},           {u"٣"_s, 0},       {u"1e-999"_s, 0},
+        {u"\t\r\n 9"_s, 9}, {u"+.5x"_s, .5},
     };
     for (const auto& [text, number] : rows) EXPECT_EQ(number, Val(text)) << text.toStdString();
     EXPECT_EQ(6, errorOf([] { Val(u"1e999"); }));

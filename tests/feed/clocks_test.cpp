@@ -186,6 +186,7 @@ TEST(StopwatchSender, SendsFractionsOfASixtieth) {
     for (const bool active : {true, false}) {
         studio.desk.stopwatch.Command1();
         EXPECT_EQ(studio.desk.stopwatch.findChild<QTimer*>(u"tmrTEST"_s)->isActive(), active);
+        EXPECT_EQ(studio.at("lblTESTSENDER").visible(), active);
     }
     for (int i = 0; i < 61; ++i) studio.desk.stopwatch.tick();
     const auto line = [](const QString& value) {

@@ -113,6 +113,7 @@ TEST(LinkConsole, TriesALostLinkAgainAndCountsTheLinesThatWereLost) {
     EXPECT_EQ(times, (QList<int>{1, 2, 3}));
     server.stop();
     EXPECT_TRUE(waitUntil([&] { return timer->isActive(); }));
+    EXPECT_TRUE(status.text().endsWith(u"the server closed, trying again"_s)) << "lines are counted anew";
     studio.console.cmdGASPARCONNECT();
     EXPECT_FALSE(timer->isActive()) << "disconnected by the operator";
 }

@@ -139,9 +139,11 @@ TEST(Evaluator, DateFunctions) {
              "DateAdd('s',-1,#1899-12-30#) -> 1899-12-29 23:59:59", "DateAdd('ww',1,#2026-11-21#) -> 2026-11-28",
              "Array(DateDiff('d',#2026-11-21#,#2026-12-25#), DateDiff('h',#10:59#,#11:00#)) -> [34, 1]",
              "DateDiff('m',#2026-01-31#,#2026-02-01#) -> 1", "DateDiff('ww',#2026-11-21#,#2026-11-22#) -> 1",
-             "DateDiff('ww',#2026-11-21#,#2026-11-22#,2) -> 0", "DateDiff('q',#2025-12-31#,#2026-01-01#) -> 1",
+             "DateDiff('d',Now,Null) -> Null", "DateDiff('ww',#2026-11-21#,#2026-11-22#,2) -> 0",
+             "DateDiff('q',#2025-12-31#,#2026-01-01#) -> 1",
              "Array(DatePart('ww',#2026-01-04#), DatePart('ww',#2027-01-01#,2,2)) -> [2, 53]",
-             "Array(DatePart('ww',#2024-12-30#,2,2), DatePart('y',#2026-02-01#)) -> [1, 32]", "DatePart('q',Now) -> 4",
+             "Array(DatePart('ww',#2024-12-30#,2,2), DatePart('ww',#2027-01-01#,2,3)) -> [1, 52]",
+             "DatePart('y',#2026-02-01#) -> 32", "DatePart('q',Now) -> 4",
              "Array(DateSerial(2026,14,0), DateSerial(99,1,1)) -> [2027-01-31, 1999-01-01]",
              "Array(DateValue(Now), DateValue('Feb 3')) -> [2026-11-21, 2026-02-03]",
              "DateValue('31/12/2026') -> 2026-12-31",
@@ -169,7 +171,8 @@ TEST(Evaluator, Formats) {
              "Format(Now,'ddd d mmm yy h:nn AM/PM') -> |Sat 21 Nov 26 8:31 PM|",
              "Array(Format('2026-11-21','dddd'), Format(#10:05#,'Short Time')) -> [|Saturday|, |10:05|]",
              "Array(Format('abc','0.00'), Format('abc','>'), Format('ab','@@@')) -> [|abc|, |ABC|, | ab|]",
-             "Format('12345','@-@@') -> |123-45|", "Format(Null,'0') -> ||", "Format(9.995,'0.00') -> |10.00|");
+             "Array(Format('12345','@-@@'), Format(7,'\\#0')) -> [|123-45|, |#7|]", "Format(Null,'0') -> ||",
+             "Format(9.995,'0.00') -> |10.00|");
 }
 
 TEST(Evaluator, WhatBelongsToTheLanguageBesides) {
