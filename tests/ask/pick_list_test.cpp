@@ -36,7 +36,10 @@ TEST(PickList, leavesOutRowsWithoutAKey) {
         AskBench bench;
         bench.rowsDatabase.fill({u"A"_s, u"B"_s, u"C\r\nc\nc"_s, u"D"_s});
         bench.rowsDatabase.rows.rows[1][0] = bench.rowsDatabase.rows.rows[3][0] = key;
+        QStringList warned;
+        bench.trap.setWarned([&warned](const QString& text) { warned += text; });
         PickList list(bench.state, bench.rowsDatabase, bench.trap, {});
+        EXPECT_EQ(warned, QStringList(list.fault()));
         ASSERT_EQ(list.rows().size(), 2);
         EXPECT_EQ(list.rows()[1].text, u"C c c");
         EXPECT_EQ(list.rows()[1].key, 102);

@@ -96,6 +96,10 @@ TEST_F(SettingsTest, MainMenu) {
     gallery.click("cmdSCREENMODE", 1);
     EXPECT_EQ(variable(u"@SCREEN_MODE"), u"16_9");
     EXPECT_FALSE(item("mnSet169")->isChecked()) << "the buttons leave the menu alone";
+    gallery.click("cmdSCREENMODE", 0);
+    item("mnSet169")->trigger();
+    EXPECT_EQ(variable(u"@SCREEN_MODE"), u"16_9");
+    EXPECT_TRUE(item("mnSet169")->isChecked() && !item("mnSet43")->isChecked());
 }
 
 TEST_F(SettingsTest, TheLanguageChangesWhileACardWaits) {

@@ -176,6 +176,15 @@ TEST_F(CardRuns, AProposalWhoseCardDidNotRunIsNotUsedAndSaysWhy) {
         EXPECT_EQ(database.statements.filter(u"pc_used"_s).size(), words.isEmpty() ? 1 : 0);
         EXPECT_EQ(label.backColour() == colours::kUsedProposal, words.isEmpty());
     }
+    write(u"QRD_TT/scan.csp"_s, "FUNCTIONCARD\nSCANPROPOSED\n");
+    engine.SHOW_TVCARD(u"scan.csp"_s, false, false, {Asker::Kind::Operator, u"scan.csp"_s, CardPlace{1, 0}});
+    EXPECT_EQ(state.lastCard, u"stats.csp"_s);
+    EXPECT_FALSE(state.console.lastFired) << "the button that scans is not the one on air";
+    write(u"QRD_TT/stats.csp"_s, "DELAY~9\n");
+    clock.whileWaiting = [this] { program.clearing.begin(); };
+    EXPECT_EQ(Outcome::Cleared, run("SCANPROPOSED\nCSPSEND~x\n"));
+    EXPECT_TRUE(graphics.sent.isEmpty()) << "CLEAR ends the card that scans, too";
+    EXPECT_EQ(label.text(), u"Top scorer"_s);
 }
 
 TEST_F(CardRuns, InsideOneAnotherEndWhenTooDeep) {

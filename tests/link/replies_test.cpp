@@ -61,4 +61,5 @@ TEST(ReplyMatcher, StartsAnewWithANewConnection) {
     const auto answers = matcher.read("400 ERROR\r\nCLEAR 2\r\n202 CLEAR OK\r\n");
     ASSERT_EQ(answers.size(), 1U) << "a reply to nothing";
     EXPECT_EQ(answers[0].to.line, u"CLEAR 2"_s);
+    EXPECT_EQ(answers[0].reply, u"400 ERROR"_s) << "not joined to what was left of the line before";
 }

@@ -39,6 +39,7 @@ TEST(EvaluatorErrors, HaveNumberTextAndPosition) {
         "Sqr(-1) -> 5 at 1: Invalid procedure call or argument: 'Sqr'",
         "Log(0) -> 5 at 1: Invalid procedure call or argument: 'Log'",
         "DateAdd('d',2147483647,Now) -> 5 at 1: Invalid procedure call or argument: 'DateAdd'",
+        "DateDiff('s',Now,#100-01-01#) -> 6 at 1: Overflow: 'DateDiff'",
         "DateAdd('x',1,Now) -> 5 at 1: Invalid procedure call or argument: 'DateAdd'",
         "Mid('a',0) -> 5 at 1: Invalid procedure call or argument: 'Mid'",
         "Left('a',-1) -> 5 at 1: Invalid procedure call or argument: 'Left'",

@@ -119,7 +119,7 @@ TEST(Evaluator, NumberAndValueFunctions) {
         "Array(Rnd, Rnd(-3)=Rnd(-3), Rnd(-3)=Rnd(0)) -> [0.25, True, True]",
         "Array(CInt(2.5), CInt('3.5'), CLng(-2147483648), CByte(255)) -> [2, 4, -2147483648, 255]",
         "Array(CBool('true'), CBool(0), CCur(1.23455), CSng(1/3)) -> [True, False, 1.2346, 0.3333333]",
-        "CDbl('1e3') -> 1000", "CStr(1.5)&CStr(True) -> |1.5True|",
+        "Array(CDbl('1e3'), CInt('&HFF')) -> [1000, 255]", "CStr(1.5)&CStr(True) -> |1.5True|",
         "Array(CDate('2026-11-21T20:31:07'), CDate(1.5)) -> [2026-11-21 20:31:07, 1899-12-31 12:00:00]",
         "Array(IsArray(Array()), IsDate('2026-02-30'), IsDate('Nov 21')) -> [True, False, True]",
         "Array(IsDate('3.14'), IsDate('99999999999999999999-1-1')) -> [False, False]",
@@ -171,8 +171,8 @@ TEST(Evaluator, Formats) {
              "Format(Now,'ddd d mmm yy h:nn AM/PM') -> |Sat 21 Nov 26 8:31 PM|",
              "Array(Format('2026-11-21','dddd'), Format(#10:05#,'Short Time')) -> [|Saturday|, |10:05|]",
              "Array(Format('abc','0.00'), Format('abc','>'), Format('ab','@@@')) -> [|abc|, |ABC|, | ab|]",
-             "Array(Format('12345','@-@@'), Format(7,'\\#0')) -> [|123-45|, |#7|]", "Format(Null,'0') -> ||",
-             "Format(9.995,'0.00') -> |10.00|");
+             "Array(Format('12345','@-@@'), Format(7,'\\#0'), Format(12345,'0,')) -> [|123-45|, |#7|, |12|]",
+             "Format(Null,'0') -> ||", "Format(9.995,'0.00') -> |10.00|");
 }
 
 TEST(Evaluator, WhatBelongsToTheLanguageBesides) {
