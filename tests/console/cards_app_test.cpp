@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <future>
 
 #include "gallery.h"
@@ -48,6 +49,19 @@ TEST(CardsAppTies, ClosingHandsOverThenEndsBoxesThenRuns) {
     EXPECT_FALSE(gallery.app->window().isVisible());
     gallery.app.reset();
     EXPECT_EQ(received.get(), last.size() + 2) << "the card has ended";
+}
+
+TEST(CardsAppTies, ClearInABoxEndsTheCardAndClearsTheScreen) {
+    LineServer server;
+    Gallery gallery;
+    gallery.writePack({"Ask,ask.csp"});
+    gallery.writeCard("ask", "BREAK~Go on?\r\nCSPSEND~AFTER");
+    gallery.start();
+    gallery.connectMain(server);
+    gallery.answer = [](QDialog& box) { box.findChild<QPushButton*>(u"cmdCLEAR"_s)->click(); };
+    gallery.click("cmbCARD", 0);
+    EXPECT_TRUE(waitUntil([&] { return server.bytes.contains("CLEAR 1"); }));
+    EXPECT_FALSE(server.bytes.contains("AFTER"));
 }
 
 TEST(CardsAppTies, EqualErrorsAreWrittenOnceASecond) {
