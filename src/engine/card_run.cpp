@@ -126,7 +126,7 @@ void CardRun::letClearIn() {
     alone_ = clock.steadyMilliseconds();
 }
 
-// Not where the button was asked for another card, or has become another one's by a new card table meanwhile.
+// A card may fire another one, and a new card table may give the button to another one meanwhile.
 bool CardRun::isOnItsButton() {
     if (!asker().place || CardEngine::scriptName(asker().card) != cardFile_) return false;
     return CardEngine::scriptName(state().cards.entry(asker().place->set, asker().place->index + 1).script) ==

@@ -60,8 +60,9 @@ class CardRun {
     // Called for each round of a loop: one that goes on for long does not hold up CLEAR, the links and painting. No
     // card begins meanwhile. Ends the run as goOn() does.
     void letClearIn();
-    // Shows the card as on air, or that it had no data, and remembers it as the last one.
+    // Whether the button that was pressed is this card's, and still is.
     [[nodiscard]] bool isOnItsButton();
+    // Shows the card as on air, or that it had no data, and remembers it as the last one.
     void finish();
 
     struct RecordLoop {
