@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <memory>
 
@@ -10,6 +11,9 @@ namespace zelvor {
 
 // Whether the standard input has something to read within the time, or has ended; false where that is not known.
 [[nodiscard]] bool inputIsReady(int milliseconds);
+
+// What the standard input has of at most so many bytes, once it has any; empty at its end.
+[[nodiscard]] QByteArray readInput(qsizetype most);
 
 // Single keys of the terminal on standard input, without Enter and unseen. Without a terminal there are none. Gives
 // the terminal back as it was.

@@ -1,6 +1,5 @@
 #include "app_language_server/language_server_command.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <array>
 #include <cstdio>
@@ -48,14 +47,12 @@ int runLanguageServer(const QStringList& arguments, QTextStream& out, QTextStrea
     line.check();
     LanguageServer server(write);
     MessageReader reader;
-    std::array<char, 65536> buffer{};
-    QFile input;
-    if (!input.open(0, QIODevice::ReadOnly | QIODevice::Unbuffered)) return server.exitStatus();
+    constexpr qsizetype kPiece = 65536;
     while (!server.ended()) {
         if (server.hasChanges() && !inputIsReady(kQuiet)) server.idle();
-        const qint64 count = input.read(buffer.data(), buffer.size());
-        if (count <= 0) break;
-        reader.add(QByteArray(buffer.data(), count));
+        const QByteArray piece = readInput(kPiece);
+        if (piece.isEmpty()) break;
+        reader.add(piece);
         while (const auto message = reader.next()) server.receive(*message);
     }
     return server.exitStatus();

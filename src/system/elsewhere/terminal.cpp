@@ -1,5 +1,7 @@
 #include "system/terminal.h"
 
+#include <cstdio>
+
 namespace zelvor {
 
 bool outputIsTerminal() {
@@ -8,6 +10,11 @@ bool outputIsTerminal() {
 
 bool inputIsReady(int) {
     return false;
+}
+
+QByteArray readInput(qsizetype) {
+    const int character = std::getchar();
+    return character == EOF ? QByteArray() : QByteArray(1, static_cast<char>(character));
 }
 
 struct TerminalKeys::Terminal {};

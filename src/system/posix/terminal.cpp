@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QSocketNotifier>
+#include <algorithm>
 
 namespace zelvor {
 
@@ -15,6 +16,12 @@ bool outputIsTerminal() {
 bool inputIsReady(int milliseconds) {
     pollfd input{STDIN_FILENO, POLLIN, 0};
     return poll(&input, 1, milliseconds) != 0;
+}
+
+QByteArray readInput(qsizetype most) {
+    QByteArray bytes(most, Qt::Uninitialized);
+    bytes.truncate(std::max<ssize_t>(::read(STDIN_FILENO, bytes.data(), static_cast<size_t>(most)), 0));
+    return bytes;
 }
 
 struct TerminalKeys::Terminal {
