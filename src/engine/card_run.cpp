@@ -112,7 +112,7 @@ void CardRun::goOn() const {
 
 void CardRun::letClearIn() {
     constexpr int kRoundsBetweenLooks = 16;
-    constexpr qint64 kLongestAlone = 250;  // milliseconds
+    constexpr qint64 kLongestAlone = 5000;  // milliseconds
     if (++rounds_ < kRoundsBetweenLooks) return;
     rounds_ = 0;
     Clock& clock = ports().clock;

@@ -57,7 +57,7 @@ class CardRun {
     // Ends the run at once when the program is closing, CLEAR was pressed since it began, or it has made room for a
     // press; called after everything that waits.
     void goOn() const;
-    // Called for each round of a loop: one that goes on for long does not hold up CLEAR, the links and painting. No
+    // Called for each round of a loop: one that goes on for seconds does not hold up CLEAR, the links and painting. No
     // card begins meanwhile. Ends the run as goOn() does.
     void letClearIn();
     // Whether the button that was pressed is this card's, and still is.

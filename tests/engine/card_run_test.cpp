@@ -93,7 +93,7 @@ TEST_F(CardRuns, ALongLoopLetsClearInAndNoCard) {
     EXPECT_EQ(Outcome::Ran, run(loop));
     EXPECT_EQ(clock.turns, turns);
     graphics.sent.clear();
-    graphics.whileSending = [this] { clock.time = clock.time.addMSecs(5); };
+    graphics.whileSending = [this] { clock.time = clock.time.addMSecs(100); };
     clock.whileTurning = [this] {
         EXPECT_TRUE(program.databaseWait.isOn());
         program.clearing.begin();
