@@ -12,8 +12,8 @@
 namespace zelvor {
 
 // What every room of one running program shares beside the show: where its files are and how they are read, what
-// becomes of errors, CLEAR, the wait for the database, presses and questions that wait, and its end. Made by the composition
-// root and passed by reference.
+// becomes of errors, CLEAR, the wait for the database, presses and questions that wait, and its end. Made by the
+// composition root and passed by reference.
 struct Program {
     AppFolder folder;
     TextFiles files;
