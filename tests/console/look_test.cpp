@@ -226,21 +226,22 @@ TEST(TextLabel, WhatDoesNotFitIsElidedAndStandsInTheToolTip) {
 
 TEST(FittedText, IsBrokenAndSmallerBeforeItIsElided) {
     const QString caption = u"Player lower third"_s;
-    const QFont font = theme::font(15, true);
-    const int whole = QFontMetrics(font).horizontalAdvance(caption);
-    const std::tuple<double, int, QString, int> cases[]{
-        {1, 28, caption, 15},
-        {0.85, 28, caption, 12},
-        {0.7, 60, u"Player|lower third"_s, 15},
-        {0.7, 28, u"Player|lower third"_s, 12},
-        {0.6, 20, u"Player lower…"_s, 11},
+    // The room holds its widest line at the size that it must come to.
+    const std::tuple<int, QString, int> cases[]{
+        {28, caption, 15},
+        {28, caption, 12},
+        {60, u"Player|lower third"_s, 15},
+        {28, u"Player|lower third"_s, 12},
+        {20, u"Player lower…"_s, 11},
     };
-    for (const auto& [part, height, lines, pixels] : cases) {
-        const QSize room(qRound(whole * part), height);
-        const FittedText text = fitted({caption}, font, room);
+    for (const auto& [height, lines, pixels] : cases) {
+        const QFontMetrics metrics(theme::font(pixels, true));
+        int widest = 0;
+        for (const QString& line : lines.split(u'|')) widest = std::max(widest, metrics.horizontalAdvance(line));
+        const FittedText text = fitted({caption}, theme::font(15, true), {widest + 1, height});
         EXPECT_EQ(text.lines.join(u'|').toStdString(), lines.toStdString());
-        EXPECT_EQ(text.font.pixelSize(), pixels) << part << ' ' << height;
-        EXPECT_LE(text.height(), std::max(height, QFontMetrics(text.font).height()));
+        EXPECT_EQ(text.font.pixelSize(), pixels) << lines.toStdString();
+        EXPECT_LE(text.height(), std::max(height, metrics.height()));
     }
 }
 
