@@ -91,23 +91,25 @@ void CardButton::drawFace(QPainter& painter) const {
         painter.fillPath(corner, theme::colour(Role::Wait));
     }
 
-    const bool isLamped = !face_.trouble.isEmpty();
-    if (isLamped) {
+    if (!face_.trouble.isEmpty()) {
         drawStruckLamp(painter, {small_->geometry().left() - kLamp - 5.0, body.bottom() - kLamp - 6.0, kLamp, kLamp});
     }
+    drawWords(painter);
+}
 
+// The caption, and the state below it where there is room, else beside it.
+void CardButton::drawWords(QPainter& painter) const {
     const QColor ink = ownInk().value_or(groundColour() ? theme::readableOn(*groundColour())
                                                         : theme::colour(face_.quiet ? Role::Muted : Role::Text));
-    const QString state =
-        QFontMetrics(theme::font(kStatePixels, face_.on)).elidedText(stateLine(), Qt::ElideRight, textRoom());
     const QFont stateFont = theme::font(kStatePixels, face_.on);
     const QFontMetrics stateMetrics(stateFont);
+    const QString state = stateMetrics.elidedText(stateLine(), Qt::ElideRight, textRoom());
     QRect inner(padding(), kFrame, textRoom(), height() - 2 * kFrame);
     const bool isBelow =
         !state.isEmpty() && inner.height() >= QFontMetrics(font()).height() + stateMetrics.height() + kSpare;
     QSize room(inner.width(), inner.height() - (isBelow ? stateMetrics.height() + kSpare : 0));
     if (!state.isEmpty() && !isBelow) {
-        inner.setRight(inner.right() - (isLamped ? kLamp + 6 : 0));
+        inner.setRight(inner.right() - (face_.trouble.isEmpty() ? 0 : kLamp + 6));
         room.setWidth(inner.width() - stateMetrics.horizontalAdvance(state) - 6);
     }
     const FittedText caption = fitted({text()}, font(), room);

@@ -48,6 +48,7 @@ class CardButton : public ConsoleButton {
 
  private:
     void drawFace(QPainter& painter) const;
+    void drawWords(QPainter& painter) const;
     void drawLetter(QPainter& painter) const;
     void drawStruckLamp(QPainter& painter, const QRectF& area) const;
 

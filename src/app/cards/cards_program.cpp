@@ -119,24 +119,37 @@ QString uiLanguage(const CommandLine& line) {
     return *asked;
 }
 
-}  // namespace
-
-int runCards(int argc, char* argv[]) {
+// What needs no display is answered before one is looked for. Gives whether that was all.
+bool isAnswered(const CommandLine& asked) {
     QTextStream out(stdout);
-    QTextStream err(stderr);
-    // What needs no display is answered before one is looked for.
-    QStringList words;
-    for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
-    const std::vector<CommandLine::Option> options = allOptions();
-    const CommandLine asked(words, options);
     if (asked.has(u"--help")) {
         out << kHelp;
-        return 0;
+        return true;
     }
     if (asked.has(u"--version")) {
         out << "zelvor-cards " ZELVOR_VERSION "\n";
-        return 0;
+        return true;
     }
+    return false;
+}
+
+// Works on the user's own folder where that is wanted, or where no other is named and the program was installed; makes
+// it the first time. Gives what went wrong, in words; empty when all is well.
+QString chooseFolder(const CommandLine& line, QString& folder) {
+    const QString programFolder = QApplication::applicationDirPath();
+    const bool namesNone = !line.has(u"--user-folder") && !line.has(u"--app-folder");
+    if (!line.has(u"--user-folder") && !(namesNone && worksOnUserFolder(programFolder))) return {};
+    folder = userFolder();
+    return makeUserFolder(folder, installedDemo(programFolder));
+}
+
+}  // namespace
+
+int runCards(int argc, char* argv[]) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i) words += QString::fromLocal8Bit(argv[i]);
+    const std::vector<CommandLine::Option> options = allOptions();
+    if (isAnswered(CommandLine(words, options))) return 0;
 
     const std::future<void> fontFiles = readFontFiles();
     QApplication application(argc, argv);
@@ -154,20 +167,15 @@ int runCards(int argc, char* argv[]) {
         wanted = readOptions(line);
         language = uiLanguage(line);
     } catch (const UsageError& error) {
-        err << error.line(u"zelvor-cards"_s);
+        QTextStream(stderr) << error.line(u"zelvor-cards"_s);
         return UsageError::kExitStatus;
     }
     const UiLanguage spoken(language);
-    const QString programFolder = QApplication::applicationDirPath();
-    const bool namesNone = !line.has(u"--user-folder") && !line.has(u"--app-folder");
-    if (line.has(u"--user-folder") || (namesNone && worksOnUserFolder(programFolder))) {
-        wanted.appFolder = userFolder();
-        const QString fault = makeUserFolder(wanted.appFolder, installedDemo(programFolder));
-        if (!fault.isEmpty()) {
-            // Started from the desktop, it has no terminal to say it in.
-            QMessageBox::critical(nullptr, u"Zelvor Cards"_s, fault);
-            return kNoFolder;
-        }
+    const QString fault = chooseFolder(line, wanted.appFolder);
+    if (!fault.isEmpty()) {
+        // Started from the desktop, it has no terminal to say it in.
+        QMessageBox::critical(nullptr, u"Zelvor Cards"_s, fault);
+        return kNoFolder;
     }
     dumpCrashes(QFile::encodeName(wanted.appFolder).toStdString());
     wanted.errorLog = errorLogPath(QApplication::applicationFilePath(), wanted.appFolder);

@@ -72,6 +72,30 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
     language->setMinimumWidth(64);
     language->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     row->addWidget(language);
+    row->addLayout(makeModes(mirrors));
+    TextLabel::Look mark{13, true, Qt::AlignCenter, Role::Wait, Role::Panel};
+    for (const ControlRow* shown : {&controls.lblPREVIEW, &controls.lblTESTSENDER}) {
+        row->addWidget(mirrors.label(*shown, -1, mark));
+    }
+
+    line_ = makeLine(mirrors);
+    row->addWidget(line_, 1);
+
+    ConsoleButton* clear =
+        mirrors.button(controls.GradientButtonAIR, -1, {15, true, Role::AirFill, Role::AirLine, Role::Text});
+    clear->setFixedWidth(150);
+    clear->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    row->addWidget(clear);
+
+    for (const ControlRow* part : {&controls.lblONAIR, &controls.lblONAIRLAMP}) {
+        onChange(form_.at(*part),
+                 {Control::Property::Text, Control::Property::BackColour, Control::Property::ForeColour}, this,
+                 [this] { showFrame(); });
+    }
+    showFrame();
+}
+
+QHBoxLayout* OnAirBar::makeModes(const Mirrors& mirrors) {
     auto* modes = new QHBoxLayout;
     modes->setSpacing(0);
     for (int mode = 0; mode < 2; ++mode) {
@@ -88,14 +112,12 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
         });
         modes->addWidget(button);
     }
-    row->addLayout(modes);
-    TextLabel::Look mark{13, true, Qt::AlignCenter, Role::Wait, Role::Panel};
-    for (const ControlRow* shown : {&controls.lblPREVIEW, &controls.lblTESTSENDER}) {
-        row->addWidget(mirrors.label(*shown, -1, mark));
-    }
+    return modes;
+}
 
-    line_ = new AirLine(form_.at(controls.lblONAIR));
-    auto* words = new QHBoxLayout(line_);
+QWidget* OnAirBar::makeLine(const Mirrors& mirrors) {
+    auto* line = new AirLine(form_.at(controls.lblONAIR));
+    auto* words = new QHBoxLayout(line);
     words->setContentsMargins(10, 0, 8, 0);
     words->setSpacing(4);
     auto* lamp = new Lamp(form_.at(controls.lblONAIRLAMP));
@@ -123,19 +145,7 @@ OnAirBar::OnAirBar(const Mirrors& mirrors) : form_(mirrors.form()) {
            [trouble, &troubleWords] { trouble->setVisible(!troubleWords.text().isEmpty()); });
     words->addWidget(trouble, 2);
     words->addWidget(mirrors.checkBox(controls.chkONAIRLOCK));
-    row->addWidget(line_, 1);
-
-    ConsoleButton* clear =
-        mirrors.button(controls.GradientButtonAIR, -1, {15, true, Role::AirFill, Role::AirLine, Role::Text});
-    clear->setFixedWidth(150);
-    clear->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    row->addWidget(clear);
-
-    for (const ControlRow* part : {&controls.lblONAIR, &controls.lblONAIRLAMP})
-        onChange(form_.at(*part),
-                 {Control::Property::Text, Control::Property::BackColour, Control::Property::ForeColour}, this,
-                 [this] { showFrame(); });
-    showFrame();
+    return line;
 }
 
 void OnAirBar::showFrame() {

@@ -4,6 +4,8 @@
 
 #include "console/mirror.h"
 
+class QHBoxLayout;
+
 namespace zelvor {
 
 // The top of the window: main menu, language, screen mode, what is on air with its lock, the preview mark, the clear
@@ -18,6 +20,8 @@ class OnAirBar : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
  private:
+    QHBoxLayout* makeModes(const Mirrors& mirrors);
+    QWidget* makeLine(const Mirrors& mirrors);
     void showFrame();
 
     FormModel& form_;
