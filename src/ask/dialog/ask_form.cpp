@@ -10,6 +10,7 @@
 #include "ask_dialog/clear_button.h"
 #include "ask_dialog/pick_list_view.h"
 #include "base/translate.h"
+#include "base/window_frame.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,8 +19,7 @@ namespace zelvor {
 namespace {
 
 constexpr int kRowsShown = 20;
-constexpr int kWidth = 460;       // pixels
-constexpr int kFrameHeight = 60;  // pixels that a window manager may put around it
+constexpr int kWidth = 460;  // pixels
 
 QString headerText(size_t rows) {
     const QString count = rows == 1 ? translate("ask", "1 row") : translate("ask", "%1 rows").arg(rows);
@@ -77,7 +77,7 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
     const int listHeight = view->heightForRows(kRowsShown);
     const int rest = header->sizeHint().height() + cancel->sizeHint().height() + 2 * column->spacing() +
                      column->contentsMargins().top() + column->contentsMargins().bottom();
-    resize(kWidth, std::min(listHeight + rest, screen()->availableGeometry().height() - kFrameHeight));
+    resize(kWidth, std::min(listHeight + rest, screen()->availableGeometry().height() - kWindowFrame.height()));
     const QRect around = parent != nullptr ? parent->window()->frameGeometry() : screen()->availableGeometry();
     move(around.center() - rect().center());
 }

@@ -4,6 +4,8 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "base/window_frame.h"
+
 namespace zelvor {
 
 namespace {
@@ -13,7 +15,7 @@ namespace {
 QPoint placeBeside(const QWidget& console, QSize content) {
     const QRect taken = console.frameGeometry();
     // With a frame like the console's, which has hardly one while it fills its screen.
-    const QSize size = content + (taken.size() - console.size()).expandedTo(kFormFrame);
+    const QSize size = content + (taken.size() - console.size()).expandedTo(kWindowFrame);
     for (const QScreen* screen : QGuiApplication::screens()) {
         const QRect free = screen->availableGeometry();
         if (!free.intersects(taken)) return free.center() - QRect({}, size).center();

@@ -8,8 +8,6 @@
 
 namespace zelvor {
 
-inline constexpr QSize kFormFrame{20, 60};  // pixels that a window manager may put around a form
-
 // The program's small forms, found by their objectName. A form counts as open while it is on the screen;
 // when the program closes, all do without asking anything.
 class FormList : public OpenForms {

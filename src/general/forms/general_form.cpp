@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 
 #include "base/translate.h"
-#include "general_forms/form_list.h"
+#include "base/window_frame.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,7 +44,7 @@ GeneralForm::GeneralForm(GeneralVariables& general, Operator& operatorDesk, Pick
     setObjectName(u"frmGENERAL"_s);
     setWindowTitle(u"General Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(kEditorSize.boundedTo(screen()->availableSize() - kFormFrame));
+    resize(kEditorSize.boundedTo(screen()->availableSize() - kWindowFrame));
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(translate("general", "Search"));
     search_->setToolTip(translate("general", "Shows the rows that hold this text"));

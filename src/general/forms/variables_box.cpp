@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "base/translate.h"
-#include "general_forms/form_list.h"
+#include "base/window_frame.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,7 +28,7 @@ VariablesBox::VariablesBox() : search_(new QLineEdit), view_(new QPlainTextEdit)
     setObjectName(u"frmVARS"_s);
     setWindowTitle(u"Display Vars"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
-    resize(kBoxSize.boundedTo(screen()->availableSize() - kFormFrame));
+    resize(kBoxSize.boundedTo(screen()->availableSize() - kWindowFrame));
     search_->setObjectName(u"txtSEARCH"_s);
     search_->setPlaceholderText(translate("general", "Search"));
     search_->setToolTip(translate("general", "Shows the lines that hold this text"));
