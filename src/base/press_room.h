@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <optional>
+#include <utility>
 
 namespace zelvor {
 

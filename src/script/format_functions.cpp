@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 
-#include "base/number.h"
 #include "base/run_time_error.h"
 #include "script/date_text.h"
 #include "script/decimal.h"

@@ -1,7 +1,6 @@
 #include <bit>
 #include <cmath>
 
-#include "base/number.h"
 #include "base/run_time_error.h"
 #include "script/decimal.h"
 #include "script/functions.h"

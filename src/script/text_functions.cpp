@@ -2,7 +2,6 @@
 #include <QStringEncoder>
 #include <algorithm>
 
-#include "base/number.h"
 #include "base/run_time_error.h"
 #include "script/functions.h"
 

@@ -35,11 +35,12 @@ QByteArray tokenIn(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throw UsageError{u"--control-token: "_s + path + u": "_s + file.errorString()};
     constexpr qint64 kLongest = 1000;
-    const QByteArray token = file.readLine(kLongest).trimmed();
-    if (token.size() < kShortestToken)
+    QByteArray token = file.readLine(kLongest).trimmed();
+    if (token.size() < kShortestToken) {
         throw UsageError{
             u"--control-token: the first line of %1 is to hold a token of %2 characters or more"_s.arg(path).arg(
                 kShortestToken)};
+    }
     return token;
 }
 

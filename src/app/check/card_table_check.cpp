@@ -79,10 +79,11 @@ class CardTableCheck {
         for (const FunctionKey& key : table.functionKeys) checkCard(key.script, at);
         for (const TimedCard& timed : table.timedCards) {
             checkCard(timed.card, at);
-            if (timed.interval <= 0)
+            if (timed.interval <= 0) {
                 findings_.warning(
                     place(at),
                     u"the timed card %1 never fires: its interval is %2"_s.arg(timed.card).arg(timed.interval));
+            }
         }
         checkCard(table.clearCard, at);
         for (const CardTable::Set& set : table.sets) {

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "data/odbc_connection.h"
@@ -22,8 +23,8 @@ QString driverOf(const QString& connectionString) {
 
 class ConnectionCheck {
  public:
-    ConnectionCheck(PackFiles& files, const QString& path, Findings& findings)
-        : files_(files), path_(path), findings_(findings), drivers_(odbc::installedDrivers()) {}
+    ConnectionCheck(PackFiles& files, QString path, Findings& findings)
+        : files_(files), path_(std::move(path)), findings_(findings), drivers_(odbc::installedDrivers()) {}
 
     void check() {
         const QStringList& lines = files_.lines(path_);

@@ -1,7 +1,5 @@
 // Pick lists, queries and the program's forms.
 
-#include <algorithm>
-
 #include "base/number.h"
 #include "engine/card_run.h"
 #include "engine/forms.h"
