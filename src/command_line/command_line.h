@@ -47,13 +47,13 @@ class CommandLine {
     // As value(), read: the last value as `reader` makes it of the text, an optional. Throws UsageError, "--name takes
     // WANTED, not TEXT", for a text of which it makes nothing.
     template <class Reader>
-    auto read(QStringView name, const QString& wanted, const Reader& reader) const {
+    [[nodiscard]] auto read(QStringView name, const QString& wanted, const Reader& reader) const {
         const auto all = readAll(name, wanted, reader);
         return all.empty() ? std::nullopt : std::optional(all.back());
     }
     // The same for each value given, in order.
     template <class Reader>
-    auto readAll(QStringView name, const QString& wanted, const Reader& reader) const {
+    [[nodiscard]] auto readAll(QStringView name, const QString& wanted, const Reader& reader) const {
         std::vector<typename decltype(reader(QString()))::value_type> all;
         for (const QString& text : values(name)) {
             const auto made = reader(text);

@@ -57,7 +57,7 @@ FormKeys::FormKeys(QWidget& form, const FormModel& model) : form_(form) {
 QKeySequence FormKeys::sequenceOf(const QKeyEvent& key) {
     const Qt::KeyboardModifiers modifiers = key.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier);
     const int code = key.key() == Qt::Key_Enter ? static_cast<int>(Qt::Key_Return) : latinKey(key.key());
-    return QKeySequence(QKeyCombination(modifiers, static_cast<Qt::Key>(code)));
+    return {QKeyCombination(modifiers, static_cast<Qt::Key>(code))};
 }
 
 bool FormKeys::has(const QKeySequence& key) const {

@@ -63,7 +63,7 @@ QIcon warningSign() {
     painter.setPen(readableOn(colour(Role::Bad)));
     painter.setFont(font(kSize * 3 / 4, true));
     painter.drawText(picture.rect(), Qt::AlignCenter, u"!"_s);
-    return QIcon(picture);
+    return {picture};
 }
 
 void drawFocusRing(QPainter& painter, const QRectF& area) {

@@ -95,13 +95,14 @@ int Touch::leastPixels(const QScreen& screen) {
 void Touch::enlarge() {
     const int least = leastPixels(*window_.screen());
     theme::setFingerSize(*qApp, least);
-    const QList<QWidget*> all = window_.findChildren<QWidget*>();
+    QList<QWidget*> all = window_.findChildren<QWidget*>();
     // The inner ones, which come later, first.
-    for (auto each = all.rbegin(); each != all.rend(); ++each) {
-        if (!isMetByFingers(**each)) continue;
-        const bool isCard = qobject_cast<CardButton*>(*each) != nullptr;
-        grow(**each, isCard ? (*each)->minimumSizeHint() : QSize(least, least));
-        growAround(**each);
+    std::reverse(all.begin(), all.end());
+    for (QWidget* each : std::as_const(all)) {
+        if (!isMetByFingers(*each)) continue;
+        const bool isCard = qobject_cast<CardButton*>(each) != nullptr;
+        grow(*each, isCard ? each->minimumSizeHint() : QSize(least, least));
+        growAround(*each);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "data/character_set.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <array>
 

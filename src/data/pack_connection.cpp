@@ -12,7 +12,7 @@ namespace {
 
 QString firstLanguage(const AppFolder& folder, const TextFiles& files) {
     for (const QString& line : files.readLines(folder.resolve(folder.modulesFile(u"PACKS.TXT")))) {
-        const QString language = line.section(u';', 0, 0);
+        QString language = line.section(u';', 0, 0);
         if (!language.trimmed().isEmpty() && folder.exists(folder.packFolder(language))) return language;
     }
     return {};
@@ -24,7 +24,7 @@ QString packConnection(const AppFolder& folder, QString language, qint16 number)
     const TextFiles files;
     if (language.isEmpty()) language = firstLanguage(folder, files);
     const ConnectionList list(files.readLines(folder.resolve(folder.packFile(language, u"CONNECTIONS.TXT"))));
-    const QString found = list.find(number);
+    QString found = list.find(number);
     if (found.isEmpty()) {
         throw RunTimeError::withText(ErrorNumber::DatabaseError,
                                      u"CONNECTIONS.TXT has no connection "_s + QString::number(number));

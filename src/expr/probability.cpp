@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "expr/gamma_functions.h"
 #include "expr/guarded.h"
 #include "expr/real.h"
 

@@ -57,7 +57,7 @@ std::optional<std::vector<JsonReader>> JsonReader::list(QStringView key) const {
         return std::nullopt;
     }
     std::vector<JsonReader> readers;
-    for (const QJsonValue& element : value.toArray()) {
+    for (const QJsonValue element : value.toArray()) {
         if (element.isObject()) {
             readers.emplace_back(element.toObject(), refusals_);
         } else {

@@ -185,7 +185,7 @@ QJsonValue LanguageServer::didClose(const QJsonObject& params) {
 }
 
 QJsonValue LanguageServer::filesChanged(const QJsonObject& params) {
-    for (const QJsonValue& change : params[u"changes"_s].toArray()) {
+    for (const QJsonValue change : params[u"changes"_s].toArray()) {
         const QString path = QUrl(change.toObject()[u"uri"_s].toString()).toLocalFile();
         if (OpenPack* pack = workspace_.packOf(path)) {
             pack->check.changed(path);

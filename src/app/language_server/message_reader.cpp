@@ -1,5 +1,6 @@
 #include "app_language_server/message_reader.h"
 
+#include <QList>
 #include <algorithm>
 
 namespace zelvor {
