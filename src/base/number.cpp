@@ -34,15 +34,22 @@ Ascii numberCharacters(QStringView text) {
     return ascii;
 }
 
-double radixNumber(const char* first, const char* last) {
-    if (first == last) return 0;
-    const char kind = *first++;
-    const int base = kind == 'H' || kind == 'h' ? 16 : 8;
-    // "&17" is octal as "&O17" is.
-    if (isDigit(kind)) --first;
+// Parses the leading "&H..." or "&O..." number; `end` is set behind it. "&17" is octal as "&O17" is.
+double radixNumber(const Ascii& ascii, const char*& end) {
+    const char* const last = ascii.end();
+    const char* digits = ascii.begin() + 1;
+    const bool hexadecimal = digits != last && (*digits == 'H' || *digits == 'h');
+    if (hexadecimal || (digits != last && (*digits == 'O' || *digits == 'o'))) ++digits;
     quint64 number = 0;
-    std::from_chars(first, last, number, base);
-    if (number <= 0xFFFF) return static_cast<qint16>(number);
+    const auto [parsed, error] = std::from_chars(digits, last, number, hexadecimal ? 16 : 8);
+    if (error != std::errc()) {
+        end = ascii.begin();
+        return 0;
+    }
+    end = parsed;
+    const bool wide = end != last && *end == '&';
+    if (wide) ++end;
+    if (number <= 0xFFFF && !wide) return static_cast<qint16>(number);
     if (number <= 0xFFFFFFFF) return static_cast<qint32>(number);
     return static_cast<double>(number);
 }
@@ -89,6 +96,10 @@ double decimalNumber(Ascii& ascii, const char*& end) {
     return number;
 }
 
+double leadingNumber(Ascii& ascii, const char*& end) {
+    return !ascii.isEmpty() && ascii[0] == '&' ? radixNumber(ascii, end) : decimalNumber(ascii, end);
+}
+
 template <class Whole>
 Whole wholeNumber(double number) {
     const double rounded = plain::roundHalfEven(number);
@@ -118,9 +129,8 @@ void appendNumber(QString& out, double number) {
 
 double Val(QStringView text) {
     Ascii ascii = numberCharacters(text);
-    if (!ascii.isEmpty() && ascii[0] == '&') return radixNumber(ascii.begin() + 1, ascii.end());
     const char* end = nullptr;
-    return decimalNumber(ascii, end);
+    return leadingNumber(ascii, end);
 }
 
 bool readNumber(QStringView text, double& number) {
@@ -130,17 +140,8 @@ bool readNumber(QStringView text, double& number) {
         if (isBlank(c) || c.unicode() > 0x7E) return false;
     }
     Ascii ascii = numberCharacters(trimmed);
-    if (ascii[0] == '&') {
-        if (ascii.size() < 2) return false;
-        const bool hexadecimal = ascii[1] == 'H' || ascii[1] == 'h';
-        const int first = hexadecimal || ascii[1] == 'O' || ascii[1] == 'o' ? 2 : 1;
-        quint64 parsed = 0;
-        const auto [end, error] = std::from_chars(ascii.begin() + first, ascii.end(), parsed, hexadecimal ? 16 : 8);
-        number = radixNumber(ascii.begin() + 1, ascii.end());
-        return error == std::errc() && end == ascii.end();
-    }
     const char* end = nullptr;
-    number = decimalNumber(ascii, end);
+    number = leadingNumber(ascii, end);
     return end == ascii.end();
 }
 

@@ -11,7 +11,8 @@ QString numberText(double number);
 void appendNumber(QString& out, double number);
 
 // The leading number of a text, 0 when there is none. Blanks are skipped wherever they stand; a sign, digits, one ".",
-// an exponent (E or D), &H and &O are taken. &H and &O numbers of up to 16 bits are signed, as pack authors know them.
+// an exponent (E or D), &H and &O are taken. &H and &O numbers of up to 16 bits are signed, as pack authors know them,
+// unless an & stands behind them.
 double Val(QStringView text);
 
 // True when the whole text (blanks around it aside) is one number, its value in `number`.

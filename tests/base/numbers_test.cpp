@@ -24,7 +24,8 @@ TEST(Numbers, ValTakesTheLeadingNumber) {
         {u""_s, 0},         {u"12abc"_s, 12}, {u" 1 2 . 5 x"_s, 12.5}, {u"-.5"_s, -0.5},  {u"1e3"_s, 1000},
         {u"1D-2z"_s, .01},  {u"2e+"_s, 2},    {u"&HFF"_s, 255},        {u"&HFFFF"_s, -1}, {u"&h10000"_s, 65536},
         {u"&17"_s, 15},     {u"--1"_s, 0},    {u"1,5"_s, 1},           {u"٣"_s, 0},       {u"1e-999"_s, 0},
-        {u"\t\r\n 9"_s, 9}, {u"+.5x"_s, .5},
+        {u"\t\r\n 9"_s, 9}, {u"+.5x"_s, .5},  {u"&HFFFF&"_s, 65535},   {u"&A7"_s, 0},     {u"&&5"_s, 0},
+        {u"&"_s, 0},
     };
     for (const auto& [text, number] : rows) EXPECT_EQ(number, Val(text)) << text.toStdString();
     EXPECT_EQ(6, errorOf([] { Val(u"1e999"); }));
@@ -43,9 +44,10 @@ TEST(Numbers, WholeNumbersRoundHalvesToEvenAndMindTheirRange) {
     EXPECT_EQ(4, wholeNumber16(u" 3.5 "));
     EXPECT_EQ(-2, wholeNumber16(-2.5));
     EXPECT_EQ(32767, wholeNumber16(32767.4));
+    EXPECT_EQ(65280, wholeNumber32(u"&HFF00&"));
     EXPECT_EQ(6, errorOf([] { wholeNumber16(u"32767.5"); }));
     EXPECT_EQ(6, errorOf([] { wholeNumber32(2147483648.0); }));
-    for (const QStringView text : {u"", u"x", u"1x", u"1 2", u"&H"})
+    for (const QStringView text : {u"", u"x", u"1x", u"1 2", u"&H", u"&x5"})
         EXPECT_EQ(13, errorOf([&] { wholeNumber32(text); })) << text.toString().toStdString();
     try {
         wholeNumber32(u" ");
