@@ -36,13 +36,16 @@ struct Moment {
     int second = 0;
 };
 
+// The fraction is positive time, before day zero as after it: -1.25 is six o'clock on the day before.
 Moment momentOf(double date) {
-    if (date < kFirstDay || date >= kEndDay) return {};
-    const double seconds = std::floor(date * kSecondsPerDay + 0.5);
-    const double day = std::floor(seconds / kSecondsPerDay);
-    // The last half second of the last year.
-    if (day >= kEndDay) return {};
-    return {true, kDayZero + days{static_cast<int>(day)}, static_cast<int>(seconds - day * kSecondsPerDay)};
+    double day = std::trunc(date);
+    double second = std::round(std::fabs(date - day) * kSecondsPerDay);
+    if (second == kSecondsPerDay) {
+        second = 0;
+        ++day;
+    }
+    if (day < kFirstDay || day >= kEndDay) return {};
+    return {true, kDayZero + days{static_cast<int>(day)}, static_cast<int>(second)};
 }
 
 }  // namespace

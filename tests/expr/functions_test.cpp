@@ -26,7 +26,8 @@ TEST(Functions, GiveTheirValues) {
         "Year(DateSerial(29,13,1)) * 10000 + Year(DateSerial(30,1,1)) -> 20301930", "DateSerial(2024,14,1) -> 45689",
         "Year(45352.5)*10000+Month(45352)*100+Day(45352) -> 20240301", "TimeSerial(18,30,0) -> 0.770833333333333370",
         "Hour(TimeSerial(18,59,7))*10000+Minute(TimeSerial(18,59,7))*100+Second(TimeSerial(18,59,7)) -> 185907",
-        "Day(DateSerial(2024,1,1)+TimeSerial(23,59,59)) -> 1", "Year(-1.5) -> 1899", "Hour(1-1e-9)+Day(1-1e-9) -> 31");
+        "Day(DateSerial(2024,1,1)+TimeSerial(23,59,59)) -> 1", "Year(-1.5) -> 1899",
+        "Day(-1.25)*100+Hour(-1.25) -> 2906", "Hour(1-1e-9)+Day(1-1e-9) -> 31");
 }
 
 // Each waveform over one period of 8, a step of 1, and the same one period earlier and a thousand later.
