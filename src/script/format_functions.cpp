@@ -67,7 +67,7 @@ Value format(const Arguments& args) {
     const PatternKind kind = kindOf(pattern);
     if (kind == PatternKind::Text) return formatText(text, pattern);
     double number = 0;
-    const bool isNumber = value.isText() ? readNumberText(text, number) : true;
+    const bool isNumber = value.isText() ? readsAsNumber(text, number) : true;
     if (!value.isText()) number = value.number();
     if (kind == PatternKind::Date) {
         if (isNumber) return formatDate(checkedDate(number), pattern, rule);

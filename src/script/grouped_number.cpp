@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "base/number.h"
+#include "base/run_time_error.h"
 
 namespace zelvor::script {
 
@@ -50,6 +51,14 @@ bool readNumberText(QStringView text, double& number) {
     if (!readNumber(digits, number)) return false;
     if (negative) number = -number;
     return true;
+}
+
+bool readsAsNumber(QStringView text, double& number) {
+    try {
+        return readNumberText(text, number);
+    } catch (const RunTimeError&) {
+        return false;
+    }
 }
 
 }  // namespace zelvor::script

@@ -43,7 +43,7 @@ bool isDate(const Value& value) {
 
 bool isNumberText(const Value& value, double& number) {
     const auto* text = value.as<QString>();
-    return text != nullptr && readNumberText(*text, number);
+    return text != nullptr && readsAsNumber(*text, number);
 }
 
 std::optional<bool> readTruth(const Value& value) {

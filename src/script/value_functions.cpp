@@ -22,15 +22,6 @@ bool is16Bits(qint64 number) {
     return number >= std::numeric_limits<qint16>::min() && number <= std::numeric_limits<qint16>::max();
 }
 
-bool readsAsNumber(const QString& text) {
-    try {
-        double number = 0;
-        return readNumberText(text, number);
-    } catch (const RunTimeError&) {
-        return false;  // a number too large to hold
-    }
-}
-
 // The only dimension of an array is its first.
 const std::vector<Value>& dimension(const Arguments& args) {
     if (args.whole(1, 1) != 1) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
@@ -123,8 +114,10 @@ Value isNumeric(const Arguments& args) {
         case Kind::Integer:
         case Kind::Double:
             return true;
-        case Kind::Text:
-            return readsAsNumber(*args[0].as<QString>());
+        case Kind::Text: {
+            double number = 0;
+            return readsAsNumber(*args[0].as<QString>(), number);
+        }
         default:
             return false;
     }

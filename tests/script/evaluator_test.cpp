@@ -80,6 +80,7 @@ TEST(Evaluator, Arithmetic) {
 TEST(Evaluator, ComparisonAndLogic) {
     forCases(expectValue, "Array(10='10', 9<'10', '9'<'10', '10'>9, 5='abc') -> [True, True, False, True, False]",
              "Array(5<'abc', 'abc'<5, 'a'='A', 'a'<>'b', 1=<1) -> [True, False, False, True, True]",
+             "Array(5='7E999', '7E999'>5, '7E999'=Empty) -> [False, True, False]",
              "Array(2=>3, 1<=1, 2>=3, Empty='', Empty=0, ''=0) -> [False, True, False, True, True, False]",
              "Array(Null=Null, True=-1, #2026-11-21#='2026-11-21') -> [Null, True, True]",
              "Array(#2026-11-21#<#2026-11-22#, 6 And 3, 6 Or 3, 6 Xor 3, 6 Eqv 3) -> [True, 2, 7, 5, -6]",
@@ -170,7 +171,8 @@ TEST(Evaluator, Formats) {
              "Format(Now,'yyyy-mm-dd hh:mm:ss') -> |2026-11-21 20:31:07|",
              "Format(Now,'ddd d mmm yy h:nn AM/PM') -> |Sat 21 Nov 26 8:31 PM|",
              "Array(Format('2026-11-21','dddd'), Format(#10:05#,'Short Time')) -> [|Saturday|, |10:05|]",
-             "Array(Format('abc','0.00'), Format('abc','>'), Format('ab','@@@')) -> [|abc|, |ABC|, | ab|]",
+             "Array(Format('abc','0.00'), Format('7E999','0'), Format('abc','>'), Format('ab','@@@')) -> "
+             "[|abc|, |7E999|, |ABC|, | ab|]",
              "Array(Format('12345','@-@@'), Format(7,'\\#0'), Format(12345,'0,')) -> [|123-45|, |#7|, |12|]",
              "Format(Null,'0') -> ||", "Format(9.995,'0.00') -> |10.00|");
 }
