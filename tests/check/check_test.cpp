@@ -54,6 +54,16 @@ TEST(Check, TellsWhichFileCannotBeRead) {
     }
 }
 
+// No card can be one: whatever names it is told of.
+TEST(Check, TakesNoDeviceForAScript) {
+    QTemporaryDir folder;
+    const QString pack = folder.filePath(u"MODULES/QRD_TT"_s);
+    ASSERT_TRUE(QDir().mkpath(pack));
+    ASSERT_TRUE(QFile::link(u"/dev/null"_s, pack + u"/device.csp"_s));
+    const Told told = check({u"--app-folder"_s, folder.path(), u"TT"_s});
+    EXPECT_FALSE(told.out.contains(u"device.csp"_s)) << qPrintable(told.out);
+}
+
 TEST(Check, ReportsForOtherTools) {
     const auto report = [](const QString& format) {
         const Told told = check({u"--app-folder"_s, kBroken, u"--format"_s, format, u"FLOW"_s});

@@ -72,9 +72,12 @@ void ArgumentCheck::check(const Command& command, qsizetype at, const GivenArgum
         case Role::AskField:
             return checkAskField(argument, place, facts);
         case Role::Label:
-            return checkControl(Control::Kind::Label, arguments.values, place, facts);
+            // An element's number that is none is told where its own role is checked.
+            return checkControl(Control::Kind::Label,
+                                command.roles[1] == Role::WholeNumber && wholeNumberOf(arguments.values.value(1)),
+                                arguments.values, place, facts);
         case Role::TextBox:
-            return checkControl(Control::Kind::TextBox, arguments.values, place, facts);
+            return checkControl(Control::Kind::TextBox, arguments.values.size() > 2, arguments.values, place, facts);
         case Role::Field:
             return checkField(arguments.values, false, place, facts.findings);
         case Role::RemoteField:
@@ -131,20 +134,19 @@ void ArgumentCheck::checkAskField(const QString& number, const Place& place, Scr
     }
 }
 
-void ArgumentCheck::checkControl(Control::Kind kind, const QStringList& arguments, const Place& place,
+// element: whether the second argument is the number of one in an array.
+void ArgumentCheck::checkControl(Control::Kind kind, bool element, const QStringList& arguments, const Place& place,
                                  ScriptFacts& facts) const {
     const QString& name = arguments[0];
     if (!isKnown(name)) return;
-    const bool label = kind == Control::Kind::Label;
-    const QString kindName = label ? u"label"_s : u"text box"_s;
+    const QString kindName = kind == Control::Kind::Label ? u"label"_s : u"text box"_s;
     bool found = false;
     for (const Control* control : form_.named(name)) found = found || control->kind() == kind;
     if (!found) {
         facts.findings.error(place, u"the form has no %1 %2"_s.arg(kindName, name));
         return;
     }
-    // The element of an array: behind the name of a text box where there are three arguments.
-    if (label || arguments.size() < 3 || !isKnown(arguments[1])) return;
+    if (!element || !isKnown(arguments[1])) return;
     const std::optional<int> index = wholeNumberOf(arguments[1]);
     if (!index || form_.find(name, *index) == nullptr) {
         facts.findings.error(place, u"the form has no %1 %2(%3)"_s.arg(kindName, name, arguments[1]));

@@ -34,7 +34,8 @@ class ArgumentCheck {
     void checkReplaced(const GivenArguments& arguments, const Place& place, ScriptFacts& facts);
     void checkCard(const QString& card, const Place& place, ScriptFacts& facts);
     void checkAskField(const QString& number, const Place& place, ScriptFacts& facts) const;
-    void checkControl(Control::Kind kind, const QStringList& arguments, const Place& place, ScriptFacts& facts) const;
+    void checkControl(Control::Kind kind, bool element, const QStringList& arguments, const Place& place,
+                      ScriptFacts& facts) const;
 
     PackFiles& files_;
     const QSet<int>& askFields_;

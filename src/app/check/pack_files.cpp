@@ -60,7 +60,7 @@ QStringList PackFiles::scripts() const {
     QDirIterator files(folder_.resolve(folder_.packFolder(language_)), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString file = files.next();
-        if (!texts_.contains(file)) found += file;
+        if (!texts_.contains(file) && isThere(file)) found += file;  // not a link to a device
     }
     found.removeIf([](const QString& file) { return !file.endsWith(u".csp"_s, Qt::CaseInsensitive); });
     found.sort();

@@ -17,10 +17,23 @@ QString severity(const Finding& finding) {
     return finding.isError ? u"error"_s : u"warning"_s;
 }
 
+// A terminal would obey control characters that a script or a file's name holds.
+QString visible(const QString& text) {
+    QString shown;
+    for (const QChar character : text) {
+        if (character.category() == QChar::Other_Control) {
+            shown += u"\\x%1"_s.arg(character.unicode(), 2, 16, QChar(u'0'));
+        } else {
+            shown += character;
+        }
+    }
+    return shown;
+}
+
 void printText(const std::vector<Finding>& findings, int errors, QTextStream& out) {
     for (const Finding& finding : findings) {
-        out << finding.place.file << ':' << finding.place.line << ": " << severity(finding) << ": " << finding.text
-            << '\n';
+        out << visible(finding.place.file) << ':' << finding.place.line << ": " << severity(finding) << ": "
+            << visible(finding.text) << '\n';
     }
     const int warnings = static_cast<int>(findings.size()) - errors;
     out << errors << (errors == 1 ? " error, " : " errors, ") << warnings
