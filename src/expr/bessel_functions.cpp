@@ -13,6 +13,11 @@ namespace {
 // The time that a value takes grows with the order. The functions fail beyond this one.
 constexpr double kLargestOrder = 100'000;
 
+// Boost's Airy functions are constant near 0, where the term with x already counts and that with its cube does not yet.
+bool isAlmostZero(double x) {
+    return std::abs(x) < 1e-6;
+}
+
 template <class Function>
 double ofOrder(double order, Function function) {
     return std::abs(order) <= kLargestOrder ? guarded(function) : kFailed;
@@ -55,11 +60,17 @@ double besselY0(double x) {
 }
 
 double airyA(double x) {
-    return guarded([=] { return boost::math::airy_ai(x); });
+    return guarded([=] {
+        return isAlmostZero(x) ? boost::math::airy_ai(0.0) + x * boost::math::airy_ai_prime(0.0)
+                               : boost::math::airy_ai(x);
+    });
 }
 
 double airyB(double x) {
-    return guarded([=] { return boost::math::airy_bi(x); });
+    return guarded([=] {
+        return isAlmostZero(x) ? boost::math::airy_bi(0.0) + x * boost::math::airy_bi_prime(0.0)
+                               : boost::math::airy_bi(x);
+    });
 }
 
 }  // namespace zelvor::expr
