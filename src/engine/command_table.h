@@ -20,6 +20,7 @@ struct Command {
     enum class Role {
         Text,
         Filled,          // a text that must not be empty: a file, a statement
+        Path,            // the same, read up to the first ";"
         Variable,        // the whole name of a variable that is set
         VariableName,    // the same without its "@"
         WrittenName,     // the same, its placeholders not replaced

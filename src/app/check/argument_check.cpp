@@ -21,6 +21,11 @@ void checkVariable(const QString& name, const Place& place, ScriptFacts& facts) 
     facts.sets.push_back({name, place});
 }
 
+void checkFilled(const Command& command, qsizetype at, const QString& text, const Place& place, Findings& findings) {
+    if (!text.trimmed().isEmpty()) return;
+    findings.error(place, u"%1 is given no %2"_s.arg(command.word, command.usage.split(u';')[at]));
+}
+
 }  // namespace
 
 bool isKnown(const QString& argument) {
@@ -62,11 +67,13 @@ void ArgumentCheck::check(const Command& command, qsizetype at, const GivenArgum
             return expressions_.checkExpression(argument, place, facts.findings);
         case Role::Operand:
             return expressions_.checkOperand(argument, place, facts.findings);
-        case Role::Filled:
-            if (argument.trimmed().isEmpty()) {
-                facts.findings.error(place, u"%1 is given no %2"_s.arg(command.word, command.usage.split(u';')[at]));
+        case Role::Path:
+            if (argument.indexOf(u';') > 0) {
+                facts.findings.warning(place, u"%1 reads its path up to the first \";\""_s.arg(command.word));
             }
-            return;
+            return checkFilled(command, at, argument.section(u';', 0, 0), place, facts.findings);
+        case Role::Filled:
+            return checkFilled(command, at, argument, place, facts.findings);
         case Role::Operation:
             return checkOperator(argument, place, facts.findings);
         case Role::AskField:

@@ -125,6 +125,11 @@ void checkField(const QStringList& arguments, bool remote, const Place& place, F
         findings.error(place,
                        u"the field %1 is cut at its \"-\" or \"*\""_s.arg(QString(field).replace(kAnything, u"..."_s)));
     }
+    if (!remote && animated && (arguments[1].contains(u'-') || arguments[1].contains(u'*'))) {
+        findings.error(place,
+                       u"the animation \"%1\" holds \"-\" or \"*\": MAKEXML ends the card or cuts the field"_s.arg(
+                           QString(arguments[1]).replace(kAnything, u"..."_s)));
+    }
     if (remote && animated && isKnown(arguments[1]) && arguments[1].size() != 1) {
         findings.error(place, u"the animation of a remote field is one character, not \"%1\""_s.arg(arguments[1]));
     }

@@ -101,12 +101,12 @@ constexpr std::array kTextFileCommands{
             roles(Role::Filled, Role::VariablePrefix)},
     Command{u"LOADTXTLINE", LOADTXTLINE, Argument::Expanded, u"file;name",
             u"reads the line marked X into @name_CCC and @TEXTCOLS", roles(Role::Filled, Role::VariablePrefix)},
-    Command{u"OFILE", OFILE, Argument::Raw, u"path", u"opens a text file for writing", roles(Role::Filled)},
+    Command{u"OFILE", OFILE, Argument::Raw, u"path", u"opens a text file for writing", roles(Role::Path)},
     Command{u"WFILE", WFILE, Argument::Expanded, u"text", u"writes a line to it", {}, u"OFILE"},
     Command{u"CFILE", CFILE, Argument::None, u"", u"closes it", {}, u"OFILE"},
     Command{u"OFILE8", OFILE8, Argument::None, u"", u"begins a UTF-8 text"},
     Command{u"WFILE8", WFILE8, Argument::Expanded, u"text", u"appends to it, without a line end", {}, u"OFILE8"},
-    Command{u"CFILE8", CFILE8, Argument::Raw, u"path", u"saves it", roles(Role::Filled), u"OFILE8"},
+    Command{u"CFILE8", CFILE8, Argument::Raw, u"path", u"saves it", roles(Role::Path), u"OFILE8"},
 };
 
 }  // namespace
