@@ -112,9 +112,9 @@ void ScriptCheck::checkCondition(const ScriptLine& line, const Spot& spot) {
 
 void ScriptCheck::checkCommand(const ScriptLine& line, const Spot& spot) {
     const Command& command = *line.command;
-    if (command.roles[0] == Role::Include) checkInclude(line, spot);
     const QString argument = scanned(line, spot.place);
     if (!checkCount(line, argument, spot.place)) return;
+    if (command.roles[0] == Role::Include) checkInclude(line, spot);
     if (!command.needs.isEmpty() && !commands_.contains(command.needs)) {
         facts_.findings.error(spot.place, command.word + u" without "_s + command.needs);
     }
