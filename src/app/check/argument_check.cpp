@@ -90,8 +90,7 @@ void ArgumentCheck::check(const Command& command, qsizetype at, const GivenArgum
         case Role::RemoteField:
             return checkField(arguments.values, true, place, facts.findings);
         case Role::Proposal:
-            // id|N|card|tag
-            checkCard(arguments.values.value(1).section(u'|', 2, 2), place, facts);
+            checkProposal(arguments.values.value(1), place, facts);
             [[fallthrough]];
         default:
             return checkLiteral(role, argument, place, facts.findings);
@@ -130,6 +129,15 @@ void ArgumentCheck::checkCard(const QString& card, const Place& place, ScriptFac
     if (isKnown(card) && !card.contains(u'{') && !card.isEmpty() && !files_.cardExists(card)) {
         facts.findings.error(place, u"the card %1 does not exist"_s.arg(card));
     }
+}
+
+// The record of a proposal. One without a card and a tag is refused when it is looked at: an empty label has none.
+void ArgumentCheck::checkProposal(const QString& record, const Place& place, ScriptFacts& facts) {
+    const auto separators = record.count(u'|');
+    if (isKnown(record) && (separators == 1 || separators == 2)) {
+        facts.findings.error(place, u"the proposal \"%1\" is not id|used|card|tag"_s.arg(record));
+    }
+    checkCard(record.section(u'|', 2, 2), place, facts);
 }
 
 void ArgumentCheck::checkAskField(const QString& number, const Place& place, ScriptFacts& facts) const {

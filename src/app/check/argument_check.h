@@ -33,6 +33,7 @@ class ArgumentCheck {
                    ScriptFacts& facts);
     void checkReplaced(const GivenArguments& arguments, const Place& place, ScriptFacts& facts);
     void checkCard(const QString& card, const Place& place, ScriptFacts& facts);
+    void checkProposal(const QString& record, const Place& place, ScriptFacts& facts);
     void checkAskField(const QString& number, const Place& place, ScriptFacts& facts) const;
     void checkControl(Control::Kind kind, bool element, const QStringList& arguments, const Place& place,
                       ScriptFacts& facts) const;
