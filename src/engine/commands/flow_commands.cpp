@@ -20,7 +20,8 @@ void ENDCARD(CardRun& run, const Arguments&) {
 constexpr double kMostRounds = 1'000'000;
 
 void FOREACHREC(CardRun& run, const Arguments& args) {
-    const double records = run.variables().GetVar(u"@RECORDCOUNT").leadingNumber();
+    const Value* count = run.variables().find(u"@RECORDCOUNT");
+    const double records = count != nullptr ? count->leadingNumber() : 0;
     run.loop = {run.lineNo() + 1, u'@' + args.text(), 1, std::max(records, kMostRounds)};
     run.variables().SetVar(run.loop.variable, 1);
 }
