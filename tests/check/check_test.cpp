@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include "app_check/check_command.h"
+#include "base/text_file.h"
 #include "support/told.h"
 
 using namespace Qt::StringLiterals;
@@ -52,6 +53,22 @@ TEST(Check, TellsWhichFileCannotBeRead) {
         const Told told = check({u"--app-folder"_s, folder.path(), u"TT"_s});
         EXPECT_TRUE(told.out.contains(name + u":1: error: Path/File access error"_s)) << qPrintable(told.out);
     }
+}
+
+// The rest of the script is checked all the same.
+TEST(Check, TellsWhereAnIncludeCannotBeRead) {
+    QTemporaryDir folder;
+    const QString pack = folder.filePath(u"MODULES/QRD_TT"_s);
+    ASSERT_TRUE(QDir().mkpath(pack));
+    QFile script(pack + u"/card.csp"_s);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#\nINCLUDE~large.inc\nNOWORD~1\n");
+    script.close();
+    QFile include(pack + u"/large.inc"_s);
+    ASSERT_TRUE(include.open(QIODevice::WriteOnly) && include.resize(zelvor::TextFiles::kLargestFile + 1));
+    const QString out = check({u"--app-folder"_s, folder.path(), u"TT"_s}).out;
+    EXPECT_TRUE(out.contains(u"card.csp:2: error: Out of memory"_s)) << qPrintable(out);
+    EXPECT_TRUE(out.contains(u"card.csp:3: error: unknown command NOWORD"_s)) << qPrintable(out);
 }
 
 // No card can be one: whatever names it is told of.

@@ -18,9 +18,13 @@ void readInclude(PackFiles& files, const ScriptLine& line, const Place& place, S
     const QString path = files.path(name);
     facts.sources += path;
     Place included = files.place(path, 0);
-    for (const QString& text : files.lines(path)) {
-        ++included.line;
-        lines.push_back({ScriptLine(cleanedScriptLine(text)), included, true});
+    try {
+        for (const QString& text : files.lines(path)) {
+            ++included.line;
+            lines.push_back({ScriptLine(cleanedScriptLine(text)), included, true});
+        }
+    } catch (const RunTimeError& error) {
+        facts.findings.error(place, error.text());
     }
 }
 
