@@ -135,12 +135,16 @@ Value insideUnit(Real a, Real b, Real c, Real distance) {
 }
 
 // Gauss's sum, NIST DLMF 15.4.20.
-double atOne(Real a, Real b, Real c) {
+double atOne(Real a, Real b, Real c, Context& context) {
     if (isNonPositiveWhole(c - a) || isNonPositiveWhole(c - b)) return 0;
-    return guarded([=] {
+    return guarded([=, &context] {
         int signs[4] = {1, 1, 1, 1};
-        const Real logarithm = boost::math::lgamma(c, &signs[0]) + boost::math::lgamma(c - a - b, &signs[1]) -
-                               boost::math::lgamma(c - a, &signs[2]) - boost::math::lgamma(c - b, &signs[3]);
+        const Real upper = boost::math::lgamma(c, &signs[0]);
+        const Real upperRest = boost::math::lgamma(c - a - b, &signs[1]);
+        const Real logarithm =
+            upper - boost::math::lgamma(c - a, &signs[2]) + (upperRest - boost::math::lgamma(c - b, &signs[3]));
+        // Large logarithms cancel.
+        if (std::max(std::fabs(upper), std::fabs(upperRest)) > kMaxLoss) context.warning = kCheckAccuracy;
         return static_cast<Real>(signs[0] * signs[1] * signs[2] * signs[3]) * std::exp(logarithm);
     });
 }
@@ -158,7 +162,7 @@ double hypergeometric(const Arguments& values, Context& context) {
         context.warning = kDivergent;
         return kFailed;
     }
-    if (!polynomial && x == 1) return atOne(a, b, c);
+    if (!polynomial && x == 1) return atOne(a, b, c, context);
 
     Value value{};
     Real scale = 1;

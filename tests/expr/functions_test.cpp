@@ -103,6 +103,7 @@ TEST(Functions, WarnBesideTheResult) {
     const std::pair<const char*, const char*> cases[] = {
         {"HypGeom(1,1,2,1.5)", "The hypergeometric series is divergent"},
         {"HypGeom(-40,41,0.5,0.5)", "Warning! You should check the accuracy"},
+        {"HypGeom(43,60,1e11,1)", "Warning! You should check the accuracy"},
         {"GammaI(1e9,1e9)", "a and/or x too large"},
         {"HypGeom(1,1,2,0.5)", ""},
     };
