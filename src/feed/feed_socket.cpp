@@ -49,10 +49,11 @@ void FeedSocket::read() {
 
 void FeedSocket::takeArrived() {
     if (socket_.state() != QAbstractSocket::BoundState) return;  // the preview instance's
-    constexpr qint64 kLargestDatagram = 65536;
-    while (hasRoom() && socket_.hasPendingDatagrams()) {
-        QByteArray bytes(qBound(qint64{0}, socket_.pendingDatagramSize(), kLargestDatagram), Qt::Uninitialized);
+    constexpr qsizetype kLargestDatagram = 65536;
+    QByteArray bytes(kLargestDatagram, Qt::Uninitialized);
+    while (hasRoom()) {
         QHostAddress sender;
+        // Until nothing is left: after a readyRead() without a read, all having been taken before it, Qt tells no more.
         const qint64 size = socket_.readDatagram(bytes.data(), bytes.size(), &sender);
         if (size < 0) break;
         waiting_.push_back({QString::fromLatin1(bytes.constData(), size), clock_.steadyMilliseconds()});

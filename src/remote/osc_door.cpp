@@ -1,7 +1,5 @@
 #include "remote/osc_door.h"
 
-#include <QNetworkDatagram>
-
 #include "base/number.h"
 #include "remote/json_texts.h"
 
@@ -12,6 +10,7 @@ namespace zelvor {
 namespace {
 
 constexpr int kMostInTurn = 100;  // packets; further ones wait for the next turn of the event loop
+constexpr qsizetype kLargestPacket = 65536;
 constexpr int kHighestScore = 999;
 
 // Buttons send 1 when they are pressed and 0 when they are let go; without an argument it is a press.
@@ -35,25 +34,28 @@ QString OscDoor::listen(const QHostAddress& address, quint16 port) {
 }
 
 void OscDoor::read() {
-    for (int i = 0; i < kMostInTurn && socket_.hasPendingDatagrams(); ++i) {
-        const QNetworkDatagram datagram = socket_.receiveDatagram();
-        const QHostAddress from = datagram.senderAddress();
+    QByteArray bytes(kLargestPacket, Qt::Uninitialized);
+    for (int i = 0; i < kMostInTurn; ++i) {
+        QHostAddress from;
+        quint16 port = 0;
+        // Until nothing is left, whatever the socket was said to hold: after a readyRead() without a read Qt tells no
+        // more.
+        const qint64 size = socket_.readDatagram(bytes.data(), bytes.size(), &from, &port);
+        if (size < 0) return;
         const bool isAllowed = std::ranges::any_of(allowed_, [&from](const QHostAddress& each) {
             return each.isEqual(from, QHostAddress::TolerantConversion);
         });
-        if (!from.isLoopback() && !isAllowed) continue;
-        const OscFeedback::Peer peer{from, static_cast<quint16>(datagram.senderPort())};
-        const auto messages = readOscPacket(datagram.data());
-        if (!messages) {
-            send(peer, {u"/zelvor/error"_s, {u""_s, u"no OSC packet"_s}});
-            continue;
-        }
-        for (const OscMessage& message : *messages) {
-            if (!take(message, peer))
-                send(peer, {u"/zelvor/error"_s, {message.address, u"there is no such address, or not with this"_s}});
-        }
+        if (from.isLoopback() || isAllowed) takePacket(bytes.first(size), {from, port});
     }
-    if (socket_.hasPendingDatagrams()) QMetaObject::invokeMethod(this, &OscDoor::read, Qt::QueuedConnection);
+}
+
+void OscDoor::takePacket(const QByteArray& packet, const OscFeedback::Peer& peer) {
+    const auto messages = readOscPacket(packet);
+    if (!messages) return send(peer, {u"/zelvor/error"_s, {u""_s, u"no OSC packet"_s}});
+    for (const OscMessage& message : *messages) {
+        if (!take(message, peer))
+            send(peer, {u"/zelvor/error"_s, {message.address, u"there is no such address, or not with this"_s}});
+    }
 }
 
 bool OscDoor::take(const OscMessage& message, const OscFeedback::Peer& peer) {

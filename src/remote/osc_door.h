@@ -25,6 +25,7 @@ class OscDoor : public QObject {
 
  private:
     void read();
+    void takePacket(const QByteArray& packet, const OscFeedback::Peer& peer);
     bool takeScore(const QStringList& path, const QVariant& argument, const RemoteConsole::Request& request);
     bool takeSubscription(const QString& word, const QVariant& argument, OscFeedback::Peer peer);
     void send(const OscFeedback::Peer& peer, const OscMessage& message);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QSocketNotifier>
+
 #include "form/follow.h"
 #include "studio.h"
 
@@ -92,6 +94,18 @@ TEST(FeedSocket, CountsWhatArrivesAndSaysHowTheFeedIs) {
     studio.sendToFeed({"pause"});
     EXPECT_TRUE(waitUntil([&] { return studio.taken() == 7; }));
     EXPECT_EQ(words.text(), u"feed paused, 3 refused"_s);
+}
+
+// As the event loop does when what it has found to be there was read in a turn within the same turn.
+TEST(FeedSocket, HearsOnWhenItIsToldOfWhatWasReadAlready) {
+    Studio studio;
+    ASSERT_TRUE(studio.desk.feedSocket.bind(0));
+    auto* notifier = studio.desk.feedSocket.findChild<QSocketNotifier*>();
+    ASSERT_NE(notifier, nullptr);
+    QEvent readable(QEvent::SockAct);
+    QCoreApplication::sendEvent(notifier, &readable);
+    studio.sendToFeed({"t2:42t"});
+    EXPECT_TRUE(waitUntil([&] { return studio.taken() == 1; }));
 }
 
 TEST(FeedSocket, RunsTheTimeCardForTheNewestAndNeverInsideAnother) {

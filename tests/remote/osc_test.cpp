@@ -109,5 +109,19 @@ TEST_F(OscTest, CutAndNestedPacketsEndNothing) {
     EXPECT_TRUE(waitUntil([&] { return gallery.app->state().variables.text(u"@X") == u"text"; }));
 }
 
+TEST_F(OscTest, HearsOnAfterABurst) {
+    QUdpSocket socket;
+    ASSERT_TRUE(socket.bind(QHostAddress::LocalHost, 0));
+    constexpr int kBurst = 150;  // more than are read in one turn
+    for (int i = 0; i < kBurst; ++i) socket.writeDatagram("no OSC", QHostAddress::LocalHost, port);
+    int answers = 0;
+    EXPECT_TRUE(waitUntil([&] {
+        for (; socket.hasPendingDatagrams(); ++answers) socket.readDatagram(nullptr, 0);
+        return answers == kBurst;
+    }));
+    socket.writeDatagram(OscMessage{u"/zelvor/variable/@X"_s, {u"text"_s}}.bytes(), QHostAddress::LocalHost, port);
+    EXPECT_TRUE(waitUntil([&] { return gallery.app->state().variables.text(u"@X") == u"text"; }));
+}
+
 }  // namespace
 }  // namespace zelvor::test
