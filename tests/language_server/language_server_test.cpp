@@ -165,6 +165,15 @@ TEST_F(LanguageServers, GoOnAfterWhatIsBroken) {
     EXPECT_FALSE(second.next());
     second.add("ngth: 2\r\nX: y\r\n\r\n[]");
     EXPECT_EQ(second.next(), QByteArray("[]"));
+    // Lengths that are too small, too large, and none.
+    for (const QByteArray wrong : {"3", "30", "x", "-1"}) {
+        MessageReader third;
+        third.add("Content-Length: " + wrong + "\r\n\r\n{\"id\":1}Content-Length: 8\r\n\r\n{\"id\":2}");
+        third.add("Content-Length: 8\r\n\r\n{\"id\":3}");
+        QByteArray last;
+        while (const auto message = third.next()) last = *message;
+        EXPECT_EQ(last, "{\"id\":3}") << wrong.toStdString();
+    }
 
     const auto answer = [this](const QByteArray& message) {
         server_.receive(message);
@@ -177,10 +186,13 @@ TEST_F(LanguageServers, GoOnAfterWhatIsBroken) {
     EXPECT_EQ(sent_.size(), 3);
     open(u"new.csp"_s, u"SD"_s);
     EXPECT_TRUE(labels(0, 99).contains(u"SDATA"_s));
+    EXPECT_EQ(server_.exitStatus(), 1);
+    server_.receive("{\"id\":9,\"method\":\"shutdown\"}");
+    EXPECT_EQ(answer("{\"id\":10,\"method\":\"textDocument/hover\"}"), -32600);
     EXPECT_FALSE(server_.ended());
     notify(u"exit"_s, {});
     EXPECT_TRUE(server_.ended());
-    EXPECT_EQ(server_.exitStatus(), 1);
+    EXPECT_EQ(server_.exitStatus(), 0);
 }
 
 }  // namespace

@@ -79,6 +79,10 @@ void LanguageServer::receive(const QByteArray& bytes) {
         ended_ = true;
         return;
     }
+    if (shutDown_) {
+        if (!id.isUndefined()) fail(id, kInvalidRequest, u"shut down already"_s);
+        return;
+    }
     const Handler handler = handlers().value(method, nullptr);
     if (handler == nullptr) {
         // Notifications that are not known are passed over.

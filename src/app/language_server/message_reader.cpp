@@ -9,16 +9,14 @@ namespace {
 
 constexpr qsizetype kLongestHeader = 4096;
 
-// -1 when the header gives no length.
+// -1 when the header gives no length. It may stand behind the rest of a message that was longer than it said.
 qint64 lengthIn(const QByteArray& header) {
-    for (const QByteArray& line : header.split('\n')) {
-        const qsizetype colon = line.indexOf(':');
-        if (line.left(colon).trimmed().toLower() != "content-length") continue;
-        bool valid = false;
-        const qint64 length = line.mid(colon + 1).trimmed().toLongLong(&valid);
-        return valid && length >= 0 ? length : -1;
-    }
-    return -1;
+    constexpr QByteArrayView kName = "content-length:";
+    const qsizetype at = header.toLower().lastIndexOf(kName);
+    if (at < 0) return -1;
+    bool valid = false;
+    const qint64 length = header.mid(at + kName.size()).split('\n').constFirst().trimmed().toLongLong(&valid);
+    return valid && length >= 0 ? length : -1;
 }
 
 }  // namespace

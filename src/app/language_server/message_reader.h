@@ -6,7 +6,8 @@
 namespace zelvor {
 
 // Takes the messages of the language-server protocol out of a stream of bytes: a header with the length, then as many
-// bytes. A header that gives no length, or one beyond kLargest, is passed over.
+// bytes. A header that gives no length, or one beyond kLargest, is passed over; behind a wrong length the next header
+// is found again.
 class MessageReader {
  public:
     static constexpr qint64 kLargest = qint64{64} * 1024 * 1024;
