@@ -56,9 +56,10 @@ std::deque<ReplyMatcher::SentLine> ReplyMatcher::forget() {
 
 std::vector<ReplyMatcher::Answer> ReplyMatcher::read(const QByteArray& bytes) {
     std::vector<Answer> answers;
-    begun_ += bytes;
     qsizetype start = 0;
-    for (qsizetype end = begun_.indexOf('\n'); end >= 0; end = begun_.indexOf('\n', start)) {
+    const qsizetype searched = begun_.size();
+    begun_ += bytes;
+    for (qsizetype end = begun_.indexOf('\n', searched); end >= 0; end = begun_.indexOf('\n', start)) {
         QString line = QString::fromUtf8(begun_.mid(start, end - start));
         if (line.endsWith(u'\r')) line.chop(1);
         start = end + 1;

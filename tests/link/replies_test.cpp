@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+
 #include "link/reply_matcher.h"
 
 using namespace Qt::StringLiterals;
@@ -49,6 +51,17 @@ TEST(ReplyMatcher, FindsTheLineOfEachReply) {
         EXPECT_EQ(refused.join(u'\n').toStdString(), wanted.join(u'\n').toStdString());
         EXPECT_TRUE(matcher.awaited().empty());
     }
+}
+
+TEST(ReplyMatcher, GoesOnAtOnceBehindALineWithoutEnd) {
+    ReplyMatcher matcher;
+    matcher.sent({u"CG 1-20 PLAY 1"_s, {}, 0});
+    const QByteArray piece(1024, 'x');
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 15 * 1024; ++i) matcher.read(piece);
+    EXPECT_EQ(matcher.read("\r\n202 CG OK\r\n").size(), 1U);
+    EXPECT_LT(timer.elapsed(), 1000) << "milliseconds";
 }
 
 TEST(ReplyMatcher, StartsAnewWithANewConnection) {
