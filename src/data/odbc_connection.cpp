@@ -169,7 +169,7 @@ void Connection::note(const QString& sql) {
     const QString word = firstWord(sql);
     if (word == u"begin" || word == u"start") inTransaction_ = true;
     if (word == u"commit" || word == u"rollback") inTransaction_ = false;
-    if (isMariaDbDriver_ && !isSafeForMariaDbDriver(word)) isWorn_ = true;
+    if (isMariaDbDriver_ && !isSafeForMariaDbDriver(sql)) isWorn_ = true;
     used_ = std::chrono::steady_clock::now();
 }
 

@@ -15,6 +15,16 @@ qsizetype behind(const QString& text, const QString& mark, qsizetype from) {
     return found < 0 ? text.size() : found + mark.size();
 }
 
+// Whether something follows a semicolon that stands in no quotes.
+bool holdsSeveral(const QString& sql) {
+    static const QRegularExpression kQuoted(uR"('(?:[^'\\]|\\.)*+'|"(?:[^"\\]|\\.)*+"|`[^`]*+`)"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
+    if (!sql.contains(u';')) return false;
+    const QString bare = QString(sql).remove(kQuoted).trimmed();
+    const qsizetype semicolon = bare.indexOf(u';');
+    return semicolon >= 0 && semicolon < bare.size() - 1;
+}
+
 }  // namespace
 
 QString firstWord(const QString& sql) {
@@ -43,12 +53,12 @@ bool mayWrite(const QString& sql) {
     return firstWord(sql) != u"select" && sql.contains(kWrites);
 }
 
-bool isSafeForMariaDbDriver(const QString& firstWord) {
+bool isSafeForMariaDbDriver(const QString& sql) {
     static const QSet<QString> kSafe{u"select"_s, u"insert"_s, u"update"_s, u"delete"_s,   u"replace"_s,
                                      u"call"_s,   u"with"_s,   u"show"_s,   u"explain"_s,  u"set"_s,
                                      u"create"_s, u"drop"_s,   u"alter"_s,  u"describe"_s, u"truncate"_s,
                                      u"begin"_s,  u"start"_s,  u"commit"_s, u"rollback"_s};
-    return kSafe.contains(firstWord);
+    return kSafe.contains(firstWord(sql)) && !holdsSeveral(sql);
 }
 
 }  // namespace zelvor::odbc

@@ -11,8 +11,8 @@ QString firstWord(const QString& sql);
 // Whether a statement that gives rows may have changed some, too, as INSERT ... RETURNING does.
 bool mayWrite(const QString& sql);
 
-// Whether MariaDB's ODBC driver is sound after such a statement. After others (OPTIMIZE TABLE, DO, HELP ...) the next
-// one crashes or hangs in it.
-bool isSafeForMariaDbDriver(const QString& firstWord);
+// Whether MariaDB's ODBC driver is sound after such a statement. After others (OPTIMIZE TABLE, DO, HELP, several in
+// one) the next one crashes or hangs in it.
+bool isSafeForMariaDbDriver(const QString& sql);
 
 }  // namespace zelvor::odbc

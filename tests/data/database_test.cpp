@@ -199,13 +199,24 @@ TEST_P(OnEachDatabase, theLoopTurnsUntilAStatementIsGivenUp) {
 // Statements after which MariaDB's driver crashes or hangs.
 TEST_P(OnEachDatabase, survivesWhatTheDriverDoesNot) {
     makeTable(u"a integer"_s, {u"1"_s});
-    const QStringList odd = isMariaDb() ? QStringList{u"optimize table t"_s, u"/* x */ (values (1), (2))"_s, u"do 1"_s,
-                                                      u"help 'select'"_s, u"repair table t"_s}
+    const QStringList odd = isMariaDb() ? QStringList{u"optimize table t"_s,
+                                                      u"/* x */ (values (1), (2))"_s,
+                                                      u"do 1"_s,
+                                                      u"help 'select'"_s,
+                                                      u"repair table t"_s,
+                                                      u"insert into t values (2); select 1"_s,
+                                                      u"select ';\\';', 1; select 2"_s}
                                         : QStringList{u"values (1), (2)"_s, u"vacuum"_s};
     for (const QString& statement : odd) {
         database->RUN_QUERY({}, statement);
         EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1) << statement.toStdString();
     }
+    // Kept open with its temporary table: a semicolon in a text begins no statement.
+    for (const QString& step : {u"create temporary table k (a integer)"_s, u"insert into k values (1)"_s}) {
+        database->execute({}, step);
+    }
+    EXPECT_EQ(database->RUN_QUERY({}, u"select ';', 'a''; b', \"; c\" from k; "_s), 1);
+    EXPECT_EQ(database->RUN_QUERY({}, u"select a from k"_s), 1);
     for (const QString& step : {u"begin"_s, u"insert into t values (2)"_s, u"rollback"_s}) database->execute({}, step);
     EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1);
 }
