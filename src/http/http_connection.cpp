@@ -137,12 +137,15 @@ HttpRequest HttpConnection::request() const {
 
 void HttpConnection::respond(const HttpResponse& response) {
     if (!handled_ || closing_) return;
+    QByteArray bytes = response.bytes(keepAlive_);
+    // The client would take a body for the next answer.
+    if (parser_->hasHead() && parser_->message().method() == beast::verb::head) bytes.chop(response.body.size());
     handled_ = false;
     begun_ = false;
     parser_ = std::make_unique<Parser>();
     closing_ = !keepAlive_;
     deadline_.start(kLongestAnswer);
-    socket_->write(response.bytes(keepAlive_));
+    socket_->write(bytes);
 }
 
 void HttpConnection::refuse(int status, const QByteArray& words) {

@@ -55,6 +55,12 @@ QVariant argumentOf(char type, const lo_arg* value) {
 bool addMessage(QByteArray bytes, std::vector<OscMessage>& messages) {
     // The path is looked for up to its NUL, within the packet alone.
     if (!bytes.startsWith('/') || !bytes.contains('\0') || messages.size() >= kMostMessages) return false;
+    const qsizetype behindAddress = (bytes.indexOf('\0') / 4 + 1) * 4;
+    if (bytes.size() == behindAddress) {
+        // Old senders name no types where there are no arguments.
+        messages.push_back({QString::fromUtf8(bytes.constData())});
+        return true;
+    }
     int result = 0;
     const Message message(lo_message_deserialise(bytes.data(), static_cast<std::size_t>(bytes.size()), &result));
     if (!message) return false;

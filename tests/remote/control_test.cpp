@@ -200,6 +200,14 @@ TEST_F(ControlTest, WrongCallsHaveAStatusEach) {
         const QByteArray whole = bytes.contains("\r\n") || bytes.size() > 10'000 ? bytes : bytes + "\r\n\r\n";
         EXPECT_EQ(raw(whole).left(status.size()), status) << bytes.left(60).toStdString();
     }
+    // A HEAD is answered without a body: the next answer begins where the first one's head ends.
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, port);
+    ASSERT_TRUE(socket.waitForConnected());
+    socket.write("HEAD / HTTP/1.1\r\n" + host + "\r\nGET /api/question HTTP/1.1\r\n" + host + "\r\n");
+    QByteArray answers;
+    EXPECT_TRUE(waitUntil([&] { return (answers += socket.readAll()).contains("no question"); }));
+    EXPECT_TRUE(answers.contains("\r\n\r\nHTTP/1.1 404")) << answers.toStdString();
     EXPECT_EQ(server.bytes.count("STRAP"), 0);
     EXPECT_EQ(post(u"/api/cards/1/1/fire"_s).left(4), u"200 ") << "after all that";
 }

@@ -98,6 +98,11 @@ TEST_F(OscTest, CutAndNestedPacketsEndNothing) {
     for (int i = 0; i < 20; ++i) deep = bundled(deep);
     EXPECT_EQ(readOscPacket(bundled(bundled(message)))->size(), 1U);
     EXPECT_FALSE(readOscPacket(deep));
+    // Old senders leave the types out where there are no arguments.
+    const auto untyped = readOscPacket(QByteArray("/zelvor/clear\0\0\0", 16));
+    ASSERT_TRUE(untyped);
+    EXPECT_EQ(untyped->front().address, u"/zelvor/clear");
+    EXPECT_FALSE(readOscPacket(QByteArray("/zelvor/key/1\0\0\0\0\0\0\1", 20))) << "arguments of which kind?";
     QUdpSocket socket;
     for (const QByteArray& whole : {message, bundled(message), deep}) {
         for (qsizetype cut = 0; cut < whole.size(); ++cut) {
