@@ -37,7 +37,9 @@ GraphicsLinks::GraphicsLinks(FormModel& form, Clock& clock, Program& program)
 void GraphicsLinks::matchReplies(LinkId id) {
     connect(&link(id), &CasparLink::arrived, this, [this, id](const QByteArray& bytes) {
         replies(id).lastHeard = clock_.steadyMilliseconds();
-        for (const ReplyMatcher::Answer& answer : replies(id).matcher.read(bytes)) Q_EMIT lineAnswered(id, answer);
+        const std::vector<ReplyMatcher::Answer> answers = replies(id).matcher.read(bytes);
+        replies(id).isRefusal = std::ranges::any_of(answers, &ReplyMatcher::Answer::refused);
+        for (const ReplyMatcher::Answer& answer : answers) Q_EMIT lineAnswered(id, answer);
     });
     connect(&link(id), &CasparLink::stateChanged, this, [this, id](LinkState state) {
         if (state == LinkState::Connected) return;
@@ -134,7 +136,7 @@ void GraphicsLinks::showLogWritten(bool written) {
 }
 
 void GraphicsLinks::addResponse(const QString& text) {
-    const bool alarm = tellsOfError(text);
+    const bool alarm = mainReplies_.isRefusal || tellsOfError(text);
     const QString& now = timeOfDay();
     responses_.add(now, {u" "_s, text}, alarm);
     history_.add(now, {u" < "_s, text}, alarm);

@@ -65,7 +65,8 @@ class GraphicsLinks : public QObject, public Graphics, public GraphicsNotes {
     // What is known of the replies of one server.
     struct Replies {
         ReplyMatcher matcher;
-        qint64 lastHeard = 0;  // steady milliseconds
+        qint64 lastHeard = 0;    // steady milliseconds
+        bool isRefusal = false;  // one of the answers that have just arrived
     };
 
     void sendNow(LinkId link, const QString& line, const Asker& asker);

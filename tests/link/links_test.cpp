@@ -121,6 +121,28 @@ TEST(GraphicsLinks, ShowsResponsesOfTheMainServerAlone) {
     EXPECT_TRUE(responses.data(responses.index(1), LineList::kAlarmRole).toBool());
 }
 
+// What arrives at once is one line; it stands out when one of the replies in it is a refusal.
+TEST(GraphicsLinks, MarksARefusalBehindAnotherReply) {
+    Studio studio;
+    Server server;
+    studio.connectTo(LinkId::Main, server);
+    const LineList& responses = studio.links.responses();
+    for (const QString& line : {u"CG 1-20 PLAY 1"_s, u"INFO"_s, u"CG 1-20 ADD 1 none 1"_s, u"CG 1-21 STOP 1"_s}) {
+        studio.links.sendLine(LinkId::Main, line, {});
+    }
+    int rows = 0;
+    for (const auto& [bytes, shown, marked] :
+         {std::tuple("202 CG OK\r\n200 INFO OK\r\n404 x\r\n\r\n", u"202 CG OK200 INFO OK404 x"_s, false),
+          std::tuple("202 CG OK\r\n403 CG STOP FAILED\r\n", u"202 CG OK403 CG STOP FAILED"_s, true),
+          std::tuple("202 CG OK\r\n", u"202 CG OK"_s, false)}) {
+        server.peer->write(bytes);
+        ++rows;
+        ASSERT_TRUE(waitUntil([&] { return responses.rowCount() == rows; }));
+        EXPECT_EQ(responses.text(0), QString(u"20:31:07 "_s + shown));
+        EXPECT_EQ(responses.data(responses.index(0), LineList::kAlarmRole).toBool(), marked) << bytes;
+    }
+}
+
 // What a server that reads is handed at the end, the console's own tests hold.
 TEST(GraphicsLinks, GiveUpAServerThatTakesNothing) {
     Studio studio;
