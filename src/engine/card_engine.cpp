@@ -92,8 +92,11 @@ qint64 CardEngine::sendingByItself() const {
 }
 
 bool CardEngine::pausesInsideAPause() const {
-    return !running_.empty() && running_.back().sends && running_.back().asker->isAttended() &&
-           std::ranges::count_if(running_, &Running::sends) > 1;
+    return !running_.empty() && running_.back().sends && running_.back().asker->isAttended() && sending() > 1;
+}
+
+qsizetype CardEngine::sending() const {
+    return std::ranges::count_if(running_, &Running::sends);
 }
 
 bool CardEngine::isRunning(qint64 run) const {

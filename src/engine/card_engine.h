@@ -37,6 +37,8 @@ class CardEngine {
     [[nodiscard]] qint64 sendingByItself() const;
     // Whether the newest run is in the pause before PLAY of a card of his, itself inside such a pause.
     [[nodiscard]] bool pausesInsideAPause() const;
+    // Whether any run sends a line.
+    [[nodiscard]] bool isSending() const { return sending() > 0; }
     [[nodiscard]] bool isRunning(qint64 run) const;
 
     [[nodiscard]] ShowState& state() { return state_; }
@@ -50,6 +52,7 @@ class CardEngine {
     static QString scriptName(const QString& cardFile);
 
  private:
+    [[nodiscard]] qsizetype sending() const;
     Outcome runScript(const QString& name, bool autoRun, bool keepStates, const Asker& asker);
 
     ShowState& state_;

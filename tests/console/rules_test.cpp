@@ -200,6 +200,34 @@ TEST_F(CardRules, PressesKeepTheirOrder) {
     EXPECT_EQ(note.text(), u"");
 }
 
+TEST_F(CardRules, HisOwnPressesComeBeforeThoseFromOutside) {
+    const Presser outside{u"remote"_s, u"HTTP 10.0.0.5"_s, 1};
+    bench.write(u"QRD_TT/two.csp"_s, "CSPSEND~PLAY\r\n");
+    const auto pressAll = [&] {
+        console.fireScript(u"a"_s, u"auto5ada.csp"_s, outside);
+        console.functionKey(10);
+        console.fireScript(u"b"_s, u"auto5ada.csp"_s, outside);
+        console.functionKey(3);
+    };
+    const QStringList inOrder{u"mkey "_s, u"mone "_s, u"mauto5ada "_s, u"mauto5ada "_s};
+    bench.clock.whileTurning = pressAll;
+    console.fireScript(u"clear"_s, u"clear.csp"_s, outside);
+    EXPECT_EQ(sent(), QStringList{u"mclear "_s} + inOrder);
+
+    // In a pause before PLAY his begin, those from outside wait for its end: his own card is held by none of them.
+    for (const Presser& presser : {Presser{u"button"_s}, outside}) {
+        bench.graphics.whileSending = [&, pressed = false]() mutable {
+            if (!std::exchange(pressed, true)) pressAll();
+            QElapsedTimer looks;
+            for (looks.start(); looks.elapsed() < 20;) QCoreApplication::processEvents();
+            bench.graphics.sent += u"over"_s;
+        };
+        console.fireScript(u"two"_s, u"two.csp"_s, presser);
+        EXPECT_TRUE(waitUntil([&] { return bench.graphics.sent.size() == 10; }));
+        EXPECT_EQ(sent().join(u' '), u"mPLAY mkey  over mone  over over mauto5ada  over mauto5ada  over");
+    }
+}
+
 TEST_F(CardRules, ClearEndsWhatWaits) {
     bool cleared = false;
     const auto clear = [&] {

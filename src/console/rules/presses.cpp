@@ -1,13 +1,16 @@
 #include "console_rules/presses.h"
 
 #include <QScopedValueRollback>
-#include <QTimer>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace zelvor {
 
 Presses::Presses(CardEngine& engine) : engine_(engine) {
+    look_.setSingleShot(true);
+    look_.setInterval(kLookInterval);
+    connect(&look_, &QTimer::timeout, this, &Presses::carryOutWaiting);
     connect(&engine.program().databaseWait, &DatabaseWait::over, this, [this] {
         // The time of a statement does not make a press late: meanwhile the console is seen to take it.
         for (Waiting& press : waiting_) press.since = now();
@@ -16,7 +19,8 @@ Presses::Presses(CardEngine& engine) : engine_(engine) {
 }
 
 void Presses::press(const QString& name, const Presser& presser, std::function<void()> deed) {
-    const qint64 waited = waited_ && presser.from.isEmpty() ? waited_() : 0;
+    const bool isHis = presser.from.isEmpty();
+    const qint64 waited = waited_ && isHis ? waited_() : 0;
     if (now() - waited >= toldLateAt_) {
         late_.clear();
         Q_EMIT made();
@@ -25,13 +29,13 @@ void Presses::press(const QString& name, const Presser& presser, std::function<v
         tellLate(name, waited);
         return;
     }
-    if (!presser.from.isEmpty() && mayComeFromOutside_) {
+    if (!isHis && mayComeFromOutside_) {
         deed = [this, presser, deed = std::move(deed)] {
             if (mayComeFromOutside_(presser)) deed();
         };
     }
-    if (turning_ || isHeldUp() || engine_.program().databaseWait.isOn() || !waiting_.empty()) {
-        wait({name, std::move(deed), now() - waited});
+    if (turning_ || isHeldUp(isHis) || engine_.program().databaseWait.isOn() || !waiting_.empty()) {
+        wait({name, std::move(deed), now() - waited, isHis});
     } else {
         carryOut(deed);
         carryOutWaiting();
@@ -39,7 +43,8 @@ void Presses::press(const QString& name, const Presser& presser, std::function<v
 }
 
 void Presses::wait(Waiting press) {
-    waiting_.push_back(std::move(press));
+    const auto place = press.isHis ? std::ranges::find(waiting_, false, &Waiting::isHis) : waiting_.end();
+    waiting_.insert(place, std::move(press));
     tellWait();
     carryOutSoon();
 }
@@ -54,7 +59,8 @@ void Presses::tellWait(bool another) {
     }
 }
 
-bool Presses::isHeldUp() {
+bool Presses::isHeldUp(bool isHis) {
+    if (!isHis && engine_.isSending()) return true;
     // The one that held them up may have run inside another's pause.
     if (!engine_.isRunning(heldUpBy_)) heldUpBy_ = engine_.sendingByItself();
     return engine_.isRunning(heldUpBy_) || engine_.pausesInsideAPause();
@@ -107,10 +113,7 @@ void Presses::carryOutSoon() {
 
 void Presses::carryOutWaiting() {
     while (!turning_ && !engine_.program().databaseWait.isOn() && !waiting_.empty()) {
-        if (isHeldUp()) {
-            QTimer::singleShot(kLookInterval, this, &Presses::carryOutWaiting);
-            return;
-        }
+        if (isHeldUp(waiting_.front().isHis)) return look_.start();
         const Waiting press = std::move(waiting_.front());
         waiting_.pop_front();
         tellWait();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <deque>
 #include <functional>
 
@@ -14,7 +15,8 @@ namespace zelvor {
 // itself, and while one waits for the database, it waits: for the end of a card that runs by itself, which a wait for
 // the database brings about at once, or for the operator's own statement. Pauses before PLAY stand two deep at most: a
 // press in the inner one waits for its end, so that many at once do not keep the first of them from the air. No card
-// that runs by itself begins before a press that waits.
+// that runs by itself begins before a press that waits. His own come before those from outside, which begin in no
+// pause before PLAY: however many there are, they take none of his time but the rest of a pause.
 class Presses : public QObject {
     Q_OBJECT
 
@@ -56,11 +58,12 @@ class Presses : public QObject {
         QString name;
         std::function<void()> deed;
         qint64 since = 0;  // steady milliseconds
+        bool isHis = true;
     };
 
     static constexpr int kLookInterval = 5;  // milliseconds, at a card that holds presses up
 
-    [[nodiscard]] bool isHeldUp();
+    [[nodiscard]] bool isHeldUp(bool isHis);
     void tellLate(const QString& name, qint64 waited);
     void carryOut(const std::function<void()>& deed);
     void turn();
@@ -79,6 +82,7 @@ class Presses : public QObject {
     qint64 toldLateAt_ = 0;  // steady milliseconds
     qint64 heldUpBy_ = 0;    // the number of the run whose end is waited for
     bool turning_ = false;
+    QTimer look_;
 };
 
 }  // namespace zelvor
