@@ -26,10 +26,12 @@ QString GeneralVariables::file(QStringView name) const {
 
 void GeneralVariables::load() {
     pack_ = state_.language();
+    onDisk_.reset();
     std::vector<GeneralRow> rows;
     program_.trap.run({u"frmGENERAL.Form_Load"_s}, Tell::Operator, [&] {
         if (!QFile::exists(file(u"infodata.dat"))) return;
         const QByteArray bytes = readWholeFile(file(u"infodata.dat"));
+        onDisk_ = bytes;
         const GridReading reading = readGrid(bytes);
         rows = reading.rows;
         if (reading.damagedLine > 0) keepDamaged(bytes, reading);
@@ -106,10 +108,29 @@ void GeneralVariables::importText() {
 }
 
 bool GeneralVariables::save() {
-    return program_.trap.run({u"frmGENERAL.cmdSAVE_Click"_s}, Tell::Operator, [&] {
-        replaceFile(file(u"infodata.dat"), gridBytes(grid_.rows()));
+    bool saved = false;
+    program_.trap.run({u"frmGENERAL.cmdSAVE_Click"_s}, Tell::Operator, [&] {
+        const QString pack = pack_;
+        // Another pack's rows may be loaded while the question is open.
+        if (!mayReplaceFile() || pack != pack_) return;
+        const QByteArray bytes = gridBytes(grid_.rows());
+        replaceFile(file(u"infodata.dat"), bytes);
+        onDisk_ = bytes;
         grid_.markSaved();
+        saved = true;
     });
+    return saved;
+}
+
+bool GeneralVariables::mayReplaceFile() {
+    const QString path = file(u"infodata.dat");
+    if (!QFile::exists(path)) return true;
+    bool isAsRead = false;
+    program_.trap.run({u"frmGENERAL.cmdSAVE_Click"_s}, Tell::LogOnly,
+                      [&] { isAsRead = onDisk_ == readWholeFile(path); });
+    return isAsRead ||
+           operator_.yesNo({}, kWindowTitle,
+                           translate("general", "infodata.dat has changed since it was read. Overwrite it?"));
 }
 
 void GeneralVariables::apply() {

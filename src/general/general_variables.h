@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "base/program.h"
 #include "engine/ports.h"
 #include "engine/show_state.h"
@@ -22,7 +24,8 @@ class GeneralVariables {
     void removeRows(const QList<int>& rows);
     // Adds every line of infodata.txt as a row and saves; reports lines of more or fewer than four fields.
     void importText();
-    // Writes infodata.dat, whole or not at all. False when it could not be written.
+    // Writes infodata.dat, whole or not at all. One that is no longer as it was read is overwritten once the operator
+    // has agreed. False when it was not written.
     bool save();
     // Copies the value of every row into the variable it names.
     void apply();
@@ -31,12 +34,14 @@ class GeneralVariables {
 
  private:
     [[nodiscard]] QString file(QStringView name) const;
+    [[nodiscard]] bool mayReplaceFile();
     void keepDamaged(const QByteArray& bytes, const GridReading& reading);
 
     ShowState& state_;
     Program& program_;
     Operator& operator_;
     QString pack_;  // the one whose file was loaded: saving goes there, whatever cards do to @LANGUAGE meanwhile
+    std::optional<QByteArray> onDisk_;  // infodata.dat as it was read or saved
     GeneralGrid grid_;
 };
 

@@ -130,6 +130,34 @@ TEST_F(GeneralVariablesTest, AppliesSavesAndLoadsWithItsMarks) {
     EXPECT_TRUE(bench.operatorDesk.shown.isEmpty());
 }
 
+TEST_F(GeneralVariablesTest, AFileThatWasChangedMeanwhileIsOverwrittenOnceAgreed) {
+    const QByteArray others = "zelvor-grid 1\n2\tT\t@A\tH\n";
+    const auto put = [&](const QByteArray& bytes) { bench.write(u"QRD_TT/infodata.dat"_s, bytes); };
+    put("zelvor-grid 1\n1\tT\t@A\tH\n");
+    general.load();
+    general.grid().setValue(0, u"5"_s);
+    put(others);
+    bench.operatorDesk.answerYes = false;
+    EXPECT_FALSE(general.save());
+    EXPECT_EQ(bench.operatorDesk.shown.join(u'\n'),
+              u"General Vars|infodata.dat has changed since it was read. Overwrite it?");
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), others);
+    EXPECT_TRUE(general.grid().hasUnsaved());
+    bench.operatorDesk.answerYes = true;
+    EXPECT_TRUE(general.save());
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), "zelvor-grid 1\n5\tT\t@A\tH\n");
+    EXPECT_TRUE(general.save()) << "its own is no change";
+    EXPECT_EQ(bench.operatorDesk.shown.size(), 2);
+    // Another pack was loaded while it was asked: its file keeps its rows.
+    put(others);
+    bench.operatorDesk.whileAsked = [this] {
+        bench.state.variables.SetVar(u"@LANGUAGE", u"XX"_s);
+        general.load();
+    };
+    EXPECT_FALSE(general.save());
+    EXPECT_EQ(onDisk(u"infodata.dat"_s), others);
+}
+
 TEST_F(GeneralVariablesTest, ADamagedFileIsReportedAndKept) {
     const QByteArray damaged = "zelvor-grid 1\n1\tT\t@A\tH\nhalf";
     bench.write(u"QRD_TT/infodata.dat"_s, damaged);

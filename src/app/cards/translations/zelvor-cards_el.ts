@@ -1142,6 +1142,10 @@
         <source>Show all</source>
         <translation>Εμφάνιση όλων</translation>
     </message>
+    <message>
+        <source>infodata.dat has changed since it was read. Overwrite it?</source>
+        <translation>Το infodata.dat άλλαξε από τότε που διαβάστηκε. Να αντικατασταθεί;</translation>
+    </message>
 </context>
 <context>
     <name>link</name>
