@@ -23,10 +23,14 @@ auto timing(const TimedCard& timed) {
 Packs::Packs(ShowState& state, FormModel& form, Program& program, Operator& operatorDesk)
     : state_(state), form_(form), program_(program), operator_(operatorDesk) {}
 
+QString Packs::packListFile() const {
+    return program_.folder.resolve(program_.folder.modulesFile(u"PACKS.TXT"));
+}
+
 Packs::PackList Packs::readPacks() const {
     PackList packs;
     const AppFolder& folder = program_.folder;
-    for (const QString& line : program_.files.readLines(folder.resolve(folder.modulesFile(u"PACKS.TXT")))) {
+    for (const QString& line : program_.files.readLines(packListFile())) {
         if (line.trimmed().isEmpty()) continue;
         const QStringList fields = line.split(u';');
         if (folder.exists(folder.packFolder(fields[0]))) {
@@ -105,7 +109,7 @@ bool Packs::hasCards(const QString& language) {
 
 bool Packs::LOAD_CARDS() {
     if (state_.variables.find(u"@LANGUAGE") == nullptr) {
-        operator_.message({}, {}, u"No default Pack found. Please select a pack in order to load Cards"_s,
+        operator_.message({}, packListFile(), u"No default Pack found. Please select a pack in order to load Cards"_s,
                           Operator::Severity::Warning);
         return false;
     }

@@ -32,6 +32,7 @@ class Packs {
         std::vector<QStringList> offered;  // the fields of each pack's line
         QStringList missing;               // codes of packs without a folder
     };
+    [[nodiscard]] QString packListFile() const;
     [[nodiscard]] PackList readPacks() const;
     [[nodiscard]] QString cardTableFile(const QString& language) const;
     bool choosePack(const PackList& packs, const QString& code);

@@ -322,12 +322,15 @@ TEST_F(MainWindowTest, StartsWithoutItsFiles) {
          [&] { QDir(gallery.folder.filePath(u"MODULES"_s)).removeRecursively(); },
          {u"|There is no folder MODULES in"_s}},
         {"no packs", [] {}, {u"PACKS.TXT"_s, u"No default Pack found"_s}},
+        {"a list without a pack",
+         [&] { gallery.write(u"PACKS.TXT"_s, "\r\n"); },
+         {u"/MODULES/PACKS.TXT|No default Pack found"_s}},
         {"a pack without its folder",
          [&] { gallery.write(u"PACKS.TXT"_s, "XX;Nowhere\r\n"); },
-         {u"Missing folder(s)|"_s, u"\\MODULES\\QRD_XX"_s}},
+         {u"\\MODULES\\QRD_XX"_s, u"No default Pack found"_s}},
         {"an empty pack",
          [&] { gallery.write(u"PACKS.TXT"_s, "EN\r\n"); },
-         {u"Project Pack Selection|"_s, u"CONNECTIONS.TXT"_s, u"CARDS.TXT"_s, u"GetGame.csp"_s}},
+         {u"Project Pack Selection|"_s, u"CONNECTIONS.TXT"_s, u"CARDS.TXT"_s, u"ASKFIELDS.TXT"_s, u"GetGame.csp"_s}},
     };
     for (const auto& [what, prepare, told] : cases) {
         gallery.shown.clear();
@@ -336,7 +339,7 @@ TEST_F(MainWindowTest, StartsWithoutItsFiles) {
         const QString shown = gallery.shown.join(u'\n');
         for (const QString& words : told)
             EXPECT_TRUE(shown.contains(words)) << what << ": " << qPrintable(words + u" in\n" + shown);
-        EXPECT_EQ(gallery.shown.size() == 1, told.size() == 1) << qPrintable(shown);
+        EXPECT_EQ(gallery.shown.size(), told.size()) << what << ": " << qPrintable(shown);
         EXPECT_TRUE(gallery.app->window().isVisible()) << what;
         gallery.click("cmbCARD", 0);
         gallery.click("cmdTAB", 0);

@@ -83,7 +83,7 @@ void StartUp::run() {
         writeGameDefaults(state_, form_);
         writeScreenModeDefault(state_, form_);
     });
-    // Without packs nothing that reads one is tried: each would say in its own words what is told here.
+    // Without a pack nothing that reads one is tried but its cards: each would say in its own words what is told here.
     const AppFolder& folder = engine_.program().folder;
     const bool hasModules = folder.exists(folder.modulesFile({}));
     if (hasModules) {
@@ -91,12 +91,11 @@ void StartUp::run() {
     } else {
         step(u"LOAD_PACKS"_s, [&] { tellOfNoModules(); });
     }
+    const bool hasPack = hasModules && state_.variables.find(u"@LANGUAGE") != nullptr;
     step(u"Form_Load"_s, steps_.showWindow);
-    if (hasModules) {
-        step(u"CONNECTDATABASE"_s, steps_.CONNECTDATABASE);
-        step(u"LOAD_CARDS"_s, steps_.LOAD_CARDS);
-        step(u"LOAD_ASK"_s, steps_.LOAD_ASK);
-    }
+    if (hasPack) step(u"CONNECTDATABASE"_s, steps_.CONNECTDATABASE);
+    if (hasModules) step(u"LOAD_CARDS"_s, steps_.LOAD_CARDS);
+    if (hasPack) step(u"LOAD_ASK"_s, steps_.LOAD_ASK);
     step(u"Form_Load"_s, [&] {
         console_.selectBox(0);
         writeCrawlDefault(state_);
@@ -104,7 +103,7 @@ void StartUp::run() {
         console_.showLoaded();
     });
     step(u"Form_Load"_s, [&] {
-        if (!hasModules) return;
+        if (!hasPack) return;
         engine_.SHOW_TVCARD(CardEngine::kStartCard, false, false, {Asker::Kind::StartUp, CardEngine::kStartCard});
     });
     step(u"Form_Load"_s, [&] {
