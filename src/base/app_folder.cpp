@@ -10,11 +10,19 @@ namespace zelvor {
 
 namespace {
 
-// The entry of `folder` that equals `name` but for case; `name` itself when there is none.
+// Blanks and full stops at a name's end are no part of it where packs are written.
+QStringView withoutEnd(QStringView name) {
+    while (name.endsWith(u' ') || name.endsWith(u'.')) name.chop(1);
+    return name;
+}
+
+// The entry of `folder` that equals `name` but for case and its end; `name` itself when there is none.
 QString spellingOnDisk(const QString& folder, const QString& name) {
-    const QStringList entries = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    const auto match = std::ranges::find_if(
-        entries, [&](const QString& entry) { return entry.compare(name, Qt::CaseInsensitive) == 0; });
+    const QStringList entries =
+        QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+    const auto match = std::ranges::find_if(entries, [&](const QString& entry) {
+        return withoutEnd(entry).compare(withoutEnd(name), Qt::CaseInsensitive) == 0;
+    });
     return match == entries.end() ? name : *match;
 }
 

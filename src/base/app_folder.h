@@ -5,7 +5,8 @@
 namespace zelvor {
 
 // The application folder and the files under it. Paths are written with backslashes by the system and by packs;
-// resolve() finds them on this platform, without regard to case where the disk minds it.
+// resolve() finds them on this platform, without regard to case, and to blanks at a name's end, where the disk minds
+// them.
 class AppFolder {
  public:
     // Any spelling of an existing folder; a trailing separator is dropped.

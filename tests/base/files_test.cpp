@@ -68,6 +68,10 @@ TEST_F(Files, AreFoundInAnySpelling) {
     const AppFolder folder(folder_.path() + u'/');
     EXPECT_EQ(folder_.path() + u"\\MODULES\\QRD_EN\\Score.csp"_s, folder.packFile(u"EN", u"Score.csp"));
     EXPECT_EQ(score, folder.resolve(folder.packFile(u"EN", u"Score.csp")));
+    EXPECT_EQ(score, folder.resolve(folder.packFile(u"EN ", u"Score.csp ")));
+    for (const QStringView other : {u" Score.csp", u" ", u"... "})
+        EXPECT_FALSE(folder.exists(folder.packFile(u"EN", other))) << qPrintable(other.toString());
+    EXPECT_EQ(folder_.path() + u"/Modules/new.TXT "_s, folder.resolve(folder.modulesFile(u"new.TXT ")));
     EXPECT_EQ(folder_.path() + u"/Modules/new.TXT"_s, folder.resolve(folder.modulesFile(u"new.TXT")));
     EXPECT_FALSE(folder.exists(u"MODULES\\none"_s));
 }
