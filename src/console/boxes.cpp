@@ -27,6 +27,7 @@ namespace {
 
 constexpr int kLongText = 1000;       // characters; beyond them the text scrolls
 constexpr QSize kTextRoom{520, 220};  // pixels that a text takes that is not scrolled
+constexpr int kTextWidth = 360;       // pixels, of a text that is not higher then
 constexpr int kTabbedLine = 40;       // characters
 
 using Severity = Operator::Severity;
@@ -73,7 +74,10 @@ QWidget* textPart(const QString& text) {
         label->setObjectName(u"text"_s);
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
-        label->setMinimumWidth(360);
+        // A box opens no higher than two thirds of the screen, whatever its text needs.
+        const bool isLow = label->heightForWidth(kTextWidth) <= kTextRoom.height();
+        const int width = isLow ? kTextWidth : kTextRoom.width();
+        label->setMinimumSize(width, label->heightForWidth(width));
         return label;
     }
     auto* view = new QPlainTextEdit(text);

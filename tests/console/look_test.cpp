@@ -249,16 +249,18 @@ TEST(Boxes, ScrollWhatALabelWouldNotShowWhole) {
     Gallery gallery;
     gallery.start();
     const std::pair<QString, bool> cases[]{
-        {u"Sure?\nYes\tor no"_s, false},
-        {QString(u"word "_s).repeated(250), true},
-        {QString(u"line\n"_s).repeated(30), true},
-        {QString(u'w').repeated(200), true},
-        {QString(u"select\ta, b "_s).repeated(5), true},
+        {u"Sure?\nYes\tor no"_s, false},           {QString(u"word "_s).repeated(120), false},
+        {QString(u"word "_s).repeated(250), true}, {QString(u"line\n"_s).repeated(30), true},
+        {QString(u'w').repeated(200), true},       {QString(u"select\ta, b "_s).repeated(5), true},
     };
     for (const auto& [text, scrolls] : cases) {
         bool isView = false;
         gallery.answer = [&](QDialog& box) {
             isView = box.findChild<QPlainTextEdit*>(u"text"_s) != nullptr;
+            box.resize(box.minimumSizeHint());
+            if (const auto* label = box.findChild<QLabel*>(u"text"_s)) {
+                EXPECT_GE(label->height(), label->heightForWidth(label->width())) << text.left(20).toStdString();
+            }
             box.reject();
         };
         gallery.app->boxes().yesNo({}, {}, text);
