@@ -34,6 +34,14 @@ QStringList brokenInTwo(const QString& line, const QFontMetrics& metrics) {
     return best;
 }
 
+// Each that is wider than the room.
+QStringList brokenWhereTooWide(const QStringList& lines, const QFontMetrics& metrics, int room) {
+    QStringList broken;
+    for (const QString& line : lines)
+        broken += metrics.horizontalAdvance(line) > room ? brokenInTwo(line, metrics) : QStringList{line};
+    return broken;
+}
+
 // With its lines closer together where the room is low.
 FittedText setAt(const QStringList& lines, QFont font, int pixels, QSize room) {
     font.setPixelSize(pixels);
@@ -52,11 +60,10 @@ FittedText fitted(const QStringList& lines, const QFont& font, QSize room) {
         text = setAt(lines, font, pixels, room);
         const QFontMetrics metrics(text.font);
         if (widestOf(lines, metrics) <= room.width()) return text;
-        if (lines.size() > 1) continue;
-        const FittedText two = setAt(brokenInTwo(lines.first(), metrics), font, pixels, room);
-        if (two.height() > room.height()) continue;
-        text = two;
-        if (widestOf(two.lines, metrics) <= room.width()) return text;
+        const FittedText broken = setAt(brokenWhereTooWide(lines, metrics, room.width()), font, pixels, room);
+        if (broken.height() > room.height()) continue;
+        text = broken;
+        if (widestOf(broken.lines, metrics) <= room.width()) return text;
     }
     const QFontMetrics metrics(text.font);
     for (QString& line : text.lines) line = metrics.elidedText(line, Qt::ElideRight, room.width());

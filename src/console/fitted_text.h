@@ -9,7 +9,7 @@ class QRect;
 
 namespace zelvor {
 
-// A caption as it fits into its place: in its own size where it can, else in two lines or smaller, and only then
+// A caption as it fits into its place: in its own size where it can, else in more lines or smaller, and only then
 // elided.
 struct FittedText {
     QStringList lines;
@@ -20,7 +20,7 @@ struct FittedText {
     void draw(QPainter& painter, const QRect& area, Qt::Alignment alignment) const;
 };
 
-// lines: several stay several; a single one may be broken at a blank. room: in pixels.
+// lines: each may be broken in two at a blank. room: in pixels.
 FittedText fitted(const QStringList& lines, const QFont& font, QSize room);
 
 }  // namespace zelvor

@@ -243,6 +243,11 @@ TEST(FittedText, IsBrokenAndSmallerBeforeItIsElided) {
         EXPECT_EQ(text.font.pixelSize(), pixels) << lines.toStdString();
         EXPECT_LE(text.height(), std::max(height, metrics.height()));
     }
+    // A proposal's lines: the one that is too wide is broken where there is room for a third.
+    const QStringList proposal{u"Karas"_s, u"11 points 9 rebounds"_s};
+    const int wide = QFontMetrics(font).horizontalAdvance(proposal[1]);
+    EXPECT_EQ(fitted(proposal, font, {qRound(wide * 0.6), 41}).lines.join(u'|'), u"Karas|11 points 9|rebounds");
+    EXPECT_EQ(fitted(proposal, font, {qRound(wide * 0.6), 30}).lines.size(), 2);
 }
 
 TEST(Boxes, ScrollWhatALabelWouldNotShowWhole) {
