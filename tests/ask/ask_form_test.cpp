@@ -84,6 +84,19 @@ TEST_F(AskForm, saysHowManyRowsThereAreAndShowsTwenty) {
     });
 }
 
+TEST_F(AskForm, isAsWideAsItsLongestRow) {
+    const std::pair<int, bool> cases[]{{10, true}, {45, true}, {5000, false}};
+    for (const auto& [characters, whole] : cases) {
+        bench.rowsDatabase.fill({u"Smith"_s, QString(u'm').repeated(characters), u"Jones"_s});
+        open([&, whole = whole](QListWidget& list) {
+            EXPECT_EQ(list.sizeHintForColumn(0) <= list.viewport()->width(), whole) << form->width();
+            EXPECT_GE(form->width(), 460);
+            EXPECT_LT(form->width(), form->screen()->availableSize().width());
+            form->close();
+        });
+    }
+}
+
 TEST_F(AskForm, canBeCancelledWhenTheQueryFails) {
     bench.rowsDatabase.fails = true;
     open([&](QListWidget& list) {

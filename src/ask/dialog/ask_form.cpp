@@ -19,7 +19,8 @@ namespace zelvor {
 namespace {
 
 constexpr int kRowsShown = 20;
-constexpr int kWidth = 460;  // pixels
+constexpr int kWidth = 460;   // pixels
+constexpr int kWidest = 900;  // pixels, for long rows
 
 QString headerText(size_t rows) {
     const QString count = rows == 1 ? translate("ask", "1 row") : translate("ask", "%1 rows").arg(rows);
@@ -77,7 +78,9 @@ AskForm::AskForm(PickList& list, bool attended, Program& program, QWidget* paren
     const int listHeight = view->heightForRows(kRowsShown);
     const int rest = header->sizeHint().height() + cancel->sizeHint().height() + 2 * column->spacing() +
                      column->contentsMargins().top() + column->contentsMargins().bottom();
-    resize(kWidth, std::min(listHeight + rest, screen()->availableGeometry().height() - kWindowFrame.height()));
+    const int margins = column->contentsMargins().left() + column->contentsMargins().right();
+    const QSize wanted(std::clamp(view->widthForRows() + margins, kWidth, kWidest), listHeight + rest);
+    resize(wanted.boundedTo(screen()->availableSize() - kWindowFrame));
     const QRect around = parent != nullptr ? parent->window()->frameGeometry() : screen()->availableGeometry();
     move(around.center() - rect().center());
 }

@@ -2,7 +2,9 @@
 
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QToolTip>
+#include <algorithm>
 
 namespace zelvor {
 
@@ -20,6 +22,15 @@ PickListView::PickListView(const PickList& list, QWidget* parent) : QListWidget(
 int PickListView::heightForRows(int rows) const {
     const int rowHeight = count() > 0 ? sizeHintForRow(0) : fontMetrics().height() + 4;
     return rows * rowHeight + 2 * frameWidth();
+}
+
+int PickListView::widthForRows() const {
+    // The row with the most characters: measuring thousands would hold the window's opening.
+    const auto& rows = list_.rows();
+    const auto longest =
+        std::ranges::max_element(rows, {}, [](const PickList::Row& row) { return row.text.size(); }) - rows.begin();
+    const int widest = count() > 0 ? sizeHintForIndex(model()->index(static_cast<int>(longest), 0)).width() : 0;
+    return widest + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
 }
 
 bool PickListView::viewportEvent(QEvent* event) {

@@ -18,6 +18,8 @@ class PickListView : public QListWidget {
 
     // Tall enough for that many rows.
     [[nodiscard]] int heightForRows(int rows) const;
+    // Wide enough for the longest row.
+    [[nodiscard]] int widthForRows() const;
     // The whole text of a row as its tool tip where the row is too narrow for it.
     bool viewportEvent(QEvent* event) override;
     // What was typed within the second before belongs to it.
