@@ -50,16 +50,25 @@ FittedText setAt(const QStringList& lines, QFont font, int pixels, QSize room) {
     return {lines, font, std::min(spaced, close)};
 }
 
+int smallestOf(int pixels) {
+    return std::min(pixels, std::max(kSmallestFont, qRound(pixels * kSmallestPart)));
+}
+
 }  // namespace
+
+int mostLines(const QFont& font, int height) {
+    return std::max(1, height / qRound(smallestOf(font.pixelSize()) * kClose));
+}
 
 FittedText fitted(const QStringList& lines, const QFont& font, QSize room) {
     const int own = font.pixelSize();
-    const int smallest = std::min(own, std::max(kSmallestFont, qRound(own * kSmallestPart)));
+    const int smallest = smallestOf(own);
     FittedText text;
     for (int pixels = own; pixels >= smallest; --pixels) {
         text = setAt(lines, font, pixels, room);
         const QFontMetrics metrics(text.font);
-        if (widestOf(lines, metrics) <= room.width()) return text;
+        const bool isLow = lines.size() == 1 || text.height() <= room.height();
+        if (isLow && widestOf(lines, metrics) <= room.width()) return text;
         const FittedText broken = setAt(brokenWhereTooWide(lines, metrics, room.width()), font, pixels, room);
         if (broken.height() > room.height()) continue;
         text = broken;

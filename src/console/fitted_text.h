@@ -20,6 +20,9 @@ struct FittedText {
     void draw(QPainter& painter, const QRect& area, Qt::Alignment alignment) const;
 };
 
+// How many lines fit into that height (pixels) at the smallest.
+int mostLines(const QFont& font, int height);
+
 // lines: each may be broken in two at a blank. room: in pixels.
 FittedText fitted(const QStringList& lines, const QFont& font, QSize room);
 

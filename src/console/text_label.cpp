@@ -170,7 +170,7 @@ void TextLabel::drawWords(QPainter& painter) const {
     painter.setPen(textColour());
     QStringList shown = lines();
     // Lines that do not fit under one another are not cut in half: the last that fits says there is more.
-    const int fit = std::max(1, height() / fontMetrics().height());
+    const int fit = look_.keepsEnd ? std::max(1, height() / fontMetrics().height()) : mostLines(font(), height());
     if (shown.size() > fit) {
         shown = shown.first(fit);
         shown.last() += u'…';

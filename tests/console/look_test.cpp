@@ -248,6 +248,8 @@ TEST(FittedText, IsBrokenAndSmallerBeforeItIsElided) {
     const int wide = QFontMetrics(font).horizontalAdvance(proposal[1]);
     EXPECT_EQ(fitted(proposal, font, {qRound(wide * 0.6), 41}).lines.join(u'|'), u"Karas|11 points 9|rebounds");
     EXPECT_EQ(fitted(proposal, font, {qRound(wide * 0.6), 30}).lines.size(), 2);
+    EXPECT_EQ(mostLines(font, 41), 3);
+    EXPECT_LE(fitted({u"Karas"_s, u"11"_s, u"9"_s}, font, {wide, 41}).height(), 41) << "smaller where that is too low";
 }
 
 TEST(Boxes, ScrollWhatALabelWouldNotShowWhole) {
