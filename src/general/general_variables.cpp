@@ -100,9 +100,10 @@ void GeneralVariables::importText() {
         QStringList shown;
         for (const ImportedRows::Remark& remark : imported.remarks)
             shown += translate("general", "line %1: %2").arg(QString::number(remark.line), remark.text);
-        if (shown.size() > kShownRemarks)
+        if (shown.size() > kShownRemarks) {
             shown = shown.mid(0, kShownRemarks) +
                     QStringList(translate("general", "and %1 more").arg(shown.size() - kShownRemarks));
+        }
         operator_.message({}, kWindowTitle, u"infodata.txt\r\n"_s + shown.join(u"\r\n"_s), Operator::Severity::Warning);
     });
 }
