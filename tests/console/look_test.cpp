@@ -226,6 +226,7 @@ TEST(TextLabel, WhatDoesNotFitIsElidedAndStandsInTheToolTip) {
 
 TEST(FittedText, IsBrokenAndSmallerBeforeItIsElided) {
     const QString caption = u"Player lower third"_s;
+    const QFont font = theme::font(15, true);
     // The room holds its widest line at the size that it must come to.
     const std::tuple<int, QString, int> cases[]{
         {28, caption, 15},
@@ -238,7 +239,7 @@ TEST(FittedText, IsBrokenAndSmallerBeforeItIsElided) {
         const QFontMetrics metrics(theme::font(pixels, true));
         int widest = 0;
         for (const QString& line : lines.split(u'|')) widest = std::max(widest, metrics.horizontalAdvance(line));
-        const FittedText text = fitted({caption}, theme::font(15, true), {widest + 1, height});
+        const FittedText text = fitted({caption}, font, {widest + 1, height});
         EXPECT_EQ(text.lines.join(u'|').toStdString(), lines.toStdString());
         EXPECT_EQ(text.font.pixelSize(), pixels) << lines.toStdString();
         EXPECT_LE(text.height(), std::max(height, metrics.height()));
