@@ -97,10 +97,11 @@ QVariant GeneralGrid::data(const QModelIndex& index, int role) const {
 QVariant GeneralGrid::headerData(int section, Qt::Orientation orientation, int role) const {
     const bool isTip = orientation == Qt::Vertical && role == Qt::ToolTipRole;  // where there is no room for all
     if (role != Qt::DisplayRole && !isTip) return {};
-    if (orientation == Qt::Horizontal)
+    if (orientation == Qt::Horizontal) {
         return QStringList{translate("general", "Value"), translate("general", "Title"),
                            translate("general", "Variable"), translate("general", "Help")}
             .at(section);
+    }
     QStringList marks;
     if (isChanged(section)) marks += translate("general", "changed");
     if (isUnsaved(section)) marks += translate("general", "not saved");

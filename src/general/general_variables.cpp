@@ -98,8 +98,9 @@ void GeneralVariables::importText() {
         save();
         if (imported.remarks.empty()) return;
         QStringList shown;
-        for (const ImportedRows::Remark& remark : imported.remarks)
+        for (const ImportedRows::Remark& remark : imported.remarks) {
             shown += translate("general", "line %1: %2").arg(QString::number(remark.line), remark.text);
+        }
         if (shown.size() > kShownRemarks) {
             shown = shown.mid(0, kShownRemarks) +
                     QStringList(translate("general", "and %1 more").arg(shown.size() - kShownRemarks));

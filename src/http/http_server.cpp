@@ -12,7 +12,7 @@ namespace {
 // Takes connections as encrypted ones.
 class TlsListener : public QTcpServer {
  public:
-    explicit TlsListener(QSslConfiguration tls) : tls_(std::move(tls)) {}
+    explicit TlsListener(const QSslConfiguration& tls) : tls_(tls) {}
 
  protected:
     void incomingConnection(qintptr descriptor) override {

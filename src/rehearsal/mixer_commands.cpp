@@ -112,7 +112,8 @@ QString mixerGrid(const Command& command, Host& host) {
         const LayerAddress at{command.channel, i + 1};
         if (host.stage.hasRoomFor(at)) {
             Mixer mixer = host.stage.mixer(at);
-            mixer.set(u"FILL", {i % side * size, i / side * size, size, size});
+            const int row = i / side;
+            mixer.set(u"FILL", {i % side * size, row * size, size, size});
             mixer.frames = std::clamp(command.parameters.value(1).toInt(), 0, Mixer::kMaxFrames);
             host.stage.setMixer(at, mixer);
         }

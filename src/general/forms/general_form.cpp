@@ -182,14 +182,16 @@ void GeneralForm::showState() {
         unapplied += grid.isUnapplied(row) ? 1 : 0;
     }
     QStringList words;
-    if (grid.removedUnsaved() > 0)
+    if (grid.removedUnsaved() > 0) {
         words += countOf(grid.removedUnsaved(), translate("general", "1 row removed but not saved"),
                          translate("general", "%1 rows removed but not saved"));
+    }
     if (unsaved > 0)
         words += countOf(unsaved, translate("general", "1 row not saved"), translate("general", "%1 rows not saved"));
-    if (unapplied > 0)
+    if (unapplied > 0) {
         words +=
             countOf(unapplied, translate("general", "1 row not applied"), translate("general", "%1 rows not applied"));
+    }
     marks_->setText(words.join(u", "_s));
     showHelp();
 }

@@ -25,7 +25,7 @@ TcpSource::TcpSource(SourceKind kind, QString host, quint16 port, Refusals& refu
     connect(&socket_, &QTcpSocket::readyRead, this, &TcpSource::read);
     connect(&socket_, &QTcpSocket::errorOccurred, this, [this] { reconnect(socket_.errorString()); });
     // More than this unread, and the sender is let wait.
-    constexpr qint64 kReadBuffer = 1024 * 1024;
+    constexpr qint64 kReadBuffer = qint64{1024} * 1024;
     socket_.setReadBufferSize(kReadBuffer);
 }
 
