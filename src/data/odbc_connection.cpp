@@ -2,10 +2,10 @@
 
 #include <QDir>
 #include <QFile>
-#include <array>
 
 #include "base/run_time_error.h"
 #include "data/statement_kind.h"
+#include "system/file_stamp.h"
 #include "system/thread_folder.h"
 
 using namespace Qt::StringLiterals;
@@ -114,8 +114,9 @@ void Connection::open(int seconds) {
             SQLDriverConnect(handle_.raw(), nullptr, bytes, SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT))) {
         fail(handle_);
     }
-    isMariaDbDriver_ = info(SQL_DRIVER_NAME).contains("maodbc");
+    isMariaDbDriver_ = info(SQL_DRIVER_NAME).toLower().contains("maodbc");
     askCharacterSet(seconds);
+    noteFile();
     used_ = std::chrono::steady_clock::now();
     state_ = State::Open;
 }
@@ -175,7 +176,7 @@ void Connection::note(const QString& sql) {
 
 bool Connection::isUsable(int seconds) {
     // A transaction would be lost with the connection.
-    if (isDead() || (isWorn_ && !inTransaction_)) return false;
+    if (isDead() || ((isWorn_ || isReplaced()) && !inTransaction_)) return false;
     if (!isPostgreSql_ || std::chrono::steady_clock::now() - used_ < idle_) return true;
     return Statement(handle_.raw(), seconds).execute("select 1");
 }
@@ -186,14 +187,29 @@ bool Connection::isDead() {
     return lost_ || (SQL_SUCCEEDED(result) && dead == SQL_CD_TRUE);
 }
 
+// SQLite would go on reading a file in whose place another one was put.
+bool Connection::isReplaced() const {
+    if (fileNumber_ == 0) return false;
+    const std::optional<FileStamp> stamp = fileStamp(file_);
+    return stamp && stamp->number != fileNumber_;
+}
+
+void Connection::noteFile() {
+    fileNumber_ = 0;
+    if (!info(SQL_DBMS_NAME).toLower().contains("sqlite")) return;
+    file_ = QDir(folder_).absoluteFilePath(QString::fromUtf8(info(SQL_DATABASE_NAME)));
+    if (const std::optional<FileStamp> stamp = fileStamp(file_)) fileNumber_ = stamp->number;
+}
+
 QByteArray Connection::info(SQLUSMALLINT what) const {
-    std::array<char, 128> text{};
-    SQLGetInfo(handle_.raw(), what, text.data(), text.size(), nullptr);
-    return QByteArray(text.data()).toLower();
+    constexpr SQLSMALLINT kLongest = 4096;  // bytes: a path
+    QByteArray text(kLongest, '\0');
+    SQLGetInfo(handle_.raw(), what, text.data(), kLongest, nullptr);
+    return text.constData();
 }
 
 void Connection::askCharacterSet(int seconds) {
-    const QByteArray name = info(SQL_DBMS_NAME);
+    const QByteArray name = info(SQL_DBMS_NAME).toLower();
     isPostgreSql_ = name.contains("postgres");
     QByteArray question;
     if (name.contains("maria") || name.contains("mysql")) {

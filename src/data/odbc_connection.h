@@ -51,9 +51,11 @@ class Connection {
     void refuseCancelled() const;
     [[nodiscard]] bool isUsable(int seconds);
     [[nodiscard]] bool isDead();
+    [[nodiscard]] bool isReplaced() const;
     // Notes what a statement, about to run, means for those after it.
     void note(const QString& sql);
     void askCharacterSet(int seconds);
+    void noteFile();
     [[nodiscard]] QByteArray info(SQLUSMALLINT what) const;
     [[noreturn]] void fail(const Handle& handle);
 
@@ -67,6 +69,8 @@ class Connection {
     bool isPostgreSql_ = false;
     bool inTransaction_ = false;  // that a statement has begun
     bool isWorn_ = false;         // the driver would not survive another statement
+    QString file_;                // SQLite's database, and
+    quint64 fileNumber_ = 0;      // its number on the disk; 0 where that is not known
     std::chrono::milliseconds idle_;
     std::chrono::steady_clock::time_point used_;
     std::atomic<State> state_ = State::NotTried;

@@ -10,7 +10,8 @@ struct FileStamp {
     qint64 modified = 0;
     // When it last changed as a file: a copy that keeps the other file's time and has its size still changes this one.
     qint64 changed = 0;
-    qint64 size = 0;  // bytes
+    qint64 size = 0;     // bytes
+    quint64 number = 0;  // of the file on its disk; 0 where the system gives none
 
     bool operator==(const FileStamp&) const = default;
 };

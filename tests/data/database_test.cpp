@@ -51,6 +51,12 @@ class OnEachDatabase : public testing::TestWithParam<const char*> {
         for (const QString& row : rows) database->execute({}, u"insert into t values ("_s + row + u')');
     }
 
+    // The first cell of what a query gives.
+    QString cellOf(const QString& sql) {
+        database->RUN_QUERY({}, sql);
+        return show.cell(1, 0);
+    }
+
     Show show;
     Connections* database = nullptr;
 };
@@ -219,6 +225,27 @@ TEST_P(OnEachDatabase, survivesWhatTheDriverDoesNot) {
     EXPECT_EQ(database->RUN_QUERY({}, u"select a from k"_s), 1);
     for (const QString& step : {u"begin"_s, u"insert into t values (2)"_s, u"rollback"_s}) database->execute({}, step);
     EXPECT_EQ(database->RUN_QUERY({}, u"select a from t"_s), 1);
+}
+
+TEST_P(OnEachDatabase, aFileThatWasPutInItsPlaceIsRead) {
+    if (isMariaDb()) GTEST_SKIP() << "has no file";
+    const QString file = show.directory.filePath(u"show.db"_s);
+    const auto replace = [&](int value) {
+        odbc::Connection other(u"Driver=SQLite3;Database=other.db"_s, show.directory.path());
+        for (const QString& step : {u"create table t (a integer)"_s, u"insert into t values (%1)"_s.arg(value)})
+            other.run(step, 1);
+        QFile::remove(file);
+        EXPECT_EQ(cellOf(u"select a from t"_s), QString::number(value - 1)) << "one that is gone is read on";
+        ASSERT_TRUE(QFile::rename(show.directory.filePath(u"other.db"_s), file));
+    };
+    makeTable(u"a integer"_s, {u"1"_s});
+    replace(2);
+    EXPECT_EQ(cellOf(u"select a from t"_s), u"2");
+    database->execute({}, u"begin"_s);
+    replace(3);
+    EXPECT_EQ(cellOf(u"select a from t"_s), u"2") << "a transaction goes on in the old one";
+    database->execute({}, u"rollback"_s);
+    EXPECT_EQ(cellOf(u"select a from t"_s), u"3");
 }
 
 TEST_P(OnEachDatabase, whatIsToldAsFailedIsNotDone) {

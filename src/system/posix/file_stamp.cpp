@@ -18,9 +18,9 @@ std::optional<FileStamp> fileStamp(const QString& path) {
     struct stat file {};
     if (stat(QFile::encodeName(path).constData(), &file) != 0) return std::nullopt;
 #ifdef __APPLE__
-    return FileStamp{nanoseconds(file.st_mtimespec), nanoseconds(file.st_ctimespec), file.st_size};
+    return FileStamp{nanoseconds(file.st_mtimespec), nanoseconds(file.st_ctimespec), file.st_size, file.st_ino};
 #else
-    return FileStamp{nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), file.st_size};
+    return FileStamp{nanoseconds(file.st_mtim), nanoseconds(file.st_ctim), file.st_size, file.st_ino};
 #endif
 }
 
