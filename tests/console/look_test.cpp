@@ -263,7 +263,7 @@ TEST(Boxes, ScrollWhatALabelWouldNotShowWhole) {
     };
     for (const auto& [text, scrolls] : cases) {
         bool isView = false;
-        gallery.answer = [&](QDialog& box) {
+        gallery.answer = [&, text = text](QDialog& box) {
             isView = box.findChild<QPlainTextEdit*>(u"text"_s) != nullptr;
             box.resize(box.minimumSizeHint());
             if (const auto* label = box.findChild<QLabel*>(u"text"_s)) {
